@@ -1,0 +1,12 @@
+#pragma once
+
+#include "base/XCode.h"
+
+/// A lock that a shared object can be guarded by.
+class ZRLock {
+public:
+    virtual ~ZRLock() = default;
+    /// Success once the lock is held; a failure means that it is not.
+    virtual XCode lock() = 0;
+    virtual void unlock() = 0;
+};

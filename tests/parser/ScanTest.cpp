@@ -1,0 +1,62 @@
+#include "xml/parser/scan.h"
+
+#include <tuple>
+
+#include "tests/support/text.h"
+
+namespace CLI::XML {
+namespace {
+
+/// A text, a set, where scanning from the beginning stops, and on which line.
+using ScanCase = std::tuple<String, char const*, int, int>;
+
+TEST(Scanning, ReadsUpToTheFirstMemberOfTheSet) {
+    for (auto const& [text, set, end, lines] :
+         {ScanCase("ab\ncd<", "<", 5, 2), ScanCase("<ab", "<", 0, 1), ScanCase("abc", "<>", 3, 1),
+          ScanCase("", "<", 0, 1), ScanCase("a\r\nb\rc", "<", 6, 2), ScanCase("a\nb", " \n", 1, 1),
+          ScanCase(bytes("ab\0cd"), "<", 2, 1), ScanCase("\xE9\xFF<", "<", 2, 1),
+          ScanCase("a\xE9", "\xE9", 1, 1)}) {
+        SCOPED_TRACE(shown(text));
+        int position = 0;
+        int line = 1;
+        String out = "x";
+        EXPECT_EQ(parseUntilCharacter(text, position, line, out, set), end);
+        EXPECT_EQ(position, end);
+        EXPECT_EQ(line, lines);
+        EXPECT_EQ(shown(out), "x" + shown(text.substring(0, end)));
+    }
+}
+
+TEST(Scanning, SkipsTheMembersOfTheSet) {
+    for (auto const& [text, set, end, lines] :
+         {ScanCase(" \n\r\n\rx", " \n\r", 5, 3), ScanCase("x ", " ", 0, 1),
+          ScanCase("  ", " ", 2, 1), ScanCase(bytes(" \0 x"), " ", 3, 1)}) {
+        int position = 0;
+        int line = 1;
+        skipCharacters(text, position, line, set);
+        EXPECT_EQ(position, end) << shown(text);
+        EXPECT_EQ(line, lines) << shown(text);
+    }
+}
+
+TEST(Scanning, MatchesOnlyWhatFitsBeforeTheEnd) {
+    using Row = std::tuple<char const*, int, char const*, int>;
+    for (auto const& [text, start, literal, end] :
+         {Row("a<!--", 1, "<!--", 5), Row("a<!-", 1, "<!--", 1), Row("<!-x", 0, "<!--", 0),
+          Row("<", 1, "<", 1), Row("", 0, "", 0)}) {
+        int position = start;
+        EXPECT_EQ(peekString(text, start, literal), parseString(text, position, literal)) << text;
+        EXPECT_EQ(position, end) << text;
+    }
+    String const text = bytes("a\xE9\0");
+    int position = 0;
+    EXPECT_FALSE(parseCharacter(text, position, 'b'));
+    EXPECT_TRUE(peekCharacter(text, position, "xa") && !peekCharacter(text, position, "x"));
+    EXPECT_TRUE(parseCharacter(text, position, 'a') && parseCharacter(text, position, '\xE9'));
+    EXPECT_TRUE(peekCharacter(text, position, "x") && parseCharacter(text, position, '\0'));
+    EXPECT_FALSE(peekCharacter(text, position, "x") || parseCharacter(text, position, '\0'));
+    EXPECT_EQ(position, 3);
+}
+
+}  // namespace
+}  // namespace CLI::XML

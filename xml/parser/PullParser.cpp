@@ -1,0 +1,145 @@
+#include "xml/parser/PullParser.h"
+
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+#include "xml/parser/scan.h"
+
+namespace CLI::XML {
+
+namespace {
+
+/// End an element type or an attribute name.
+constexpr char const* s_delimiters = "<>/=\" \t\n\r";
+constexpr char const* s_whitespace = " \t\n\r";
+constexpr char const* s_cdataStart = "<![CDATA[";
+constexpr char const* s_cdataEnd = "]]>";
+constexpr char const* s_commentStart = "<!--";
+constexpr char const* s_commentEnd = "-->";
+
+constexpr char const* s_expectingTagStart = "Expecting tag start character '<'";
+constexpr char const* s_expectingType = "Expecting element type";
+constexpr char const* s_expectingTagEnd = "Expecting end tag character '>'";
+constexpr char const* s_expectingQuotation = "Expecting quotation character '\"'";
+constexpr char const* s_expectingContent = "Expecting content";
+
+}  // namespace
+
+EntityReplacement const PullParser::s_specialReplacement[] = {
+    {"quot", "\""}, {"apos", "'"}, {"amp", "&"}, {"lt", "<"}, {"gt", ">"}, {nullptr, nullptr},
+};
+
+PullParser::TagType PullParser::getNextTag() const {
+    if (selfClosing) return TAG_END;
+    if (position >= text.length()) return TAG_END_OF_DOCUMENT;
+    if (text[position] != '<') return TAG_CONTENT;
+    char const next = text[position + 1];
+    if (next == '/') return TAG_END;
+    if (peekString(text, position, s_commentStart)) return TAG_COMMENT;
+    if (peekString(text, position, s_cdataStart)) return TAG_CONTENT;
+    if (next == '?' || next == '!') return TAG_OTHER;
+    return TAG_START;
+}
+
+XCode PullParser::readStartTag() {
+    if (selfClosing) return testExpression(false);
+    name = String::s_empty;
+    attributes.clear();
+    if (!parseCharacter(text, position, '<')) return fail(s_expectingTagStart);
+    if (parseUntilCharacter(text, position, line, name, s_delimiters) == 0) {
+        return fail(s_expectingType);
+    }
+    for (;;) {
+        skipCharacters(text, position, line, s_whitespace);
+        Attribute attribute;
+        if (parseUntilCharacter(text, position, line, attribute.name, s_delimiters) == 0) break;
+        XCode result = readAttribute(attribute);
+        if (!result) return result;
+        attributes.add(std::move(attribute));
+    }
+    if (parseCharacter(text, position, '/')) selfClosing = true;
+    if (!parseCharacter(text, position, '>')) return fail(s_expectingTagEnd);
+    return XCode();
+}
+
+XCode PullParser::readAttribute(Attribute& attribute) {
+    if (!parseCharacter(text, position, '=')) return fail("Expecting assignment character '='");
+    if (!parseCharacter(text, position, '"')) return fail(s_expectingQuotation);
+    parseUntilCharacter(text, position, line, attribute.value, "\"");
+    PARSE_AND_REPLACE_SPECIAL_XML_CHARS(attribute.value);
+    if (!parseCharacter(text, position, '"')) return fail(s_expectingQuotation);
+    return XCode();
+}
+
+XCode PullParser::readEndTag() {
+    attributes.clear();
+    if (selfClosing) {
+        selfClosing = false;
+        return XCode();
+    }
+    name = String::s_empty;
+    if (!parseCharacter(text, position, '<')) return fail(s_expectingTagStart);
+    if (!parseCharacter(text, position, '/')) return fail("Expecting end mark character '/'");
+    if (parseUntilCharacter(text, position, line, name, s_delimiters) == 0) {
+        return fail(s_expectingType);
+    }
+    skipCharacters(text, position, line, s_whitespace);
+    if (!parseCharacter(text, position, '>')) return fail(s_expectingTagEnd);
+    return XCode();
+}
+
+XCode PullParser::readContent() {
+    if (selfClosing) return testExpression(false);
+    content = String::s_empty;
+    if (!parseString(text, position, s_cdataStart)) {
+        parseUntilCharacter(text, position, line, content, "<");
+        if (content.length() == 0) return fail(s_expectingContent);
+        return XCode();
+    }
+    int const start = position;
+    std::string_view const bytes(text.c_str(), static_cast<std::size_t>(text.length()));
+    auto const end = bytes.find(s_cdataEnd, static_cast<std::size_t>(start));
+    skipTo(end == std::string_view::npos ? -1 : static_cast<int>(end));
+    content.concat(text.c_str() + start, position - start);
+    if (position == start) return fail(s_expectingContent);
+    if (!parseString(text, position, s_cdataEnd)) return fail("Expecting end of CDATA ']]>'");
+    return XCode();
+}
+
+XCode PullParser::skipCommentTag() {
+    if (!parseString(text, position, s_commentStart)) {
+        return fail("Expecting tag comment characters '<!--'");
+    }
+    char const* const end = std::strstr(text.c_str() + position, s_commentEnd);
+    skipTo(end == nullptr ? -1 : static_cast<int>(end - text.c_str()));
+    if (!parseString(text, position, s_commentEnd)) {
+        return fail("Expecting end tag comment characters '-->'");
+    }
+    return XCode();
+}
+
+XCode PullParser::skipOtherTag() {
+    if (!parseCharacter(text, position, '<')) return fail(s_expectingTagStart);
+    if (!parseCharacter(text, position, '?') && !parseCharacter(text, position, '!')) {
+        return fail("Expecting '?' or '!'");
+    }
+    skipTo(text.indexOf('>', position));
+    if (!parseCharacter(text, position, '>')) return fail(s_expectingTagEnd);
+    return XCode();
+}
+
+void PullParser::PARSE_AND_REPLACE_SPECIAL_XML_CHARS(String& text) {
+    text = decodeReferences(text, s_specialReplacement);
+}
+
+void PullParser::error(char const* message) { errorMessage.format("%d: %s", line, message); }
+
+XCode PullParser::fail(char const* message) {
+    error(message);
+    return testExpression(false);
+}
+
+void PullParser::skipTo(int end) { advanceTo(end < 0 ? text.length() : end, text, position, line); }
+
+}  // namespace CLI::XML

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "base/String.h"
+
+/// Scanning primitives of the markup and the style-sheet reader. Positions are byte indexes into
+/// the text and never pass its end; `line` grows by one for every line feed passed over. A
+/// character set is a NUL-terminated list of bytes whose NUL is a member too: a NUL byte in the
+/// text belongs to every set.
+namespace CLI::XML {
+
+/// Advances `position` over the bytes that belong to `set`.
+void skipCharacters(String const& text, int& position, int& line, char const* set);
+
+/// True when the byte at `position` belongs to `set`; false at the end.
+bool peekCharacter(String const& text, int position, String const& set);
+
+/// True when the text continues with `s` at `position`.
+bool peekString(String const& text, int position, char const* s);
+
+/// Consumes `c` if it is the next byte; false, with nothing moved, otherwise.
+bool parseCharacter(String const& text, int& position, char c);
+
+/// Consumes `s`, which holds no line feed, if the text continues with it; false, with nothing
+/// moved, otherwise.
+bool parseString(String const& text, int& position, char const* s);
+
+/// Advances `position` up to the first byte that belongs to `set`, appends the bytes passed over
+/// to `out` and returns how many they were.
+int parseUntilCharacter(String const& text, int& position, int& line, String& out, char const* set);
+
+/// Advances `position` to `end`, which is not before it, counting line feeds.
+void advanceTo(int end, String const& text, int& position, int& line);
+
+}  // namespace CLI::XML
