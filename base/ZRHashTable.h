@@ -1,0 +1,110 @@
+#pragma once
+
+#include <memory>
+
+#include "base/StringHash.h"
+
+/// A chained hash table with a fixed number of buckets, for a handful of entries.
+///
+/// 1. The list of all entries is circular through `head`, newest first: walking from `head.prev`
+///    along `prev` visits the entries in the order in which they were added.
+/// 2. A bucket is null until an entry first falls into it, then a sentinel that lives as long as
+///    the table. Its chain is circular through the sentinel; walking along `bucketNext` visits
+///    its entries oldest first.
+/// 3. Keys need not be unique: `add` always inserts, `get` and `set` act on the oldest equal key.
+template <class K, class V, class Hash, class Compare>
+class ZRHashTable {
+public:
+    struct Node {
+        Node* next = this;
+        Node* prev = this;
+        Node* bucketPrev = this;
+        Node* bucketNext = this;
+        K key;
+        V value;
+    };
+
+    unsigned bucketCount = 16;
+    unsigned count = 0;
+    Node head;
+    Node** buckets = new Node* [bucketCount] {};
+
+    ZRHashTable() = default;
+    ZRHashTable(ZRHashTable const&) = delete;
+    ZRHashTable& operator=(ZRHashTable const&) = delete;
+    virtual ~ZRHashTable() {
+        clear();
+        for (unsigned i = 0; i < bucketCount; ++i) delete buckets[i];
+        delete[] buckets;
+    }
+
+    /// Inserts copies of key and value, also when the key is there already. Returns the stored
+    /// value.
+    V& add(K const& key, V const& value) {
+        auto node = std::make_unique<Node>();
+        node->key = key;
+        node->value = value;
+        Node*& bucket = bucketOf(key);
+        if (bucket == nullptr) bucket = new Node;
+        link(*node, *bucket);
+        ++count;
+        return node.release()->value;
+    }
+
+    /// Assigns `value` to the oldest entry with an equal key, or adds one. Returns the stored
+    /// value.
+    V& set(K const& key, V const& value) {
+        Node* const node = find(key);
+        if (node == nullptr) return add(key, value);
+        return node->value = value;
+    }
+
+    /// Assigns the value of the oldest entry with an equal key to `out`; without one, returns
+    /// false and leaves `out` untouched.
+    bool get(K const& key, V& out) const {
+        Node const* const node = find(key);
+        if (node == nullptr) return false;
+        out = node->value;
+        return true;
+    }
+
+    /// Removes every entry, oldest first; bucket sentinels stay.
+    void clear() {
+        while (head.prev != &head) {
+            Node* const oldest = head.prev;
+            unlink(*oldest);
+            --count;
+            delete oldest;
+        }
+    }
+
+private:
+    Node*& bucketOf(K const& key) const { return buckets[Hash()(key) % bucketCount]; }
+
+    Node* find(K const& key) const {
+        Node* const bucket = bucketOf(key);
+        if (bucket == nullptr) return nullptr;
+        for (Node* node = bucket->bucketNext; node != bucket; node = node->bucketNext) {
+            if (Compare()(node->key, key)) return node;
+        }
+        return nullptr;
+    }
+
+    void link(Node& node, Node& bucket) {
+        node.next = head.next;
+        node.prev = &head;
+        head.next->prev = &node;
+        head.next = &node;
+        node.bucketPrev = bucket.bucketPrev;
+        node.bucketNext = &bucket;
+        bucket.bucketPrev->bucketNext = &node;
+        bucket.bucketPrev = &node;
+    }
+
+    static void unlink(Node& node) {
+        node.prev->next = node.next;
+        node.next->prev = node.prev;
+        node.bucketPrev->bucketNext = node.bucketNext;
+        node.bucketNext->bucketPrev = node.bucketPrev;
+    }
+};

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "base/ZRHashTable.h"
+
+/// A hash table with string keys.
+template <class V>
+class ZRStringHashTable : public ZRHashTable<String, V, StringHash, StringCompare> {
+public:
+    ~ZRStringHashTable() override = default;
+};

@@ -1,0 +1,88 @@
+#include "base/ZRList.h"
+#include "base/ZRStringHashTable.h"
+#include "tests/support/text.h"
+
+namespace {
+
+using Table = ZRStringHashTable<String>;
+
+/// All entries, oldest first, and their number; both directions of the list have to agree.
+std::string contents(Table const& table) {
+    std::string forward;
+    std::string backward;
+    auto const entry = [](auto const& n) { return shown(n.key) + "=" + shown(n.value) + " "; };
+    for (auto* n = table.head.prev; n != &table.head; n = n->prev) forward += entry(*n);
+    for (auto* n = table.head.next; n != &table.head; n = n->next) backward = entry(*n) + backward;
+    EXPECT_EQ(forward, backward);
+    return forward + std::to_string(table.count);
+}
+
+std::string lookUp(Table const& table, String const& key) {
+    String value = "untouched";
+    bool const found = table.get(key, value);
+    return (found ? "" : "no, ") + shown(value);
+}
+
+TEST(StringHash, MixesUnsignedBytesAndChoosesTheBucket) {
+    using Row = std::pair<String, std::uint32_t>;
+    for (auto const& [key, hash] :
+         {Row("", 0), Row("a", 97), Row("\x80", 128), Row("\xFF", 255),
+          Row("ab", 97U ^ 98U ^ 97U << 5), Row(bytes("a\0"), 97U ^ 97U << 5),
+          Row("display", 0xD5D9EF7A), Row("margin", 0xDAF95ADE),
+          Row("background-color", 0xC0F2751E)}) {
+        EXPECT_EQ(StringHash()(key), hash) << shown(key);
+        Table table;
+        table.add(key, "v");
+        for (unsigned i = 0; i < 16; ++i) EXPECT_EQ(table.buckets[i] != nullptr, i == hash % 16);
+    }
+}
+
+TEST(HashTable, FindsEveryKeyOfASharedBucket) {
+    Table table;
+    EXPECT_EQ(lookUp(table, "margin"), "no, untouched");
+    table.add("margin", "1");
+    EXPECT_EQ(lookUp(table, "background-color"), "no, untouched");
+    table.add("background-color", "red");
+    EXPECT_EQ(lookUp(table, "margin") + lookUp(table, "background-color"), "1red");
+    auto const* const chain = table.buckets[14];
+    EXPECT_EQ(chain->bucketNext->key, "margin");
+    EXPECT_EQ(chain->bucketPrev->key, "background-color");
+}
+
+TEST(HashTable, ActsOnTheOldestOfEqualKeys) {
+    Table table;
+    table.add("a", "1");
+    table.set("b", "2") = "3";
+    table.add("a", "4");
+    EXPECT_EQ(lookUp(table, "a"), "1");
+    EXPECT_EQ(table.set("a", "5"), "5");
+    EXPECT_EQ(contents(table), "a=5 b=3 a=4 3");
+}
+
+TEST(HashTable, KeepsItsBucketsWhenItIsCleared) {
+    Table table;
+    table.add("a", "1");
+    table.add("q", "2");
+    auto const* const bucket = table.buckets[1];
+    table.clear();
+    EXPECT_EQ(contents(table) + lookUp(table, "a"), "0no, untouched");
+    table.add("a", "3");
+    EXPECT_EQ(contents(table) + lookUp(table, "a"), "a=3 13");
+    EXPECT_EQ(table.buckets[1], bucket);
+    EXPECT_EQ(bucket->bucketPrev, bucket->bucketNext);
+}
+
+TEST(List, WalksItsValuesInTheOrderOfAppending) {
+    ZRList<String> list;
+    for (int round = 0; round < 2; ++round) {
+        list.clear();
+        EXPECT_TRUE(list.head.next == &list.head && list.head.prev == &list.head);
+        for (char const* const value : {"one ", "two ", "three "}) list.add(value);
+        std::string walked;
+        for (String const& value : list) walked += shown(value);
+        EXPECT_EQ(walked + std::to_string(list.count), "one two three 3");
+        EXPECT_EQ(list.head.prev->prev->value, "two ");
+    }
+}
+
+}  // namespace

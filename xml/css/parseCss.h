@@ -1,0 +1,13 @@
+#pragma once
+
+#include "base/XCode.h"
+#include "xml/css/StyleNode.h"
+
+namespace CLI::XML {
+
+/// Empties `out`, then appends the rules of a style sheet to it in text order. A failure names
+/// the line and what was expected there ("Line 3: Expecting ';'"); the rules completed before it
+/// stay in `out`.
+XCode parseCss(ZRList<ZRLWPtr<StyleNode>>& out, String const& css);
+
+}  // namespace CLI::XML
