@@ -1,0 +1,40 @@
+#include "xml/dom/DomElement.h"
+
+namespace CLI::XML {
+
+namespace {
+
+struct DisplayKeyword {
+    char const* keyword;
+    DomNode::Display display;
+};
+
+constexpr DisplayKeyword s_displayKeywords[] = {
+    {"inline", DomNode::Inline},      {"block", DomNode::Block},          {"table", DomNode::Table},
+    {"table-row", DomNode::TableRow}, {"table-cell", DomNode::TableCell}, {"none", DomNode::None},
+};
+
+}  // namespace
+
+XCode DomElement::setAttributes(ZRStringHashTable<String> const& source) {
+    if (&source != &attributes) {
+        attributes.clear();
+        for (auto const* entry = source.head.prev; entry != &source.head; entry = entry->prev) {
+            attributes.add(entry->key, entry->value);
+        }
+    }
+    String value;
+    if (!attributes.get("display", value)) return XCode();
+    for (DisplayKeyword const& candidate : s_displayKeywords) {
+        if (value == candidate.keyword) display = candidate.display;
+    }
+    return XCode();
+}
+
+XCode DomElement::getStyle(String const& property, String& value) const {
+    bool const found = attributes.get(property, value) ||
+                       (styleNode && styleNode->declarations.get(property, value));
+    return testExpression(found);
+}
+
+}  // namespace CLI::XML

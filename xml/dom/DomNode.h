@@ -1,0 +1,31 @@
+#pragma once
+
+#include "base/RefCounted.h"
+#include "base/String.h"
+
+namespace CLI::XML {
+
+/// A node of the document tree. A node has no link to its parent; the tree is navigated
+/// downwards only.
+class DomNode : public ZR::RefCounted {
+public:
+    enum Kind { Text, Element };
+
+    /// How a node takes part in layout.
+    enum Display { Block, Inline, Table, TableRow, TableCell, None };
+
+    Kind kind;
+    Display display;
+
+    /// What names the node in messages and dumps: an element's name, or a text in single quotes.
+    virtual String toString() const = 0;
+    /// The subtree as text, one line a node: this one behind `indent` spaces, each level of the
+    /// tree two deeper.
+    virtual String dump(unsigned indent) const = 0;
+
+protected:
+    DomNode(Kind nodeKind, Display nodeDisplay)
+        : ZR::RefCounted(nullptr), kind(nodeKind), display(nodeDisplay) {}
+};
+
+}  // namespace CLI::XML

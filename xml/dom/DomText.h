@@ -1,0 +1,27 @@
+#pragma once
+
+#include <utility>
+
+#include "xml/dom/DomNode.h"
+
+namespace CLI::XML {
+
+/// One word of running text, with the space that followed it.
+class DomText final : public DomNode {
+public:
+    String text;
+
+    explicit DomText(String word) : DomNode(Text, Inline), text(std::move(word)) {}
+    ~DomText() override = default;
+
+    String toString() const override;
+    String dump(unsigned indent) const override;
+};
+
+/// `node` as a text; null for null and for an element.
+inline DomText const* asText(DomNode const* node) {
+    bool const isText = node != nullptr && node->kind == DomNode::Text;
+    return isText ? static_cast<DomText const*>(node) : nullptr;
+}
+
+}  // namespace CLI::XML

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "xml/dom/DomElement.h"
+
+namespace CLI::XML {
+
+/// A new element for a tag of the vocabulary, with the display kind that the tag starts with and
+/// nothing else set; null for any other tag name. Names are compared exactly.
+ZRLWPtr<DomElement> createDomElement(String const& tag);
+
+}  // namespace CLI::XML
