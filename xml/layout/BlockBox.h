@@ -1,0 +1,26 @@
+#pragma once
+
+#include "xml/layout/Box.h"
+
+namespace CLI::XML {
+
+/// Stacks blocks, tables and line boxes downwards, and breaks the lines that are too wide for it.
+class BlockBox : public Box {
+public:
+    explicit BlockBox(DomNode* rendered) : BlockBox(rendered, Block) {}
+    BlockBox(BlockBox const& other) = default;
+    ~BlockBox() override = default;
+
+    ZRLWPtr<Box> clone() override;
+    XCode createChildren() override;
+    /// The last child if it is a line box, otherwise a new one.
+    ZRLWPtr<Box> getOrCreateLineBox() override;
+    /// Offers its children the width of `containing` less its own edges and becomes as wide as
+    /// the widest of them.
+    void layout(Dimensions const& containing) override;
+
+protected:
+    BlockBox(DomNode* rendered, Type boxType) : Box(rendered, boxType) {}
+};
+
+}  // namespace CLI::XML

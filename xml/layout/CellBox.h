@@ -1,0 +1,25 @@
+#pragma once
+
+#include "xml/layout/InlineBox.h"
+
+namespace CLI::XML {
+
+/// A table cell: its content stands side by side on one line and is never broken.
+class CellBox final : public InlineBox {
+public:
+    /// The width of a column record that constrains nothing.
+    static constexpr std::int32_t s_unconstrainedWidth = 0x7FFFFFFF;
+
+    /// What the cell's column imposes on it. Set by table layout only.
+    Dimensions columnDimensions;
+
+    explicit CellBox(DomNode* rendered) : InlineBox(rendered, Cell) {}
+    CellBox(CellBox const& other) : InlineBox(other) {}
+    ~CellBox() override = default;
+
+    ZRLWPtr<Box> clone() override;
+
+    bool isConstrained() const { return columnDimensions.content.width != s_unconstrainedWidth; }
+};
+
+}  // namespace CLI::XML

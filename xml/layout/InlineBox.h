@@ -1,0 +1,30 @@
+#pragma once
+
+#include "xml/layout/Box.h"
+
+namespace CLI::XML {
+
+/// A word, or the part of an inline element that stands on one line.
+class InlineBox : public Box {
+public:
+    explicit InlineBox(DomNode* rendered) : InlineBox(rendered, Inline) {}
+    InlineBox(InlineBox const& other) = default;
+    ~InlineBox() override = default;
+
+    ZRLWPtr<Box> clone() override;
+    XCode createChildren() override;
+    /// This box.
+    ZRLWPtr<Box> getOrCreateLineBox() override;
+    /// A word takes a column a byte and one row; an element places its children side by side,
+    /// a left margin counting only as far as it exceeds the right margin before it.
+    void layout(Dimensions const& containing) override;
+    ZRLWPtr<Box> split(int width) override;
+    /// Draws a word, or an element with the flag that its name adds. An element without children
+    /// paints nothing.
+    void drawTo(Canvas& canvas, Canvas::Attributes const& attributes) override;
+
+protected:
+    InlineBox(DomNode* rendered, Type boxType) : Box(rendered, boxType) {}
+};
+
+}  // namespace CLI::XML
