@@ -1,0 +1,79 @@
+#pragma once
+
+#include <algorithm>
+
+#include "base/saturate.h"
+#include "xml/layout/Box.h"
+
+namespace CLI::XML {
+
+/// The gap before a child: as much of its margin as the margin before it does not cover.
+inline std::int32_t uncoveredMargin(std::int32_t before, std::int32_t margin) {
+    return std::max(0, saturate(std::int64_t{margin} - before));
+}
+
+/// Stacks children downwards in a block or a table. The position of a child leaves out the part
+/// of its top margin that the bottom margin before it covers; the height of the stack still grows
+/// by the whole margin box, so that the two do not mirror each other.
+class DownwardStack {
+public:
+    /// Begins with a height of 0.
+    explicit DownwardStack(Dimensions& container) : content(container.content) {
+        content.height = 0;
+    }
+
+    /// Sets the position at which the child is to be laid out.
+    void place(Dimensions& child) const {
+        EdgeSizes const edges = child.edges();
+        std::int64_t const y =
+            std::int64_t{content.height} + uncoveredMargin(previousMargin, child.margin.top);
+        child.content.x = edges.left;
+        child.content.y = saturate(y + child.border.top + child.padding.top);
+    }
+
+    /// Takes the child in after its layout.
+    void add(Dimensions const& child) {
+        Rect const margin = child.marginBox();
+        content.height = saturate(std::int64_t{content.height} + margin.height);
+        widest = std::max(widest, margin.width);
+        previousMargin = child.margin.bottom;
+    }
+
+    /// Makes the container as wide as its widest child.
+    void finish() const { content.width = widest; }
+
+private:
+    Rect& content;
+    std::int32_t widest = 0;
+    std::int32_t previousMargin = 0;
+};
+
+/// Where a child's content begins behind `width` columns and a gap.
+inline std::int32_t contentXBehind(std::int32_t width, std::int32_t gap, Dimensions const& child) {
+    return saturate(std::int64_t{width} + gap + child.border.left + child.padding.left);
+}
+
+/// Lays out the children of `box` from left to right, aligned to its top, and sizes it around
+/// them. `position(child, width, previousRight)` says where a child's content begins behind the
+/// running width; `settle(child)` may correct the child after its layout.
+template <class Position, class Settle>
+void layoutRightwards(Box& box, Position const& position, Settle const& settle) {
+    Rect& content = box.dimensions.content;
+    content.width = 0;
+    content.height = 0;
+    std::int32_t previousRight = 0;
+    for (unsigned i = 0; i < box.children.count; ++i) {
+        Box& child = *box.children[i];
+        Dimensions& d = child.dimensions;
+        d.content.x = position(child, content.width, previousRight);
+        d.content.y = d.edges().top;
+        child.layout(box.dimensions);
+        settle(child);
+        Rect const margin = d.marginBox();
+        content.width = saturate(std::int64_t{content.width} + margin.width);
+        content.height = std::max(content.height, margin.height);
+        previousRight = d.margin.right;
+    }
+}
+
+}  // namespace CLI::XML
