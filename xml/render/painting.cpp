@@ -1,0 +1,150 @@
+// How boxes paint themselves: background, border, then content over both.
+
+#include <algorithm>
+
+#include "base/saturate.h"
+#include "xml/dom/DomElement.h"
+#include "xml/dom/DomText.h"
+#include "xml/layout/InlineBox.h"
+
+namespace CLI::XML {
+
+namespace {
+
+using Attributes = Canvas::Attributes;
+
+/// What a value of "font-style" does to the flags.
+struct FontStyle {
+    char const* value;
+    bool keepsFlags;
+    std::uint8_t added;
+};
+
+constexpr FontStyle s_fontStyles[] = {
+    {"normal", false, 0},
+    {"bold", false, Attributes::Bold},
+    {"italic", true, Attributes::Faint},
+    {"oblique", true, Attributes::Faint},
+    {"mark", true, Attributes::Blink},
+};
+constexpr FontStyle s_unknownFontStyle = {nullptr, false, 0};
+
+/// The flag that an inline element's name adds.
+struct ElementFlag {
+    char const* name;
+    std::uint8_t flag;
+};
+
+constexpr ElementFlag s_elementFlags[] = {
+    {"b", Attributes::Bold},   {"strong", Attributes::Inverse}, {"i", Attributes::Faint},
+    {"em", Attributes::Faint}, {"mark", Attributes::Blink},
+};
+
+std::uint8_t flagOfElement(String const& name) {
+    for (ElementFlag const& candidate : s_elementFlags) {
+        if (name == candidate.name) return candidate.flag;
+    }
+    return 0;
+}
+
+void applyFontStyle(String const& value, Attributes& attributes) {
+    auto const* const found =
+        std::find_if(std::begin(s_fontStyles), std::end(s_fontStyles),
+                     [&value](FontStyle const& candidate) { return value == candidate.value; });
+    FontStyle const& style = found != std::end(s_fontStyles) ? *found : s_unknownFontStyle;
+    std::uint8_t const kept = style.keepsFlags ? attributes.flags : std::uint8_t{0};
+    attributes.flags = static_cast<std::uint8_t>(kept | style.added);
+}
+
+/// Draws `text` in every row of `area` that the canvas can hold, beginning at column `x`.
+void drawColumn(Canvas& canvas, String const& text, int x, Rect const& area,
+                Attributes const& attributes) {
+    if (text.length() == 0) return;
+    int const end = saturate(std::int64_t{area.y} + area.height);
+    for (int row = std::max(area.y, 0); row < end; ++row) {
+        canvas.drawClipped(text, x, row, attributes);
+    }
+}
+
+/// `text` once for every column of `area`; nothing for an area without columns.
+String repeatAlong(Rect const& area, String const& text) {
+    return String::repeat(text, static_cast<unsigned>(std::max(area.width, 0)));
+}
+
+}  // namespace
+
+void Box::drawTo(Canvas& canvas, Canvas::Attributes const& attributes) {
+    Canvas contentCanvas;
+    Canvas::Attributes own = attributes;
+    drawBackgroundTo(canvas, own);
+    drawBorderTo(canvas, own);
+    applyContentAttributes(own);
+    for (unsigned i = 0; i < children.count; ++i) children[i]->drawTo(contentCanvas, own);
+    canvas.drawClipped(contentCanvas, dimensions.content.x, dimensions.content.y);
+}
+
+void InlineBox::drawTo(Canvas& canvas, Canvas::Attributes const& attributes) {
+    if (children.count > 0) {
+        Canvas::Attributes own = attributes;
+        if (DomElement const* const element = asElement(node)) {
+            own.flags = static_cast<std::uint8_t>(own.flags | flagOfElement(element->name));
+        }
+        Box::drawTo(canvas, own);
+    } else if (DomText const* const word = asText(node)) {
+        canvas.drawClipped(word->text, dimensions.content.x, dimensions.content.y, attributes);
+    }
+}
+
+void Box::drawBackgroundTo(Canvas& canvas, Canvas::Attributes& attributes) {
+    String const value = getStyle("background-color", String::s_empty);
+    if (value.length() == 0) return;
+    attributes.background = Canvas::Attributes::color(value);
+    Rect const area = dimensions.borderBox();
+    drawColumn(canvas, repeatAlong(area, " "), area.x, area, attributes);
+}
+
+void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
+    Rect const area = dimensions.borderBox();
+    int const right = saturate(std::int64_t{area.x} + area.width - 1);
+    int const bottom = saturate(std::int64_t{area.y} + area.height - 1);
+    EdgeSizes const& border = dimensions.border;
+
+    String const color = getStyle("border-color", String::s_empty);
+    if (color.length() > 0) attributes.foreground = Canvas::Attributes::color(color);
+
+    auto const styleOf = [this](char const* property) {
+        return getStyle2(property, "border-style", "*");
+    };
+    if (border.left > 0) {
+        drawColumn(canvas, styleOf("border-left-style"), area.x, area, attributes);
+    }
+    if (border.right > 0) {
+        drawColumn(canvas, styleOf("border-right-style"), right, area, attributes);
+    }
+    if (border.top > 0) {
+        String const side = repeatAlong(area, styleOf("border-top-style"));
+        canvas.drawClipped(side, area.x, area.y, attributes);
+    }
+    if (border.bottom > 0) {
+        String const side = repeatAlong(area, styleOf("border-bottom-style"));
+        canvas.drawClipped(side, area.x, bottom, attributes);
+    }
+
+    String const corner = getStyle("border-corner-style", String::s_empty);
+    auto const drawCorner = [&](int vertical, int horizontal, int x, int y) {
+        if (vertical > 0 && horizontal > 0) canvas.drawClipped(corner, x, y, attributes);
+    };
+    drawCorner(border.top, border.left, area.x, area.y);
+    drawCorner(border.top, border.right, right, area.y);
+    drawCorner(border.bottom, border.left, area.x, bottom);
+    drawCorner(border.bottom, border.right, right, bottom);
+}
+
+void Box::applyContentAttributes(Canvas::Attributes& attributes) {
+    String const color = getStyle("color", String::s_empty);
+    if (color.length() > 0) attributes.foreground = Canvas::Attributes::color(color);
+    String const fontStyle = getStyle("font-style", String::s_empty);
+    if (fontStyle.length() > 0) applyFontStyle(fontStyle, attributes);
+}
+
+}  // namespace CLI::XML
