@@ -1,0 +1,49 @@
+#include "cli/files.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+
+#include "cli/report.h"
+
+namespace {
+
+struct CloseFile {
+    void operator()(std::FILE* file) const {
+        if (file != stdin) std::fclose(file);
+    }
+};
+using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
+
+/// Reads to the end; false, with `errno` set, on an error or where the text outgrows a String.
+bool readAll(std::FILE* file, String& content) {
+    char piece[65536];
+    while (std::size_t const n = std::fread(piece, 1, sizeof piece, file)) {
+        int const wanted = content.length() + static_cast<int>(n);
+        content.appendGrowing(String(piece, 0, static_cast<int>(n)));
+        if (content.length() != wanted) {
+            errno = EFBIG;
+            return false;
+        }
+    }
+    return std::ferror(file) == 0;
+}
+
+}  // namespace
+
+bool readFile(std::string const& name, String& content) {
+    OpenFile const file(name == "-" ? stdin : std::fopen(name.c_str(), "rb"));
+    if (file && readAll(file.get(), content)) return true;
+    reportError(displayName(name), std::strerror(errno));
+    return false;
+}
+
+bool writeOutput(String const& text) {
+    auto const length = static_cast<std::size_t>(text.length());
+    if (std::fwrite(text.c_str(), 1, length, stdout) == length && std::fflush(stdout) == 0) {
+        return true;
+    }
+    reportError("<stdout>", std::strerror(errno));
+    return false;
+}

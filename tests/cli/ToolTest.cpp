@@ -1,0 +1,128 @@
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace {
+
+struct Outcome {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+/// Runs the tool in a folder of its own, as a shell would.
+class Tool : public testing::Test {
+protected:
+    Tool() {
+        std::string name = testing::TempDir() + "galley-XXXXXX";
+        folder = mkdtemp(name.data());
+    }
+    ~Tool() override { std::filesystem::remove_all(folder); }
+
+    void write(std::string const& name, std::string const& text) const {
+        std::ofstream(folder / name, std::ios::binary) << text;
+    }
+    std::string read(std::string const& name) const {
+        std::ifstream file(folder / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    Outcome run(std::string const& arguments, std::string const& input = "") const {
+        write("stdin", input);
+        std::string const command = "cd " + folder.string() + " && { " GALLEY_TOOL " " + arguments +
+                                    "; } <stdin 2>stderr >stdout";
+        int const status = std::system(command.c_str());
+        return {WEXITSTATUS(status), read("stdout"), read("stderr")};
+    }
+
+    std::filesystem::path folder;
+};
+
+TEST_F(Tool, ReadsAFileOrStandardInput) {
+    write("page.xml", "<p>from a file</p>");
+    EXPECT_EQ(run("page.xml").out, "from a file\n");
+    EXPECT_EQ(run("", "<p>piped</p>").out, "piped\n");
+    EXPECT_EQ(run("-", "<p>piped</p>").out, "piped\n");
+}
+
+TEST_F(Tool, JoinsTheRulesOfAllSheetsInTheirOrder) {
+    write("one.css", "p { padding-left: 1; } b { padding-left: 3; }");
+    write("two.css", "p { padding-left: 2; }");
+    std::string const page = "<p><b>x</b></p>";
+    EXPECT_EQ(run("--css one.css --css two.css", page).out, "     \x1b[0m\x1b[1mx\x1b[0m\n");
+    EXPECT_EQ(run("--css two.css --css one.css", page).out, "    \x1b[0m\x1b[1mx\x1b[0m\n");
+}
+
+TEST_F(Tool, BreaksLinesAtTheWidthAskedForElseAt80) {
+    std::string words;
+    for (int i = 0; i < 40; ++i) words += "abc ";
+    std::string const row(4 * 20, ' ');
+    EXPECT_EQ(run("--width 8", "a b c d e").out, "a b c d \ne\n");
+    EXPECT_EQ(run("--width 0", "a b").out, "a \nb\n");
+    EXPECT_EQ(run("", words).out.find('\n'), row.size());
+    EXPECT_EQ(run("--width 99999999999", words).out.find('\n'), words.size());
+}
+
+TEST_F(Tool, TakesTheWidthOfTheTerminalItWritesTo) {
+    std::string const terminal = "script -qec 'stty cols 6; " GALLEY_TOOL " stdin' seen";
+    run("--version; " + terminal + " </dev/null", "aa bb cc");
+    EXPECT_NE(read("seen").find("aa bb \r\ncc\r\n"), std::string::npos) << read("seen");
+}
+
+TEST_F(Tool, DumpsEitherTree) {
+    std::string const document = "<p>hi <b>you</b></p>";
+    EXPECT_EQ(run("--dump dom", document).out, "html:\n  p:\n    'hi '\n    b:\n      'you'\n");
+    EXPECT_EQ(run("--dump boxes --width 3", document).out,
+              "block:  html: (0, 0, 3, 2)\n"
+              "  block:  p: (0, 0, 3, 2)\n"
+              "    line:   (anonymous): (0, 0, 3, 1)\n"
+              "      inline: 'hi ': (0, 0, 3, 1)\n"
+              "    line:   (anonymous): (0, 1, 3, 1)\n"
+              "      inline: b: (0, 0, 3, 1)\n"
+              "        inline: 'you': (0, 0, 3, 1)\n");
+}
+
+TEST_F(Tool, SaysWhichFileAndLineIsAtFault) {
+    write("page.xml", "<p>\n<q/></p>");
+    write("bad.css", "p {\n color red; }");
+    struct Case {
+        char const* arguments;
+        char const* input;
+        int status;
+        char const* error;
+    };
+    Case const cases[] = {
+        {"", "<p>\n< b>", 1, "<stdin>:2: error: Expecting element type\n"},
+        {"", "<p>\n\n", 1, "<stdin>:3: error: Missing end tag at the end\n"},
+        {"page.xml", "", 1, "page.xml: error: Invalid tag: <q>\n"},
+        {"--css bad.css", "<p/>", 1, "bad.css:2: error: Expecting ':'\n"},
+        {"", "<td/>", 1, "<stdin>: error: Cannot layout 'td' within 'html'\n"},
+        {"absent.xml", "", 3, "absent.xml: error: No such file or directory\n"},
+        {"--css absent.css", "", 3, "absent.css: error: No such file or directory\n"},
+        {".", "", 3, ".: error: Is a directory\n"},
+        {">/dev/full", "<p>x</p>", 3, "<stdout>: error: No space left on device\n"},
+    };
+    for (Case const& c : cases) {
+        Outcome const outcome = run(c.arguments, c.input);
+        EXPECT_EQ(outcome.status, c.status) << c.arguments << c.input;
+        EXPECT_EQ(outcome.err, c.error) << c.arguments << c.input;
+        EXPECT_EQ(outcome.out, "") << c.arguments << c.input;
+    }
+}
+
+TEST_F(Tool, RefusesWhatItDoesNotKnow) {
+    for (char const* arguments :
+         {"--nonsense", "--width x", "--width -1", "--dump html", "--css", "one.xml two.xml"}) {
+        Outcome const outcome = run(arguments);
+        EXPECT_EQ(outcome.status, 2) << arguments;
+        EXPECT_EQ(outcome.out, "") << arguments;
+        EXPECT_NE(outcome.err, "") << arguments;
+    }
+    EXPECT_EQ(run("--help").status, 0);
+    EXPECT_EQ(run("--version").out.rfind("galley ", 0), 0U);
+}
+
+}  // namespace
