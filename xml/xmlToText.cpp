@@ -17,13 +17,10 @@ XCode read(ZRLWPtr<DomElement>& root, String const& xml, StyleList const& styles
     return buildDomTree(root, true, parser, styles);
 }
 
-XCode makeBoxes(ZRLWPtr<Box>& rootBox, ZRLWPtr<DomNode> const& root) {
-    if (!root) return testExpression(false);
-    if (root->display != DomNode::Block) {
-        return testExpression(false).setStringF("Root node must be a block-level element");
-    }
-    rootBox.setObjDontAddRef(new BlockBox(root.object));
-    return rootBox->createChildren();
+XCode checkRoot(DomNode const* root) {
+    if (root == nullptr) return testExpression(false);
+    if (root->display == DomNode::Block) return XCode();
+    return testExpression(false).setStringF("Root node must be a block-level element");
 }
 
 void layOut(Box& rootBox, unsigned int width) {
@@ -42,11 +39,14 @@ String paint(Box& rootBox) {
 
 XCode xmlToText(String& out, String const& xml, ZRList<ZRLWPtr<StyleNode>> const& styles,
                 unsigned int width) {
-    // Boxes point to nodes: the box tree goes first.
     ZRLWPtr<DomElement> root;
-    ZRLWPtr<Box> rootBox;
     XCode result = read(root, xml, styles);
-    if (result) result = makeBoxes(rootBox, root);
+    if (!result) return result;
+    result = checkRoot(root.object);
+    if (!result) return result;
+    // Boxes point to nodes: the box tree, declared behind them, goes first.
+    ZRLWPtr<Box> const rootBox = ZR::MovePtr<Box>(new BlockBox(root.object));
+    result = rootBox->createChildren();
     if (!result) return result;
     layOut(*rootBox, width);
     out += paint(*rootBox);

@@ -81,7 +81,7 @@ TEST(PullParser, NamesTheLineAndWhatWasExpected) {
     for (auto const& [message, markups] :
          {Row("1: Expecting element type", {"< a>", "1 < 2", "</ a>", "<", bytes("<\0a>")}),
           Row("1: Expecting end tag character '>'",
-              {"<a", "<a/", "<a / >", "<a x=\"1\"", "<a =\"1\">", "</a x>", "<!", "<?xml"}),
+              {"<a", "<a/", "<a / >", "<a\"b/>", "<a x=\"1\"", "<a =\"1\">", "</a x>", "<!", "<?xml"}),
           Row("1: Expecting assignment character '='", {"<td nowrap>", "<a x =\"1\">", "<a x"}),
           Row("1: Expecting quotation character '\"'",
               {"<a x='1'>", "<a x= \"1\">", "<a x=\"1", bytes("<a x=\"\0\">")}),

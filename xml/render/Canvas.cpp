@@ -51,17 +51,20 @@ bool Canvas::draw(Canvas const& source, unsigned x, unsigned y) {
 }
 
 bool Canvas::drawClipped(String const& text, int x, int y, Attributes const& attributes) {
-    int const clipped = x < 0 ? saturate(-std::int64_t{x}) : 0;
-    if (clipped >= text.length() || y < 0) return false;
+    auto const length = static_cast<unsigned>(std::strlen(text.c_str()));
+    auto const clipped = static_cast<unsigned>(x < 0 ? -std::int64_t{x} : 0);
+    bool const allClipped = y < 0 || (clipped > 0 && clipped >= length);
+    if (text.length() == 0 || allClipped) return false;
     unsigned const index = getOrStoreAttribute(attributes);
     ZRVector<Byte>& row = rows[static_cast<unsigned>(y)];
-    char const* const bytes = text.c_str() + clipped;
-    auto const length = static_cast<unsigned>(std::strlen(bytes));
+    // A text that begins with a NUL creates the row and writes nothing.
     if (length == 0) return true;
+    char const* const bytes = text.c_str() + clipped;
     unsigned const column = static_cast<unsigned>(std::max(x, 0));
-    lengthen(row, column + length, column);
-    for (unsigned i = 0; i < length; ++i) {
-        row.data[column + i] = Byte::make(static_cast<unsigned char>(bytes[i]), index);
+    unsigned const end = column + (length - clipped);
+    lengthen(row, end, column);
+    for (unsigned i = column; i < end; ++i) {
+        row.data[i] = Byte::make(static_cast<unsigned char>(bytes[i - column]), index);
     }
     return true;
 }
