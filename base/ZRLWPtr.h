@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <utility>
 
 #include "base/MovePtr.h"
@@ -12,6 +13,7 @@ public:
     T* object = nullptr;
 
     ZRLWPtr() = default;
+    ZRLWPtr(std::nullptr_t) {}  // NOLINT(google-explicit-constructor): the null pointer
     ZRLWPtr(ZRLWPtr const& other) : object(other.object) { addRefIfAny(); }
     ZRLWPtr(ZRLWPtr&& other) noexcept : object(std::exchange(other.object, nullptr)) {}
     /// Shares the object of a pointer to a derived class.

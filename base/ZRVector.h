@@ -8,8 +8,9 @@
 ///
 /// 1. The elements are the first `count` slots of `data`; `count` <= `capacity`.
 /// 2. Slots past `count` hold T's default value (or are unset where T has no constructor).
-/// 3. The storage holds at least `capacity` slots; it is doubled when it is outgrown, so that
-///    appending costs constant time, while `capacity` follows the growth step.
+/// 3. `capacity` follows the growth step; the storage itself is doubled when it is outgrown, so
+///    that appending costs constant time. It holds `capacity` slots or more, but for a vector
+///    whose tail has been moved out: that one holds as many as it has elements, or more.
 ///
 /// Where storage cannot be had the allocator's exception passes and the vector is unchanged.
 template <class T>
@@ -23,12 +24,13 @@ public:
     ZRVector() = default;
     ZRVector(ZRVector const& other) { *this = other; }
     ZRVector(ZRVector&& other) noexcept { exchange(other); }
-    ~ZRVector() { delete[] data; }
+    ~ZRVector() { freeStorage(); }
 
     /// Copies the elements; keeps this vector's growth step, and its storage where it suffices.
     ZRVector& operator=(ZRVector const& other) {
         if (this == &other) return *this;
         if (other.count > capacity && !enlarge(other.count)) return *this;
+        provide(other.count);
         for (unsigned i = 0; i < other.count; ++i) data[i] = other.data[i];
         for (unsigned i = other.count; i < count; ++i) data[i] = T();
         count = other.count;
@@ -56,11 +58,11 @@ public:
     /// Makes `capacity` the smallest multiple of `growBy` greater than `n`, unless it is greater
     /// than `n` already. True on success.
     bool enlarge(unsigned n) {
-        if (n < capacity) return true;
-        unsigned long long const slots = (n / growBy + 1ULL) * growBy;
-        if (slots > std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
-        if (slots > allocated) reallocate(static_cast<unsigned>(slots));
-        capacity = static_cast<unsigned>(slots);
+        unsigned long long const stepped = (n / growBy + 1ULL) * growBy;
+        if (stepped > std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
+        unsigned const slots = n < capacity ? capacity : static_cast<unsigned>(stepped);
+        provide(n < capacity ? n + 1 : slots);
+        capacity = slots;
         return true;
     }
 
@@ -86,13 +88,19 @@ public:
         data[--count] = T();
     }
 
-    /// Moves the elements from `i` on to the end of `target`.
+    /// Moves the elements from `i` on to the end of `target`, in time proportional to the smaller
+    /// part where `target` has no storage yet. The capacity stays.
     void moveTailTo(unsigned i, ZRVector& target) {
+        if (i >= count) return;
+        if (target.data == nullptr && i < count - i) {
+            handStorageTo(i, target);
+            return;
+        }
         for (unsigned slot = i; slot < count; ++slot) {
             target.add(std::move(data[slot]));
             data[slot] = T();
         }
-        if (i < count) count = i;
+        count = i;
     }
 
     /// Removes every element; the storage stays.
@@ -105,26 +113,62 @@ private:
     /// Makes slot `i` exist.
     void growToHold(unsigned i) {
         if (i == std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
-        if (i >= capacity) enlarge(i + 1);
+        if (i >= capacity) {
+            enlarge(i + 1);
+        } else {
+            provide(i + 1);
+        }
     }
 
-    void reallocate(unsigned slots) {
+    /// Sees to it that the storage holds `slots` slots.
+    void provide(unsigned slots) {
+        if (slots <= allocated) return;
         unsigned const doubled =
             allocated > std::numeric_limits<unsigned>::max() / 2 ? slots : allocated * 2;
-        unsigned const wanted = slots > doubled ? slots : doubled;
-        T* const larger = new T[wanted];
-        for (unsigned i = 0; i < count; ++i) larger[i] = std::move(data[i]);
-        delete[] data;
-        data = larger;
-        allocated = wanted;
+        moveTo(slots > doubled ? slots : doubled);
     }
+
+    /// Moves the elements into new storage.
+    void moveTo(unsigned slots) {
+        T* const fresh = new T[slots];
+        for (unsigned i = 0; i < count; ++i) fresh[i] = std::move(data[i]);
+        freeStorage();
+        data = fresh;
+        allocated = slots;
+        skipped = 0;
+    }
+
+    /// Gives the storage, with the elements from `i` on, to `target`, which has none, and keeps
+    /// the elements before them in storage of its own.
+    void handStorageTo(unsigned i, ZRVector& target) {
+        ZRVector head;
+        if (i > 0) head.provide(i);
+        for (unsigned slot = 0; slot < i; ++slot) head.data[slot] = std::move(data[slot]);
+        target.data = data + i;
+        target.count = count - i;
+        target.allocated = allocated - i;
+        target.skipped = skipped + i;
+        // What adding the elements one by one would have made of it.
+        unsigned const step = target.growBy < 2 ? 2 : target.growBy;
+        target.capacity = (target.count + step - 1) / step * step;
+        data = std::exchange(head.data, nullptr);
+        allocated = head.allocated;
+        skipped = 0;
+        count = i;
+    }
+
+    void freeStorage() { delete[](data - skipped); }
 
     void exchange(ZRVector& other) noexcept {
         std::swap(data, other.data);
         std::swap(count, other.count);
         std::swap(capacity, other.capacity);
         std::swap(allocated, other.allocated);
+        std::swap(skipped, other.skipped);
     }
 
+    /// Slots of the storage from `data` on.
     unsigned allocated = 0;
+    /// Slots of the storage before `data`, left behind by elements that were moved out.
+    unsigned skipped = 0;
 };

@@ -1,5 +1,7 @@
 #include "xml/layout/Box.h"
 
+#include "xml/dom/DomElement.h"
+
 namespace CLI::XML {
 
 Box::Box(DomNode* rendered, Type boxType) : ZR::RefCounted(nullptr), node(rendered), type(boxType) {
@@ -11,6 +13,9 @@ Box::Box(Box const& other) : Box(other.node, other.type) {}
 ZRLWPtr<Box> Box::split(int) { return {}; }
 
 void Box::initEdges() {
+    dimensions.padding = dimensions.border = dimensions.margin = EdgeSizes();
+    // Only an element has a style, and most boxes are words.
+    if (asElement(node) == nullptr) return;
     // Qualified, since it is called while the box is being constructed.
     auto const cells = [this](char const* side, char const* allSides) {
         return Box::getStyleInt2(side, allSides, 0);

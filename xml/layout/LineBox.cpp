@@ -1,15 +1,9 @@
 #include "xml/layout/LineBox.h"
 
-#include "xml/layout/placement.h"
+#include "xml/layout/inlineFlow.h"
 
 namespace CLI::XML {
 
-void LineBox::layout(Dimensions const&) {
-    auto const largerMargin = [](Box const& child, std::int32_t width, std::int32_t previousRight) {
-        Dimensions const& d = child.dimensions;
-        return contentXBehind(width, std::max(previousRight, d.margin.left), d);
-    };
-    layoutRightwards(*this, largerMargin, [](Box const&) {});
-}
+void LineBox::layout(Dimensions const&) { layoutLine(*this); }
 
 }  // namespace CLI::XML

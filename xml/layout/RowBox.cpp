@@ -9,16 +9,16 @@ void RowBox::layout(Dimensions const&) {
         auto const& cell = static_cast<CellBox const&>(child);
         // A column's position already is that of the content.
         if (cell.isConstrained()) return cell.columnDimensions.content.x;
-        Dimensions const& d = cell.dimensions;
-        return contentXBehind(width, uncoveredMargin(previousRight, d.margin.left), d);
+        return contentXInElement(cell.dimensions, width, previousRight);
     };
-    auto const takeColumnWidth = [](Box& child) {
+    layoutRightwards(*this, inColumn, [this](Box& child) {
         auto& cell = static_cast<CellBox&>(child);
+        cell.layout(dimensions);
         if (cell.isConstrained()) {
             cell.dimensions.content.width = cell.columnDimensions.content.width;
         }
-    };
-    layoutRightwards(*this, inColumn, takeColumnWidth);
+        return true;
+    });
 }
 
 }  // namespace CLI::XML

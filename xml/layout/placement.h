@@ -53,22 +53,29 @@ inline std::int32_t contentXBehind(std::int32_t width, std::int32_t gap, Dimensi
     return saturate(std::int64_t{width} + gap + child.border.left + child.padding.left);
 }
 
+/// The same in an inline element or a row, where a left margin counts as far as it exceeds the
+/// right margin before it.
+inline std::int32_t contentXInElement(Dimensions const& child, std::int32_t width,
+                                      std::int32_t previousRight) {
+    return contentXBehind(width, uncoveredMargin(previousRight, child.margin.left), child);
+}
+
 /// Lays out the children of `box` from left to right, aligned to its top, and sizes it around
 /// them. `position(child, width, previousRight)` says where a child's content begins behind the
-/// running width; `settle(child)` may correct the child after its layout.
-template <class Position, class Settle>
-void layoutRightwards(Box& box, Position const& position, Settle const& settle) {
+/// running width; `layOut(child)` lays the child out and returns whether to go on with the next.
+template <class Position, class LayOut>
+void layoutRightwards(Box& box, Position const& position, LayOut const& layOut) {
     Rect& content = box.dimensions.content;
     content.width = 0;
     content.height = 0;
     std::int32_t previousRight = 0;
-    for (unsigned i = 0; i < box.children.count; ++i) {
+    bool goesOn = true;
+    for (unsigned i = 0; i < box.children.count && goesOn; ++i) {
         Box& child = *box.children[i];
         Dimensions& d = child.dimensions;
         d.content.x = position(child, content.width, previousRight);
         d.content.y = d.edges().top;
-        child.layout(box.dimensions);
-        settle(child);
+        goesOn = layOut(child);
         Rect const margin = d.marginBox();
         content.width = saturate(std::int64_t{content.width} + margin.width);
         content.height = std::max(content.height, margin.height);
