@@ -24,12 +24,12 @@ std::string lookUp(Table const& table, String const& key) {
 }
 
 TEST(StringHash, MixesUnsignedBytesAndChoosesTheBucket) {
-    using Row = std::pair<String, std::uint32_t>;
+    using Case = std::pair<String, std::uint32_t>;
     for (auto const& [key, hash] :
-         {Row("", 0), Row("a", 97), Row("\x80", 128), Row("\xFF", 255),
-          Row("ab", 97U ^ 98U ^ 97U << 5), Row(bytes("a\0"), 97U ^ 97U << 5),
-          Row("display", 0xD5D9EF7A), Row("margin", 0xDAF95ADE),
-          Row("background-color", 0xC0F2751E)}) {
+         {Case("", 0), Case("a", 97), Case("\x80", 128), Case("\xFF", 255),
+          Case("ab", 97U ^ 98U ^ 97U << 5), Case(bytes("a\0"), 97U ^ 97U << 5),
+          Case("display", 0xD5D9EF7A), Case("margin", 0xDAF95ADE),
+          Case("background-color", 0xC0F2751E)}) {
         EXPECT_EQ(StringHash()(key), hash) << shown(key);
         Table table;
         table.add(key, "v");

@@ -1,5 +1,6 @@
 #include "base/ZRVector.h"
 
+#include <algorithm>
 #include <new>
 #include <tuple>
 
@@ -7,13 +8,18 @@
 
 namespace {
 
-/// The elements, each behind a blank; also checks that the slots beyond them are empty.
-std::string contents(ZRVector<String> const& vector) {
+/// The elements, each behind a blank.
+std::string elements(ZRVector<String> const& vector) {
     EXPECT_LE(vector.count, vector.capacity);
-    for (unsigned i = vector.count; i < vector.capacity; ++i) EXPECT_EQ(vector[i], "");
     std::string result;
     for (String const& element : vector) result += " " + shown(element);
     return result;
+}
+
+/// As `elements`; also checks that the slots beyond them are empty.
+std::string contents(ZRVector<String> const& vector) {
+    for (unsigned i = vector.count; i < vector.capacity; ++i) EXPECT_EQ(vector[i], "");
+    return elements(vector);
 }
 
 ZRVector<String> filled(std::initializer_list<char const*> elements) {
@@ -28,10 +34,9 @@ TEST(VectorGrowth, GoesToTheNextMultipleOfTheStepBeyondTheNumberAsked) {
         vector.add("x");
         EXPECT_EQ(vector.capacity, expected) << vector.count;
     }
-    using Row = std::tuple<unsigned, unsigned, unsigned>;
-    for (auto const& [step, asked, expected] :
-         {Row(2, 0, 2), Row(2, 1, 2), Row(2, 2, 4), Row(2, 3, 4), Row(2, 4, 6), Row(2, 5, 6),
-          Row(3, 4, 6)}) {
+    using Case = std::tuple<unsigned, unsigned, unsigned>;
+    for (auto const& [step, asked, expected] : {Case(2, 0, 2), Case(2, 1, 2), Case(2, 2, 4),
+                                                Case(2, 4, 6), Case(2, 5, 6), Case(3, 4, 6)}) {
         ZRVector<String> empty;
         empty.growBy = step;
         EXPECT_TRUE(empty.enlarge(asked));
@@ -44,8 +49,8 @@ TEST(VectorGrowth, ThatIsImpossibleLeavesTheVectorAsItWas) {
     ZRVector<String> vector = filled({"a", "b"});
     EXPECT_THROW(vector.enlarge(0xFFFFFFFE), std::bad_alloc);
     EXPECT_THROW(vector[0xFFFFFFFF], std::bad_alloc);
-    EXPECT_EQ(vector.capacity, 2U);
     EXPECT_EQ(contents(vector), " a b");
+    EXPECT_EQ(vector.capacity, 2U);
 }
 
 TEST(VectorGrowth, BringsTheSlotsBeforeAnIndexIntoUse) {
@@ -53,13 +58,12 @@ TEST(VectorGrowth, BringsTheSlotsBeforeAnIndexIntoUse) {
     vector[5] = "x";
     EXPECT_EQ(vector.capacity, 8U);
     vector[6] = "y";
-    EXPECT_EQ(contents(vector), "      x y");
     vector.insert(8, "z");
     EXPECT_EQ(contents(vector), "      x y  z");
     EXPECT_EQ(vector.capacity, 10U);
 }
 
-TEST(VectorInsert, TakesAnElementOfTheVectorAtEveryCapacity) {
+TEST(VectorElements, MayBeInsertedOnceMoreAtEveryCapacity) {
     ZRVector<String> vector = filled({"the first, too long to be inline"});
     for (unsigned count = 1; count <= 16; count += 2) {
         vector.add(vector[0]);
@@ -76,14 +80,32 @@ TEST(VectorElements, KeepTheirOrderAndLeaveEmptySlots) {
     vector.removeAt(3);
     vector.removeAt(0);
     EXPECT_EQ(contents(vector), " x b");
-    ZRVector<String> target = filled({"y"});
-    vector.moveTailTo(2, target);
-    vector.moveTailTo(1, target);
-    EXPECT_EQ(contents(vector), " x");
-    EXPECT_EQ(contents(target), " y b");
     vector.clear();
     EXPECT_EQ(contents(vector), "");
     EXPECT_EQ(vector.capacity, 4U);
+}
+
+TEST(VectorTail, MovesBehindTheElementsOfTheTarget) {
+    std::string const all = " a b c d e";
+    for (unsigned from = 0; from <= 6; ++from) {
+        for (bool const hasElement : {false, true}) {
+            SCOPED_TRACE(testing::Message() << from << hasElement);
+            ZRVector<String> source = filled({"a", "b", "c", "d", "e"});
+            ZRVector<String> target = filled({});
+            if (hasElement) target.add("x");
+            source.moveTailTo(from, target);
+            std::string const moved = from < 5 ? all.substr(2 * from) : "";
+            EXPECT_EQ(elements(target), (hasElement ? " x" : "") + moved);
+            EXPECT_EQ(elements(source) + moved, all);
+            EXPECT_EQ(source.capacity, 6U);
+            EXPECT_EQ(target.capacity, (target.count + 1) / 2 * 2);
+            source.add("y");
+            target.insert(0, "z");
+            EXPECT_EQ(elements(source) + moved,
+                      all.substr(0, 2 * std::min(from, 5U)) + " y" + moved);
+            EXPECT_EQ(elements(target), (hasElement ? " z x" : " z") + moved);
+        }
+    }
 }
 
 TEST(VectorCopy, KeepsItsOwnStepAndIsIndependent) {
@@ -95,6 +117,8 @@ TEST(VectorCopy, KeepsItsOwnStepAndIsIndependent) {
     EXPECT_EQ(contents(target = *&target), " a b");
     EXPECT_EQ(target.growBy, 3U);
     EXPECT_EQ(ZRVector<String>(source).capacity, 4U);
+    ZRVector<String> const moved = std::move(source);
+    EXPECT_EQ(contents(moved) + contents(source), " c b");
 }
 
 }  // namespace

@@ -23,42 +23,33 @@ std::string parsed(String const& css) {
     return listed + result;
 }
 
-using SheetCase = std::pair<String, char const*>;
-
 TEST(StyleSheet, BecomesItsRulesInOrder) {
-    for (auto const& [css, expected] :
-         {SheetCase("", "ok"), SheetCase(" \t\v\r\n", "ok"),
-          SheetCase("h1{color:red;}", "h1{color=red;} ok"),
-          SheetCase("h1 { color : red ; }", "h1{color=red;} ok"),
-          SheetCase("\nh1\v{\r\ncolor\t:\nred\n;\n}\n", "h1{color=red;} ok"),
-          SheetCase("h1 {}a{x:1;}a{y:2;}", "h1{} a{x=1;} a{y=2;} ok"),
-          SheetCase("h1 { color: red; x:1; color: blue; }", "h1{color=blue;x=1;} ok"),
-          SheetCase("/**/{a{:b}:c;}", "/**/{a{=b}:c;} ok"),
-          SheetCase("h1,h2{--x:#\xE9;}", "h1,h2{--x=#M-i;} ok"),
-          SheetCase("a\f{\f:\f;}", "a^L{^L=^L;} ok"),
-          SheetCase(bytes("\0a\0{\0x\0:\0y\0;}"), "a{x=y;} ok")}) {
-        EXPECT_EQ(parsed(css), expected) << shown(css);
-    }
+    expectEach(
+        {Row("", "ok"), Row(" \t\v\r\n", "ok"), Row("h1{color:red;}", "h1{color=red;} ok"),
+         Row("h1 { color : red ; }", "h1{color=red;} ok"),
+         Row("\nh1\v{\r\ncolor\t:\nred\n;\n}\n", "h1{color=red;} ok"),
+         Row("h1 {}a{x:1;}a{y:2;}", "h1{} a{x=1;} a{y=2;} ok"),
+         Row("h1 { color: red; x:1; color: blue; }", "h1{color=blue;x=1;} ok"),
+         Row("/**/{a{:b}:c;}", "/**/{a{=b}:c;} ok"),
+         Row("h1,h2{--x:#\xE9;}", "h1,h2{--x=#M-i;} ok"), Row("a\f{\f:\f;}", "a^L{^L=^L;} ok"),
+         Row(bytes("\0a\0{\0x\0:\0y\0;}"), "a{x=y;} ok")},
+        parsed);
 }
 
 TEST(StyleSheet, FailsWithTheLineAndWhatWasExpected) {
-    for (auto const& [css, expected] : {SheetCase("h1", "Line 1: Expecting '{'"),
-                                        SheetCase("h1, h2 { }", "Line 1: Expecting '{'"),
-                                        SheetCase("{ color: red; }", "Line 1: Expecting '{'"),
-                                        SheetCase("a{}\n\n{", "a{} Line 3: Expecting '{'"),
-                                        SheetCase("h1 { color }", "Line 1: Expecting ':'"),
-                                        SheetCase("a {}\nb { c }", "a{} Line 2: Expecting ':'"),
-                                        SheetCase("h1 { color: ; }", "Line 1: Expecting value"),
-                                        SheetCase("h{x:\n", "Line 2: Expecting value"),
-                                        SheetCase("h1 { color: red }", "Line 1: Expecting ';'"),
-                                        SheetCase("h{x: red", "Line 1: Expecting ';'"),
-                                        SheetCase("h1 { color: red}", "Line 1: Expecting ';'"),
-                                        SheetCase("h{x:a b; }", "Line 1: Expecting ';'"),
-                                        SheetCase("h1 { color: red;", "Line 1: Expecting '}'"),
-                                        SheetCase("h{ :red; }", "Line 1: Expecting '}'"),
-                                        SheetCase("h1\r\r\n{\n", "Line 3: Expecting '}'")}) {
-        EXPECT_EQ(parsed(css), expected) << shown(css);
-    }
+    expectEach(
+        {Row("h1", "Line 1: Expecting '{'"), Row("h1, h2 { }", "Line 1: Expecting '{'"),
+         Row("{ color: red; }", "Line 1: Expecting '{'"),
+         Row("a{}\n\n{", "a{} Line 3: Expecting '{'"), Row("h1 { color }", "Line 1: Expecting ':'"),
+         Row("a {}\nb { c }", "a{} Line 2: Expecting ':'"),
+         Row("h1 { color: ; }", "Line 1: Expecting value"),
+         Row("h{x:\n", "Line 2: Expecting value"),
+         Row("h1 { color: red }", "Line 1: Expecting ';'"),
+         Row("h{x: red", "Line 1: Expecting ';'"), Row("h1 { color: red}", "Line 1: Expecting ';'"),
+         Row("h{x:a b; }", "Line 1: Expecting ';'"),
+         Row("h1 { color: red;", "Line 1: Expecting '}'"),
+         Row("h{ :red; }", "Line 1: Expecting '}'"), Row("h1\r\r\n{\n", "Line 3: Expecting '}'")},
+        parsed);
 }
 
 TEST(StyleSheet, CutAnywhereKeepsTheCompleteRules) {

@@ -16,7 +16,6 @@ std::string edgesOf(Dimensions const& d) {
 }
 
 TEST(Edges, TakeASidesOwnPropertyBeforeTheShorthand) {
-    using Row = std::pair<char const*, char const*>;
     for (auto const& [css, expected] :
          {Row("", "m 0 0 0 0, b 0 0 0 0, p 0 0 0 0"),
           Row("margin:1; border-width:2; padding:3;", "m 1 1 1 1, b 2 2 2 2, p 3 3 3 3"),
@@ -28,7 +27,7 @@ TEST(Edges, TakeASidesOwnPropertyBeforeTheShorthand) {
               "padding-right:10; padding-top:11; padding-bottom:12;"
               "margin:99; border-width:99; padding:99;",
               "m 1 2 3 4, b 5 6 7 8, p 9 10 11 12")}) {
-        Page const page("<p>word</p>", ("p{" + std::string(css) + "}").c_str());
+        Page const page("<p>word</p>", String(String::formatted, "p{%s}", css.c_str()).c_str());
         Box const& box = page.find("p");
         EXPECT_EQ(edgesOf(box.dimensions), expected);
         EXPECT_EQ(edgesOf(box.children[0]->children[0]->dimensions), edgesOf(Dimensions()));
@@ -38,15 +37,15 @@ TEST(Edges, TakeASidesOwnPropertyBeforeTheShorthand) {
 TEST(Edges, AddUpAroundTheContent) {
     constexpr EdgeSizes ones{1, 1, 1, 1};
     constexpr EdgeSizes limit{INT_MAX, INT_MAX, INT_MAX, INT_MAX};
-    using Row = std::tuple<Dimensions, char const*, char const*, char const*>;
+    using Case = std::tuple<Dimensions, char const*, char const*, char const*>;
     for (auto const& [d, edges, borderBox, marginBox] :
-         {Row({{2, 3, 10, 1}, ones, ones, {}}, "2 2 2 2", "0,1 14x5", "0,1 14x5"),
-          Row({{2, 3, 10, 1}, ones, ones, {2, 2, 2, 2}}, "4 4 4 4", "0,1 14x5", "-2,-1 18x9"),
-          Row({{}, {1, 2, 0, 0}, ones, {0, 0, 3, 1}}, "2 3 4 2", "-2,-1 5x2", "-2,-4 5x6"),
-          Row({{5, 0, 4, 1}, {}, {}, {-1, 0, 0, -2}}, "-1 0 0 -2", "5,0 4x1", "6,0 3x-1"),
-          Row({{0, 0, 1, 1}, limit, limit, limit}, "2147483647 2147483647 2147483647 2147483647",
-              "-2147483648,-2147483648 2147483647x2147483647",
-              "-2147483648,-2147483648 2147483647x2147483647")}) {
+         {Case({{2, 3, 10, 1}, ones, ones, {}}, "2 2 2 2", "0,1 14x5", "0,1 14x5"),
+          Case({{2, 3, 10, 1}, ones, ones, {2, 2, 2, 2}}, "4 4 4 4", "0,1 14x5", "-2,-1 18x9"),
+          Case({{}, {1, 2, 0, 0}, ones, {0, 0, 3, 1}}, "2 3 4 2", "-2,-1 5x2", "-2,-4 5x6"),
+          Case({{5, 0, 4, 1}, {}, {}, {-1, 0, 0, -2}}, "-1 0 0 -2", "5,0 4x1", "6,0 3x-1"),
+          Case({{0, 0, 1, 1}, limit, limit, limit}, "2147483647 2147483647 2147483647 2147483647",
+               "-2147483648,-2147483648 2147483647x2147483647",
+               "-2147483648,-2147483648 2147483647x2147483647")}) {
         EXPECT_EQ(sides(d.edges()), edges);
         EXPECT_EQ(rectangle(d.borderBox()), borderBox);
         EXPECT_EQ(rectangle(d.marginBox()), marginBox);

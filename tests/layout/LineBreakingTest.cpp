@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <tuple>
 
 #include "tests/support/boxes.h"
@@ -38,13 +39,10 @@ TEST(LineBreaking, FillsALineWithTheWordsThatFit) {
 }
 
 TEST(LineBreaking, AWordWiderThanTheLineStaysAloneOnIt) {
-    expectLines({{"abcdef", 3, "6x1|abcdef"},
-                 {"abcdef gh", 3, "7x2|abcdef |gh"},
-                 {"ab abcdef gh", 3, "7x3|ab |abcdef |gh"},
-                 {"a b", 2, "2x2|a |b"},
-                 {"a b", 1, "2x2|a |b"},
-                 {"a b", 0, "2x2|a |b"},
-                 {"a b", -5, "2x2|a |b"}});
+    expectLines({LineCase("abcdef", 3, "6x1|abcdef"), LineCase("abcdef gh", 3, "7x2|abcdef |gh"),
+                 LineCase("ab abcdef gh", 3, "7x3|ab |abcdef |gh"), LineCase("a b", 2, "2x2|a |b"),
+                 LineCase("a b", 1, "2x2|a |b"), LineCase("a b", 0, "2x2|a |b"),
+                 LineCase("a b", -5, "2x2|a |b")});
 }
 
 TEST(LineBreaking, BreaksWithinInlineElements) {
@@ -64,6 +62,7 @@ TEST(LineBreaking, BreaksWithinInlineElements) {
 TEST(LineBreaking, CountsTheContentWidthsOfALineOnly) {
     EXPECT_EQ(lines("<b>aa</b>bb", 4, "b{padding:3;}"), "10x7|aabb");
     EXPECT_EQ(lines("<b>aa</b>bb", 3, "b{padding:3;}"), "8x8|aa|bb");
+    EXPECT_EQ(lines("<b>abc</b>de", 3, "b{margin-right:-2;}"), "3x1|abcde");
     EXPECT_EQ(lines("<b>aa bb</b>", 4, "b{border-width:1;}"), "5x6|aa |bb");
     EXPECT_EQ(lines("ab cd", 8, "p{padding:1; border-width:1;}"), "3x2|ab |cd");
     EXPECT_EQ(lines("ab cd", 9, "p{padding:1; border-width:1;}"), "5x1|ab cd");
@@ -82,6 +81,45 @@ TEST(LineBreaking, IsGreedyAtEveryWidth) {
         }
         std::string const result = lines("a bcd ef ghijkl m n opq rstuv", width);
         EXPECT_EQ(result.substr(result.find('|')), expected) << width;
+    }
+}
+
+/// Lays out a root of nothing but lines, each line whole whenever something was broken off it.
+void layOutStepByStep(Box& root, int width) {
+    Rect& content = root.dimensions.content;
+    content = {0, 0, width, 0};
+    int widest = 0;
+    for (unsigned i = 0; i < root.children.count;) {
+        Box& line = *root.children[i];
+        line.dimensions.content = {0, content.height, 0, 0};
+        line.layout(root.dimensions);
+        ZRLWPtr<Box> rest;
+        if (line.dimensions.content.width > width) rest = line.split(width);
+        if (rest) {
+            root.children.insert(i + 1, rest);
+            continue;
+        }
+        content.height += line.dimensions.content.height;
+        widest = std::max(widest, line.dimensions.content.width);
+        ++i;
+    }
+    content.width = widest;
+}
+
+TEST(LineBreaking, GivesWhatWholeLayoutsOfEveryLineGive) {
+    for (char const* const content :
+         {"a bb <b>ccc <i>dd e</i> f</b> gg hhhh", "<b>aa<i>bb</i></b><i>c d</i>",
+          "a<b/><i> </i>b c", "a <b>b <p>cc dd</p> e</b> <i><p>ff <i>g h</i></p></i>i"}) {
+        for (char const* const css : {"", "b{padding:1;}", "b{margin:1;} i{margin-left:3;}",
+                                      "i{margin-left:-2;}", "b{margin-right:-3;} i{padding:-1;}"}) {
+            for (int width = -3; width <= 24; ++width) {
+                Page expected(content, css);
+                layOutStepByStep(*expected.box, width);
+                Page page(content, css);
+                page.layOut(width);
+                EXPECT_EQ(places(*page.box), places(*expected.box)) << css << " at " << width;
+            }
+        }
     }
 }
 

@@ -14,15 +14,14 @@ TEST(Scanning, ReadsUpToTheFirstMemberOfTheSet) {
     for (auto const& [text, set, end, lines] :
          {ScanCase("ab\ncd<", "<", 5, 2), ScanCase("<ab", "<", 0, 1), ScanCase("abc", "<>", 3, 1),
           ScanCase("", "<", 0, 1), ScanCase("a\r\nb\rc", "<", 6, 2), ScanCase("a\nb", " \n", 1, 1),
-          ScanCase(bytes("ab\0cd"), "<", 2, 1), ScanCase("\xE9\xFF<", "<", 2, 1),
-          ScanCase("a\xE9", "\xE9", 1, 1)}) {
-        SCOPED_TRACE(shown(text));
+          ScanCase(bytes("ab\0cd"), "<", 2, 1), ScanCase("\xE9<\xFF", "<\xFF", 1, 1),
+          ScanCase("i\xE9", "\xE9", 1, 1)}) {
         int position = 0;
         int line = 1;
         String out = "x";
-        EXPECT_EQ(parseUntilCharacter(text, position, line, out, set), end);
-        EXPECT_EQ(position, end);
-        EXPECT_EQ(line, lines);
+        EXPECT_EQ(parseUntilCharacter(text, position, line, out, set), end) << shown(text);
+        EXPECT_EQ(position, end) << shown(text);
+        EXPECT_EQ(line, lines) << shown(text);
         EXPECT_EQ(shown(out), "x" + shown(text.substring(0, end)));
     }
 }
@@ -40,22 +39,21 @@ TEST(Scanning, SkipsTheMembersOfTheSet) {
 }
 
 TEST(Scanning, MatchesOnlyWhatFitsBeforeTheEnd) {
-    using Row = std::tuple<char const*, int, char const*, int>;
+    using Case = std::tuple<char const*, int, char const*, int>;
     for (auto const& [text, start, literal, end] :
-         {Row("a<!--", 1, "<!--", 5), Row("a<!-", 1, "<!--", 1), Row("<!-x", 0, "<!--", 0),
-          Row("<", 1, "<", 1), Row("", 0, "", 0)}) {
+         {Case("a<!--", 1, "<!--", 5), Case("a<!-", 1, "<!--", 1), Case("<!-x", 0, "<!--", 0),
+          Case("<", 1, "<", 1), Case("", 0, "", 0)}) {
         int position = start;
         EXPECT_EQ(peekString(text, start, literal), parseString(text, position, literal)) << text;
         EXPECT_EQ(position, end) << text;
     }
-    String const text = bytes("a\xE9\0");
+    String const text = bytes("\xE9\0");
     int position = 0;
-    EXPECT_FALSE(parseCharacter(text, position, 'b'));
-    EXPECT_TRUE(peekCharacter(text, position, "xa") && !peekCharacter(text, position, "x"));
-    EXPECT_TRUE(parseCharacter(text, position, 'a') && parseCharacter(text, position, '\xE9'));
+    EXPECT_FALSE(parseCharacter(text, position, 'i') || peekCharacter(text, position, "i"));
+    EXPECT_TRUE(peekCharacter(text, position, "x\xE9") && parseCharacter(text, position, '\xE9'));
     EXPECT_TRUE(peekCharacter(text, position, "x") && parseCharacter(text, position, '\0'));
     EXPECT_FALSE(peekCharacter(text, position, "x") || parseCharacter(text, position, '\0'));
-    EXPECT_EQ(position, 3);
+    EXPECT_EQ(position, 2);
 }
 
 }  // namespace

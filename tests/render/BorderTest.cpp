@@ -63,6 +63,7 @@ TEST(Border, DrawsEachSideByItsOwnRule) {
          {"border-width:1; border-style:xy; border-corner-style:+-;",
           "+-xy+-xyxy$\nxabcxy$\n+-xy+-xyxy$\n"},
          {"border-width:2; border-bottom-width:-1;", "*******$\n*     *$\n  abc$\n"},
+         {"border-width:-1; padding:2; border-corner-style:+;", "$\n abc$\n"},
          {"border-width:1; padding-left:-1;", "****$\nabc*$\n****$\n"}});
     expectBorders("<td display=\"block\" border-style=\"\">a</td><td display=\"block\"/>",
                   {{"border-width:1;", "$\n a$\n$\n**$\n**$\n"}});

@@ -58,12 +58,12 @@ TEST(Canvas, ShowsEveryByteButNul) {
 }
 
 TEST(Canvas, ClipsTextLeftOfAndAboveItsOrigin) {
-    using Row = std::tuple<String, unsigned, unsigned, char const*>;
+    using Case = std::tuple<String, unsigned, unsigned, char const*>;
     for (auto const& [text, x, y, expected] :
-         {Row("abc", -1, 0, "bc2$\n"), Row("abc", -2, 0, "c12$\n"), Row("abc", -3, 0, "012$\n"),
-          Row("abc", INT_MIN, 0, "012$\n"), Row("abc", 0, -1, "012$\n"),
-          Row("abc", 0, INT_MIN, "012$\n"), Row(bytes("ab\0cd"), -1, 0, "b12$\n"),
-          Row(bytes("a\0bcd"), -2, 0, "012$\n")}) {
+         {Case("abc", -1, 0, "bc2$\n"), Case("abc", -2, 0, "c12$\n"), Case("abc", -3, 0, "012$\n"),
+          Case("abc", INT_MIN, 0, "012$\n"), Case("abc", 0, -1, "012$\n"),
+          Case("abc", 0, INT_MIN, "012$\n"), Case(bytes("ab\0cd"), -1, 0, "b12$\n"),
+          Case(bytes("a\0bcd"), -2, 0, "012$\n")}) {
         Canvas canvas;
         canvas.draw("012", 0, 0, s_plain);
         int const column = static_cast<int>(x);
@@ -124,13 +124,13 @@ TEST(Canvas, HoldsMoreAttributeValuesThanAByteCanNumber) {
 
 TEST(Attributes, ResetAndBuildTheWholeNewState) {
     constexpr std::uint8_t none = Attributes::NoColor;
-    using Row = std::tuple<Attributes, Attributes, char const*>;
+    using Case = std::tuple<Attributes, Attributes, char const*>;
     for (auto const& [from, to, expected] :
-         {Row({}, {}, ""), Row({0, 1, 2}, {0, 1, 2}, ""), Row({1, 1, 1}, {}, "^[[0m"),
-          Row({}, {0x03, none, none}, "^[[0m^[[1m^[[2m"), Row({}, {0x80, none, none}, "^[[0m"),
-          Row({}, {0x7F, none, none}, "^[[0m^[[1m^[[2m^[[3m^[[4m^[[5m^[[7m^[[8m"),
-          Row({1, 1, 1}, {0x21, 0, 7}, "^[[0m^[[1m^[[7m^[[30m^[[47m"),
-          Row({0, 1, 2}, {0, 1, none}, "^[[0m^[[31m")}) {
+         {Case({}, {}, ""), Case({0, 1, 2}, {0, 1, 2}, ""), Case({1, 1, 1}, {}, "^[[0m"),
+          Case({}, {0x03, none, none}, "^[[0m^[[1m^[[2m"), Case({}, {0x80, none, none}, "^[[0m"),
+          Case({}, {0x7F, none, none}, "^[[0m^[[1m^[[2m^[[3m^[[4m^[[5m^[[7m^[[8m"),
+          Case({1, 1, 1}, {0x21, 0, 7}, "^[[0m^[[1m^[[7m^[[30m^[[47m"),
+          Case({0, 1, 2}, {0, 1, none}, "^[[0m^[[31m")}) {
         EXPECT_EQ(shown(to.generateFormattingFrom(from)), expected);
     }
 }

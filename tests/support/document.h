@@ -4,7 +4,6 @@
 
 #include "tests/support/text.h"
 #include "xml/css/parseCss.h"
-#include "xml/dom/DomElement.h"
 #include "xml/dom/buildDomTree.h"
 
 namespace CLI::XML {
@@ -30,20 +29,18 @@ struct Document {
 
 /// The tree below a node in one line: "p['Hello ' b['you'] '!']".
 inline std::string shape(DomNode const& node) {
+    DomElement const* const element = asElement(&node);
+    if (element == nullptr || element->children.count == 0) return shown(node.toString());
     std::string children;
-    if (DomElement const* const element = asElement(&node)) {
-        for (auto const& child : element->children) children += " " + shape(*child);
-    }
-    std::string const own = shown(node.toString());
-    return children.empty() ? own : own + "[" + children.substr(1) + "]";
+    for (auto const& child : element->children) children += " " + shape(*child);
+    return shown(node.toString()) + "[" + children.substr(1) + "]";
 }
 
 /// The first element with this name below `parent`, depth first; null when there is none.
 inline DomElement const* findElement(DomElement const& parent, char const* name) {
     for (ZRLWPtr<DomNode> const& child : parent.children) {
         DomElement const* const element = asElement(child.object);
-        if (element == nullptr) continue;
-        if (element->name == name) return element;
+        if (element == nullptr || element->name == name) return element;
         if (DomElement const* const found = findElement(*element, name)) return found;
     }
     return nullptr;

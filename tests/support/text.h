@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <ostream>
 #include <string>
+#include <utility>
 
 #include "base/String.h"
 #include "base/XCode.h"
@@ -35,6 +36,14 @@ inline std::string shown(String const& text) {
 
 /// How GoogleTest prints a text.
 inline void PrintTo(String const& text, std::ostream* out) { *out << '"' << shown(text) << '"'; }
+
+/// A row of a table: an input, and what has to become of it.
+using Row = std::pair<String, char const*>;
+
+template <class Act>
+void expectEach(std::initializer_list<Row> rows, Act const& act) {
+    for (auto const& [input, expected] : rows) EXPECT_EQ(act(input), expected) << shown(input);
+}
 
 /// A picture in a raw string, without the line feed that opens it.
 inline std::string picture(char const* rawString) { return rawString + 1; }

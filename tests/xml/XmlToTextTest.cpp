@@ -24,20 +24,21 @@ std::string converted(String const& markup, unsigned width, char const* css = ""
 }
 
 TEST(Conversion, AppendsThePageOrFailsWithTheMessageOfTheStage) {
-    using Row = std::tuple<String, unsigned, char const*>;
+    using Case = std::tuple<String, unsigned, char const*>;
     for (auto const& [markup, width, expected] :
-         {Row("", 80, ""), Row("<p></p> <!-- nothing -->", 80, ""), Row("<p>hi</p>", 80, "hi$\n"),
-          Row("<p>a b</p>", 0, "a $\nb$\n"), Row("<p>a b</p>", 1, "a $\nb$\n"),
-          Row("<p>a b</p>", 2, "a $\nb$\n"), Row("<p>a b</p>", 3, "a b$\n"),
-          Row("<p>a b</p>", 0x7FFFFFFF, "a b$\n"), Row("<p>a b</p>", 0x80000000, "a b$\n"),
-          Row("<p>a b</p>", 0xFFFFFFFF, "a b$\n"), Row("na\xC3\xAFve x", 6, "naM-CM-/ve $\nx$\n"),
-          Row(bytes("<![CDATA[a\0b]]>"), 80, "a$\n"),
-          Row(bytes("a\0b"), 80, "1: Expecting content"),
-          Row("< p>", 80, "1: Expecting element type"),
-          Row("<p>hi</p><br/>", 80, "Invalid tag: <br>"),
-          Row("<p>hi</p>\n<p>", 80, "Line 2: Missing end tag at the end"),
-          Row("<b>hi</i>", 80, "End tag </i> does not match start tag <b>"),
-          Row("<p>hi</p><td/>", 80, "Cannot layout 'td' within 'html'")}) {
+         {Case("", 80, ""), Case("<p></p> <!-- nothing -->", 80, ""),
+          Case("<p>hi</p>", 80, "hi$\n"), Case("<p>a b</p>", 0, "a $\nb$\n"),
+          Case("<p>a b</p>", 1, "a $\nb$\n"), Case("<p>a b</p>", 2, "a $\nb$\n"),
+          Case("<p>a b</p>", 3, "a b$\n"), Case("<p>a b</p>", 0x7FFFFFFF, "a b$\n"),
+          Case("<p>a b</p>", 0x80000000, "a b$\n"), Case("<p>a b</p>", 0xFFFFFFFF, "a b$\n"),
+          Case("na\xC3\xAFve x", 6, "naM-CM-/ve $\nx$\n"),
+          Case(bytes("<![CDATA[a\0b]]>"), 80, "a$\n"),
+          Case(bytes("a\0b"), 80, "1: Expecting content"),
+          Case("< p>", 80, "1: Expecting element type"),
+          Case("<p>hi</p><br/>", 80, "Invalid tag: <br>"),
+          Case("<p>hi</p>\n<p>", 80, "Line 2: Missing end tag at the end"),
+          Case("<b>hi</i>", 80, "End tag </i> does not match start tag <b>"),
+          Case("<p>hi</p><td/>", 80, "Cannot layout 'td' within 'html'")}) {
         EXPECT_EQ(converted(markup, width), expected) << shown(markup) << " at " << width;
     }
 }

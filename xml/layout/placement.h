@@ -8,8 +8,8 @@
 namespace CLI::XML {
 
 /// The gap before a child: as much of its margin as the margin before it does not cover.
-inline std::int32_t uncoveredMargin(std::int32_t before, std::int32_t margin) {
-    return std::max(0, saturate(std::int64_t{margin} - before));
+inline std::int64_t uncoveredMargin(std::int32_t before, std::int32_t margin) {
+    return std::max<std::int64_t>(0, std::int64_t{margin} - before);
 }
 
 /// Stacks children downwards in a block or a table. The position of a child leaves out the part
@@ -25,10 +25,9 @@ public:
     /// Sets the position at which the child is to be laid out.
     void place(Dimensions& child) const {
         EdgeSizes const edges = child.edges();
-        std::int64_t const y =
-            std::int64_t{content.height} + uncoveredMargin(previousMargin, child.margin.top);
+        std::int64_t const gap = uncoveredMargin(previousMargin, child.margin.top);
         child.content.x = edges.left;
-        child.content.y = saturate(y + child.border.top + child.padding.top);
+        child.content.y = saturate(content.height + gap + child.border.top + child.padding.top);
     }
 
     /// Takes the child in after its layout.
@@ -49,8 +48,8 @@ private:
 };
 
 /// Where a child's content begins behind `width` columns and a gap.
-inline std::int32_t contentXBehind(std::int32_t width, std::int32_t gap, Dimensions const& child) {
-    return saturate(std::int64_t{width} + gap + child.border.left + child.padding.left);
+inline std::int32_t contentXBehind(std::int32_t width, std::int64_t gap, Dimensions const& child) {
+    return saturate(width + gap + child.border.left + child.padding.left);
 }
 
 /// The same in an inline element or a row, where a left margin counts as far as it exceeds the

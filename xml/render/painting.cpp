@@ -59,7 +59,7 @@ void applyFontStyle(String const& value, Attributes& attributes) {
 /// Draws `text` in every row of `area` that the canvas can hold, beginning at column `x`.
 void drawColumn(Canvas& canvas, String const& text, int x, Rect const& area,
                 Attributes const& attributes) {
-    if (text.length() == 0) return;
+    if (std::int64_t{x} + text.length() <= 0) return;  // as many rows as there may be
     int const end = saturate(std::int64_t{area.y} + area.height);
     for (int row = std::max(area.y, 0); row < end; ++row) {
         canvas.drawClipped(text, x, row, attributes);
