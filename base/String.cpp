@@ -187,15 +187,16 @@ String& String::vformat(char const* format, va_list arguments) {
 }
 
 String& String::insert(int position, String const& s) {
-    if (position < 0) position = 0;
-    if (position >= length()) return *this += s;
-    String result;
-    if (s.length() > s_longestText - length() || !result.reserve(length() + s.length())) {
-        return *this;
-    }
-    result.concat(c_str(), position).concat(s.c_str(), s.length());
-    result.concat(c_str() + position, length() - position);
-    return *this = std::move(result);
+    String const inserted = s;  // may be this string
+    int const added = inserted.length();
+    int const behind = length() - std::clamp(position, 0, length());
+    if (added > s_longestText - length() || !reserve(length() + added)) return *this;
+    char* const place = store.begin() + (length() - behind);
+    // The NUL moves along.
+    std::memmove(place + added, place, static_cast<std::size_t>(behind) + 1);
+    std::memcpy(place, inserted.c_str(), static_cast<std::size_t>(added));
+    store.length += added;
+    return *this;
 }
 
 String& String::deleteRegion(int from, int to) {

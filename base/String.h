@@ -2,6 +2,7 @@
 
 #include <cstdarg>
 #include <cstdint>
+#include <string_view>
 
 /// A byte string with a 7-character inline buffer. One byte is one character and one terminal
 /// cell; there is no encoding awareness. The text is always NUL-terminated in its buffer, but the
@@ -68,6 +69,8 @@ public:
     /// Bytes of the buffer less 8; 0 while the text is inline.
     int capacity() const { return store.capacity; }
     char const* c_str() const { return store.begin(); }
+    /// The characters, a NUL among them included.
+    std::string_view view() const { return {c_str(), static_cast<std::size_t>(length())}; }
     /// The byte at `position`; NUL outside of [0, length).
     char operator[](int position) const {
         return position >= 0 && position < store.length ? store.begin()[position] : '\0';

@@ -8,9 +8,8 @@
 ///
 /// 1. The elements are the first `count` slots of `data`; `count` <= `capacity`.
 /// 2. Slots past `count` hold T's default value (or are unset where T has no constructor).
-/// 3. `capacity` follows the growth step; the storage itself is doubled when it is outgrown, so
-///    that appending costs constant time. It holds `capacity` slots or more, but for a vector
-///    whose tail has been moved out: that one holds as many as it has elements, or more.
+/// 3. The storage holds more than `capacity` slots; it is doubled when it is outgrown, so that
+///    appending costs constant time, while `capacity` follows the growth step.
 ///
 /// Where storage cannot be had the allocator's exception passes and the vector is unchanged.
 template <class T>
@@ -30,7 +29,6 @@ public:
     ZRVector& operator=(ZRVector const& other) {
         if (this == &other) return *this;
         if (other.count > capacity && !enlarge(other.count)) return *this;
-        provide(other.count);
         for (unsigned i = 0; i < other.count; ++i) data[i] = other.data[i];
         for (unsigned i = other.count; i < count; ++i) data[i] = T();
         count = other.count;
@@ -58,11 +56,11 @@ public:
     /// Makes `capacity` the smallest multiple of `growBy` greater than `n`, unless it is greater
     /// than `n` already. True on success.
     bool enlarge(unsigned n) {
-        unsigned long long const stepped = (n / growBy + 1ULL) * growBy;
-        if (stepped > std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
-        unsigned const slots = n < capacity ? capacity : static_cast<unsigned>(stepped);
-        provide(n < capacity ? n + 1 : slots);
-        capacity = slots;
+        if (n < capacity) return true;
+        unsigned long long const slots = (n / growBy + 1ULL) * growBy;
+        if (slots >= std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
+        provide(static_cast<unsigned>(slots));
+        capacity = static_cast<unsigned>(slots);
         return true;
     }
 
@@ -88,12 +86,16 @@ public:
         data[--count] = T();
     }
 
-    /// Moves the elements from `i` on to the end of `target`, in time proportional to the smaller
-    /// part where `target` has no storage yet. The capacity stays.
+    /// Moves the elements from `i` on to the end of `target`, another vector. Where that has no
+    /// storage and the moved part is the larger one, it gets this vector's storage, and this
+    /// vector is as if its remaining elements had been added to a new one.
     void moveTailTo(unsigned i, ZRVector& target) {
         if (i >= count) return;
         if (target.data == nullptr && i < count - i) {
-            handStorageTo(i, target);
+            ZRVector head;
+            for (unsigned slot = 0; slot < i; ++slot) head.add(std::move(data[slot]));
+            target.takeStorageFrom(i, *this);
+            exchange(head);
             return;
         }
         for (unsigned slot = i; slot < count; ++slot) {
@@ -113,19 +115,16 @@ private:
     /// Makes slot `i` exist.
     void growToHold(unsigned i) {
         if (i == std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
-        if (i >= capacity) {
-            enlarge(i + 1);
-        } else {
-            provide(i + 1);
-        }
+        if (i >= capacity) enlarge(i + 1);
     }
 
-    /// Sees to it that the storage holds `slots` slots.
+    /// Sees to it that the storage holds more than `slots` slots: with one to spare, a tail of
+    /// any length fits its capacity.
     void provide(unsigned slots) {
-        if (slots <= allocated) return;
+        if (slots < allocated) return;
         unsigned const doubled =
             allocated > std::numeric_limits<unsigned>::max() / 2 ? slots : allocated * 2;
-        moveTo(slots > doubled ? slots : doubled);
+        moveTo(slots + 1 > doubled ? slots + 1 : doubled);
     }
 
     /// Moves the elements into new storage.
@@ -138,23 +137,15 @@ private:
         skipped = 0;
     }
 
-    /// Gives the storage, with the elements from `i` on, to `target`, which has none, and keeps
-    /// the elements before them in storage of its own.
-    void handStorageTo(unsigned i, ZRVector& target) {
-        ZRVector head;
-        if (i > 0) head.provide(i);
-        for (unsigned slot = 0; slot < i; ++slot) head.data[slot] = std::move(data[slot]);
-        target.data = data + i;
-        target.count = count - i;
-        target.allocated = allocated - i;
-        target.skipped = skipped + i;
-        // What adding the elements one by one would have made of it.
-        unsigned const step = target.growBy < 2 ? 2 : target.growBy;
-        target.capacity = (target.count + step - 1) / step * step;
-        data = std::exchange(head.data, nullptr);
-        allocated = head.allocated;
-        skipped = 0;
-        count = i;
+    /// Takes the storage of `source` with its elements from `i` on. Nothing was held before.
+    void takeStorageFrom(unsigned i, ZRVector& source) {
+        unsigned const kept = std::exchange(source.count, 0) - i;
+        data = std::exchange(source.data, nullptr) + i;
+        allocated = std::exchange(source.allocated, 0) - i;
+        skipped = std::exchange(source.skipped, 0) + i;
+        source.capacity = 0;
+        count = kept;
+        capacity = (kept + 1) / 2 * 2;
     }
 
     void freeStorage() { delete[](data - skipped); }

@@ -2,8 +2,25 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <cstdint>
-#include <limits>
+
+#include "base/String.h"
+
+namespace {
+
+std::string isWholeNumber(std::string const& text) {
+    bool const valid = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+    return valid ? "" : "'" + text + "' is not a number of columns";
+}
+
+/// Standard input can be read once only.
+void checkInputs(Options const& options) {
+    auto const sheets = std::count(options.sheets.begin(), options.sheets.end(), "-");
+    if (sheets + (options.document == "-" ? 1 : 0) > 1) {
+        throw CLI::ValidationError("-", "standard input can be read only once");
+    }
+}
+
+}  // namespace
 
 std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& options) {
     CLI::App app("Renders a document in a small XML/XHTML subset as text for a terminal.",
@@ -15,11 +32,11 @@ std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& optio
                    "A style sheet; any number of them, their rules in the order given")
         ->option_text("FILE")
         ->allow_extra_args(false);
-    std::optional<std::int64_t> width;
+    std::string width;
     app.add_option("--width", width,
                    "Width of the page in columns (default: the terminal's, else 80)")
         ->option_text("N")
-        ->check(CLI::Range(std::int64_t{0}, std::numeric_limits<std::int64_t>::max()));
+        ->check(isWholeNumber);
     std::string tree;
     app.add_option("--dump", tree,
                    "Print a tree instead of the page: the document's, or the boxes after layout")
@@ -28,13 +45,11 @@ std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& optio
 
     try {
         app.parse(argc, argv);
+        checkInputs(options);
     } catch (CLI::ParseError const& error) {
         return app.exit(error) == 0 ? ExitStatus::Rendered : ExitStatus::Usage;
     }
-    if (width) {
-        std::int64_t const widest = std::numeric_limits<unsigned>::max();
-        options.width = static_cast<unsigned>(std::min(*width, widest));
-    }
+    if (!width.empty()) options.width = static_cast<unsigned>(String(width.c_str()).toInteger());
     if (tree == "dom") options.output = Options::Output::DocumentTree;
     if (tree == "boxes") options.output = Options::Output::BoxTree;
     return std::nullopt;

@@ -32,6 +32,7 @@ build_tool() {
         flock 9  # two pages may be asked for at once
         scripts/setup render
         if [[ ! -e build/release/build.ninja ]]; then
+            printf 'building galley, about a minute\n' >&2
             quietly tool.log cmake --preset release -DGALLEY_BUILD_TESTS=OFF
         fi
         quietly tool.log cmake --build --preset release --target galley-cli

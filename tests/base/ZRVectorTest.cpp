@@ -97,7 +97,8 @@ TEST(VectorTail, MovesBehindTheElementsOfTheTarget) {
             std::string const moved = from < 5 ? all.substr(2 * from) : "";
             EXPECT_EQ(elements(target), (hasElement ? " x" : "") + moved);
             EXPECT_EQ(elements(source) + moved, all);
-            EXPECT_EQ(source.capacity, 6U);
+            bool const handsStorageOver = !hasElement && from < 3;
+            EXPECT_EQ(source.capacity, handsStorageOver ? (from + 1) / 2 * 2 : 6U);
             EXPECT_EQ(target.capacity, (target.count + 1) / 2 * 2);
             source.add("y");
             target.insert(0, "z");

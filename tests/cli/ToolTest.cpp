@@ -114,8 +114,8 @@ TEST_F(Tool, SaysWhichFileAndLineIsAtFault) {
 }
 
 TEST_F(Tool, RefusesWhatItDoesNotKnow) {
-    for (char const* arguments :
-         {"--nonsense", "--width x", "--width -1", "--dump html", "--css", "one.xml two.xml"}) {
+    for (char const* arguments : {"--nonsense", "--width x", "--width -1", "--dump html", "--css",
+                                  "--css - -", "--width 0x3", "--width ''", "one.xml two.xml"}) {
         Outcome const outcome = run(arguments);
         EXPECT_EQ(outcome.status, 2) << arguments;
         EXPECT_EQ(outcome.out, "") << arguments;

@@ -39,6 +39,7 @@ TEST(Vocabulary, GivesEachTagItsDisplayKind) {
                    EXPECT_TRUE(!element || element->toString() == tag);
                    return displayOf(element);
                });
+    EXPECT_FALSE(createDomElement(bytes("p\0x")));
 }
 
 TEST(Attributes, LetDisplayChooseTheKindByAnExactKeyword) {

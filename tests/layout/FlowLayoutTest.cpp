@@ -77,6 +77,11 @@ TEST(FlowLayout, SaturatesAtTheLimitsOf32Bits) {
                     "1x1['a'] "
                     "b 2147483647,2147483647 1x1['c']]]")},
                placed);
+    Page page("<b><i margin-left=\"2147483647\">a</i></b>b<i>c</i>");
+    page.layOut(2147483647);
+    EXPECT_EQ(places(*page.box),
+              "html 0,0 2147483647x1[line 0,0 2147483647x1[b 0,0 2147483647x1["
+              "i 2147483647,0 1x1['a']] 'b' 2147483647,0 1x1 i 2147483647,0 1x1['c']]]");
 }
 
 }  // namespace

@@ -73,9 +73,7 @@ TEST(TableLayout, StacksTheRows) {
 TEST(TableLayout, LetsAnUnconstrainedCellFollowTheOneBeforeIt) {
     Page page("<table><tr><td>a</td><td>b</td></tr></table>", "td{margin-left:3; margin-right:2;}");
     auto& row = static_cast<RowBox&>(page.find("tr"));
-    for (unsigned i : {0U, 1U}) {
-        row[i].columnDimensions.content.width = CellBox::s_unconstrainedWidth;
-    }
+    for (unsigned i : {0U, 1U}) row[i].columnDimensions.content.width = 0x7FFFFFFF;
     row.layout(Dimensions());
     EXPECT_EQ(places(row), "tr 0,0 12x1[td 3,0 1x1['a'] td 7,0 1x1['b']]");
 }

@@ -70,10 +70,13 @@ TEST(Border, DrawsEachSideByItsOwnRule) {
 }
 
 TEST(Border, IsClippedAtTheFirstColumnAndRow) {
-    expectBorders("<td display=\"block\">abc</td>",
-                  {{"border-width:1; margin-left:-1;", "****$\nabc*$\n****$\n"},
-                   {"border-width:1; margin-left:-2;", "***$\nbc*$\n***$\n"},
-                   {"border-left-width:1; margin-left:-1; border-style:<--->;", "abc>$\n"}});
+    expectBorders(
+        "<td display=\"block\">abc</td>",
+        {{"border-width:1; margin-left:-1;", "****$\nabc*$\n****$\n"},
+         {"border-width:1; margin-left:-2;", "***$\nbc*$\n***$\n"},
+         {"border-left-width:1; margin-left:-1; border-style:<--->;", "abc>$\n"},
+         {"border-width:1; margin-left:-5; border-style:xyz;", "zxyzxyzxyz$\nyz$\nzxyzxyzxyz$\n"},
+         {"border-top-width:1; margin-left:-2147483000; padding-right:2147483000;", "***$\n$\n"}});
     expectBorders("<td display=\"inline\">abc</td>",
                   {{"border-width:1; margin-top:-1;", "*abc*$\n*****$\n"},
                    {"border-width:1; margin-top:-2;", "*****$\n"}});

@@ -33,7 +33,7 @@ block:  html: (0, 0, 11, 1)$
 TEST(Dump, LabelsEveryKindOfBox) {
     Page page("<table margin-left=\"-3\"><tr><td/><th/></tr></table>");
     page.layOut(80);
-    page.find("th").type = static_cast<Box::Type>(6);
+    page.find("th").type = static_cast<Box::Type>(9);
     EXPECT_EQ(shown(page.box->dump(0)), picture(R"(
 block:  html: (0, 0, 0, 0)$
   table:  table: (-3, 0, 0, 0)$

@@ -5,7 +5,7 @@ namespace CLI::XML {
 namespace {
 
 struct DisplayKeyword {
-    char const* keyword;
+    std::string_view keyword;
     DomNode::Display display;
 };
 
@@ -26,7 +26,7 @@ XCode DomElement::setAttributes(ZRStringHashTable<String> const& source) {
     String value;
     if (!attributes.get("display", value)) return XCode();
     for (DisplayKeyword const& candidate : s_displayKeywords) {
-        if (value == candidate.keyword) display = candidate.display;
+        if (value.view() == candidate.keyword) display = candidate.display;
     }
     return XCode();
 }

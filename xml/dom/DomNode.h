@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "base/RefCounted.h"
 #include "base/String.h"
 
@@ -9,10 +11,10 @@ namespace CLI::XML {
 /// downwards only.
 class DomNode : public ZR::RefCounted {
 public:
-    enum Kind { Text, Element };
+    enum Kind : std::int32_t { Text, Element };
 
     /// How a node takes part in layout.
-    enum Display { Block, Inline, Table, TableRow, TableCell, None };
+    enum Display : std::int32_t { Block, Inline, Table, TableRow, TableCell, None };
 
     Kind kind;
     Display display;

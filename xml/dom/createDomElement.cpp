@@ -5,7 +5,7 @@ namespace CLI::XML {
 namespace {
 
 struct VocabularyEntry {
-    char const* tag;
+    std::string_view tag;
     DomNode::Display display;
 };
 
@@ -21,7 +21,8 @@ constexpr VocabularyEntry s_vocabulary[] = {
 
 ZRLWPtr<DomElement> createDomElement(String const& tag) {
     for (VocabularyEntry const& entry : s_vocabulary) {
-        if (tag == entry.tag) return ZR::MovePtr<DomElement>(new DomElement(tag, entry.display));
+        if (tag.view() == entry.tag)
+            return ZR::MovePtr<DomElement>(new DomElement(tag, entry.display));
     }
     return {};
 }

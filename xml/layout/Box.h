@@ -20,7 +20,7 @@ class DomNode;
 /// out, break, paint, show.
 class Box : public ZR::RefCounted {
 public:
-    enum Type { Block, Line, Inline, Table, Row, Cell };
+    enum Type : std::int32_t { Block, Line, Inline, Table, Row, Cell };
 
     /// The node that the box renders; null for a line box only.
     DomNode* node;

@@ -1,5 +1,7 @@
 // How a box builds the boxes below it from the children of its node.
 
+#include <iterator>
+
 #include "xml/dom/DomElement.h"
 #include "xml/layout/BlockBox.h"
 #include "xml/layout/TableBox.h"
@@ -25,6 +27,11 @@ constexpr ChildRules s_inTable = {nullptr, nullptr, nullptr, make<RowBox>, nullp
 constexpr ChildRules s_inRow = {nullptr, nullptr, nullptr, nullptr, make<CellBox>};
 constexpr ChildRules s_inInline = {make<BlockBox>, make<InlineBox>, nullptr, nullptr, nullptr};
 
+MakeBox ruleFor(DomNode const& child, ChildRules const& rules) {
+    auto const display = static_cast<std::size_t>(child.display);
+    return display < std::size(rules) ? rules[display] : nullptr;
+}
+
 XCode refuse(DomNode const& child, DomElement const& parent) {
     DomElement const* const element = asElement(&child);
     return testExpression(false).setStringF("Cannot layout '%s' within '%s'",
@@ -38,7 +45,7 @@ XCode createChildrenOf(Box& box, ChildRules const& rules) {
     if (element == nullptr) return XCode();
     for (ZRLWPtr<DomNode> const& child : element->children) {
         if (child->display == DomNode::None) continue;
-        MakeBox const makeChild = rules[child->display];
+        MakeBox const makeChild = ruleFor(*child, rules);
         if (makeChild == nullptr) return refuse(*child, *element);
         ZRLWPtr<Box> const made = makeChild(child.object);
         if (child->display == DomNode::Inline) {

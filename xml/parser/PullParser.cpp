@@ -98,8 +98,7 @@ XCode PullParser::readContent() {
         return XCode();
     }
     int const start = position;
-    std::string_view const bytes(text.c_str(), static_cast<std::size_t>(text.length()));
-    auto const end = bytes.find(s_cdataEnd, static_cast<std::size_t>(start));
+    auto const end = text.view().find(s_cdataEnd, static_cast<std::size_t>(start));
     skipTo(end == std::string_view::npos ? -1 : static_cast<int>(end));
     content.concat(text.c_str() + start, position - start);
     if (position == start) return fail(s_expectingContent);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "base/String.h"
 #include "base/XCode.h"
 #include "base/ZRVector.h"
@@ -20,7 +22,7 @@ public:
         String value;
     };
 
-    enum TagType {
+    enum TagType : std::int32_t {
         TAG_ERROR,            ///< nothing can be read; never answered by this parser
         TAG_END_OF_DOCUMENT,  ///< the end of the text
         TAG_START,            ///< a start tag or an empty-element tag

@@ -5,7 +5,7 @@ namespace CLI::XML {
 namespace {
 
 struct ColorName {
-    char const* name;
+    std::string_view name;
     std::uint8_t number;
 };
 
@@ -32,7 +32,7 @@ constexpr FlagEscape s_flagEscapes[] = {
 
 std::uint8_t Canvas::Attributes::color(String const& name) {
     for (ColorName const& candidate : s_colorNames) {
-        if (name == candidate.name) return candidate.number;
+        if (name.view() == candidate.name) return candidate.number;
     }
     return NoColor;
 }

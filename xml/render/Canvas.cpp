@@ -13,7 +13,11 @@ namespace {
 /// fillers, those behind them are for the caller to set.
 void lengthen(ZRVector<Canvas::Byte>& row, unsigned width, unsigned filled) {
     unsigned const formerWidth = row.count;
-    if (width > formerWidth) row[width - 1];
+    if (width > formerWidth) {
+        // As many slots as cells added one by one would take.
+        row.enlarge(width - 1);
+        row[width - 1];
+    }
     for (unsigned i = formerWidth; i < std::min(filled, width); ++i)
         row.data[i] = Canvas::Byte::make(' ', 0);
 }

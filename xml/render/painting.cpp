@@ -15,7 +15,7 @@ using Attributes = Canvas::Attributes;
 
 /// What a value of "font-style" does to the flags.
 struct FontStyle {
-    char const* value;
+    std::string_view value;
     bool keepsFlags;
     std::uint8_t added;
 };
@@ -27,11 +27,11 @@ constexpr FontStyle s_fontStyles[] = {
     {"oblique", true, Attributes::Faint},
     {"mark", true, Attributes::Blink},
 };
-constexpr FontStyle s_unknownFontStyle = {nullptr, false, 0};
+constexpr FontStyle s_unknownFontStyle = {"", false, 0};
 
 /// The flag that an inline element's name adds.
 struct ElementFlag {
-    char const* name;
+    std::string_view name;
     std::uint8_t flag;
 };
 
@@ -42,15 +42,15 @@ constexpr ElementFlag s_elementFlags[] = {
 
 std::uint8_t flagOfElement(String const& name) {
     for (ElementFlag const& candidate : s_elementFlags) {
-        if (name == candidate.name) return candidate.flag;
+        if (name.view() == candidate.name) return candidate.flag;
     }
     return 0;
 }
 
 void applyFontStyle(String const& value, Attributes& attributes) {
-    auto const* const found =
-        std::find_if(std::begin(s_fontStyles), std::end(s_fontStyles),
-                     [&value](FontStyle const& candidate) { return value == candidate.value; });
+    auto const* const found = std::find_if(
+        std::begin(s_fontStyles), std::end(s_fontStyles),
+        [&value](FontStyle const& candidate) { return value.view() == candidate.value; });
     FontStyle const& style = found != std::end(s_fontStyles) ? *found : s_unknownFontStyle;
     std::uint8_t const kept = style.keepsFlags ? attributes.flags : std::uint8_t{0};
     attributes.flags = static_cast<std::uint8_t>(kept | style.added);
@@ -59,16 +59,28 @@ void applyFontStyle(String const& value, Attributes& attributes) {
 /// Draws `text` in every row of `area` that the canvas can hold, beginning at column `x`.
 void drawColumn(Canvas& canvas, String const& text, int x, Rect const& area,
                 Attributes const& attributes) {
-    if (std::int64_t{x} + text.length() <= 0) return;  // as many rows as there may be
+    // Nothing to see, in as many rows as there may be.
+    if (text.length() == 0 || std::int64_t{x} + text.length() <= 0) return;
     int const end = saturate(std::int64_t{area.y} + area.height);
     for (int row = std::max(area.y, 0); row < end; ++row) {
         canvas.drawClipped(text, x, row, attributes);
     }
 }
 
-/// `text` once for every column of `area`; nothing for an area without columns.
-String repeatAlong(Rect const& area, String const& text) {
-    return String::repeat(text, static_cast<unsigned>(std::max(area.width, 0)));
+/// A text along a row, and the column at which it begins.
+struct Strip {
+    String text;
+    int x;
+};
+
+/// `text` once for every column of `area`, less the repetitions that would lie left of the canvas;
+/// nothing for an area without columns.
+Strip stripAlong(Rect const& area, String const& text) {
+    if (text.length() == 0 || area.width <= 0) return {String::s_empty, area.x};
+    std::int64_t const left = std::max<std::int64_t>(0, -std::int64_t{area.x});
+    auto const clipped = std::min(left / text.length(), std::int64_t{area.width});
+    return {String::repeat(text, static_cast<unsigned>(area.width - clipped)),
+            static_cast<int>(area.x + clipped * text.length())};
 }
 
 }  // namespace
@@ -100,7 +112,8 @@ void Box::drawBackgroundTo(Canvas& canvas, Canvas::Attributes& attributes) {
     if (value.length() == 0) return;
     attributes.background = Canvas::Attributes::color(value);
     Rect const area = dimensions.borderBox();
-    drawColumn(canvas, repeatAlong(area, " "), area.x, area, attributes);
+    Strip const row = stripAlong(area, " ");
+    drawColumn(canvas, row.text, row.x, area, attributes);
 }
 
 void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
@@ -122,12 +135,12 @@ void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
         drawColumn(canvas, styleOf("border-right-style"), right, area, attributes);
     }
     if (border.top > 0) {
-        String const side = repeatAlong(area, styleOf("border-top-style"));
-        canvas.drawClipped(side, area.x, area.y, attributes);
+        Strip const side = stripAlong(area, styleOf("border-top-style"));
+        canvas.drawClipped(side.text, side.x, area.y, attributes);
     }
     if (border.bottom > 0) {
-        String const side = repeatAlong(area, styleOf("border-bottom-style"));
-        canvas.drawClipped(side, area.x, bottom, attributes);
+        Strip const side = stripAlong(area, styleOf("border-bottom-style"));
+        canvas.drawClipped(side.text, side.x, bottom, attributes);
     }
 
     String const corner = getStyle("border-corner-style", String::s_empty);
