@@ -187,7 +187,8 @@ String& String::vformat(char const* format, va_list arguments) {
 }
 
 String& String::insert(int position, String const& s) {
-    String const inserted = s;  // may be this string
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): `s` may be this string
+    String const inserted = s;
     int const added = inserted.length();
     int const behind = length() - std::clamp(position, 0, length());
     if (added > s_longestText - length() || !reserve(length() + added)) return *this;
