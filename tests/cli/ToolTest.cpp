@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
+#include <pty.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <filesystem>
@@ -67,9 +69,16 @@ TEST_F(Tool, BreaksLinesAtTheWidthAskedForElseAt80) {
 }
 
 TEST_F(Tool, TakesTheWidthOfTheTerminalItWritesTo) {
-    std::string const terminal = "script -qec 'stty cols 6; " GALLEY_TOOL " stdin' seen";
-    run("--version; " + terminal + " </dev/null", "aa bb cc");
-    EXPECT_NE(read("seen").find("aa bb \r\ncc\r\n"), std::string::npos) << read("seen");
+    winsize const size{24, 6, 0, 0};
+    int controller = -1;
+    int terminal = -1;
+    ASSERT_EQ(openpty(&controller, &terminal, nullptr, nullptr, &size), 0);
+    EXPECT_EQ(run(std::string("- >") + ttyname(terminal), "aa bb cc").status, 0);
+    char seen[64] = {};
+    EXPECT_GT(::read(controller, seen, sizeof seen - 1), 0);
+    EXPECT_STREQ(seen, "aa bb \r\ncc\r\n");
+    close(controller);
+    close(terminal);
 }
 
 TEST_F(Tool, DumpsEitherTree) {
