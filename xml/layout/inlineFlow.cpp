@@ -1,3 +1,5 @@
+// How the boxes of a line, and those of an inline element on it, stand side by side.
+
 #include "xml/layout/inlineFlow.h"
 
 #include <typeinfo>
@@ -19,10 +21,13 @@ std::int32_t positionInElement(Box const& child, std::int32_t width, std::int32_
     return contentXInElement(child.dimensions, width, previousRight);
 }
 
-/// Lays out every child by its own operation.
-bool layOutWhole(Box& parent, Box& child) {
-    child.layout(parent.dimensions);
-    return true;
+/// Lays out every child of `box` by its own operation.
+template <class Position>
+void layoutWhole(Box& box, Position const& position) {
+    layoutRightwards(box, position, [&box](Box& child) {
+        child.layout(box.dimensions);
+        return true;
+    });
 }
 
 void sizeWord(InlineBox& box) {
@@ -62,15 +67,11 @@ bool areChildrenPlain(Box const& box) {
 
 }  // namespace
 
-void layoutLine(LineBox& line) {
-    layoutRightwards(line, positionOnLine,
-                     [&line](Box& child) { return layOutWhole(line, child); });
-}
+void LineBox::layout(Dimensions const&) { layoutWhole(*this, positionOnLine); }
 
-void layoutInline(InlineBox& box) {
-    layoutRightwards(box, positionInElement,
-                     [&box](Box& child) { return layOutWhole(box, child); });
-    sizeWord(box);
+void InlineBox::layout(Dimensions const&) {
+    layoutWhole(*this, positionInElement);
+    sizeWord(*this);
 }
 
 void layoutLineUpTo(LineBox& line, std::int32_t width) { layoutUpTo(line, width, positionOnLine); }
