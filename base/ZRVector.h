@@ -93,6 +93,8 @@ public:
         if (i >= count) return;
         if (target.data == nullptr && i < count - i) {
             ZRVector head;
+            // All that can fail comes before the first move.
+            if (i > 0) head.enlarge(i - 1);
             for (unsigned slot = 0; slot < i; ++slot) head.add(std::move(data[slot]));
             target.takeStorageFrom(i, *this);
             exchange(head);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <new>
 #include <tuple>
+#include <utility>
 
 #include "tests/support/text.h"
 
@@ -107,6 +108,37 @@ TEST(VectorTail, MovesBehindTheElementsOfTheTarget) {
             EXPECT_EQ(elements(target), (hasElement ? " z x" : " z") + moved);
         }
     }
+}
+
+/// A number whose arrays can be refused.
+struct Refusable {
+    static inline bool s_refused = false;
+    int value = 0;
+
+    static void* operator new[](std::size_t size) {
+        if (s_refused) throw std::bad_alloc();
+        return ::operator new[](size);
+    }
+    static void operator delete[](void* memory) { ::operator delete[](memory); }
+    Refusable() = default;
+    explicit Refusable(int number) : value(number) {}
+    Refusable(Refusable&& other) noexcept : value(std::exchange(other.value, 0)) {}
+    Refusable& operator=(Refusable&& other) noexcept {
+        value = std::exchange(other.value, 0);
+        return *this;
+    }
+};
+
+TEST(VectorTail, StaysWhereThereIsNoMemoryForTheRest) {
+    ZRVector<Refusable> source;
+    for (int number = 1; number <= 5; ++number) source.add(Refusable(number));
+    ZRVector<Refusable> target;
+    Refusable::s_refused = true;
+    EXPECT_THROW(source.moveTailTo(2, target), std::bad_alloc);
+    Refusable::s_refused = false;
+    ASSERT_EQ(source.count, 5U);
+    EXPECT_EQ(target.count, 0U);
+    for (unsigned i = 0; i < 5; ++i) EXPECT_EQ(source[i].value, static_cast<int>(i) + 1);
 }
 
 TEST(VectorCopy, KeepsItsOwnStepAndIsIndependent) {
