@@ -18,16 +18,22 @@ char const* labelOf(Box::Type type) {
     return index < std::size(s_labels) ? s_labels[index] : "???:    ";
 }
 
+Walk dumpTree(Box const& box, unsigned indent, String& out) {
+    Rect const& content = box.dimensions.content;
+    String line = String::repeat(" ", indent);
+    line += labelOf(box.type);
+    line += box.node != nullptr ? box.node->toString() : String("(anonymous)");
+    line += ": ";
+    line.concatf("(%d, %d, %d, %d)\n", content.x, content.y, content.width, content.height);
+    out.appendGrowing(line);
+    for (ZRLWPtr<Box> const& child : box.children) co_await dumpTree(*child, indent + 2, out);
+}
+
 }  // namespace
 
 String Box::dump(unsigned indent) const {
-    Rect const& content = dimensions.content;
-    String result = String::repeat(" ", indent);
-    result += labelOf(type);
-    result += node != nullptr ? node->toString() : String("(anonymous)");
-    result += ": ";
-    result.concatf("(%d, %d, %d, %d)\n", content.x, content.y, content.width, content.height);
-    for (ZRLWPtr<Box> const& child : children) result.appendGrowing(child->dump(indent + 2));
+    String result;
+    Walk::run(dumpTree(*this, indent, result));
     return result;
 }
 

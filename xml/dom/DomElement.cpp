@@ -1,5 +1,7 @@
 #include "xml/dom/DomElement.h"
 
+#include "base/releaseTree.h"
+
 namespace CLI::XML {
 
 namespace {
@@ -15,6 +17,10 @@ constexpr DisplayKeyword s_displayKeywords[] = {
 };
 
 }  // namespace
+
+DomElement::~DomElement() {
+    releaseTree(*this, [](DomNode* child) { return asElement(child); });
+}
 
 XCode DomElement::setAttributes(ZRStringHashTable<String> const& source) {
     if (&source != &attributes) {

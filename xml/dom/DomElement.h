@@ -20,10 +20,12 @@ public:
     ZRVector<ZRLWPtr<DomNode>> children;
     /// The one rule that applies, or null.
     ZRLWPtr<StyleNode> styleNode;
+    /// Used while a tree is released.
+    DomElement* nextReleased = nullptr;
 
     DomElement(String const& tag, Display elementDisplay)
         : DomNode(Element, elementDisplay), name(tag) {}
-    ~DomElement() override = default;
+    ~DomElement() override;
 
     String toString() const override { return name; }
     String dump(unsigned indent) const override;
@@ -40,6 +42,11 @@ public:
 inline DomElement const* asElement(DomNode const* node) {
     bool const isElement = node != nullptr && node->kind == DomNode::Element;
     return isElement ? static_cast<DomElement const*>(node) : nullptr;
+}
+
+inline DomElement* asElement(DomNode* node) {
+    bool const isElement = node != nullptr && node->kind == DomNode::Element;
+    return isElement ? static_cast<DomElement*>(node) : nullptr;
 }
 
 }  // namespace CLI::XML

@@ -12,15 +12,18 @@ public:
     ~BlockBox() override = default;
 
     ZRLWPtr<Box> clone() override;
-    XCode createChildren() override;
     /// The last child if it is a line box, otherwise a new one.
     ZRLWPtr<Box> getOrCreateLineBox() override;
     /// Offers its children the width of `containing` less its own edges and becomes as wide as
     /// the widest of them.
-    void layout(Dimensions const& containing) override;
+    Walk layOut(Dimensions const& containing, LayoutPass pass) override;
 
 protected:
     BlockBox(DomNode* rendered, Type boxType) : Box(rendered, boxType) {}
+
+private:
+    /// What the last layout was offered.
+    std::int32_t containingWidth = 0;
 };
 
 }  // namespace CLI::XML

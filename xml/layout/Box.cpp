@@ -1,5 +1,6 @@
 #include "xml/layout/Box.h"
 
+#include "base/releaseTree.h"
 #include "xml/dom/DomElement.h"
 
 namespace CLI::XML {
@@ -9,6 +10,12 @@ Box::Box(DomNode* rendered, Type boxType) : ZR::RefCounted(nullptr), node(render
 }
 
 Box::Box(Box const& other) : Box(other.node, other.type) {}
+
+Box::~Box() {
+    releaseTree(*this, [](Box* child) { return child->children.count > 0 ? child : nullptr; });
+}
+
+void Box::layout(Dimensions const& containing) { Walk::run(layOut(containing, {})); }
 
 ZRLWPtr<Box> Box::split(int) { return {}; }
 

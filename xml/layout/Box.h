@@ -2,6 +2,7 @@
 
 #include "base/RefCounted.h"
 #include "base/String.h"
+#include "base/Walk.h"
 #include "base/XCode.h"
 #include "base/ZRLWPtr.h"
 #include "base/ZRVector.h"
@@ -12,12 +13,24 @@ namespace CLI::XML {
 
 class DomNode;
 
+/// What one layout of a box may leave out.
+struct LayoutPass {
+    /// The box has been laid out before by the operation that this pass belongs to: what is settled
+    /// stays as it is.
+    bool again = false;
+    /// The line is known to be too wide: its layout ends with the first box, at every depth, that
+    /// does not fit into `room` columns behind the content before it, since breaking looks no
+    /// further.
+    bool isLimited = false;
+    std::int64_t room = 0;
+};
+
 /// A box of the layout tree. Every displayed node of the document has one, or one a line where
 /// line breaking has split it; a line box has no node. A box owns one reference to each child and
 /// points to its node, which must outlive it, without owning it.
 ///
 /// The virtual operations stand in the order in which a conversion runs them: style, build, lay
-/// out, break, paint, show.
+/// out, break, paint, show. None of them recurses over the depth of the tree.
 class Box : public ZR::RefCounted {
 public:
     enum Type : std::int32_t { Block, Line, Inline, Table, Row, Cell };
@@ -35,7 +48,7 @@ public:
     /// A box for the same node, with the same edges; geometry and children are not copied.
     Box(Box const& other);
     Box& operator=(Box const&) = delete;
-    ~Box() override = default;
+    ~Box() override;
 
     /// As `getStyle2`, a text that is found converted with `String::toInteger`.
     virtual int getStyleInt2(String const& property, String const& fallbackProperty,
@@ -46,12 +59,12 @@ public:
     /// Builds the subtree below this box, depth first, from the children of `node`. Fails with
     /// "Cannot layout '%s' within '%s'" on a child that this box cannot hold; what was made until
     /// then stays. A box without a node fails without a message.
-    virtual XCode createChildren() = 0;
+    virtual XCode createChildren();
     /// The box that is to receive the next inline child of this box.
     virtual ZRLWPtr<Box> getOrCreateLineBox() = 0;
     /// Sets the size of this box and lays out its subtree. The parent has set the position;
     /// `containing` is the parent's geometry as it stands at that moment.
-    virtual void layout(Dimensions const& containing) = 0;
+    virtual void layout(Dimensions const& containing);
     /// Moves what does not fit into `width` columns into a new box of the same kind and returns
     /// it; null where everything fits or nothing can be moved.
     virtual ZRLWPtr<Box> split(int width);
@@ -75,6 +88,20 @@ public:
                      String const& defaultValue) const;
     /// Reads padding, border and margin from the style.
     void initEdges();
+
+    /// A layout as a call of the walk that `layout` runs.
+    virtual Walk layOut(Dimensions const& containing, LayoutPass pass) = 0;
+
+    /// Known from the last layout: another one with the same `containing` would change nothing.
+    /// Only read by a pass that is laid out `again`, since the tree may change between operations.
+    bool isSettled = false;
+    /// Known from the last layout: a box on this line, or in this inline element, takes up less
+    /// room than its content, so that a line that is too wide need not stay so.
+    bool mayShrink = false;
+    /// Known from the last layout: this is a block, or an inline box with one somewhere in it.
+    bool holdsBlock = false;
+    /// Used while a tree is released.
+    Box* nextReleased = nullptr;
 };
 
 }  // namespace CLI::XML

@@ -12,6 +12,8 @@ public:
 
     /// What the cell's column imposes on it. Set by table layout only.
     Dimensions columnDimensions;
+    /// The width of the content itself at the last layout.
+    std::int32_t naturalWidth = 0;
 
     explicit CellBox(DomNode* rendered) : InlineBox(rendered, Cell) {}
     CellBox(CellBox const& other) : InlineBox(other) {}

@@ -11,6 +11,8 @@ struct Rect {
     std::int32_t y = 0;
     std::int32_t width = 0;
     std::int32_t height = 0;
+
+    bool operator==(Rect const&) const = default;
 };
 
 /// A size in cells for each side of a box. May be negative.
@@ -19,6 +21,8 @@ struct EdgeSizes {
     std::int32_t right = 0;
     std::int32_t top = 0;
     std::int32_t bottom = 0;
+
+    bool operator==(EdgeSizes const&) const = default;
 };
 
 /// The geometry of a box: the content box, and the padding, border and margin around it. Sums
@@ -46,6 +50,8 @@ struct Dimensions {
     Rect borderBox() const;
     /// The border box grown by the margin.
     Rect marginBox() const;
+
+    bool operator==(Dimensions const&) const = default;
 };
 
 }  // namespace CLI::XML

@@ -12,12 +12,11 @@ public:
     ~InlineBox() override = default;
 
     ZRLWPtr<Box> clone() override;
-    XCode createChildren() override;
     /// This box.
     ZRLWPtr<Box> getOrCreateLineBox() override;
-    /// A word takes a column a byte and one row; an element places its children side by side,
-    /// a left margin counting only as far as it exceeds the right margin before it.
-    void layout(Dimensions const& containing) override;
+    /// An element places its children side by side, a left margin counting only as far as it
+    /// exceeds the right margin before it.
+    Walk layOut(Dimensions const& containing, LayoutPass pass) override;
     ZRLWPtr<Box> split(int width) override;
     /// Draws a word, or an element with the flag that its name adds. An element without children
     /// paints nothing.
@@ -26,5 +25,12 @@ public:
 protected:
     InlineBox(DomNode* rendered, Type boxType) : Box(rendered, boxType) {}
 };
+
+/// A word, or an element without children.
+inline bool isLeaf(Box const& box) { return box.children.count == 0 && box.type == Box::Inline; }
+
+/// Lays out a box without children: a word takes a column a byte and one row, anything else
+/// nothing.
+void sizeLeaf(Box& box);
 
 }  // namespace CLI::XML

@@ -13,12 +13,10 @@ public:
     ~LineBox() override = default;
 
     ZRLWPtr<Box> clone() override;
-    /// Fails: a line gets its children from its block.
-    XCode createChildren() override;
     /// This box.
     ZRLWPtr<Box> getOrCreateLineBox() override;
     /// Places the children side by side, the larger of two neighbouring margins between them.
-    void layout(Dimensions const& containing) override;
+    Walk layOut(Dimensions const& containing, LayoutPass pass) override;
     ZRLWPtr<Box> split(int width) override;
 
 protected:

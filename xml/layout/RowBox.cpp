@@ -4,21 +4,26 @@
 
 namespace CLI::XML {
 
-void RowBox::layout(Dimensions const&) {
-    auto const inColumn = [](Box const& child, std::int32_t width, std::int32_t previousRight) {
-        auto const& cell = static_cast<CellBox const&>(child);
-        // A column's position already is that of the content.
-        if (cell.isConstrained()) return cell.columnDimensions.content.x;
-        return contentXInElement(cell.dimensions, width, previousRight);
-    };
-    layoutRightwards(*this, inColumn, [this](Box& child) {
-        auto& cell = static_cast<CellBox&>(child);
-        cell.layout(dimensions);
+Walk RowBox::layOut(Dimensions const&, LayoutPass pass) {
+    RightwardRow row(dimensions);
+    isSettled = true;
+    for (unsigned i = 0; i < children.count; ++i) {
+        CellBox& cell = (*this)[i];
         if (cell.isConstrained()) {
-            cell.dimensions.content.width = cell.columnDimensions.content.width;
+            // A column's position already is that of the content.
+            RightwardRow::placeAt(cell.dimensions, cell.columnDimensions.content.x);
+        } else {
+            row.place(cell.dimensions, uncoveredMargin);
         }
-        return true;
-    });
+        std::int32_t& width = cell.dimensions.content.width;
+        if (!pass.again || !cell.isSettled) {
+            co_await cell.layOut(dimensions, pass);
+            cell.naturalWidth = width;
+        }
+        width = cell.isConstrained() ? cell.columnDimensions.content.width : cell.naturalWidth;
+        row.add(cell.dimensions);
+        isSettled = isSettled && cell.isSettled;
+    }
 }
 
 }  // namespace CLI::XML

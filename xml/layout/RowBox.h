@@ -13,9 +13,8 @@ public:
     ~RowBox() override = default;
 
     ZRLWPtr<Box> clone() override;
-    XCode createChildren() override;
     /// Places the cells, each freely or at its column's position and width.
-    void layout(Dimensions const& containing) override;
+    Walk layOut(Dimensions const& containing, LayoutPass pass) override;
 
     /// The cell at an index below the number of children.
     CellBox& operator[](unsigned i) { return static_cast<CellBox&>(*children[i]); }

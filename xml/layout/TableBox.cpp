@@ -15,70 +15,78 @@ void raiseSides(EdgeSizes& maxima, EdgeSizes const& edges) {
 
 }  // namespace
 
-void TableBox::layout(Dimensions const&) {
+Walk TableBox::layOut(Dimensions const&, LayoutPass pass) {
+    if (pass.again && isSettled) co_return;
     dimensions.content.height = 0;
-    measureRows();
-    raiseColumns();
+    releaseCells();
+    bool areCellsSettled = true;
+    for (unsigned i = 0; i < children.count; ++i) {
+        RowBox& row = (*this)[i];
+        row.dimensions.content.x = row.dimensions.edges().left;
+        row.dimensions.content.y = 0;
+        co_await row.layOut(dimensions, pass);
+        areCellsSettled = areCellsSettled && row.isSettled;
+    }
+    bool const areColumnsSettled = !raiseColumns();
     imposeColumns();
-    stackRows();
+    DownwardStack stack(dimensions);
+    for (unsigned i = 0; i < children.count; ++i) {
+        RowBox& row = (*this)[i];
+        stack.place(row.dimensions);
+        co_await row.layOut(dimensions, {.again = true});
+        stack.add(row.dimensions);
+    }
+    stack.finish();
+    // The records outlive a layout: only one that measured what the next one would, and raised
+    // nothing, leaves all as the next one would leave it.
+    isSettled = areCellsSettled && areColumnsSettled;
 }
 
-void TableBox::measureRows() {
+void TableBox::releaseCells() {
     Dimensions unconstrained;
     unconstrained.content.width = CellBox::s_unconstrainedWidth;
     for (unsigned i = 0; i < children.count; ++i) {
         RowBox& row = (*this)[i];
         for (unsigned j = 0; j < row.children.count; ++j) row[j].columnDimensions = unconstrained;
     }
-    for (unsigned i = 0; i < children.count; ++i) {
-        RowBox& row = (*this)[i];
-        row.dimensions.content.x = row.dimensions.edges().left;
-        row.dimensions.content.y = 0;
-        row.layout(dimensions);
-    }
 }
 
-void TableBox::raiseColumns() {
+bool TableBox::raiseColumns() {
     // Row by row: a column is pushed only by rows that have a cell in it, so a later row that
     // widens the column before it may leave it where it is.
+    bool areRaised = false;
     for (unsigned i = 0; i < children.count; ++i) {
         RowBox const& row = (*this)[i];
-        for (unsigned j = 0; j < row.children.count; ++j) raiseColumn(j, row[j]);
+        for (unsigned j = 0; j < row.children.count; ++j) {
+            areRaised = raiseColumn(j, row[j]) || areRaised;
+        }
     }
+    return areRaised;
 }
 
-void TableBox::raiseColumn(unsigned index, CellBox const& cell) {
+bool TableBox::raiseColumn(unsigned index, CellBox const& cell) {
+    bool const isNew = index >= columns.count;
     Dimensions& column = columns[index];
+    Dimensions const former = column;
     Dimensions const& d = cell.dimensions;
     raiseSides(column.margin, d.margin);
     raiseSides(column.border, d.border);
     raiseSides(column.padding, d.padding);
     raise(column.content.x, d.content.x);
     raise(column.content.width, d.content.width);
-    if (index == 0) return;
-    Dimensions const& before = columns[index - 1];
-    raise(column.content.x, saturate(std::int64_t{before.content.x} + before.content.width +
-                                     before.edges().right + column.edges().left));
+    if (index > 0) {
+        Dimensions const& before = columns[index - 1];
+        raise(column.content.x, saturate(std::int64_t{before.content.x} + before.content.width +
+                                         before.edges().right + column.edges().left));
+    }
+    return isNew || !(column == former);
 }
 
 void TableBox::imposeColumns() {
     for (unsigned i = 0; i < children.count; ++i) {
         RowBox& row = (*this)[i];
-        for (unsigned j = 0; j < row.children.count; ++j) {
-            row[j].columnDimensions = columns[j];
-        }
+        for (unsigned j = 0; j < row.children.count; ++j) row[j].columnDimensions = columns[j];
     }
-}
-
-void TableBox::stackRows() {
-    DownwardStack stack(dimensions);
-    for (unsigned i = 0; i < children.count; ++i) {
-        RowBox& row = (*this)[i];
-        stack.place(row.dimensions);
-        row.layout(dimensions);
-        stack.add(row.dimensions);
-    }
-    stack.finish();
 }
 
 }  // namespace CLI::XML

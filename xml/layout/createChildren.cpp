@@ -1,9 +1,8 @@
 // How a box builds the boxes below it from the children of its node.
 
-#include <iterator>
+#include "xml/layout/makeChild.h"
 
 #include "xml/dom/DomElement.h"
-#include "xml/layout/BlockBox.h"
 #include "xml/layout/TableBox.h"
 
 namespace CLI::XML {
@@ -21,16 +20,15 @@ ZRLWPtr<Box> make(DomNode* node) {
 /// null where the child is refused.
 using ChildRules = MakeBox[DomNode::None];
 
-constexpr ChildRules s_inBlock = {make<BlockBox>, make<InlineBox>, make<TableBox>, nullptr,
-                                  nullptr};
-constexpr ChildRules s_inTable = {nullptr, nullptr, nullptr, make<RowBox>, nullptr};
-constexpr ChildRules s_inRow = {nullptr, nullptr, nullptr, nullptr, make<CellBox>};
-constexpr ChildRules s_inInline = {make<BlockBox>, make<InlineBox>, nullptr, nullptr, nullptr};
-
-MakeBox ruleFor(DomNode const& child, ChildRules const& rules) {
-    auto const display = static_cast<std::size_t>(child.display);
-    return display < std::size(rules) ? rules[display] : nullptr;
-}
+/// By the type of the parent.
+constexpr ChildRules s_childRules[] = {
+    {make<BlockBox>, make<InlineBox>, make<TableBox>, nullptr, nullptr},
+    {},  // a line has no node
+    {make<BlockBox>, make<InlineBox>, nullptr, nullptr, nullptr},
+    {nullptr, nullptr, nullptr, make<RowBox>, nullptr},
+    {nullptr, nullptr, nullptr, nullptr, make<CellBox>},
+    {make<BlockBox>, make<InlineBox>, nullptr, nullptr, nullptr},
+};
 
 XCode refuse(DomNode const& child, DomElement const& parent) {
     DomElement const* const element = asElement(&child);
@@ -39,33 +37,39 @@ XCode refuse(DomNode const& child, DomElement const& parent) {
                                             parent.name.c_str());
 }
 
-XCode createChildrenOf(Box& box, ChildRules const& rules) {
-    if (box.node == nullptr) return testExpression(false);
+Walk createBoxes(Box& box, XCode& result) {
+    result = testExpression(box.node);
     DomElement const* const element = asElement(box.node);
-    if (element == nullptr) return XCode();
+    if (element == nullptr) co_return;
     for (ZRLWPtr<DomNode> const& child : element->children) {
         if (child->display == DomNode::None) continue;
-        MakeBox const makeChild = ruleFor(*child, rules);
-        if (makeChild == nullptr) return refuse(*child, *element);
-        ZRLWPtr<Box> const made = makeChild(child.object);
+        ZRLWPtr<Box> made;
+        result = makeChild(box, *child, made);
+        if (!result) co_return;
         if (child->display == DomNode::Inline) {
             box.getOrCreateLineBox()->children.add(made);
         } else {
             box.children.add(made);
         }
-        XCode result = made->createChildren();
-        if (!result) return result;
+        if (child->kind == DomNode::Element) co_await createBoxes(*made, result);
+        if (!result) co_return;
     }
-    return XCode();
 }
 
 }  // namespace
 
-XCode BlockBox::createChildren() { return createChildrenOf(*this, s_inBlock); }
-XCode TableBox::createChildren() { return createChildrenOf(*this, s_inTable); }
-XCode RowBox::createChildren() { return createChildrenOf(*this, s_inRow); }
-XCode InlineBox::createChildren() { return createChildrenOf(*this, s_inInline); }
-XCode LineBox::createChildren() { return testExpression(false); }
+XCode makeChild(Box const& parent, DomNode& child, ZRLWPtr<Box>& made) {
+    MakeBox const make = s_childRules[parent.type][child.display];
+    if (make == nullptr) return refuse(child, *asElement(parent.node));
+    made = make(&child);
+    return XCode();
+}
+
+XCode Box::createChildren() {
+    XCode result;
+    Walk::run(createBoxes(*this, result));
+    return result;
+}
 
 ZRLWPtr<Box> BlockBox::getOrCreateLineBox() {
     if (children.count == 0 || children[children.count - 1]->type != Line) {

@@ -1,81 +1,70 @@
 // How the boxes of a line, and those of an inline element on it, stand side by side.
 
-#include "xml/layout/inlineFlow.h"
-
-#include <typeinfo>
-
 #include "xml/dom/DomText.h"
+#include "xml/layout/InlineBox.h"
+#include "xml/layout/LineBox.h"
 #include "xml/layout/placement.h"
 
 namespace CLI::XML {
 
 namespace {
 
-/// The larger of two neighbouring margins stands between the boxes of a line.
-std::int32_t positionOnLine(Box const& child, std::int32_t width, std::int32_t previousRight) {
-    Dimensions const& d = child.dimensions;
-    return contentXBehind(width, std::max(previousRight, d.margin.left), d);
-}
-
-std::int32_t positionInElement(Box const& child, std::int32_t width, std::int32_t previousRight) {
-    return contentXInElement(child.dimensions, width, previousRight);
-}
-
-/// Lays out every child of `box` by its own operation.
-template <class Position>
-void layoutWhole(Box& box, Position const& position) {
-    layoutRightwards(box, position, [&box](Box& child) {
-        child.layout(box.dimensions);
-        return true;
-    });
-}
-
-void sizeWord(InlineBox& box) {
-    DomText const* const word = box.children.count == 0 ? asText(box.node) : nullptr;
-    if (word == nullptr || word->text.length() == 0) return;
-    box.dimensions.content.width = word->text.length();
-    box.dimensions.content.height = 1;
-}
-
-/// Lays out the children of `box` up to the first that does not fit into what is left of `width`
-/// behind the content widths before it, which is what breaking looks at.
-template <class Position>
-void layoutUpTo(Box& box, std::int64_t width, Position const& position) {
-    layoutRightwards(box, position, [&width](Box& child) {
-        auto& inlineBox = static_cast<InlineBox&>(child);
-        layoutUpTo(inlineBox, width, positionInElement);
-        sizeWord(inlineBox);
-        width -= inlineBox.dimensions.content.width;
-        return width >= 0;
-    });
-}
-
-bool areChildrenPlain(Box const& box);
-
 bool isNegative(EdgeSizes const& edges) { return edges.left < 0 || edges.right < 0; }
 
-bool isPlain(Box const& box) {
-    Dimensions const& d = box.dimensions;
-    bool const shrinks = isNegative(d.padding) || isNegative(d.border) || isNegative(d.margin);
-    return !shrinks && typeid(box) == typeid(InlineBox) && areChildrenPlain(box);
+bool takesLessThanItsContent(Dimensions const& d) {
+    return isNegative(d.padding) || isNegative(d.border) || isNegative(d.margin);
 }
 
-bool areChildrenPlain(Box const& box) {
-    return std::all_of(box.children.begin(), box.children.end(),
-                       [](ZRLWPtr<Box> const& child) { return isPlain(*child); });
+template <class Gap>
+Walk layoutRightwards(Box& box, LayoutPass pass, Gap gapBetween) {
+    if (pass.again && box.isSettled) co_return;
+    // A block keeps the breaks that it got at any width behind the boxes before it.
+    if (box.type != Box::Line && box.holdsBlock) pass.isLimited = false;
+    RightwardRow row(box.dimensions);
+    bool holdsBlock = false;
+    bool areAllSettled = true;
+    bool mayShrink = false;
+    bool isFull = false;
+    unsigned i = 0;
+    while (i < box.children.count && !isFull) {
+        Box& child = *box.children.data[i++];
+        row.place(child.dimensions, gapBetween);
+        if (isLeaf(child)) {
+            sizeLeaf(child);
+        } else {
+            co_await child.layOut(box.dimensions, pass);
+        }
+        row.add(child.dimensions);
+        if (pass.isLimited) pass.room -= child.dimensions.content.width;
+        isFull = pass.isLimited && pass.room < 0;
+        areAllSettled = areAllSettled && child.isSettled;
+        holdsBlock = holdsBlock || child.holdsBlock;
+        mayShrink = mayShrink || child.mayShrink || takesLessThanItsContent(child.dimensions);
+    }
+    if (box.children.count == 0) sizeLeaf(box);
+    box.holdsBlock = holdsBlock;
+    box.isSettled = areAllSettled && i == box.children.count;
+    box.mayShrink = mayShrink;
 }
 
 }  // namespace
 
-void LineBox::layout(Dimensions const&) { layoutWhole(*this, positionOnLine); }
-
-void InlineBox::layout(Dimensions const&) {
-    layoutWhole(*this, positionInElement);
-    sizeWord(*this);
+void sizeLeaf(Box& box) {
+    DomText const* const word = asText(box.node);
+    bool const isShown = word != nullptr && word->text.length() > 0;
+    box.dimensions.content.width = isShown ? word->text.length() : 0;
+    box.dimensions.content.height = isShown ? 1 : 0;
+    box.isSettled = true;
+    box.mayShrink = false;
+    box.holdsBlock = false;
 }
 
-void layoutLineUpTo(LineBox& line, std::int32_t width) { layoutUpTo(line, width, positionOnLine); }
+Walk LineBox::layOut(Dimensions const&, LayoutPass pass) {
+    return layoutRightwards(*this, pass, largerMargin);
+}
 
-bool isPlainLine(Box const& box) { return typeid(box) == typeid(LineBox) && areChildrenPlain(box); }
+Walk InlineBox::layOut(Dimensions const&, LayoutPass pass) {
+    return layoutRightwards(*this, pass, uncoveredMargin);
+}
 
 }  // namespace CLI::XML

@@ -3,13 +3,18 @@
 #include <algorithm>
 
 #include "base/saturate.h"
-#include "xml/layout/Box.h"
+#include "xml/layout/Dimensions.h"
 
 namespace CLI::XML {
 
 /// The gap before a child: as much of its margin as the margin before it does not cover.
 inline std::int64_t uncoveredMargin(std::int32_t before, std::int32_t margin) {
     return std::max<std::int64_t>(0, std::int64_t{margin} - before);
+}
+
+/// The gap between the boxes of a line: the larger of two neighbouring margins.
+inline std::int64_t largerMargin(std::int32_t before, std::int32_t margin) {
+    return std::max(before, margin);
 }
 
 /// Stacks children downwards in a block or a table. The position of a child leaves out the part
@@ -47,39 +52,41 @@ private:
     std::int32_t previousMargin = 0;
 };
 
-/// Where a child's content begins behind `width` columns and a gap.
-inline std::int32_t contentXBehind(std::int32_t width, std::int64_t gap, Dimensions const& child) {
-    return saturate(width + gap + child.border.left + child.padding.left);
-}
+/// Places children from left to right, aligned to the top of their container, and sizes it around
+/// them. The running width grows by the whole margin box, whatever the gap.
+class RightwardRow {
+public:
+    /// Begins with no width and no height.
+    explicit RightwardRow(Dimensions& container) : content(container.content) {
+        content.width = 0;
+        content.height = 0;
+    }
 
-/// The same in an inline element or a row, where a left margin counts as far as it exceeds the
-/// right margin before it.
-inline std::int32_t contentXInElement(Dimensions const& child, std::int32_t width,
-                                      std::int32_t previousRight) {
-    return contentXBehind(width, uncoveredMargin(previousRight, child.margin.left), child);
-}
+    /// Sets the position at which the child is to be laid out. `gapBetween` is one of the two
+    /// above, of the margin before the child and the child's own.
+    template <class Gap>
+    void place(Dimensions& child, Gap const& gapBetween) const {
+        std::int64_t const gap = gapBetween(previousMargin, child.margin.left);
+        placeAt(child, saturate(content.width + gap + child.border.left + child.padding.left));
+    }
 
-/// Lays out the children of `box` from left to right, aligned to its top, and sizes it around
-/// them. `position(child, width, previousRight)` says where a child's content begins behind the
-/// running width; `layOut(child)` lays the child out and returns whether to go on with the next.
-template <class Position, class LayOut>
-void layoutRightwards(Box& box, Position const& position, LayOut const& layOut) {
-    Rect& content = box.dimensions.content;
-    content.width = 0;
-    content.height = 0;
-    std::int32_t previousRight = 0;
-    bool goesOn = true;
-    for (unsigned i = 0; i < box.children.count && goesOn; ++i) {
-        Box& child = *box.children[i];
-        Dimensions& d = child.dimensions;
-        d.content.x = position(child, content.width, previousRight);
-        d.content.y = d.edges().top;
-        goesOn = layOut(child);
-        Rect const margin = d.marginBox();
+    /// The same at a column of the content box.
+    static void placeAt(Dimensions& child, std::int32_t x) {
+        child.content.x = x;
+        child.content.y = child.edges().top;
+    }
+
+    /// Takes the child in after its layout.
+    void add(Dimensions const& child) {
+        Rect const margin = child.marginBox();
         content.width = saturate(std::int64_t{content.width} + margin.width);
         content.height = std::max(content.height, margin.height);
-        previousRight = d.margin.right;
+        previousMargin = child.margin.right;
     }
-}
+
+private:
+    Rect& content;
+    std::int32_t previousMargin = 0;
+};
 
 }  // namespace CLI::XML

@@ -1,5 +1,7 @@
 // How a line, or an inline element on it, is broken where it exceeds the width.
 
+#include <vector>
+
 #include "base/saturate.h"
 #include "xml/layout/InlineBox.h"
 #include "xml/layout/LineBox.h"
@@ -8,31 +10,61 @@ namespace CLI::XML {
 
 namespace {
 
-/// Breaks at the first child that does not fit. What counts are the children's content widths of
-/// their last layout, not their edges. The first child stays even where it does not fit, so that
-/// every break moves something on and breaking ends.
-ZRLWPtr<Box> splitChildren(Box& box, int width) {
-    ZRVector<ZRLWPtr<Box>>& children = box.children;
-    std::int64_t remaining = width;
-    unsigned i = 0;
-    while (i < children.count && children[i]->dimensions.content.width <= remaining) {
-        remaining -= children[i]->dimensions.content.width;
-        ++i;
-    }
-    if (i == children.count) return {};
+/// A box on the way down to the break, and its first child that does not fit.
+struct Level {
+    Box* box;
+    unsigned unfitting;
+};
 
-    ZRLWPtr<Box> const childRest = children[i]->split(saturate(remaining));
-    unsigned const firstMoved = childRest || i == 0 ? i + 1 : i;
-    if (!childRest && firstMoved == children.count) return {};
+bool isBreakable(Box const& box) { return box.type != Box::Block && box.type != Box::Table; }
+
+/// The boxes that the break goes through, outermost first: each is the child that does not fit of
+/// the one before. What counts are content widths of the last layout, not edges.
+std::vector<Level> findBreak(Box& outermost, std::int64_t room) {
+    std::vector<Level> path;
+    for (Box* box = &outermost; isBreakable(*box);) {
+        ZRVector<ZRLWPtr<Box>> const& children = box->children;
+        unsigned i = 0;
+        while (i < children.count && children[i]->dimensions.content.width <= room) {
+            room -= children[i]->dimensions.content.width;
+            ++i;
+        }
+        if (i == children.count) break;
+        path.push_back({box, i});
+        box = children[i].object;
+        // What a child is offered is a width like any other.
+        room = saturate(room);
+    }
+    return path;
+}
+
+/// Moves what stands behind the break off the box of `level`. `childRest` is what was moved off
+/// the child that does not fit; where nothing was, that child moves itself, unless it is the
+/// first: it stays although it does not fit, so that every break moves something on and breaking
+/// ends.
+ZRLWPtr<Box> moveRest(Level const& level, ZRLWPtr<Box> const& childRest) {
+    Box& box = *level.box;
+    bool const staysInPart = childRest || level.unfitting == 0;
+    unsigned const firstMoved = staysInPart ? level.unfitting + 1 : level.unfitting;
+    if (!childRest && firstMoved == box.children.count) return {};
     ZRLWPtr<Box> rest = box.clone();
     if (childRest) rest->children.add(childRest);
-    children.moveTailTo(firstMoved, rest->children);
+    box.children.moveTailTo(firstMoved, rest->children);
+    box.isSettled = false;
+    rest->holdsBlock = box.holdsBlock;
+    return rest;
+}
+
+ZRLWPtr<Box> splitBox(Box& box, int width) {
+    std::vector<Level> const path = findBreak(box, width);
+    ZRLWPtr<Box> rest;
+    for (auto level = path.rbegin(); level != path.rend(); ++level) rest = moveRest(*level, rest);
     return rest;
 }
 
 }  // namespace
 
-ZRLWPtr<Box> LineBox::split(int width) { return splitChildren(*this, width); }
-ZRLWPtr<Box> InlineBox::split(int width) { return splitChildren(*this, width); }
+ZRLWPtr<Box> LineBox::split(int width) { return splitBox(*this, width); }
+ZRLWPtr<Box> InlineBox::split(int width) { return splitBox(*this, width); }
 
 }  // namespace CLI::XML

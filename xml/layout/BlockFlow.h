@@ -1,0 +1,60 @@
+#pragma once
+
+#include <vector>
+
+#include "xml/layout/BlockBox.h"
+#include "xml/layout/LineBox.h"
+#include "xml/layout/placement.h"
+
+namespace CLI::XML {
+
+/// The layout of a block, step by step: the children go in one after the other, are laid out one
+/// below the other, and lines that are too wide are broken. What has got its place is handed out
+/// in `done`.
+///
+/// The last line may stay open while boxes still arrive on it: then everything that follows is
+/// laid out only once it is closed.
+class BlockFlow {
+public:
+    /// Begins the layout of `block`, which must outlive the flow.
+    BlockFlow(BlockBox& block, Dimensions const& containing);
+
+    /// The width that the children are offered, in columns.
+    std::int32_t availableWidth() const { return available; }
+
+    /// Lays out `child` and whatever is broken off it.
+    Walk add(ZRLWPtr<Box> const& child, LayoutPass pass);
+
+    /// The line that is open, or a new one. Put only boxes on it that have been laid out.
+    LineBox& openLine();
+    bool hasOpenLine() const { return !pending.empty(); }
+    /// Breaks off the open line what is certain not to stay on it, whatever follows: to be called
+    /// when the content widths on it exceed the available width, if nothing that may follow has a
+    /// negative edge. The rest stays open.
+    Walk breakOpenLine();
+    /// Lays out what is left of the open line, if there is one.
+    Walk closeLine();
+
+    /// The same for a block that is laid out by a flow of its own: sets its position, and takes it
+    /// in when it has its size.
+    void place(BlockBox& child) const { stack.place(child.dimensions); }
+    void take(BlockBox const& child) { stack.add(child.dimensions); }
+
+    /// Gives the block its width.
+    void finish();
+
+    /// In the order of the finished block; the caller may take them out.
+    ZRVector<ZRLWPtr<Box>> done;
+
+private:
+    Walk placePending(LayoutPass pass, std::size_t kept);
+
+    BlockBox& block;
+    std::int32_t const available;
+    DownwardStack stack;
+    bool areAllSettled = true;
+    /// What is still to be placed, the next one last. The open line is the first.
+    std::vector<ZRLWPtr<Box>> pending;
+};
+
+}  // namespace CLI::XML
