@@ -7,6 +7,8 @@ namespace CLI::XML {
 
 namespace {
 
+constexpr std::int32_t s_largestWidth = std::numeric_limits<std::int32_t>::max();
+
 std::int32_t widthWithin(Dimensions const& containing, EdgeSizes const& edges) {
     return saturate(std::int64_t{containing.content.width} - edges.left - edges.right);
 }
@@ -26,28 +28,58 @@ Walk BlockFlow::add(ZRLWPtr<Box> const& child, LayoutPass pass) {
     return placePending(pass, 0);
 }
 
-LineBox& BlockFlow::openLine() {
-    if (pending.empty()) pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
-    return static_cast<LineBox&>(*pending.front());
+bool BlockFlow::addToLine(ZRLWPtr<Box> const& box, bool mayBreak) {
+    if (pending.empty()) {
+        pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
+        breaks = 0;
+        room = available;
+    }
+    measure(*box);
+    Box& line = *pending.front();
+    line.children.add(box);
+    line.isSettled = false;
+    room -= box->dimensions.content.width;
+    if (!mayBreak || room >= 0 || available == s_largestWidth) return false;
+    unsigned const formerBreaks = breaks;
+    Walk::run(placePending({.isMeasured = true}, 1));
+    findRoom();
+    return breaks > formerBreaks;
 }
 
-Walk BlockFlow::breakOpenLine() {
-    return placePending({.again = true, .isLimited = true, .room = available}, 1);
+/// Every break of a line lays out what stays behind it, where the box would have been already.
+/// Only a table that is not settled shows how often.
+void BlockFlow::measure(Box& box) const {
+    if (isLeaf(box)) {
+        sizeLeaf(box);
+        return;
+    }
+    Walk::run(box.layOut(Dimensions(), {}));
+    for (unsigned i = 0; i < breaks && !box.isSettled; ++i) {
+        Walk::run(box.layOut(Dimensions(), {.again = true}));
+    }
 }
 
-Walk BlockFlow::closeLine() { return placePending({.again = true}, 0); }
+void BlockFlow::findRoom() {
+    room = available;
+    for (ZRLWPtr<Box> const& child : pending.front()->children) {
+        room -= child->dimensions.content.width;
+    }
+}
+
+void BlockFlow::closeLine() { Walk::run(placePending({.isMeasured = true}, 0)); }
 
 Walk BlockFlow::placePending(LayoutPass pass, std::size_t kept) {
     // Below the largest width only, since a sum that saturates there is never too wide.
-    bool staysTooWide = available < std::numeric_limits<std::int32_t>::max();
+    bool staysTooWide = available < s_largestWidth;
     while (!pending.empty()) {
         Box& next = *pending.back();
         stack.place(next.dimensions);
         co_await next.layOut(block.dimensions, pass);
-        staysTooWide = staysTooWide && !next.mayShrink;
+        if (!pass.isLimited) staysTooWide = staysTooWide && !next.mayShrink && next.isSettled;
         bool const isTooWide = next.dimensions.marginBox().width > available;
         if (ZRLWPtr<Box> rest = isTooWide ? next.split(available) : nullptr) {
-            pass = {true, staysTooWide, available};
+            if (pending.size() == 1) ++breaks;
+            pass = {.again = true, .isLimited = staysTooWide, .room = available};
             // The same box again, now with less content.
             pending.insert(pending.end() - 1, std::move(rest));
             continue;

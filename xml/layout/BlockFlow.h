@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "xml/layout/BlockBox.h"
+#include "xml/layout/InlineBox.h"
 #include "xml/layout/LineBox.h"
 #include "xml/layout/placement.h"
 
@@ -25,15 +26,14 @@ public:
     /// Lays out `child` and whatever is broken off it.
     Walk add(ZRLWPtr<Box> const& child, LayoutPass pass);
 
-    /// The line that is open, or a new one. Put only boxes on it that have been laid out.
-    LineBox& openLine();
-    bool hasOpenLine() const { return !pending.empty(); }
-    /// Breaks off the open line what is certain not to stay on it, whatever follows: to be called
-    /// when the content widths on it exceed the available width, if nothing that may follow has a
-    /// negative edge. The rest stays open.
-    Walk breakOpenLine();
+    /// Puts an inline box at the end of the open line, which is begun where there is none. With
+    /// `mayBreak`, which promises that nothing on the line has a negative edge, what is certain not
+    /// to stay on it, whatever follows, is broken off. Whether anything was.
+    bool addToLine(ZRLWPtr<Box> const& box, bool mayBreak);
+    /// The open line; null where there is none.
+    Box const* openLine() const { return pending.empty() ? nullptr : pending.front().object; }
     /// Lays out what is left of the open line, if there is one.
-    Walk closeLine();
+    void closeLine();
 
     /// The same for a block that is laid out by a flow of its own: sets its position, and takes it
     /// in when it has its size.
@@ -47,7 +47,9 @@ public:
     ZRVector<ZRLWPtr<Box>> done;
 
 private:
+    void measure(Box& box) const;
     Walk placePending(LayoutPass pass, std::size_t kept);
+    void findRoom();
 
     BlockBox& block;
     std::int32_t const available;
@@ -55,6 +57,10 @@ private:
     bool areAllSettled = true;
     /// What is still to be placed, the next one last. The open line is the first.
     std::vector<ZRLWPtr<Box>> pending;
+    /// How often the open line was broken.
+    unsigned breaks = 0;
+    /// Columns that the contents on the open line have left.
+    std::int64_t room = 0;
 };
 
 }  // namespace CLI::XML

@@ -23,6 +23,8 @@ struct LayoutPass {
     /// further.
     bool isLimited = false;
     std::int64_t room = 0;
+    /// The boxes on the line have been laid out already: they are only placed.
+    bool isMeasured = false;
 };
 
 /// A box of the layout tree. Every displayed node of the document has one, or one a line where

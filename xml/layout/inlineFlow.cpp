@@ -31,7 +31,7 @@ Walk layoutRightwards(Box& box, LayoutPass pass, Gap gapBetween) {
         row.place(child.dimensions, gapBetween);
         if (isLeaf(child)) {
             sizeLeaf(child);
-        } else {
+        } else if (!pass.isMeasured) {
             co_await child.layOut(box.dimensions, pass);
         }
         row.add(child.dimensions);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
+#include <new>
 
 #include "base/saturate.h"
 
@@ -9,20 +11,74 @@ namespace CLI::XML {
 
 namespace {
 
+constexpr std::int64_t s_largestOrigin = std::numeric_limits<std::int32_t>::max();
+
 /// Makes the row at least `width` cells long; the cells from its former end up to `filled` become
 /// fillers, those behind them are for the caller to set.
-void lengthen(ZRVector<Canvas::Byte>& row, unsigned width, unsigned filled) {
+void lengthen(ZRVector<Canvas::Byte>& row, std::uint64_t width, unsigned filled) {
+    if (width > std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
     unsigned const formerWidth = row.count;
-    if (width > formerWidth) {
+    auto const end = static_cast<unsigned>(width);
+    if (end > formerWidth) {
         // As many slots as cells added one by one would take.
-        row.enlarge(width - 1);
-        row[width - 1];
+        row.enlarge(end - 1);
+        row[end - 1];
     }
-    for (unsigned i = formerWidth; i < std::min(filled, width); ++i)
+    for (unsigned i = formerWidth; i < std::min(filled, end); ++i) {
         row.data[i] = Canvas::Byte::make(' ', 0);
+    }
 }
 
 }  // namespace
+
+void Canvas::bringIntoUse(unsigned row) {
+    unsigned const formerCount = rows.count;
+    rows[row];
+    for (unsigned i = formerCount; i <= row && !spareRows.empty(); ++i) {
+        rows.data[i] = std::move(spareRows.back());
+        spareRows.pop_back();
+    }
+}
+
+ZRVector<Canvas::Byte>& Canvas::touchRow(std::uint64_t y) {
+    if (y < movedRows || y >= std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
+    auto const row = static_cast<unsigned>(y);
+    if (row - movedRows >= rows.count) bringIntoUse(row - movedRows);
+    unsigned end = row + 1;
+    for (auto frame = frames.rbegin(); frame != frames.rend(); ++frame) {
+        bool const wasTouched = frame->end > frame->top;
+        for (unsigned i = std::max(frame->end, movedRows); i < end; ++i) {
+            lengthen(rows.data[i - movedRows], frame->left, frame->left);
+        }
+        frame->end = std::max(frame->end, end);
+        // The frames around this one have seen to the rows above it.
+        if (wasTouched) break;
+        end = frame->top;
+    }
+    return rows.data[row - movedRows];
+}
+
+bool Canvas::enter(int x, int y) {
+    std::int64_t const left = std::int64_t{originColumn()} + x;
+    std::int64_t const top = std::int64_t{originRow()} + y;
+    if (x < 0 || y < 0 || std::max(left, top) > s_largestOrigin) return false;
+    std::int64_t const end = std::int64_t{movedRows} + rows.count;
+    bool const isBehindLastRow = top + 1 == end && top >= movedRows &&
+                                 rows.data[rows.count - 1].count <= left;
+    if (top < end && !isBehindLastRow) return false;
+    auto const row = static_cast<unsigned>(top);
+    frames.push_back({static_cast<unsigned>(left), row, row});
+    return true;
+}
+
+void Canvas::leave() {
+    Frame const inner = frames.back();
+    frames.pop_back();
+    bool const wasTouched = inner.end > inner.top;
+    if (wasTouched && !frames.empty()) {
+        frames.back().end = std::max(frames.back().end, inner.end);
+    }
+}
 
 unsigned Canvas::getWidth() const {
     unsigned width = 0;
@@ -60,15 +116,16 @@ bool Canvas::drawClipped(String const& text, int x, int y, Attributes const& att
     bool const allClipped = y < 0 || (clipped > 0 && clipped >= length);
     if (text.length() == 0 || allClipped) return false;
     unsigned const index = getOrStoreAttribute(attributes);
-    ZRVector<Byte>& row = rows[static_cast<unsigned>(y)];
+    ZRVector<Byte>& row = touchRow(std::uint64_t{originRow()} + static_cast<unsigned>(y));
     // A text that begins with a NUL creates the row and writes nothing.
     if (length == 0) return true;
     char const* const bytes = text.c_str() + clipped;
-    unsigned const column = static_cast<unsigned>(std::max(x, 0));
-    unsigned const end = column + (length - clipped);
-    lengthen(row, end, column);
-    for (unsigned i = column; i < end; ++i) {
-        row.data[i] = Byte::make(static_cast<unsigned char>(bytes[i - column]), index);
+    unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
+    unsigned const shown = length - clipped;
+    lengthen(row, std::uint64_t{column} + shown, column);
+    Byte* const cells = row.data + column;
+    for (unsigned i = 0; i < shown; ++i) {
+        cells[i] = Byte::make(static_cast<unsigned char>(bytes[i]), index);
     }
     return true;
 }
@@ -76,16 +133,16 @@ bool Canvas::drawClipped(String const& text, int x, int y, Attributes const& att
 bool Canvas::drawClipped(Canvas const& source, int x, int y) {
     auto const clippedColumns = static_cast<unsigned>(x < 0 ? -std::int64_t{x} : 0);
     auto const clippedRows = static_cast<unsigned>(y < 0 ? -std::int64_t{y} : 0);
-    auto const column = static_cast<unsigned>(std::max(x, 0));
-    auto const top = static_cast<unsigned>(std::max(y, 0));
+    unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
+    std::uint64_t const top = std::uint64_t{originRow()} + static_cast<unsigned>(std::max(y, 0));
     unsigned sourceIndex = 0;
     unsigned mappedIndex = 0;
     bool drawn = false;
     for (unsigned r = clippedRows; r < source.rows.count; ++r) {
         ZRVector<Byte> const& sourceRow = source.rows[r];
-        ZRVector<Byte>& row = rows[top + (r - clippedRows)];
+        ZRVector<Byte>& row = touchRow(top + (r - clippedRows));
         unsigned const length = sourceRow.count - std::min(clippedColumns, sourceRow.count);
-        lengthen(row, column + length, column);
+        lengthen(row, std::uint64_t{column} + length, column);
         for (unsigned i = 0; i < length; ++i) {
             Byte const cell = sourceRow[clippedColumns + i];
             if (cell.attributeIndex != sourceIndex) {
@@ -101,17 +158,24 @@ bool Canvas::drawClipped(Canvas const& source, int x, int y) {
 
 template <class Sink>
 void Canvas::writeRow(ZRVector<Byte> const& row, Sink const& sink) const {
+    char piece[256] = {};
+    std::size_t filled = 0;
     unsigned current = 0;
     for (Byte const cell : row) {
+        if (cell.attributeIndex != current || filled == sizeof piece) {
+            sink(piece, filled);
+            filled = 0;
+        }
         if (cell.attributeIndex != current) {
             Attributes const& previous = attributeTable[current];
             current = cell.attributeIndex;
             String const escape = attributeTable[current].generateFormattingFrom(previous);
-            sink(escape.c_str(), escape.length());
+            sink(escape.c_str(), static_cast<std::size_t>(escape.length()));
         }
-        char const character = static_cast<char>(cell.character);
-        if (character != 0) sink(&character, 1);
+        piece[filled] = static_cast<char>(cell.character);
+        filled += cell.character != 0 ? 1 : 0;
     }
+    sink(piece, filled);
     if (current != 0) sink("\x1b[0m", 4);
 }
 
@@ -119,15 +183,34 @@ String Canvas::dump(String const& lineSeparator) const {
     // Measured first, so that the text is written into one buffer.
     std::int64_t length = std::int64_t{lineSeparator.length()} * rows.count;
     for (ZRVector<Byte> const& row : rows) {
-        writeRow(row, [&length](char const*, int n) { length += n; });
+        writeRow(row, [&length](char const*, std::size_t n) {
+            length += static_cast<std::int64_t>(n);
+        });
     }
     String result;
     if (!result.reserve(saturate(length))) return result;
     for (ZRVector<Byte> const& row : rows) {
-        writeRow(row, [&result](char const* piece, int n) { result.concat(piece, n); });
+        writeRow(row, [&result](char const* piece, std::size_t n) {
+            result.concat(piece, static_cast<int>(n));
+        });
         result += lineSeparator;
     }
     return result;
+}
+
+void Canvas::moveRowsTo(std::string& text, unsigned y) {
+    unsigned const moved = std::min(y - std::min(y, movedRows), rows.count);
+    if (moved == 0) return;
+    for (unsigned i = 0; i < moved; ++i) {
+        ZRVector<Byte>& row = rows.data[i];
+        writeRow(row, [&text](char const* piece, std::size_t n) { text.append(piece, n); });
+        text += '\n';
+        row.clear();
+        spareRows.push_back(std::move(row));
+    }
+    for (unsigned i = moved; i < rows.count; ++i) rows.data[i - moved] = std::move(rows.data[i]);
+    rows.count -= moved;
+    movedRows += moved;
 }
 
 }  // namespace CLI::XML

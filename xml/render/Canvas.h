@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 #include "base/String.h"
 #include "base/ZRVector.h"
@@ -14,7 +16,7 @@ namespace CLI::XML {
 /// 1. Entry 0 of `attributeTable` is the default value; no value occurs twice; entries are never
 ///    removed or changed.
 /// 2. Rows are ragged: each is as long as the cells written or padded into it. Rows and cells are
-///    never removed.
+///    never removed, but for rows that `moveRowsTo` takes.
 /// 3. Cells that only fill the way to a position further right are spaces with the default value.
 class Canvas {
 public:
@@ -87,15 +89,45 @@ public:
     bool drawClipped(String const& text, int x, int y, Attributes const& attributes);
     bool drawClipped(Canvas const& source, int x, int y);
 
+    /// Moves the origin to (x, y), so that what is drawn until `leave` is drawn as if onto a canvas
+    /// of its own that is then composed onto this one there. Returns false, with nothing changed,
+    /// where that would not be the same: where the position is negative, or cells are there already.
+    bool enter(int x, int y);
+    void leave();
+
     /// The grid as text with escape sequences, `lineSeparator` behind every row. Every row begins
     /// and ends in the default attributes.
     String dump(String const& lineSeparator) const;
+    /// Appends the rows above row `y` to `text` in the same form, each ended by a line feed, and
+    /// forgets them: for a page of which nothing is drawn there any more. Rows keep their numbers.
+    void moveRowsTo(std::string& text, unsigned y);
+
+    /// Row and column of the origin that `enter` has set.
+    unsigned originRow() const { return frames.empty() ? 0 : frames.back().top; }
 
 private:
+    /// An origin that was entered. The rows from `top` up to `end` are at least `left` cells long.
+    struct Frame {
+        unsigned left;
+        unsigned top;
+        unsigned end;
+    };
+
     int resolveColumn(unsigned x) const;
     int resolveRow(unsigned y) const;
+    unsigned originColumn() const { return frames.empty() ? 0 : frames.back().left; }
+    /// Row `y`, which exists from now on, with all rows above it as long as the origins ask for.
+    ZRVector<Byte>& touchRow(std::uint64_t y);
+    void bringIntoUse(unsigned row);
     template <class Sink>
     void writeRow(ZRVector<Byte> const& row, Sink const& sink) const;
+
+    /// Innermost last.
+    std::vector<Frame> frames;
+    /// Rows that were moved out; `rows` begins behind them.
+    unsigned movedRows = 0;
+    /// Empty rows with storage.
+    std::vector<ZRVector<Byte>> spareRows;
 };
 
 static_assert(sizeof(Canvas::Attributes) == 4 && sizeof(Canvas::Byte) == 4);

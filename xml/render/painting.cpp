@@ -1,11 +1,13 @@
 // How boxes paint themselves: background, border, then content over both.
 
 #include <algorithm>
+#include <utility>
 
 #include "base/saturate.h"
 #include "xml/dom/DomElement.h"
 #include "xml/dom/DomText.h"
 #include "xml/layout/InlineBox.h"
+#include "xml/render/BoxPainting.h"
 
 namespace CLI::XML {
 
@@ -83,27 +85,84 @@ Strip stripAlong(Rect const& area, String const& text) {
             static_cast<int>(area.x + clipped * text.length())};
 }
 
+/// `attributes` with the flag that the name of an inline element adds.
+Attributes withElementFlag(Box const& box, Attributes attributes) {
+    bool const isInline = box.type == Box::Inline || box.type == Box::Cell;
+    DomElement const* const element = isInline ? asElement(box.node) : nullptr;
+    if (element != nullptr) {
+        attributes.flags = static_cast<std::uint8_t>(attributes.flags | flagOfElement(element->name));
+    }
+    return attributes;
+}
+
+void drawLeaf(Box const& box, Canvas& canvas, Attributes const& attributes) {
+    DomText const* const word = asText(box.node);
+    Rect const& content = box.dimensions.content;
+    if (word != nullptr) canvas.drawClipped(word->text, content.x, content.y, attributes);
+}
+
+bool isInlineLeaf(Box const& box) {
+    return box.children.count == 0 && (box.type == Box::Inline || box.type == Box::Cell);
+}
+
+Walk drawTree(Box& box, Canvas& canvas, Attributes inherited) {
+    BoxPainting painting(box, canvas, inherited);
+    for (unsigned i = 0; i < box.children.count; ++i) {
+        Box& child = *box.children.data[i];
+        if (isInlineLeaf(child)) {
+            drawLeaf(child, painting.canvas(), painting.attributes());
+        } else {
+            Attributes const handedDown = withElementFlag(child, painting.attributes());
+            co_await drawTree(child, painting.canvas(), handedDown);
+        }
+    }
+    painting.finish();
+}
+
 }  // namespace
 
+BoxPainting::BoxPainting(Box& painted, Canvas& ofParent, Canvas::Attributes const& handedDown)
+    : box(&painted), target(&ofParent), inherited(handedDown), content(handedDown) {
+    String const background = box->getStyle("background-color", String::s_empty);
+    if (background.length() > 0) content.background = Canvas::Attributes::color(background);
+    box->applyContentAttributes(content);
+    EdgeSizes const& border = box->dimensions.border;
+    bool const paintsBeneath = background.length() > 0 || border.left > 0 || border.right > 0 ||
+                               border.top > 0 || border.bottom > 0;
+    Rect const& area = box->dimensions.content;
+    isDirect = !paintsBeneath && target->enter(area.x, area.y);
+    if (!isDirect) own = std::make_unique<Canvas>();
+}
+
+BoxPainting::BoxPainting(BoxPainting&& other) noexcept
+    : box(other.box),
+      target(other.target),
+      inherited(other.inherited),
+      content(other.content),
+      isDirect(std::exchange(other.isDirect, false)),
+      own(std::move(other.own)) {}
+
+BoxPainting::~BoxPainting() {
+    if (isDirect) target->leave();
+}
+
+void BoxPainting::finish() {
+    if (isDirect) return;
+    Canvas::Attributes attributes = inherited;
+    box->drawBackgroundTo(*target, attributes);
+    box->drawBorderTo(*target, attributes);
+    target->drawClipped(*own, box->dimensions.content.x, box->dimensions.content.y);
+}
+
 void Box::drawTo(Canvas& canvas, Canvas::Attributes const& attributes) {
-    Canvas contentCanvas;
-    Canvas::Attributes own = attributes;
-    drawBackgroundTo(canvas, own);
-    drawBorderTo(canvas, own);
-    applyContentAttributes(own);
-    for (unsigned i = 0; i < children.count; ++i) children[i]->drawTo(contentCanvas, own);
-    canvas.drawClipped(contentCanvas, dimensions.content.x, dimensions.content.y);
+    Walk::run(drawTree(*this, canvas, attributes));
 }
 
 void InlineBox::drawTo(Canvas& canvas, Canvas::Attributes const& attributes) {
-    if (children.count > 0) {
-        Canvas::Attributes own = attributes;
-        if (DomElement const* const element = asElement(node)) {
-            own.flags = static_cast<std::uint8_t>(own.flags | flagOfElement(element->name));
-        }
-        Box::drawTo(canvas, own);
-    } else if (DomText const* const word = asText(node)) {
-        canvas.drawClipped(word->text, dimensions.content.x, dimensions.content.y, attributes);
+    if (children.count == 0) {
+        drawLeaf(*this, canvas, attributes);
+    } else {
+        Box::drawTo(canvas, withElementFlag(*this, attributes));
     }
 }
 

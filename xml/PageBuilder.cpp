@@ -1,0 +1,168 @@
+#include "xml/PageBuilder.h"
+
+#include <limits>
+#include <utility>
+
+#include "xml/layout/TableBox.h"
+#include "xml/layout/makeChild.h"
+
+namespace CLI::XML {
+
+namespace {
+
+Dimensions pageOfWidth(unsigned width) {
+    Dimensions page;
+    auto const widest = static_cast<unsigned>(std::numeric_limits<std::int32_t>::max());
+    page.content.width = static_cast<std::int32_t>(std::min(width, widest));
+    return page;
+}
+
+ZRLWPtr<BlockBox> asBlock(ZRLWPtr<Box> const& box) {
+    return ZRLWPtr<BlockBox>::share(static_cast<BlockBox*>(box.object));
+}
+
+}  // namespace
+
+PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<DomElement> rendered, ZRLWPtr<BlockBox> made,
+                                  Dimensions const& containing, Canvas& canvas,
+                                  Canvas::Attributes const& attributes)
+    : element(std::move(rendered)),
+      box(std::move(made)),
+      flow(*box, containing),
+      painting(*box, canvas, attributes) {}
+
+PageBuilder::PageBuilder(ZRLWPtr<DomElement> root, unsigned width,
+                         bool promisesModestEdges)
+    : letsGoEarly(promisesModestEdges) {
+    ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(root.object));
+    open.emplace_back(std::move(root), box, pageOfWidth(width), page, Canvas::Attributes());
+    innermost().paintsOnPage = innermost().painting.paintsDirectly();
+}
+
+PageBuilder::~PageBuilder() {
+    // From the inside out: a painting ends within the one around it.
+    while (!open.empty()) open.pop_back();
+}
+
+void PageBuilder::startElement(ZRLWPtr<DomElement> element) {
+    if (!refusal) return;
+    if (!subtree.isEmpty() || element->display == DomNode::None) {
+        subtree.push(std::move(element));
+        return;
+    }
+    ZRLWPtr<Box> box;
+    refusal = makeChild(*innermost().box, *element, box);
+    if (!refusal) return;
+    if (element->display == DomNode::Block) {
+        openBlock(std::move(element), box);
+    } else {
+        subtreeBox = box;
+        subtree.push(std::move(element));
+    }
+}
+
+void PageBuilder::endElement() {
+    if (!refusal) return;
+    if (subtree.isEmpty()) {
+        closeBlock();
+    } else if (ZRLWPtr<DomElement> const element = subtree.pop()) {
+        addSubtree(element, std::exchange(subtreeBox, nullptr));
+    }
+}
+
+void PageBuilder::addWord(ZRLWPtr<DomText> word) {
+    if (!refusal) return;
+    if (!subtree.isEmpty()) {
+        subtree.add(ZRLWPtr<DomNode>(word));
+        return;
+    }
+    ZRLWPtr<Box> const box = ZR::MovePtr<Box>(new InlineBox(word.object));
+    addToLine(ZRLWPtr<DomNode>(word), box);
+}
+
+XCode PageBuilder::finish(String& out) {
+    if (!refusal) return refusal;
+    closeBlock();
+    page.moveRowsTo(text, std::numeric_limits<unsigned>::max());
+    // A longer text is one that a String cannot hold, and appends nothing.
+    if (text.size() <= static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+        out.concat(text.data(), static_cast<int>(text.size()));
+    }
+    return refusal;
+}
+
+void PageBuilder::openBlock(ZRLWPtr<DomElement> element, ZRLWPtr<Box> const& box) {
+    closeLine();
+    OpenBlock& parent = innermost();
+    parent.flow.place(*asBlock(box));
+    bool const isOnPage = parent.paintsOnPage;
+    open.emplace_back(std::move(element), asBlock(box), parent.box->dimensions,
+                      parent.painting.canvas(), parent.painting.attributes());
+    innermost().paintsOnPage = isOnPage && innermost().painting.paintsDirectly();
+}
+
+void PageBuilder::closeBlock() {
+    closeLine();
+    innermost().flow.finish();
+    innermost().painting.finish();
+    ZRLWPtr<BlockBox> const box = innermost().box;
+    ZRLWPtr<DomElement> const element = innermost().element;
+    open.pop_back();
+    if (open.empty()) return;
+    innermost().flow.take(*box);
+    releaseRows();
+}
+
+/// Builds, lays out and paints what stands below an inline element or a table, now that it is
+/// complete; an element that is not displayed goes as it came.
+void PageBuilder::addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> const& box) {
+    if (!box) return;
+    refusal = box->createChildren();
+    if (!refusal) return;
+    if (element->display == DomNode::Inline) {
+        addToLine(ZRLWPtr<DomNode>(element), box);
+    } else {
+        closeLine();
+        Walk::run(innermost().flow.add(box, {}));
+        paintDone();
+    }
+}
+
+void PageBuilder::addToLine(ZRLWPtr<DomNode> const& node, ZRLWPtr<Box> const& box) {
+    OpenBlock& block = innermost();
+    block.lineNodes.push_back(node);
+    if (!block.flow.addToLine(box, letsGoEarly)) return;
+    paintDone();
+    DomNode const* const first = block.flow.openLine()->children[0]->node;
+    while (block.lineNodes.front().object != first) block.lineNodes.pop_front();
+}
+
+void PageBuilder::closeLine() {
+    OpenBlock& block = innermost();
+    if (block.flow.openLine() == nullptr) return;
+    block.flow.closeLine();
+    paintDone();
+    block.lineNodes.clear();
+}
+
+void PageBuilder::paintDone() {
+    OpenBlock& block = innermost();
+    Canvas& canvas = block.painting.canvas();
+    for (unsigned i = 0; i < block.flow.done.count; ++i) {
+        block.flow.done[i]->drawTo(canvas, block.painting.attributes());
+    }
+    block.flow.done.clear();
+    releaseRows();
+}
+
+/// Without extreme edges nothing is painted above the end of what an open block holds already.
+void PageBuilder::releaseRows() {
+    OpenBlock const& block = innermost();
+    if (!letsGoEarly || !block.paintsOnPage) return;
+    std::int64_t const row = std::int64_t{page.originRow()} + block.box->dimensions.content.height;
+    if (row <= std::numeric_limits<std::int32_t>::max()) {
+        page.moveRowsTo(text, static_cast<unsigned>(row));
+    }
+}
+
+}  // namespace CLI::XML

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "xml/dom/OpenElements.h"
+#include "xml/layout/BlockFlow.h"
+#include "xml/render/BoxPainting.h"
+
+namespace CLI::XML {
+
+/// Lays out and paints a document while it is read. What is finished is let go: of a child of an
+/// open block, and of a full line of an open paragraph, only the painted cells stay, and where no
+/// box can reach up any more only the text of the page.
+///
+/// This holds as long as every open element around is a block. What stands in an inline element or
+/// a table is kept until that is closed, since its boxes may be laid out again.
+class PageBuilder final : public DocumentHandler {
+public:
+    /// `promisesModestEdges` says that the document has no extreme edges: without that promise lines and
+    /// rows are kept until nothing can reach them.
+    PageBuilder(ZRLWPtr<DomElement> root, unsigned width, bool promisesModestEdges);
+    PageBuilder(PageBuilder const&) = delete;
+    PageBuilder& operator=(PageBuilder const&) = delete;
+    ~PageBuilder() override;
+
+    void startElement(ZRLWPtr<DomElement> element) override;
+    void endElement() override;
+    void addWord(ZRLWPtr<DomText> word) override;
+
+    /// To be called at the end of the document: finishes the page and appends it to `out`; or
+    /// returns why a child was refused by its parent, the first that was, with `out` unchanged.
+    XCode finish(String& out);
+
+private:
+    /// A block that is being read, all of whose ancestors are.
+    struct OpenBlock {
+        OpenBlock(ZRLWPtr<DomElement> rendered, ZRLWPtr<BlockBox> made, Dimensions const& containing,
+                  Canvas& canvas, Canvas::Attributes const& attributes);
+
+        ZRLWPtr<DomElement> element;
+        ZRLWPtr<BlockBox> box;
+        BlockFlow flow;
+        BoxPainting painting;
+        /// What its open line, and the lines that have yet to be painted, show.
+        std::deque<ZRLWPtr<DomNode>> lineNodes;
+        /// What is painted goes straight to the page, down from its first row.
+        bool paintsOnPage = false;
+    };
+
+    OpenBlock& innermost() { return open.back(); }
+    void openBlock(ZRLWPtr<DomElement> element, ZRLWPtr<Box> const& box);
+    void closeBlock();
+    void addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> const& box);
+    void addToLine(ZRLWPtr<DomNode> const& node, ZRLWPtr<Box> const& box);
+    void closeLine();
+    void paintDone();
+    void releaseRows();
+
+    Canvas page;
+    /// Rows of the page that nothing can change any more.
+    std::string text;
+    bool const letsGoEarly;
+    std::vector<OpenBlock> open;
+    /// Of the innermost block, a child that is being read and is not a block.
+    OpenElements subtree;
+    /// Its box; null where it is not displayed.
+    ZRLWPtr<Box> subtreeBox;
+    XCode refusal;
+};
+
+}  // namespace CLI::XML

@@ -1,0 +1,165 @@
+#include "xml/dom/readDocument.h"
+
+#include <array>
+#include <cctype>
+#include <cstring>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "xml/dom/createDomElement.h"
+#include "xml/dom/replaceEntities.h"
+
+namespace CLI::XML {
+
+namespace {
+
+/// What `isspace` says of every byte, asked once.
+class WhiteSpace {
+public:
+    WhiteSpace() {
+        for (unsigned byte = 0; byte < members.size(); ++byte) {
+            members[byte] = std::isspace(static_cast<int>(byte)) != 0;
+        }
+    }
+    bool contains(char c) const { return members[static_cast<unsigned char>(c)]; }
+
+private:
+    std::array<bool, 256> members;
+};
+
+String decoded(String word) {
+    bool const hasReference = word.indexOf('&') >= 0;
+    return hasReference ? replaceEntities(word) : word;
+}
+
+/// The open elements of one reading, innermost last.
+class Reader {
+public:
+    Reader(DocumentHandler& taker, PullParser& source, StyleList const& rules)
+        : handler(taker), parser(source) {
+        for (ZRLWPtr<StyleNode> const& rule : rules) lastRules[rule->selector.view()] = &rule;
+    }
+
+    bool hasOpenElements() const { return !open.empty(); }
+
+    XCode startElement() {
+        XCode result = syntax(parser.readStartTag());
+        if (!result) return result;
+        ZRLWPtr<DomElement> element = createDomElement(parser.name);
+        if (!element) {
+            return testExpression(false).setStringF("Invalid tag: <%s>", parser.name.c_str());
+        }
+        if (parser.attributes.count > 0) setAttributes(*element);
+        auto const rule = lastRules.find(element->name.view());
+        if (rule != lastRules.end()) element->styleNode = *rule->second;
+        open.push_back(element);
+        handler.startElement(std::move(element));
+        return XCode();
+    }
+
+    /// Closes the innermost open element.
+    XCode endElement() {
+        XCode result = syntax(parser.readEndTag());
+        if (!result) return result;
+        String const& name = open.back()->name;
+        if (!(parser.name == name)) {
+            return testExpression(false).setStringF("End tag </%s> does not match start tag <%s>",
+                                                    parser.name.c_str(), name.c_str());
+        }
+        open.pop_back();
+        handler.endElement();
+        return XCode();
+    }
+
+    XCode addContent() {
+        XCode result = syntax(parser.readContent());
+        if (result) addWords(parser.content.c_str());
+        return result;
+    }
+
+    /// Passes the code of a parser's operation on, a failure with the parser's message.
+    XCode syntax(XCode result) const {
+        if (!result) result.setString(parser.errorMessage);
+        return result;
+    }
+
+private:
+    void setAttributes(DomElement& element) const {
+        ZRStringHashTable<String> attributes;
+        for (PullParser::Attribute const& attribute : parser.attributes) {
+            attributes.set(attribute.name, attribute.value);
+        }
+        element.setAttributes(attributes);
+    }
+
+    /// Cuts running text, up to its first NUL byte, into words. A word that white space follows
+    /// keeps one space of it. References are decoded after cutting, so that a decoded space never
+    /// splits a word.
+    void addWords(char const* next) {
+        for (;;) {
+            while (whiteSpace.contains(*next)) ++next;
+            if (*next == '\0') return;
+            char const* const start = next;
+            while (*next != '\0' && !whiteSpace.contains(*next)) ++next;
+            bool const keepsItsSpace = *next == ' ';
+            String word(start, 0, static_cast<int>(next - start) + (keepsItsSpace ? 1 : 0));
+            if (*next != '\0' && !keepsItsSpace) word += " ";
+            handler.addWord(ZR::MovePtr<DomText>(new DomText(decoded(std::move(word)))));
+        }
+    }
+
+    DocumentHandler& handler;
+    PullParser& parser;
+    /// By selector.
+    std::unordered_map<std::string_view, ZRLWPtr<StyleNode> const*> lastRules;
+    WhiteSpace whiteSpace;
+    std::vector<ZRLWPtr<DomElement>> open;
+};
+
+XCode failOnLine(int line, char const* text) {
+    return testExpression(false).setStringF("Line %d: %s", line, text);
+}
+
+}  // namespace
+
+XCode readDocument(DocumentHandler& handler, bool isTopLevel, PullParser& parser,
+                   StyleList const& styles) {
+    Reader reader(handler, parser, styles);
+    for (;;) {
+        XCode result;
+        switch (parser.getNextTag()) {
+            case PullParser::TAG_ERROR:
+                return reader.syntax(testExpression(false));
+            case PullParser::TAG_END_OF_DOCUMENT:
+                if (isTopLevel && !reader.hasOpenElements()) return XCode();
+                return failOnLine(parser.line, "Missing end tag at the end");
+            case PullParser::TAG_START:
+                result = reader.startElement();
+                break;
+            case PullParser::TAG_OTHER:
+                result = reader.syntax(parser.skipOtherTag());
+                break;
+            case PullParser::TAG_END:
+                if (!reader.hasOpenElements()) return XCode();
+                result = reader.endElement();
+                break;
+            case PullParser::TAG_CONTENT:
+                result = reader.addContent();
+                break;
+            case PullParser::TAG_COMMENT:
+                result = reader.syntax(parser.skipCommentTag());
+                break;
+            default:
+                return failOnLine(parser.line, "Invalid XML parser tag");
+        }
+        if (!result) return result;
+    }
+}
+
+ZRLWPtr<DomElement> createRootElement() {
+    return ZR::MovePtr<DomElement>(new DomElement("html", DomNode::Block));
+}
+
+}  // namespace CLI::XML

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "base/XCode.h"
+#include "xml/css/StyleNode.h"
+#include "xml/dom/DomElement.h"
+#include "xml/dom/DomText.h"
+#include "xml/parser/PullParser.h"
+
+namespace CLI::XML {
+
+/// Takes a document as it is read, from beginning to end.
+class DocumentHandler {
+public:
+    virtual ~DocumentHandler() = default;
+    /// An element begins: its attributes, display kind and style rule are set, children follow.
+    virtual void startElement(ZRLWPtr<DomElement> element) = 0;
+    /// The innermost open element ends.
+    virtual void endElement() = 0;
+    virtual void addWord(ZRLWPtr<DomText> word) = 0;
+};
+
+/// Reads events until the end tag that closes what was open at the beginning, which is left unread,
+/// or the end of the document, which only a top-level call accepts. Running text becomes a text a
+/// word; white space is what `isspace` says in the current locale. An element takes the last rule
+/// of `styles` whose selector is its name.
+///
+/// The first failure ends the reading and names its cause.
+XCode readDocument(DocumentHandler& handler, bool isTopLevel, PullParser& parser,
+                   StyleList const& styles);
+
+/// The implicit element around a document, a block named "html".
+ZRLWPtr<DomElement> createRootElement();
+
+}  // namespace CLI::XML
