@@ -1,10 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <string_view>
+#include <unordered_map>
 
 #include "base/StringHash.h"
 
-/// A chained hash table with a fixed number of buckets, for a handful of entries.
+/// A chained hash table with a fixed number of buckets, for a handful of string keys. Beyond that
+/// handful an index of its own finds an entry, so that the length of the chains costs nothing.
 ///
 /// 1. The list of all entries is circular through `head`, newest first: walking from `head.prev`
 ///    along `prev` visits the entries in the order in which they were added.
@@ -27,13 +30,15 @@ public:
     unsigned bucketCount = 16;
     unsigned count = 0;
     Node head;
-    Node** buckets = new Node* [bucketCount] {};
+    /// Shared by all tables without entries, and never written to, until the first entry.
+    Node** buckets = s_noBuckets;
 
     ZRHashTable() = default;
     ZRHashTable(ZRHashTable const&) = delete;
     ZRHashTable& operator=(ZRHashTable const&) = delete;
     virtual ~ZRHashTable() {
         clear();
+        if (buckets == s_noBuckets) return;
         for (unsigned i = 0; i < bucketCount; ++i) delete buckets[i];
         delete[] buckets;
     }
@@ -44,8 +49,11 @@ public:
         auto node = std::make_unique<Node>();
         node->key = key;
         node->value = value;
+        if (buckets == s_noBuckets) buckets = new Node* [bucketCount] {};
         Node*& bucket = bucketOf(key);
         if (bucket == nullptr) bucket = new Node;
+        if (count == s_handful) indexAll();
+        if (index != nullptr) index->try_emplace(node->key.view(), node.get());
         link(*node, *bucket);
         ++count;
         return node.release()->value;
@@ -70,6 +78,7 @@ public:
 
     /// Removes every entry, oldest first; bucket sentinels stay.
     void clear() {
+        index.reset();
         while (head.prev != &head) {
             Node* const oldest = head.prev;
             unlink(*oldest);
@@ -79,9 +88,27 @@ public:
     }
 
 private:
+    /// Oldest entry by key.
+    using Index = std::unordered_map<std::string_view, Node*>;
+
+    static constexpr unsigned s_handful = 64;
+    static inline Node* s_noBuckets[16] = {};
+
+    void indexAll() {
+        auto made = std::make_unique<Index>();
+        for (Node* node = head.prev; node != &head; node = node->prev) {
+            made->try_emplace(node->key.view(), node);
+        }
+        index = std::move(made);
+    }
+
     Node*& bucketOf(K const& key) const { return buckets[Hash()(key) % bucketCount]; }
 
     Node* find(K const& key) const {
+        if (index != nullptr) {
+            auto const found = index->find(key.view());
+            return found != index->end() ? found->second : nullptr;
+        }
         Node* const bucket = bucketOf(key);
         if (bucket == nullptr) return nullptr;
         for (Node* node = bucket->bucketNext; node != bucket; node = node->bucketNext) {
@@ -107,4 +134,7 @@ private:
         node.bucketPrev->bucketNext = node.bucketNext;
         node.bucketNext->bucketPrev = node.bucketPrev;
     }
+
+    /// Null up to a handful of entries.
+    std::unique_ptr<Index> index;
 };

@@ -64,8 +64,12 @@ public:
         return true;
     }
 
-    void add(T const& v) { insert(count, v); }
-    void add(T&& v) { insert(count, std::move(v)); }
+    void add(T const& v) { add(T(v)); }
+    void add(T&& v) {
+        T taken = std::move(v);
+        growToHold(count);
+        data[count++] = std::move(taken);
+    }
 
     /// Puts `v` before element `i`; at or past the end it becomes element `i`, and slots in
     /// between become elements as they are. `v` may be an element of this vector.

@@ -1,6 +1,7 @@
 #include "xml/dom/DomElement.h"
 
 #include "base/releaseTree.h"
+#include "xml/css/properties.h"
 
 namespace CLI::XML {
 
@@ -30,7 +31,7 @@ XCode DomElement::setAttributes(ZRStringHashTable<String> const& source) {
         }
     }
     String value;
-    if (!attributes.get("display", value)) return XCode();
+    if (!attributes.get(Property::s_display, value)) return XCode();
     for (DisplayKeyword const& candidate : s_displayKeywords) {
         if (value.view() == candidate.keyword) display = candidate.display;
     }

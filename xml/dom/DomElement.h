@@ -49,4 +49,10 @@ inline DomElement* asElement(DomNode* node) {
     return isElement ? static_cast<DomElement*>(node) : nullptr;
 }
 
+/// Whether a node has any style property.
+inline bool hasStyle(DomNode const* node) {
+    DomElement const* const element = asElement(node);
+    return element != nullptr && (element->attributes.count > 0 || element->styleNode);
+}
+
 }  // namespace CLI::XML

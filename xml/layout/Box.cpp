@@ -1,6 +1,7 @@
 #include "xml/layout/Box.h"
 
 #include "base/releaseTree.h"
+#include "xml/css/properties.h"
 #include "xml/dom/DomElement.h"
 
 namespace CLI::XML {
@@ -21,27 +22,27 @@ ZRLWPtr<Box> Box::split(int) { return {}; }
 
 void Box::initEdges() {
     dimensions.padding = dimensions.border = dimensions.margin = EdgeSizes();
-    // Only an element has a style, and most boxes are words.
-    if (asElement(node) == nullptr) return;
+    // Most boxes are words, and most elements have no style.
+    if (!hasStyle(node)) return;
     // Qualified, since it is called while the box is being constructed.
-    auto const cells = [this](char const* side, char const* allSides) {
+    auto const cells = [this](String const& side, String const& allSides) {
         return Box::getStyleInt2(side, allSides, 0);
     };
     EdgeSizes& margin = dimensions.margin;
-    margin.left = cells("margin-left", "margin");
-    margin.right = cells("margin-right", "margin");
-    margin.top = cells("margin-top", "margin");
-    margin.bottom = cells("margin-bottom", "margin");
+    margin.left = cells(Property::s_marginLeft, Property::s_margin);
+    margin.right = cells(Property::s_marginRight, Property::s_margin);
+    margin.top = cells(Property::s_marginTop, Property::s_margin);
+    margin.bottom = cells(Property::s_marginBottom, Property::s_margin);
     EdgeSizes& border = dimensions.border;
-    border.left = cells("border-left-width", "border-width");
-    border.right = cells("border-right-width", "border-width");
-    border.top = cells("border-top-width", "border-width");
-    border.bottom = cells("border-bottom-width", "border-width");
+    border.left = cells(Property::s_borderLeftWidth, Property::s_borderWidth);
+    border.right = cells(Property::s_borderRightWidth, Property::s_borderWidth);
+    border.top = cells(Property::s_borderTopWidth, Property::s_borderWidth);
+    border.bottom = cells(Property::s_borderBottomWidth, Property::s_borderWidth);
     EdgeSizes& padding = dimensions.padding;
-    padding.left = cells("padding-left", "padding");
-    padding.right = cells("padding-right", "padding");
-    padding.top = cells("padding-top", "padding");
-    padding.bottom = cells("padding-bottom", "padding");
+    padding.left = cells(Property::s_paddingLeft, Property::s_padding);
+    padding.right = cells(Property::s_paddingRight, Property::s_padding);
+    padding.top = cells(Property::s_paddingTop, Property::s_padding);
+    padding.bottom = cells(Property::s_paddingBottom, Property::s_padding);
 }
 
 }  // namespace CLI::XML

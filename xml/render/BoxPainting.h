@@ -31,6 +31,8 @@ public:
     void finish();
 
 private:
+    bool paintsBeneath();
+
     Box* box;
     Canvas* target;
     Canvas::Attributes inherited;

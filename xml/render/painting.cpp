@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/saturate.h"
+#include "xml/css/properties.h"
 #include "xml/dom/DomElement.h"
 #include "xml/dom/DomText.h"
 #include "xml/layout/InlineBox.h"
@@ -123,15 +124,20 @@ Walk drawTree(Box& box, Canvas& canvas, Attributes inherited) {
 
 BoxPainting::BoxPainting(Box& painted, Canvas& ofParent, Canvas::Attributes const& handedDown)
     : box(&painted), target(&ofParent), inherited(handedDown), content(handedDown) {
-    String const background = box->getStyle("background-color", String::s_empty);
+    Rect const& area = box->dimensions.content;
+    isDirect = !paintsBeneath() && target->enter(area.x, area.y);
+    if (!isDirect) own = std::make_unique<Canvas>();
+}
+
+/// Whether the box has a background or a border. Applies what it hands down to its content.
+bool BoxPainting::paintsBeneath() {
+    if (!hasStyle(box->node)) return false;
+    String const background = box->getStyle(Property::s_backgroundColor, String::s_empty);
     if (background.length() > 0) content.background = Canvas::Attributes::color(background);
     box->applyContentAttributes(content);
     EdgeSizes const& border = box->dimensions.border;
-    bool const paintsBeneath = background.length() > 0 || border.left > 0 || border.right > 0 ||
-                               border.top > 0 || border.bottom > 0;
-    Rect const& area = box->dimensions.content;
-    isDirect = !paintsBeneath && target->enter(area.x, area.y);
-    if (!isDirect) own = std::make_unique<Canvas>();
+    return background.length() > 0 || border.left > 0 || border.right > 0 || border.top > 0 ||
+           border.bottom > 0;
 }
 
 BoxPainting::BoxPainting(BoxPainting&& other) noexcept
@@ -167,7 +173,7 @@ void InlineBox::drawTo(Canvas& canvas, Canvas::Attributes const& attributes) {
 }
 
 void Box::drawBackgroundTo(Canvas& canvas, Canvas::Attributes& attributes) {
-    String const value = getStyle("background-color", String::s_empty);
+    String const value = getStyle(Property::s_backgroundColor, String::s_empty);
     if (value.length() == 0) return;
     attributes.background = Canvas::Attributes::color(value);
     Rect const area = dimensions.borderBox();
@@ -181,28 +187,28 @@ void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
     int const bottom = saturate(std::int64_t{area.y} + area.height - 1);
     EdgeSizes const& border = dimensions.border;
 
-    String const color = getStyle("border-color", String::s_empty);
+    String const color = getStyle(Property::s_borderColor, String::s_empty);
     if (color.length() > 0) attributes.foreground = Canvas::Attributes::color(color);
 
-    auto const styleOf = [this](char const* property) {
-        return getStyle2(property, "border-style", "*");
+    auto const styleOf = [this](String const& property) {
+        return getStyle2(property, Property::s_borderStyle, "*");
     };
     if (border.left > 0) {
-        drawColumn(canvas, styleOf("border-left-style"), area.x, area, attributes);
+        drawColumn(canvas, styleOf(Property::s_borderLeftStyle), area.x, area, attributes);
     }
     if (border.right > 0) {
-        drawColumn(canvas, styleOf("border-right-style"), right, area, attributes);
+        drawColumn(canvas, styleOf(Property::s_borderRightStyle), right, area, attributes);
     }
     if (border.top > 0) {
-        Strip const side = stripAlong(area, styleOf("border-top-style"));
+        Strip const side = stripAlong(area, styleOf(Property::s_borderTopStyle));
         canvas.drawClipped(side.text, side.x, area.y, attributes);
     }
     if (border.bottom > 0) {
-        Strip const side = stripAlong(area, styleOf("border-bottom-style"));
+        Strip const side = stripAlong(area, styleOf(Property::s_borderBottomStyle));
         canvas.drawClipped(side.text, side.x, bottom, attributes);
     }
 
-    String const corner = getStyle("border-corner-style", String::s_empty);
+    String const corner = getStyle(Property::s_borderCornerStyle, String::s_empty);
     auto const drawCorner = [&](int vertical, int horizontal, int x, int y) {
         if (vertical > 0 && horizontal > 0) canvas.drawClipped(corner, x, y, attributes);
     };
@@ -213,9 +219,9 @@ void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
 }
 
 void Box::applyContentAttributes(Canvas::Attributes& attributes) {
-    String const color = getStyle("color", String::s_empty);
+    String const color = getStyle(Property::s_color, String::s_empty);
     if (color.length() > 0) attributes.foreground = Canvas::Attributes::color(color);
-    String const fontStyle = getStyle("font-style", String::s_empty);
+    String const fontStyle = getStyle(Property::s_fontStyle, String::s_empty);
     if (fontStyle.length() > 0) applyFontStyle(fontStyle, attributes);
 }
 
