@@ -22,6 +22,10 @@ public:
         : object(other.object) {
         addRefIfAny();
     }
+    /// Takes over the reference of a pointer to a derived class.
+    template <class Derived>
+    ZRLWPtr(ZRLWPtr<Derived>&& other) noexcept  // NOLINT(google-explicit-constructor): an upcast
+        : object(std::exchange(other.object, nullptr)) {}
     /// Adopts the construction reference.
     ZRLWPtr(ZR::MovePtr<T> const& other)  // NOLINT(google-explicit-constructor): a handover
         : object(other.object) {}

@@ -31,8 +31,7 @@ PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<DomElement> rendered, ZRLWPtr<BlockBox
       flow(*box, containing),
       painting(*box, canvas, attributes) {}
 
-PageBuilder::PageBuilder(ZRLWPtr<DomElement> root, unsigned width,
-                         bool promisesModestEdges)
+PageBuilder::PageBuilder(ZRLWPtr<DomElement> root, unsigned width, bool promisesModestEdges)
     : letsGoEarly(promisesModestEdges) {
     ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(root.object));
     open.emplace_back(std::move(root), box, pageOfWidth(width), page, Canvas::Attributes());
@@ -73,11 +72,11 @@ void PageBuilder::endElement() {
 void PageBuilder::addWord(ZRLWPtr<DomText> word) {
     if (!refusal) return;
     if (!subtree.isEmpty()) {
-        subtree.add(ZRLWPtr<DomNode>(word));
+        subtree.add(std::move(word));
         return;
     }
-    ZRLWPtr<Box> const box = ZR::MovePtr<Box>(new InlineBox(word.object));
-    addToLine(ZRLWPtr<DomNode>(word), box);
+    ZRLWPtr<Box> box = ZR::MovePtr<Box>(new InlineBox(word.object));
+    addToLine(std::move(word), std::move(box));
 }
 
 XCode PageBuilder::finish(String& out) {
@@ -120,7 +119,7 @@ void PageBuilder::addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> co
     refusal = box->createChildren();
     if (!refusal) return;
     if (element->display == DomNode::Inline) {
-        addToLine(ZRLWPtr<DomNode>(element), box);
+        addToLine(element, box);
     } else {
         closeLine();
         Walk::run(innermost().flow.add(box, {}));
@@ -128,10 +127,10 @@ void PageBuilder::addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> co
     }
 }
 
-void PageBuilder::addToLine(ZRLWPtr<DomNode> const& node, ZRLWPtr<Box> const& box) {
+void PageBuilder::addToLine(ZRLWPtr<DomNode> node, ZRLWPtr<Box> box) {
     OpenBlock& block = innermost();
-    block.lineNodes.push_back(node);
-    if (!block.flow.addToLine(box, letsGoEarly)) return;
+    block.lineNodes.push_back(std::move(node));
+    if (!block.flow.addToLine(std::move(box), letsGoEarly)) return;
     paintDone();
     DomNode const* const first = block.flow.openLine()->children[0]->node;
     while (block.lineNodes.front().object != first) block.lineNodes.pop_front();

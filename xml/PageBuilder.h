@@ -18,8 +18,8 @@ namespace CLI::XML {
 /// a table is kept until that is closed, since its boxes may be laid out again.
 class PageBuilder final : public DocumentHandler {
 public:
-    /// `promisesModestEdges` says that the document has no extreme edges: without that promise lines and
-    /// rows are kept until nothing can reach them.
+    /// `promisesModestEdges` says that the document has no extreme edges: without that promise
+    /// lines and rows are kept until nothing can reach them.
     PageBuilder(ZRLWPtr<DomElement> root, unsigned width, bool promisesModestEdges);
     PageBuilder(PageBuilder const&) = delete;
     PageBuilder& operator=(PageBuilder const&) = delete;
@@ -36,8 +36,9 @@ public:
 private:
     /// A block that is being read, all of whose ancestors are.
     struct OpenBlock {
-        OpenBlock(ZRLWPtr<DomElement> rendered, ZRLWPtr<BlockBox> made, Dimensions const& containing,
-                  Canvas& canvas, Canvas::Attributes const& attributes);
+        OpenBlock(ZRLWPtr<DomElement> rendered, ZRLWPtr<BlockBox> made,
+                  Dimensions const& containing, Canvas& canvas,
+                  Canvas::Attributes const& attributes);
 
         ZRLWPtr<DomElement> element;
         ZRLWPtr<BlockBox> box;
@@ -53,7 +54,7 @@ private:
     void openBlock(ZRLWPtr<DomElement> element, ZRLWPtr<Box> const& box);
     void closeBlock();
     void addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> const& box);
-    void addToLine(ZRLWPtr<DomNode> const& node, ZRLWPtr<Box> const& box);
+    void addToLine(ZRLWPtr<DomNode> node, ZRLWPtr<Box> box);
     void closeLine();
     void paintDone();
     void releaseRows();

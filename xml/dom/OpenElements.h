@@ -15,14 +15,14 @@ public:
     void push(ZRLWPtr<DomElement> element) { open.push_back(std::move(element)); }
 
     /// Adds a node to the innermost element.
-    void add(ZRLWPtr<DomNode> const& node) { open.back()->children.add(node); }
+    void add(ZRLWPtr<DomNode> node) { open.back()->children.add(std::move(node)); }
 
     /// Closes the innermost element. Returns the outermost one if that was it, otherwise null.
     ZRLWPtr<DomElement> pop() {
         ZRLWPtr<DomElement> closed = std::move(open.back());
         open.pop_back();
         if (open.empty()) return closed;
-        add(ZRLWPtr<DomNode>(closed));
+        add(std::move(closed));
         return {};
     }
 

@@ -14,15 +14,15 @@ public:
     void startElement(ZRLWPtr<DomElement> element) override { open.push(std::move(element)); }
 
     void endElement() override {
-        ZRLWPtr<DomElement> const element = open.pop();
-        if (element) outermost.children.add(ZRLWPtr<DomNode>(element));
+        ZRLWPtr<DomElement> element = open.pop();
+        if (element) outermost.children.add(std::move(element));
     }
 
     void addWord(ZRLWPtr<DomText> word) override {
         if (open.isEmpty()) {
-            outermost.children.add(ZRLWPtr<DomNode>(word));
+            outermost.children.add(std::move(word));
         } else {
-            open.add(word);
+            open.add(std::move(word));
         }
     }
 

@@ -29,11 +29,6 @@ private:
     std::array<bool, 256> members;
 };
 
-String decoded(String word) {
-    bool const hasReference = word.indexOf('&') >= 0;
-    return hasReference ? replaceEntities(word) : word;
-}
-
 /// The open elements of one reading, innermost last.
 class Reader {
 public:
@@ -75,7 +70,7 @@ public:
 
     XCode addContent() {
         XCode result = syntax(parser.readContent());
-        if (result) addWords(parser.content.c_str());
+        if (result) addWords(parser.content);
         return result;
     }
 
@@ -97,7 +92,9 @@ private:
     /// Cuts running text, up to its first NUL byte, into words. A word that white space follows
     /// keeps one space of it. References are decoded after cutting, so that a decoded space never
     /// splits a word.
-    void addWords(char const* next) {
+    void addWords(String const& content) {
+        bool const hasReferences = content.indexOf('&') >= 0;
+        char const* next = content.c_str();
         for (;;) {
             while (whiteSpace.contains(*next)) ++next;
             if (*next == '\0') return;
@@ -106,7 +103,8 @@ private:
             bool const keepsItsSpace = *next == ' ';
             String word(start, 0, static_cast<int>(next - start) + (keepsItsSpace ? 1 : 0));
             if (*next != '\0' && !keepsItsSpace) word += " ";
-            handler.addWord(ZR::MovePtr<DomText>(new DomText(decoded(std::move(word)))));
+            if (hasReferences) word = replaceEntities(word);
+            handler.addWord(ZR::MovePtr<DomText>(new DomText(std::move(word))));
         }
     }
 

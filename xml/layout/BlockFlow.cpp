@@ -1,12 +1,14 @@
 #include "xml/layout/BlockFlow.h"
 
 #include <limits>
-
+#include <utility>
 
 namespace CLI::XML {
 
 namespace {
 
+/// Room for as many spares the storage of a line from growing in steps.
+constexpr unsigned s_boxesOnLine = 15;
 constexpr std::int32_t s_largestWidth = std::numeric_limits<std::int32_t>::max();
 
 std::int32_t widthWithin(Dimensions const& containing, EdgeSizes const& edges) {
@@ -28,17 +30,18 @@ Walk BlockFlow::add(ZRLWPtr<Box> const& child, LayoutPass pass) {
     return placePending(pass, 0);
 }
 
-bool BlockFlow::addToLine(ZRLWPtr<Box> const& box, bool mayBreak) {
+bool BlockFlow::addToLine(ZRLWPtr<Box> box, bool mayBreak) {
     if (pending.empty()) {
         pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
+        pending.front()->children.enlarge(s_boxesOnLine);
         breaks = 0;
         room = available;
     }
     measure(*box);
     Box& line = *pending.front();
-    line.children.add(box);
     line.isSettled = false;
     room -= box->dimensions.content.width;
+    line.children.add(std::move(box));
     if (!mayBreak || room >= 0 || available == s_largestWidth) return false;
     unsigned const formerBreaks = breaks;
     Walk::run(placePending({.isMeasured = true}, 1));
@@ -61,6 +64,7 @@ void BlockFlow::measure(Box& box) const {
 
 void BlockFlow::findRoom() {
     room = available;
+    pending.front()->children.enlarge(s_boxesOnLine);
     for (ZRLWPtr<Box> const& child : pending.front()->children) {
         room -= child->dimensions.content.width;
     }

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "base/saturate.h"
+
 namespace CLI::XML {
 
 /// A rectangle in character cells: columns to the right, rows downwards. The origin is the top
@@ -45,13 +47,37 @@ struct Dimensions {
     EdgeSizes margin;
 
     /// Padding, border and margin of each side together.
-    EdgeSizes edges() const;
+    EdgeSizes edges() const {
+        return {sum(padding.left, border.left, margin.left),
+                sum(padding.right, border.right, margin.right),
+                sum(padding.top, border.top, margin.top),
+                sum(padding.bottom, border.bottom, margin.bottom)};
+    }
     /// The content box grown by padding and border.
-    Rect borderBox() const;
+    Rect borderBox() const {
+        using Wide = std::int64_t;
+        return {saturate(Wide{content.x} - padding.left - border.left),
+                saturate(Wide{content.y} - padding.top - border.top),
+                saturate(Wide{content.width} + padding.left + padding.right + border.left +
+                         border.right),
+                saturate(Wide{content.height} + padding.top + padding.bottom + border.top +
+                         border.bottom)};
+    }
     /// The border box grown by the margin.
-    Rect marginBox() const;
+    Rect marginBox() const {
+        Rect const inner = borderBox();
+        return {saturate(std::int64_t{inner.x} - margin.left),
+                saturate(std::int64_t{inner.y} - margin.top),
+                sum(inner.width, margin.left, margin.right),
+                sum(inner.height, margin.top, margin.bottom)};
+    }
 
     bool operator==(Dimensions const&) const = default;
+
+private:
+    static std::int32_t sum(std::int64_t a, std::int64_t b, std::int64_t c) {
+        return saturate(a + b + c);
+    }
 };
 
 }  // namespace CLI::XML

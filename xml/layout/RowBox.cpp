@@ -13,7 +13,7 @@ Walk RowBox::layOut(Dimensions const&, LayoutPass pass) {
             // A column's position already is that of the content.
             RightwardRow::placeAt(cell.dimensions, cell.columnDimensions.content.x);
         } else {
-            row.place(cell.dimensions, uncoveredMargin);
+            row.place(cell.dimensions, UncoveredMargin());
         }
         std::int32_t& width = cell.dimensions.content.width;
         if (!pass.again || !cell.isSettled) {

@@ -16,7 +16,8 @@ bool takesLessThanItsContent(Dimensions const& d) {
 }
 
 template <class Gap>
-Walk layoutRightwards(Box& box, LayoutPass pass, Gap gapBetween) {
+Walk layoutRightwards(Box& box, LayoutPass pass) {
+    constexpr Gap gapBetween;
     if (pass.again && box.isSettled) co_return;
     // A block keeps the breaks that it got at any width behind the boxes before it.
     if (box.type != Box::Line && box.holdsBlock) pass.isLimited = false;
@@ -28,18 +29,19 @@ Walk layoutRightwards(Box& box, LayoutPass pass, Gap gapBetween) {
     unsigned i = 0;
     while (i < box.children.count && !isFull) {
         Box& child = *box.children.data[i++];
-        row.place(child.dimensions, gapBetween);
-        if (isLeaf(child)) {
+        if (asText(child.node) != nullptr && isLeaf(child)) {
             sizeLeaf(child);
-        } else if (!pass.isMeasured) {
-            co_await child.layOut(box.dimensions, pass);
+            row.addWord(child.dimensions.content, gapBetween);
+        } else {
+            row.place(child.dimensions, gapBetween);
+            if (!pass.isMeasured) co_await child.layOut(box.dimensions, pass);
+            row.add(child.dimensions);
+            areAllSettled = areAllSettled && child.isSettled;
+            holdsBlock = holdsBlock || child.holdsBlock;
+            mayShrink = mayShrink || child.mayShrink || takesLessThanItsContent(child.dimensions);
         }
-        row.add(child.dimensions);
         if (pass.isLimited) pass.room -= child.dimensions.content.width;
         isFull = pass.isLimited && pass.room < 0;
-        areAllSettled = areAllSettled && child.isSettled;
-        holdsBlock = holdsBlock || child.holdsBlock;
-        mayShrink = mayShrink || child.mayShrink || takesLessThanItsContent(child.dimensions);
     }
     if (box.children.count == 0) sizeLeaf(box);
     box.holdsBlock = holdsBlock;
@@ -60,11 +62,11 @@ void sizeLeaf(Box& box) {
 }
 
 Walk LineBox::layOut(Dimensions const&, LayoutPass pass) {
-    return layoutRightwards(*this, pass, largerMargin);
+    return layoutRightwards<LargerMargin>(*this, pass);
 }
 
 Walk InlineBox::layOut(Dimensions const&, LayoutPass pass) {
-    return layoutRightwards(*this, pass, uncoveredMargin);
+    return layoutRightwards<UncoveredMargin>(*this, pass);
 }
 
 }  // namespace CLI::XML

@@ -8,14 +8,18 @@
 namespace CLI::XML {
 
 /// The gap before a child: as much of its margin as the margin before it does not cover.
-inline std::int64_t uncoveredMargin(std::int32_t before, std::int32_t margin) {
-    return std::max<std::int64_t>(0, std::int64_t{margin} - before);
-}
+struct UncoveredMargin {
+    std::int64_t operator()(std::int32_t before, std::int32_t margin) const {
+        return std::max<std::int64_t>(0, std::int64_t{margin} - before);
+    }
+};
 
 /// The gap between the boxes of a line: the larger of two neighbouring margins.
-inline std::int64_t largerMargin(std::int32_t before, std::int32_t margin) {
-    return std::max(before, margin);
-}
+struct LargerMargin {
+    std::int64_t operator()(std::int32_t before, std::int32_t margin) const {
+        return std::max(before, margin);
+    }
+};
 
 /// Stacks children downwards in a block or a table. The position of a child leaves out the part
 /// of its top margin that the bottom margin before it covers; the height of the stack still grows
@@ -30,7 +34,7 @@ public:
     /// Sets the position at which the child is to be laid out.
     void place(Dimensions& child) const {
         EdgeSizes const edges = child.edges();
-        std::int64_t const gap = uncoveredMargin(previousMargin, child.margin.top);
+        std::int64_t const gap = UncoveredMargin()(previousMargin, child.margin.top);
         child.content.x = edges.left;
         child.content.y = saturate(content.height + gap + child.border.top + child.padding.top);
     }
@@ -70,7 +74,17 @@ public:
         placeAt(child, saturate(content.width + gap + child.border.left + child.padding.left));
     }
 
-    /// The same at a column of the content box.
+    /// Places and takes in a word, which has no edges. Its content has its size.
+    template <class Gap>
+    void addWord(Rect& word, Gap const& gapBetween) {
+        word.x = saturate(content.width + gapBetween(previousMargin, 0));
+        word.y = 0;
+        content.width = saturate(std::int64_t{content.width} + word.width);
+        content.height = std::max(content.height, word.height);
+        previousMargin = 0;
+    }
+
+    /// The same as `place` at a column of the content box.
     static void placeAt(Dimensions& child, std::int32_t x) {
         child.content.x = x;
         child.content.y = child.edges().top;

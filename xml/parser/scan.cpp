@@ -1,6 +1,5 @@
 #include "xml/parser/scan.h"
 
-#include <algorithm>
 #include <cstring>
 
 namespace CLI::XML {
@@ -19,6 +18,21 @@ public:
 private:
     bool members[256] = {};
 };
+
+/// Index of the first byte of [start, end) that belongs to `set`, or `end`.
+int findMember(char const* bytes, int start, int end, char const* set) {
+    auto const find = [&](char c, int limit) {
+        void const* const found =
+            std::memchr(bytes + start, c, static_cast<std::size_t>(limit - start));
+        return found == nullptr ? limit : static_cast<int>(static_cast<char const*>(found) - bytes);
+    };
+    // Long runs of text are read up to one character, and the NUL.
+    if (set[0] != '\0' && set[1] == '\0') return find('\0', find(set[0], end));
+    ByteSet const members(set);
+    int i = start;
+    while (i < end && !members.contains(bytes[i])) ++i;
+    return i;
+}
 
 }  // namespace
 
@@ -55,11 +69,9 @@ bool parseString(String const& text, int& position, char const* s) {
 
 int parseUntilCharacter(String const& text, int& position, int& line, String& out,
                         char const* set) {
-    ByteSet const members(set);
     char const* const bytes = text.c_str();
     int const start = position;
-    int end = start;
-    while (end < text.length() && !members.contains(bytes[end])) ++end;
+    int const end = findMember(bytes, start, text.length(), set);
     advanceTo(end, text, position, line);
     out.concat(bytes + start, end - start);
     return end - start;
@@ -67,7 +79,12 @@ int parseUntilCharacter(String const& text, int& position, int& line, String& ou
 
 void advanceTo(int end, String const& text, int& position, int& line) {
     char const* const bytes = text.c_str();
-    line += static_cast<int>(std::count(bytes + position, bytes + end, '\n'));
+    char const* const last = bytes + end;
+    for (char const* next = bytes + position; next < last; ++next, ++line) {
+        next = static_cast<char const*>(
+            std::memchr(next, '\n', static_cast<std::size_t>(last - next)));
+        if (next == nullptr) break;
+    }
     position = end;
 }
 

@@ -19,11 +19,10 @@ void lengthen(ZRVector<Canvas::Byte>& row, std::uint64_t width, unsigned filled)
     if (width > std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
     unsigned const formerWidth = row.count;
     auto const end = static_cast<unsigned>(width);
-    if (end > formerWidth) {
-        // As many slots as cells added one by one would take.
-        row.enlarge(end - 1);
-        row[end - 1];
-    }
+    if (end <= formerWidth) return;
+    // As many slots as cells added one by one would take.
+    row.enlarge(end - 1);
+    row.count = end;
     for (unsigned i = formerWidth; i < std::min(filled, end); ++i) {
         row.data[i] = Canvas::Byte::make(' ', 0);
     }
@@ -41,8 +40,10 @@ void Canvas::bringIntoUse(unsigned row) {
 }
 
 ZRVector<Canvas::Byte>& Canvas::touchRow(std::uint64_t y) {
-    if (y < movedRows || y >= std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
+    if (y < movedRows || y >= std::numeric_limits<unsigned>::max())
+        throw std::bad_array_new_length();
     auto const row = static_cast<unsigned>(y);
+    if (!frames.empty() && row < frames.back().end) return rows.data[row - movedRows];
     if (row - movedRows >= rows.count) bringIntoUse(row - movedRows);
     unsigned end = row + 1;
     for (auto frame = frames.rbegin(); frame != frames.rend(); ++frame) {
@@ -63,8 +64,8 @@ bool Canvas::enter(int x, int y) {
     std::int64_t const top = std::int64_t{originRow()} + y;
     if (x < 0 || y < 0 || std::max(left, top) > s_largestOrigin) return false;
     std::int64_t const end = std::int64_t{movedRows} + rows.count;
-    bool const isBehindLastRow = top + 1 == end && top >= movedRows &&
-                                 rows.data[rows.count - 1].count <= left;
+    bool const isBehindLastRow =
+        top + 1 == end && top >= movedRows && rows.data[rows.count - 1].count <= left;
     if (top < end && !isBehindLastRow) return false;
     auto const row = static_cast<unsigned>(top);
     frames.push_back({static_cast<unsigned>(left), row, row});
@@ -87,9 +88,12 @@ unsigned Canvas::getWidth() const {
 }
 
 unsigned Canvas::getOrStoreAttribute(Attributes const& attributes) {
+    // Neighbours mostly look alike.
+    if (attributeTable.data[lastIndex] == attributes) return lastIndex;
     auto const* const found = std::find(attributeTable.begin(), attributeTable.end(), attributes);
     auto const index = static_cast<unsigned>(found - attributeTable.begin());
     if (index == attributeTable.count) attributeTable.add(attributes);
+    lastIndex = index;
     return index;
 }
 
@@ -183,9 +187,8 @@ String Canvas::dump(String const& lineSeparator) const {
     // Measured first, so that the text is written into one buffer.
     std::int64_t length = std::int64_t{lineSeparator.length()} * rows.count;
     for (ZRVector<Byte> const& row : rows) {
-        writeRow(row, [&length](char const*, std::size_t n) {
-            length += static_cast<std::int64_t>(n);
-        });
+        writeRow(row,
+                 [&length](char const*, std::size_t n) { length += static_cast<std::int64_t>(n); });
     }
     String result;
     if (!result.reserve(saturate(length))) return result;

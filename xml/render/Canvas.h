@@ -91,7 +91,8 @@ public:
 
     /// Moves the origin to (x, y), so that what is drawn until `leave` is drawn as if onto a canvas
     /// of its own that is then composed onto this one there. Returns false, with nothing changed,
-    /// where that would not be the same: where the position is negative, or cells are there already.
+    /// where that would not be the same: where the position is negative, or cells are there
+    /// already.
     bool enter(int x, int y);
     void leave();
 
@@ -122,6 +123,8 @@ private:
     template <class Sink>
     void writeRow(ZRVector<Byte> const& row, Sink const& sink) const;
 
+    /// What `getOrStoreAttribute` returned last.
+    unsigned lastIndex = 0;
     /// Innermost last.
     std::vector<Frame> frames;
     /// Rows that were moved out; `rows` begins behind them.
