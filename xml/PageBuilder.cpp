@@ -128,24 +128,19 @@ void PageBuilder::addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> co
 }
 
 void PageBuilder::addToLine(ZRLWPtr<DomNode> node, ZRLWPtr<Box> box) {
-    OpenBlock& block = innermost();
-    block.lineNodes.push_back(std::move(node));
-    if (!block.flow.addToLine(std::move(box), letsGoEarly)) return;
+    box->heldNode = std::move(node);
+    innermost().flow.addToLine(std::move(box), letsGoEarly);
     paintDone();
-    DomNode const* const first = block.flow.openLine()->children[0]->node;
-    while (block.lineNodes.front().object != first) block.lineNodes.pop_front();
 }
 
 void PageBuilder::closeLine() {
-    OpenBlock& block = innermost();
-    if (block.flow.openLine() == nullptr) return;
-    block.flow.closeLine();
+    innermost().flow.closeLine();
     paintDone();
-    block.lineNodes.clear();
 }
 
 void PageBuilder::paintDone() {
     OpenBlock& block = innermost();
+    if (block.flow.done.count == 0) return;
     Canvas& canvas = block.painting.canvas();
     for (unsigned i = 0; i < block.flow.done.count; ++i) {
         block.flow.done[i]->drawTo(canvas, block.painting.attributes());

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <deque>
 #include <string>
 #include <vector>
 
@@ -44,8 +43,6 @@ private:
         ZRLWPtr<BlockBox> box;
         BlockFlow flow;
         BoxPainting painting;
-        /// What its open line, and the lines that have yet to be painted, show.
-        std::deque<ZRLWPtr<DomNode>> lineNodes;
         /// What is painted goes straight to the page, down from its first row.
         bool paintsOnPage = false;
     };

@@ -1,5 +1,6 @@
 #include "xml/layout/BlockFlow.h"
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -13,6 +14,11 @@ constexpr std::int32_t s_largestWidth = std::numeric_limits<std::int32_t>::max()
 
 std::int32_t widthWithin(Dimensions const& containing, EdgeSizes const& edges) {
     return saturate(std::int64_t{containing.content.width} - edges.left - edges.right);
+}
+
+bool areSettled(ZRVector<ZRLWPtr<Box>> const& boxes) {
+    return std::all_of(boxes.begin(), boxes.end(),
+                       [](ZRLWPtr<Box> const& box) { return box->isSettled; });
 }
 
 }  // namespace
@@ -30,23 +36,26 @@ Walk BlockFlow::add(ZRLWPtr<Box> const& child, LayoutPass pass) {
     return placePending(pass, 0);
 }
 
-bool BlockFlow::addToLine(ZRLWPtr<Box> box, bool mayBreak) {
+void BlockFlow::addToLine(ZRLWPtr<Box> box, bool mayBreak) {
     if (pending.empty()) {
         pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
-        pending.front()->children.enlarge(s_boxesOnLine);
         breaks = 0;
-        room = available;
+        findRoom();
     }
     measure(*box);
     Box& line = *pending.front();
     line.isSettled = false;
     room -= box->dimensions.content.width;
     line.children.add(std::move(box));
-    if (!mayBreak || room >= 0 || available == s_largestWidth) return false;
-    unsigned const formerBreaks = breaks;
-    Walk::run(placePending({.isMeasured = true}, 1));
+    if (!mayBreak || room >= 0 || available == s_largestWidth) return;
+    // It is too wide already, so that its layout would only be done again.
+    bool const areBoxesSettled = areSettled(line.children);
+    ZRLWPtr<Box> rest = line.split(available);
+    if (!rest) return;
+    pending.insert(pending.begin(), std::move(rest));
+    ++breaks;
+    Walk::run(placePending(passAfterBreak(areBoxesSettled), 1));
     findRoom();
-    return breaks > formerBreaks;
 }
 
 /// Every break of a line lays out what stays behind it, where the box would have been already.
@@ -72,6 +81,10 @@ void BlockFlow::findRoom() {
 
 void BlockFlow::closeLine() { Walk::run(placePending({.isMeasured = true}, 0)); }
 
+LayoutPass BlockFlow::passAfterBreak(bool isLimited) const {
+    return {.again = true, .isLimited = isLimited, .room = available};
+}
+
 Walk BlockFlow::placePending(LayoutPass pass, std::size_t kept) {
     // Below the largest width only, since a sum that saturates there is never too wide.
     bool staysTooWide = available < s_largestWidth;
@@ -83,7 +96,7 @@ Walk BlockFlow::placePending(LayoutPass pass, std::size_t kept) {
         bool const isTooWide = next.dimensions.marginBox().width > available;
         if (ZRLWPtr<Box> rest = isTooWide ? next.split(available) : nullptr) {
             if (pending.size() == 1) ++breaks;
-            pass = {.again = true, .isLimited = staysTooWide, .room = available};
+            pass = passAfterBreak(staysTooWide);
             // The same box again, now with less content.
             pending.insert(pending.end() - 1, std::move(rest));
             continue;

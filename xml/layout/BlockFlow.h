@@ -28,10 +28,8 @@ public:
 
     /// Puts an inline box at the end of the open line, which is begun where there is none. With
     /// `mayBreak`, which promises that nothing on the line has a negative edge, what is certain not
-    /// to stay on it, whatever follows, is broken off. Whether anything was.
-    bool addToLine(ZRLWPtr<Box> box, bool mayBreak);
-    /// The open line; null where there is none.
-    Box const* openLine() const { return pending.empty() ? nullptr : pending.front().object; }
+    /// to stay on it, whatever follows, is broken off.
+    void addToLine(ZRLWPtr<Box> box, bool mayBreak);
     /// Lays out what is left of the open line, if there is one.
     void closeLine();
 
@@ -48,6 +46,7 @@ public:
 
 private:
     void measure(Box& box) const;
+    LayoutPass passAfterBreak(bool isLimited) const;
     Walk placePending(LayoutPass pass, std::size_t kept);
     void findRoom();
 

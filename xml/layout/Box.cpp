@@ -10,9 +10,10 @@ Box::Box(DomNode* rendered, Type boxType) : ZR::RefCounted(nullptr), node(render
     initEdges();
 }
 
-Box::Box(Box const& other) : Box(other.node, other.type) {}
+Box::Box(Box const& other) : Box(other.node, other.type) { heldNode = other.heldNode; }
 
 Box::~Box() {
+    if (children.count == 0) return;
     releaseTree(*this, [](Box* child) { return child->children.count > 0 ? child : nullptr; });
 }
 

@@ -6,12 +6,11 @@
 #include "base/XCode.h"
 #include "base/ZRLWPtr.h"
 #include "base/ZRVector.h"
+#include "xml/dom/DomNode.h"
 #include "xml/layout/Dimensions.h"
 #include "xml/render/Canvas.h"
 
 namespace CLI::XML {
-
-class DomNode;
 
 /// What one layout of a box may leave out.
 struct LayoutPass {
@@ -102,6 +101,8 @@ public:
     bool mayShrink = false;
     /// Known from the last layout: this is a block, or an inline box with one somewhere in it.
     bool holdsBlock = false;
+    /// Keeps `node` where nothing else does. A clone shares it.
+    ZRLWPtr<DomNode> heldNode;
     /// Used while a tree is released.
     Box* nextReleased = nullptr;
 };

@@ -1,9 +1,8 @@
 // How a box builds the boxes below it from the children of its node.
 
-#include "xml/layout/makeChild.h"
-
 #include "xml/dom/DomElement.h"
 #include "xml/layout/TableBox.h"
+#include "xml/layout/makeChild.h"
 
 namespace CLI::XML {
 

@@ -163,23 +163,23 @@ bool Canvas::drawClipped(Canvas const& source, int x, int y) {
 template <class Sink>
 void Canvas::writeRow(ZRVector<Byte> const& row, Sink const& sink) const {
     char piece[256] = {};
-    std::size_t filled = 0;
     unsigned current = 0;
-    for (Byte const cell : row) {
-        if (cell.attributeIndex != current || filled == sizeof piece) {
-            sink(piece, filled);
-            filled = 0;
-        }
-        if (cell.attributeIndex != current) {
+    for (Byte const* cell = row.begin(); cell != row.end();) {
+        if (cell->attributeIndex != current) {
             Attributes const& previous = attributeTable[current];
-            current = cell.attributeIndex;
+            current = cell->attributeIndex;
             String const escape = attributeTable[current].generateFormattingFrom(previous);
             sink(escape.c_str(), static_cast<std::size_t>(escape.length()));
         }
-        piece[filled] = static_cast<char>(cell.character);
-        filled += cell.character != 0 ? 1 : 0;
+        auto const length = std::min(static_cast<std::size_t>(row.end() - cell), sizeof piece);
+        Byte const* const end = cell + length;
+        std::size_t filled = 0;
+        for (; cell != end && cell->attributeIndex == current; ++cell) {
+            piece[filled] = static_cast<char>(cell->character);
+            filled += cell->character != 0 ? 1 : 0;
+        }
+        sink(piece, filled);
     }
-    sink(piece, filled);
     if (current != 0) sink("\x1b[0m", 4);
 }
 

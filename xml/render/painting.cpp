@@ -91,7 +91,8 @@ Attributes withElementFlag(Box const& box, Attributes attributes) {
     bool const isInline = box.type == Box::Inline || box.type == Box::Cell;
     DomElement const* const element = isInline ? asElement(box.node) : nullptr;
     if (element != nullptr) {
-        attributes.flags = static_cast<std::uint8_t>(attributes.flags | flagOfElement(element->name));
+        attributes.flags =
+            static_cast<std::uint8_t>(attributes.flags | flagOfElement(element->name));
     }
     return attributes;
 }
