@@ -39,6 +39,21 @@ build_tool() {
     ) 9>"$root/build/lock"
 }
 
+# Brings the programs that measure, in build/bench/bench, up to date, once what they need has been
+# installed.
+build_bench() {
+    mkdir -p "$root/build"
+    (
+        cd "$root" || fail "cannot enter $root"
+        flock 9
+        scripts/setup bench
+        if [[ ! -e build/bench/build.ninja ]]; then
+            quietly bench.log cmake --preset bench
+        fi
+        quietly bench.log cmake --build --preset bench
+    ) 9>"$root/build/lock"
+}
+
 # print_page DOCUMENT [TOOL OPTIONS...]: the page of DOCUMENT, styled by the sheet beside it.
 print_page() {
     local document=$1 sheet=${1%.*}.css
