@@ -1,0 +1,109 @@
+// Runs one operation on one corpus and prints what it took: the bytes it read, the bytes it made,
+// and the most memory that it held at once, on the heap and on the stack. Under callgrind only the
+// operation is counted.
+
+#include <valgrind/callgrind.h>
+
+#include <fstream>
+#include <functional>
+#include <iostream>
+
+#include "bench/Conversion.h"
+#include "bench/allocations.h"
+
+namespace {
+
+/// Bytes of the stack, which never becomes smaller.
+std::size_t stackBytes() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.rfind("VmStk:", 0) == 0) return std::stoul(line.substr(6)) * 1024;
+    }
+    return 0;
+}
+
+struct Cost {
+    std::size_t output = 0;
+    std::size_t memory = 0;
+};
+
+/// What `operation`, which returns the number of bytes it made, takes.
+Cost measure(std::function<std::size_t()> const& operation) {
+    Cost cost;
+    std::size_t const stack = stackBytes();
+    std::size_t const heap = Bench::liveBytes();
+    Bench::restartPeak();
+    CALLGRIND_START_INSTRUMENTATION;
+    cost.output = operation();
+    CALLGRIND_STOP_INSTRUMENTATION;
+    cost.memory = Bench::peakBytes() - heap + stackBytes() - stack;
+    return cost;
+}
+
+std::size_t sizeOf(String const& text) { return static_cast<std::size_t>(text.length()); }
+
+std::size_t convert(Bench::Source const& source, unsigned width) {
+    String out;
+    Bench::check(CLI::XML::xmlToText(out, source.markup, source.styles, width));
+    return sizeOf(out);
+}
+
+std::size_t makeTrees(Bench::Source const& source, unsigned width) {
+    Bench::Conversion conversion;
+    conversion.read(source);
+    conversion.build();
+    conversion.layOut(width);
+    conversion.paint();
+    return sizeOf(conversion.dump());
+}
+
+std::size_t dumpTrees(Bench::Conversion const& conversion) {
+    return sizeOf(conversion.root->dump(0)) + sizeOf(conversion.box->dump(0));
+}
+
+std::size_t parseSheet(String const& sheet) {
+    CLI::XML::StyleList styles;
+    Bench::check(CLI::XML::parseCss(styles, sheet));
+    return 0;
+}
+
+int usage() {
+    std::cerr << "usage: galley-shape convert|tree|dumps|sheet SHAPE SIZE [WIDTH]\n";
+    return 2;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 4 && argc != 5) return usage();
+    std::string const operation = argv[1];
+    std::optional<Bench::Size> const size = Bench::parseSize(argv[3]);
+    unsigned const width = argc == 5 ? static_cast<unsigned>(std::stoul(argv[4])) : 80;
+    std::optional<Bench::Corpus> corpus;
+    if (size) corpus = Bench::makeCorpus(argv[2], *size);
+    if (!corpus) return usage();
+
+    std::size_t const input = corpus->markup.size() + corpus->sheet.size();
+    Cost cost;
+    if (operation == "sheet") {
+        String const sheet = Bench::toString(corpus->sheet);
+        cost = measure([&] { return parseSheet(sheet); });
+    } else {
+        Bench::Source const source(*corpus);
+        if (operation == "convert") {
+            cost = measure([&] { return convert(source, width); });
+        } else if (operation == "tree") {
+            cost = measure([&] { return makeTrees(source, width); });
+        } else if (operation == "dumps") {
+            Bench::Conversion conversion;
+            conversion.read(source);
+            conversion.build();
+            conversion.layOut(width);
+            cost = measure([&] { return dumpTrees(conversion); });
+        } else {
+            return usage();
+        }
+    }
+    std::cout << input << ' ' << cost.output << ' ' << cost.memory << std::endl;
+    return 0;
+}
