@@ -1,0 +1,3 @@
+// The least that a program can do, for comparison.
+
+int main() {}
