@@ -29,7 +29,7 @@ PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<DomElement> rendered, ZRLWPtr<BlockBox
     : element(std::move(rendered)),
       box(std::move(made)),
       flow(*box, containing),
-      painting(*box, canvas, attributes) {}
+      painting(*box, canvas, attributes, BoxPainting::Open) {}
 
 PageBuilder::PageBuilder(ZRLWPtr<DomElement> root, unsigned width, bool promisesModestEdges)
     : letsGoEarly(promisesModestEdges) {

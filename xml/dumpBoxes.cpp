@@ -26,7 +26,13 @@ Walk dumpTree(Box const& box, unsigned indent, String& out) {
     line += ": ";
     line.concatf("(%d, %d, %d, %d)\n", content.x, content.y, content.width, content.height);
     out.appendGrowing(line);
-    for (ZRLWPtr<Box> const& child : box.children) co_await dumpTree(*child, indent + 2, out);
+    for (ZRLWPtr<Box> const& child : box.children) {
+        if (child->isForeign()) {
+            out.appendGrowing(child->dump(indent + 2));
+        } else {
+            co_await dumpTree(*child, indent + 2, out);
+        }
+    }
 }
 
 }  // namespace

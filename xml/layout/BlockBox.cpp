@@ -5,6 +5,12 @@
 namespace CLI::XML {
 
 Walk BlockBox::layOut(Dimensions const& containing, LayoutPass pass) {
+    if (!pass.isOutermost && isForeign()) {
+        layout(containing);
+        isSettled = false;
+        co_return;
+    }
+    pass.isOutermost = false;
     bool const isSameWidth = containing.content.width == containingWidth;
     if (pass.again && isSettled && isSameWidth) co_return;
     containingWidth = containing.content.width;

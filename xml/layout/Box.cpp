@@ -1,8 +1,11 @@
 #include "xml/layout/Box.h"
 
+#include <typeinfo>
+
 #include "base/releaseTree.h"
 #include "xml/css/properties.h"
 #include "xml/dom/DomElement.h"
+#include "xml/layout/TableBox.h"
 
 namespace CLI::XML {
 
@@ -17,7 +20,16 @@ Box::~Box() {
     releaseTree(*this, [](Box* child) { return child->children.count > 0 ? child : nullptr; });
 }
 
-void Box::layout(Dimensions const& containing) { Walk::run(layOut(containing, {})); }
+bool Box::isForeign() const {
+    static std::type_info const* const s_classes[] = {&typeid(BlockBox),  &typeid(LineBox),
+                                                      &typeid(InlineBox), &typeid(TableBox),
+                                                      &typeid(RowBox),    &typeid(CellBox)};
+    return typeid(*this) != *s_classes[type];
+}
+
+void Box::layout(Dimensions const& containing) {
+    Walk::run(layOut(containing, {.isOutermost = true}));
+}
 
 ZRLWPtr<Box> Box::split(int) { return {}; }
 

@@ -24,6 +24,8 @@ struct LayoutPass {
     std::int64_t room = 0;
     /// The boxes on the line have been laid out already: they are only placed.
     bool isMeasured = false;
+    /// Asked of this box by the operation itself.
+    bool isOutermost = false;
 };
 
 /// A box of the layout tree. Every displayed node of the document has one, or one a line where
@@ -31,7 +33,8 @@ struct LayoutPass {
 /// points to its node, which must outlive it, without owning it.
 ///
 /// The virtual operations stand in the order in which a conversion runs them: style, build, lay
-/// out, break, paint, show. None of them recurses over the depth of the tree.
+/// out, break, paint, show. None of them recurses over the depth of the tree; only the operations
+/// of a class of the caller's own are called as any virtual operation is.
 class Box : public ZR::RefCounted {
 public:
     enum Type : std::int32_t { Block, Line, Inline, Table, Row, Cell };
@@ -90,6 +93,8 @@ public:
     /// Reads padding, border and margin from the style.
     void initEdges();
 
+    /// Whether the box is of a class that derives from the six of the library.
+    bool isForeign() const;
     /// A layout as a call of the walk that `layout` runs.
     virtual Walk layOut(Dimensions const& containing, LayoutPass pass) = 0;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <typeinfo>
+
 #include "xml/layout/Box.h"
 
 namespace CLI::XML {
@@ -27,7 +29,9 @@ protected:
 };
 
 /// A word, or an element without children.
-inline bool isLeaf(Box const& box) { return box.children.count == 0 && box.type == Box::Inline; }
+inline bool isLeaf(Box const& box) {
+    return box.children.count == 0 && typeid(box) == typeid(InlineBox);
+}
 
 /// Lays out a box without children: a word takes a column a byte and one row, anything else
 /// nothing.

@@ -4,7 +4,13 @@
 
 namespace CLI::XML {
 
-Walk RowBox::layOut(Dimensions const&, LayoutPass pass) {
+Walk RowBox::layOut(Dimensions const& containing, LayoutPass pass) {
+    if (!pass.isOutermost && isForeign()) {
+        layout(containing);
+        isSettled = false;
+        co_return;
+    }
+    pass.isOutermost = false;
     RightwardRow row(dimensions);
     isSettled = true;
     for (unsigned i = 0; i < children.count; ++i) {

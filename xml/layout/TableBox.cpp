@@ -15,7 +15,13 @@ void raiseSides(EdgeSizes& maxima, EdgeSizes const& edges) {
 
 }  // namespace
 
-Walk TableBox::layOut(Dimensions const&, LayoutPass pass) {
+Walk TableBox::layOut(Dimensions const& containing, LayoutPass pass) {
+    if (!pass.isOutermost && isForeign()) {
+        layout(containing);
+        isSettled = false;
+        co_return;
+    }
+    pass.isOutermost = false;
     if (pass.again && isSettled) co_return;
     dimensions.content.height = 0;
     releaseCells();

@@ -16,8 +16,14 @@ bool takesLessThanItsContent(Dimensions const& d) {
 }
 
 template <class Gap>
-Walk layoutRightwards(Box& box, LayoutPass pass) {
+Walk layoutRightwards(Box& box, Dimensions const& containing, LayoutPass pass) {
     constexpr Gap gapBetween;
+    if (!pass.isOutermost && box.isForeign()) {
+        box.layout(containing);
+        box.isSettled = false;
+        co_return;
+    }
+    pass.isOutermost = false;
     if (pass.again && box.isSettled) co_return;
     // A block keeps the breaks that it got at any width behind the boxes before it.
     if (box.type != Box::Line && box.holdsBlock) pass.isLimited = false;
@@ -61,12 +67,12 @@ void sizeLeaf(Box& box) {
     box.holdsBlock = false;
 }
 
-Walk LineBox::layOut(Dimensions const&, LayoutPass pass) {
-    return layoutRightwards<LargerMargin>(*this, pass);
+Walk LineBox::layOut(Dimensions const& containing, LayoutPass pass) {
+    return layoutRightwards<LargerMargin>(*this, containing, pass);
 }
 
-Walk InlineBox::layOut(Dimensions const&, LayoutPass pass) {
-    return layoutRightwards<UncoveredMargin>(*this, pass);
+Walk InlineBox::layOut(Dimensions const& containing, LayoutPass pass) {
+    return layoutRightwards<UncoveredMargin>(*this, containing, pass);
 }
 
 }  // namespace CLI::XML

@@ -14,6 +14,8 @@ namespace {
 struct Level {
     Box* box;
     unsigned unfitting;
+    /// What that child is offered, in columns.
+    std::int32_t room;
 };
 
 bool isBreakable(Box const& box) { return box.type != Box::Block && box.type != Box::Table; }
@@ -22,7 +24,8 @@ bool isBreakable(Box const& box) { return box.type != Box::Block && box.type != 
 /// the one before. What counts are content widths of the last layout, not edges.
 std::vector<Level> findBreak(Box& outermost, std::int64_t room) {
     std::vector<Level> path;
-    for (Box* box = &outermost; isBreakable(*box);) {
+    Box* box = &outermost;
+    do {
         ZRVector<ZRLWPtr<Box>> const& children = box->children;
         unsigned i = 0;
         while (i < children.count && children[i]->dimensions.content.width <= room) {
@@ -30,11 +33,10 @@ std::vector<Level> findBreak(Box& outermost, std::int64_t room) {
             ++i;
         }
         if (i == children.count) break;
-        path.push_back({box, i});
-        box = children[i].object;
-        // What a child is offered is a width like any other.
         room = saturate(room);
-    }
+        path.push_back({box, i, static_cast<std::int32_t>(room)});
+        box = children[i].object;
+    } while (isBreakable(*box) && !box->isForeign());
     return path;
 }
 
@@ -57,7 +59,10 @@ ZRLWPtr<Box> moveRest(Level const& level, ZRLWPtr<Box> const& childRest) {
 
 ZRLWPtr<Box> splitBox(Box& box, int width) {
     std::vector<Level> const path = findBreak(box, width);
-    ZRLWPtr<Box> rest;
+    if (path.empty()) return {};
+    Level const& innermost = path.back();
+    Box& unfitting = *innermost.box->children[innermost.unfitting];
+    ZRLWPtr<Box> rest = unfitting.isForeign() ? unfitting.split(innermost.room) : nullptr;
     for (auto level = path.rbegin(); level != path.rend(); ++level) rest = moveRest(*level, rest);
     return rest;
 }

@@ -15,9 +15,13 @@ namespace CLI::XML {
 /// copied. One painting is begun and ended within another.
 class BoxPainting {
 public:
+    /// Whether the box has its size at the beginning, or gets it until the end: then background and
+    /// border are painted there, to the same effect.
+    enum Stage : std::uint8_t { Complete, Open };
+
     /// `handedDown` are the attributes from the parent, `ofParent` is the canvas that it gives.
     /// Both outlive the painting, as does the box.
-    BoxPainting(Box& painted, Canvas& ofParent, Canvas::Attributes const& handedDown);
+    BoxPainting(Box& painted, Canvas& ofParent, Canvas::Attributes const& handedDown, Stage stage);
     BoxPainting(BoxPainting&& other) noexcept;
     BoxPainting& operator=(BoxPainting&&) = delete;
     ~BoxPainting();
@@ -31,12 +35,13 @@ public:
     void finish();
 
 private:
-    bool paintsBeneath();
+    bool hasBorder() const;
 
     Box* box;
     Canvas* target;
     Canvas::Attributes inherited;
     Canvas::Attributes content;
+    bool isBeneathMissing = false;
     bool isDirect = false;
     std::unique_ptr<Canvas> own;
 };

@@ -97,22 +97,30 @@ Attributes withElementFlag(Box const& box, Attributes attributes) {
     return attributes;
 }
 
+/// Whether the box has a background colour, which it hands down.
+bool applyBackground(Box const& box, Attributes& attributes) {
+    if (!hasStyle(box.node)) return false;
+    String const value = box.getStyle(Property::s_backgroundColor, String::s_empty);
+    if (value.length() > 0) attributes.background = Attributes::color(value);
+    return value.length() > 0;
+}
+
 void drawLeaf(Box const& box, Canvas& canvas, Attributes const& attributes) {
     DomText const* const word = asText(box.node);
     Rect const& content = box.dimensions.content;
     if (word != nullptr) canvas.drawClipped(word->text, content.x, content.y, attributes);
 }
 
-bool isInlineLeaf(Box const& box) {
-    return box.children.count == 0 && (box.type == Box::Inline || box.type == Box::Cell);
-}
+bool isEmptyCell(Box const& box) { return box.children.count == 0 && box.type == Box::Cell; }
 
 Walk drawTree(Box& box, Canvas& canvas, Attributes inherited) {
-    BoxPainting painting(box, canvas, inherited);
+    BoxPainting painting(box, canvas, inherited, BoxPainting::Complete);
     for (unsigned i = 0; i < box.children.count; ++i) {
         Box& child = *box.children.data[i];
-        if (isInlineLeaf(child)) {
+        if (isLeaf(child)) {
             drawLeaf(child, painting.canvas(), painting.attributes());
+        } else if (isEmptyCell(child) || child.isForeign()) {
+            child.drawTo(painting.canvas(), painting.attributes());
         } else {
             Attributes const handedDown = withElementFlag(child, painting.attributes());
             co_await drawTree(child, painting.canvas(), handedDown);
@@ -123,22 +131,24 @@ Walk drawTree(Box& box, Canvas& canvas, Attributes inherited) {
 
 }  // namespace
 
-BoxPainting::BoxPainting(Box& painted, Canvas& ofParent, Canvas::Attributes const& handedDown)
+BoxPainting::BoxPainting(Box& painted, Canvas& ofParent, Canvas::Attributes const& handedDown,
+                         Stage stage)
     : box(&painted), target(&ofParent), inherited(handedDown), content(handedDown) {
+    if (stage == Complete) {
+        box->drawBackgroundTo(*target, content);
+        box->drawBorderTo(*target, content);
+    } else {
+        isBeneathMissing = applyBackground(*box, content) || hasBorder();
+    }
+    box->applyContentAttributes(content);
     Rect const& area = box->dimensions.content;
-    isDirect = !paintsBeneath() && target->enter(area.x, area.y);
+    isDirect = !isBeneathMissing && target->enter(area.x, area.y);
     if (!isDirect) own = std::make_unique<Canvas>();
 }
 
-/// Whether the box has a background or a border. Applies what it hands down to its content.
-bool BoxPainting::paintsBeneath() {
-    if (!hasStyle(box->node)) return false;
-    String const background = box->getStyle(Property::s_backgroundColor, String::s_empty);
-    if (background.length() > 0) content.background = Canvas::Attributes::color(background);
-    box->applyContentAttributes(content);
+bool BoxPainting::hasBorder() const {
     EdgeSizes const& border = box->dimensions.border;
-    return background.length() > 0 || border.left > 0 || border.right > 0 || border.top > 0 ||
-           border.bottom > 0;
+    return border.left > 0 || border.right > 0 || border.top > 0 || border.bottom > 0;
 }
 
 BoxPainting::BoxPainting(BoxPainting&& other) noexcept
@@ -146,6 +156,7 @@ BoxPainting::BoxPainting(BoxPainting&& other) noexcept
       target(other.target),
       inherited(other.inherited),
       content(other.content),
+      isBeneathMissing(other.isBeneathMissing),
       isDirect(std::exchange(other.isDirect, false)),
       own(std::move(other.own)) {}
 
@@ -155,9 +166,10 @@ BoxPainting::~BoxPainting() {
 
 void BoxPainting::finish() {
     if (isDirect) return;
-    Canvas::Attributes attributes = inherited;
-    box->drawBackgroundTo(*target, attributes);
-    box->drawBorderTo(*target, attributes);
+    if (isBeneathMissing) {
+        box->drawBackgroundTo(*target, inherited);
+        box->drawBorderTo(*target, inherited);
+    }
     target->drawClipped(*own, box->dimensions.content.x, box->dimensions.content.y);
 }
 
@@ -174,15 +186,14 @@ void InlineBox::drawTo(Canvas& canvas, Canvas::Attributes const& attributes) {
 }
 
 void Box::drawBackgroundTo(Canvas& canvas, Canvas::Attributes& attributes) {
-    String const value = getStyle(Property::s_backgroundColor, String::s_empty);
-    if (value.length() == 0) return;
-    attributes.background = Canvas::Attributes::color(value);
+    if (!applyBackground(*this, attributes)) return;
     Rect const area = dimensions.borderBox();
     Strip const row = stripAlong(area, " ");
     drawColumn(canvas, row.text, row.x, area, attributes);
 }
 
 void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
+    if (!hasStyle(node)) return;
     Rect const area = dimensions.borderBox();
     int const right = saturate(std::int64_t{area.x} + area.width - 1);
     int const bottom = saturate(std::int64_t{area.y} + area.height - 1);
@@ -220,6 +231,7 @@ void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
 }
 
 void Box::applyContentAttributes(Canvas::Attributes& attributes) {
+    if (!hasStyle(node)) return;
     String const color = getStyle(Property::s_color, String::s_empty);
     if (color.length() > 0) attributes.foreground = Canvas::Attributes::color(color);
     String const fontStyle = getStyle(Property::s_fontStyle, String::s_empty);

@@ -1,0 +1,136 @@
+// A conversion lets go of what is finished while it reads. The same document as whole trees, by the
+// public operations one after the other, is the same page.
+
+#include <random>
+
+#include "tests/support/boxes.h"
+#include "xml/xml.h"
+
+namespace CLI::XML {
+namespace {
+
+std::string pageOfTrees(std::string const& markup, char const* css, int width) {
+    Document const document(markup.c_str(), css);
+    if (!document.result) return outcome(document.result);
+    ZRLWPtr<Box> const box = ZR::MovePtr<Box>(new BlockBox(document.root.object));
+    XCode const built = box->createChildren();
+    if (!built) return outcome(built);
+    Dimensions containing;
+    containing.content.width = width;
+    box->layout(containing);
+    Canvas canvas;
+    box->drawTo(canvas, Canvas::Attributes());
+    return shown(canvas.dump("\n"));
+}
+
+std::string pageOfStream(std::string const& markup, char const* css, int width) {
+    Sheet const sheet(css);
+    String out;
+    XCode const result = xmlToText(out, markup.c_str(), sheet.rules, static_cast<unsigned>(width));
+    return result ? shown(out) : outcome(result);
+}
+
+void expectSamePage(std::string const& markup, char const* css, int width) {
+    EXPECT_EQ(pageOfStream(markup, css, width), pageOfTrees(markup, css, width))
+        << markup << "\n"
+        << css << "\nwidth " << width;
+}
+
+TEST(Streaming, MakesThePageOfTheWholeTrees) {
+    static constexpr char const* s_documents[] = {
+        // Whether a first box that does not fit stays alone depends on what follows it.
+        "aaa <b>longwo </b>y",
+        "aaa <b>longwo y</b>",
+        "k <b><i padding-left=\"3\">aa </i>bb </b>z",
+        // Boxes without width still join a full line, and raise it.
+        "aaaa bbbb <i/>&x;<b padding-top=\"1\"/>cc",
+        "<b>aaa aaaa aaaaa <p>yy yy yy yy yy yy</p></b>",
+        "aa bb <b>cc <p>dd ee</p> ff</b> gg <b><p>hh ii</p></b> jj kk ll mm",
+        // A table in a block on a line shows how often the line was laid out.
+        "a b c d e f g h <b>i <div>j <table><tr><td>k</td><td>l l l</td></tr>"
+        "<tr><td>m m m m</td></tr></table></div></b> n o p q r s t <b><div><table><tr><td>u u</td>"
+        "<td>v</td></tr><tr><td>w w w w</td></tr></table></div></b> x y z",
+        // A negative edge makes room again.
+        "aaa bbb ccc ddd <b margin-left=\"-40\">e</b>",
+        "aaa<p>b</p><p margin-top=\"-2\" background-color=\"red\">c</p>",
+        // Backgrounds and borders lie beneath what was painted before their size was known.
+        "<div background-color=\"red\" padding=\"1\">a<p border-width=\"1\">b c d e f</p>g</div>",
+        "<div padding-left=\"3\"><p padding-top=\"2\"/>a<div padding=\"2\">b</div>c</div>d",
+        "<div padding-top=\"2147483637\" border-top-width=\"5\" padding-left=\"2\"/>",
+        "<p>a</p><p>b</p><p>c</p><div padding-left=\"2\" padding-top=\"2147483637\" "
+        "border-top-width=\"11\"/>",
+        "<b>a<tr/></b></p>",
+        "<td>a</td><b",
+        "<div display=\"none\">a<td/></div>b",
+    };
+    for (char const* document : s_documents) {
+        for (int const width : {0, 1, 3, 9, 10, 12, 80, 2147483647}) {
+            expectSamePage(document, "", width);
+        }
+    }
+}
+
+/// Documents from a fixed seed: everything in everything, with edges, tables and styles.
+class Scribbler {
+public:
+    explicit Scribbler(unsigned seed) : random(seed) {}
+
+    std::string content(int depth) {
+        std::string text;
+        for (unsigned n = pick(7); n > 0; --n) {
+            text += depth > 0 && pick(3) == 0
+                        ? element(depth - 1)
+                        : std::string(1 + pick(9), 'w') + (pick(4) ? " " : "");
+        }
+        return text;
+    }
+
+    unsigned pick(unsigned n) { return static_cast<unsigned>(random() % n); }
+
+private:
+    std::string element(int depth) {
+        static constexpr char const* s_names[] = {"div", "p", "b", "i", "em", "mark", "h1"};
+        if (pick(6) == 0) return table(depth);
+        std::string const name = s_names[pick(7)];
+        return "<" + name + attributes() + ">" + content(depth) + "</" + name + ">";
+    }
+
+    std::string table(int depth) {
+        std::string rows;
+        for (unsigned i = pick(4); i > 0; --i) {
+            rows += "<tr" + attributes() + ">";
+            for (unsigned j = pick(4); j > 0; --j) {
+                rows += "<td" + attributes() + ">" + content(depth) + "</td>";
+            }
+            rows += "</tr>";
+        }
+        return "<table>" + rows + "</table>";
+    }
+
+    std::string attributes() {
+        static constexpr char const* s_edges[] = {
+            "margin",       "margin-left", "padding",           "padding-right",
+            "border-width", "padding-top", "border-left-width", "margin-bottom"};
+        if (pick(3) > 0) return "";
+        if (pick(4) == 0) return " background-color=\"blue\"";
+        int const cells = static_cast<int>(pick(4)) - (pick(5) == 0 ? 3 : 0);
+        return std::string(" ") + s_edges[pick(8)] + "=\"" + std::to_string(cells) + "\"";
+    }
+
+    std::mt19937 random;
+};
+
+TEST(Streaming, MakesThePageOfTheWholeTreesWhateverTheDocument) {
+    static constexpr char const* s_sheets[] = {
+        "", "p{margin-top:1;} b{border-left-width:1; color:red;}",
+        "i{margin-left:-2;} td{border-width:1;} div{font-style:bold;}"};
+    for (unsigned seed = 0; seed < 1500; ++seed) {
+        Scribbler scribbler(seed);
+        std::string const document = scribbler.content(5);
+        expectSamePage(document, s_sheets[seed % 3], static_cast<int>(scribbler.pick(60)));
+        if (testing::Test::HasFailure()) break;
+    }
+}
+
+}  // namespace
+}  // namespace CLI::XML
