@@ -1,0 +1,81 @@
+// Documents are as deep as they like, on threads with little stack.
+
+#include <pthread.h>
+
+#include <functional>
+
+#include "tests/support/boxes.h"
+#include "xml/xml.h"
+
+namespace CLI::XML {
+namespace {
+
+constexpr int s_levels = 100000;
+
+void* call(void* function) {
+    (*static_cast<std::function<void()>*>(function))();
+    return nullptr;
+}
+
+/// Runs `function` on a thread of its own with a stack of 256 KiB.
+void runOnSmallStack(std::function<void()> function) {
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    ASSERT_EQ(pthread_attr_setstacksize(&attributes, 256 * 1024), 0);
+    pthread_t thread{};
+    ASSERT_EQ(pthread_create(&thread, &attributes, call, &function), 0);
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
+}
+
+struct Nesting {
+    char const* start;
+    char const* end;
+};
+
+String nested(Nesting const& nesting, int levels, bool isClosed) {
+    auto const n = static_cast<unsigned>(levels);
+    String markup = String::repeat(nesting.start, n);
+    markup += "word";
+    if (isClosed) markup += String::repeat(nesting.end, n);
+    return markup;
+}
+
+class Depth : public testing::TestWithParam<Nesting> {};
+
+TEST_P(Depth, IsConverted) {
+    runOnSmallStack([] {
+        String out;
+        EXPECT_EQ(outcome(xmlToText(out, nested(GetParam(), s_levels, true), {}, 80)), "ok");
+        EXPECT_NE(shown(out).find("word"), std::string::npos);
+        XCode const unclosed = xmlToText(out, nested(GetParam(), s_levels, false), {}, 80);
+        EXPECT_EQ(outcome(unclosed), "Line 1: Missing end tag at the end");
+    });
+}
+
+TEST_P(Depth, IsBuiltLaidOutPaintedAndReleased) {
+    runOnSmallStack([] {
+        Page page(nested(GetParam(), s_levels, true));
+        page.layOut(80);
+        Canvas canvas;
+        page.box->drawTo(canvas, Canvas::Attributes());
+        EXPECT_NE(shown(canvas.dump("\n")).find("word"), std::string::npos);
+    });
+}
+
+TEST_P(Depth, IsDumped) {
+    runOnSmallStack([] {
+        Page const page(nested(GetParam(), s_levels / 100, true));
+        EXPECT_NE(shown(page.root->dump(0)).find("'word'"), std::string::npos);
+        EXPECT_NE(shown(page.box->dump(0)).find("'word': (0, 0, 0, 0)"), std::string::npos);
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Nesting, Depth,
+                         testing::Values(Nesting{"<div>", "</div>"}, Nesting{"<b>", "</b>"},
+                                         Nesting{"<p><b>", "</b></p>"},
+                                         Nesting{"<table><tr><td><div>",
+                                                 "</div></td></tr></table>"}));
+
+}  // namespace
+}  // namespace CLI::XML
