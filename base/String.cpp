@@ -69,9 +69,9 @@ void String::Store::setEmpty() {
     storage = {};
 }
 
-String::String(char const* s) : String(s, 0, s != nullptr ? lengthOf(s) : 0) {}
+String::String(char const* s) noexcept : String(s, 0, s != nullptr ? lengthOf(s) : 0) {}
 
-String::String(char const* s, int start, int count) {
+String::String(char const* s, int start, int count) noexcept {
     if (count <= 0) return;
     store.allocate(count, count);
     if (store.length != count) return;

@@ -52,9 +52,9 @@ public:
 
     String() = default;
     /// A copy of `s`; null gives the empty string.
-    String(char const* s);  // NOLINT(google-explicit-constructor): texts are written as literals
+    String(char const* s) noexcept;  // NOLINT(google-explicit-constructor): texts are literals
     /// The `count` characters beginning at `s` + `start`.
-    String(char const* s, int start, int count);
+    String(char const* s, int start, int count) noexcept;
     /// The printf-style formatting of the arguments.
     String(Formatted, char const* format, ...) __attribute__((format(printf, 3, 4)));
     String(String const& other);

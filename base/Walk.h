@@ -28,7 +28,7 @@ public:
 
         Walk get_return_object() { return Walk(Handle::from_promise(*this)); }
         std::suspend_always initial_suspend() noexcept { return {}; }
-        std::suspend_always final_suspend() noexcept {
+        std::suspend_always final_suspend() const noexcept {
             *running = caller;
             return {};
         }
@@ -36,9 +36,11 @@ public:
         void unhandled_exception() { failure = std::current_exception(); }
     };
 
-    Walk(Walk const&) = delete;
-    Walk& operator=(Walk const&) = delete;
-    ~Walk() { call.destroy(); }
+    Walk(Walk&& other) noexcept : call(std::exchange(other.call, nullptr)) {}
+    Walk& operator=(Walk&&) = delete;
+    ~Walk() {
+        if (call) call.destroy();
+    }
 
     static void run(Walk const& outermost) {
         Handle running = outermost.call;

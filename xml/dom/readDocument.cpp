@@ -26,7 +26,7 @@ public:
     bool contains(char c) const { return members[static_cast<unsigned char>(c)]; }
 
 private:
-    std::array<bool, 256> members;
+    std::array<bool, 256> members{};
 };
 
 /// The open elements of one reading, innermost last.

@@ -17,8 +17,8 @@ namespace CLI::XML {
 /// laid out only once it is closed.
 class BlockFlow {
 public:
-    /// Begins the layout of `block`, which must outlive the flow.
-    BlockFlow(BlockBox& block, Dimensions const& containing);
+    /// Begins the layout of `laidOut`, which must outlive the flow.
+    BlockFlow(BlockBox& laidOut, Dimensions const& containing);
 
     /// The width that the children are offered, in columns.
     std::int32_t availableWidth() const { return available; }

@@ -63,7 +63,7 @@ ZRLWPtr<Box> splitBox(Box& box, int width) {
     Level const& innermost = path.back();
     Box& unfitting = *innermost.box->children[innermost.unfitting];
     ZRLWPtr<Box> rest = unfitting.isForeign() ? unfitting.split(innermost.room) : nullptr;
-    for (auto level = path.rbegin(); level != path.rend(); ++level) rest = moveRest(*level, rest);
+    for (std::size_t depth = path.size(); depth-- > 0;) rest = moveRest(path[depth], rest);
     return rest;
 }
 

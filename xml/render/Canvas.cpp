@@ -46,15 +46,16 @@ ZRVector<Canvas::Byte>& Canvas::touchRow(std::uint64_t y) {
     if (!frames.empty() && row < frames.back().end) return rows.data[row - movedRows];
     if (row - movedRows >= rows.count) bringIntoUse(row - movedRows);
     unsigned end = row + 1;
-    for (auto frame = frames.rbegin(); frame != frames.rend(); ++frame) {
-        bool const wasTouched = frame->end > frame->top;
-        for (unsigned i = std::max(frame->end, movedRows); i < end; ++i) {
-            lengthen(rows.data[i - movedRows], frame->left, frame->left);
+    for (std::size_t depth = frames.size(); depth-- > 0;) {
+        Frame& frame = frames[depth];
+        bool const wasTouched = frame.end > frame.top;
+        for (unsigned i = std::max(frame.end, movedRows); i < end; ++i) {
+            lengthen(rows.data[i - movedRows], frame.left, frame.left);
         }
-        frame->end = std::max(frame->end, end);
+        frame.end = std::max(frame.end, end);
         // The frames around this one have seen to the rows above it.
         if (wasTouched) break;
-        end = frame->top;
+        end = frame.top;
     }
     return rows.data[row - movedRows];
 }
