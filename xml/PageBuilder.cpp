@@ -69,14 +69,26 @@ void PageBuilder::endElement() {
     }
 }
 
-void PageBuilder::addWord(ZRLWPtr<DomText> word) {
+void PageBuilder::addWord(String word) {
     if (!refusal) return;
     if (!subtree.isEmpty()) {
-        subtree.add(std::move(word));
-        return;
+        subtree.addWord(std::move(word));
+    } else {
+        addToLine(makeWord(std::move(word)));
     }
-    ZRLWPtr<Box> box = ZR::MovePtr<Box>(new InlineBox(word.object));
-    addToLine(std::move(word), std::move(box));
+}
+
+ZRLWPtr<Box> PageBuilder::makeWord(String word) {
+    if (spareWords.empty()) {
+        ZRLWPtr<DomNode> node = ZR::MovePtr<DomNode>(new DomText(std::move(word)));
+        ZRLWPtr<Box> box = ZR::MovePtr<Box>(new InlineBox(node.object));
+        box->heldNode = std::move(node);
+        return box;
+    }
+    ZRLWPtr<Box> box = std::move(spareWords.back());
+    spareWords.pop_back();
+    static_cast<DomText&>(*box->node).text = std::move(word);
+    return box;
 }
 
 XCode PageBuilder::finish(String& out) {
@@ -119,7 +131,8 @@ void PageBuilder::addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> co
     refusal = box->createChildren();
     if (!refusal) return;
     if (element->display == DomNode::Inline) {
-        addToLine(element, box);
+        box->heldNode = element;
+        addToLine(box);
     } else {
         closeLine();
         Walk::run(innermost().flow.add(box, {}));
@@ -127,8 +140,7 @@ void PageBuilder::addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> co
     }
 }
 
-void PageBuilder::addToLine(ZRLWPtr<DomNode> node, ZRLWPtr<Box> box) {
-    box->heldNode = std::move(node);
+void PageBuilder::addToLine(ZRLWPtr<Box> box) {
     innermost().flow.addToLine(std::move(box), letsGoEarly);
     paintDone();
 }
@@ -143,10 +155,19 @@ void PageBuilder::paintDone() {
     if (block.flow.done.count == 0) return;
     Canvas& canvas = block.painting.canvas();
     for (unsigned i = 0; i < block.flow.done.count; ++i) {
-        block.flow.done[i]->drawTo(canvas, block.painting.attributes());
+        Box& box = *block.flow.done.data[i];
+        box.drawTo(canvas, block.painting.attributes());
+        if (box.type == Box::Line) keepWords(box);
     }
     block.flow.done.clear();
     releaseRows();
+}
+
+void PageBuilder::keepWords(Box& line) {
+    for (unsigned i = 0; i < line.children.count; ++i) {
+        ZRLWPtr<Box>& box = line.children.data[i];
+        if (isLeaf(*box) && box->node->kind == DomNode::Text) spareWords.push_back(std::move(box));
+    }
 }
 
 /// Without extreme edges nothing is painted above the end of what an open block holds already.

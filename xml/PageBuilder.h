@@ -26,7 +26,7 @@ public:
 
     void startElement(ZRLWPtr<DomElement> element) override;
     void endElement() override;
-    void addWord(ZRLWPtr<DomText> word) override;
+    void addWord(String word) override;
 
     /// To be called at the end of the document: finishes the page and appends it to `out`; or
     /// returns why a child was refused by its parent, the first that was, with `out` unchanged.
@@ -51,9 +51,11 @@ private:
     void openBlock(ZRLWPtr<DomElement> element, ZRLWPtr<Box> const& box);
     void closeBlock();
     void addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> const& box);
-    void addToLine(ZRLWPtr<DomNode> node, ZRLWPtr<Box> box);
+    void addToLine(ZRLWPtr<Box> box);
     void closeLine();
+    ZRLWPtr<Box> makeWord(String word);
     void paintDone();
+    void keepWords(Box& line);
     void releaseRows();
 
     Canvas page;
@@ -66,6 +68,9 @@ private:
     /// Its box; null where it is not displayed.
     ZRLWPtr<Box> subtreeBox;
     XCode refusal;
+    /// Boxes of words that were painted, each with its node, to be used again: most of a document
+    /// is words, and making one costs more than laying it out.
+    std::vector<ZRLWPtr<Box>> spareWords;
 };
 
 }  // namespace CLI::XML

@@ -14,8 +14,8 @@ public:
     bool isEmpty() const { return open.empty(); }
     void push(ZRLWPtr<DomElement> element) { open.push_back(std::move(element)); }
 
-    /// Adds a node to the innermost element.
-    void add(ZRLWPtr<DomNode> node) { open.back()->children.add(std::move(node)); }
+    /// Adds a text to the innermost element.
+    void addWord(String word) { add(ZR::MovePtr<DomNode>(new DomText(std::move(word)))); }
 
     /// Closes the innermost element. Returns the outermost one if that was it, otherwise null.
     ZRLWPtr<DomElement> pop() {
@@ -27,6 +27,8 @@ public:
     }
 
 private:
+    void add(ZRLWPtr<DomNode> node) { open.back()->children.add(std::move(node)); }
+
     std::vector<ZRLWPtr<DomElement>> open;
 };
 

@@ -18,11 +18,11 @@ public:
         if (element) outermost.children.add(std::move(element));
     }
 
-    void addWord(ZRLWPtr<DomText> word) override {
+    void addWord(String word) override {
         if (open.isEmpty()) {
-            outermost.children.add(std::move(word));
+            outermost.children.add(ZR::MovePtr<DomNode>(new DomText(std::move(word))));
         } else {
-            open.add(std::move(word));
+            open.addWord(std::move(word));
         }
     }
 

@@ -104,7 +104,7 @@ private:
             String word(start, 0, static_cast<int>(next - start) + (keepsItsSpace ? 1 : 0));
             if (*next != '\0' && !keepsItsSpace) word += " ";
             if (hasReferences) word = replaceEntities(word);
-            handler.addWord(ZR::MovePtr<DomText>(new DomText(std::move(word))));
+            handler.addWord(std::move(word));
         }
     }
 

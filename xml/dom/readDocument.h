@@ -16,7 +16,8 @@ public:
     virtual void startElement(ZRLWPtr<DomElement> element) = 0;
     /// The innermost open element ends.
     virtual void endElement() = 0;
-    virtual void addWord(ZRLWPtr<DomText> word) = 0;
+    /// One word of running text, with the space that followed it.
+    virtual void addWord(String word) = 0;
 };
 
 /// Reads events until the end tag that closes what was open at the beginning, which is left unread,

@@ -209,7 +209,7 @@ void Canvas::moveRowsTo(std::string& text, unsigned y) {
         ZRVector<Byte>& row = rows.data[i];
         writeRow(row, [&text](char const* piece, std::size_t n) { text.append(piece, n); });
         text += '\n';
-        row.clear();
+        row.count = 0;
         spareRows.push_back(std::move(row));
     }
     for (unsigned i = moved; i < rows.count; ++i) rows.data[i - moved] = std::move(rows.data[i]);
