@@ -31,8 +31,10 @@ PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<DomElement> rendered, ZRLWPtr<BlockBox
       flow(*box, containing),
       painting(*box, canvas, attributes, BoxPainting::Open) {}
 
-PageBuilder::PageBuilder(ZRLWPtr<DomElement> root, unsigned width, bool promisesModestEdges)
+PageBuilder::PageBuilder(ZRLWPtr<DomElement> root, unsigned width, bool promisesModestEdges,
+                         int expectedLength)
     : letsGoEarly(promisesModestEdges) {
+    text.reserve(static_cast<std::size_t>(expectedLength));
     ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(root.object));
     open.emplace_back(std::move(root), box, pageOfWidth(width), page, Canvas::Attributes());
     innermost().paintsOnPage = innermost().painting.paintsDirectly();
@@ -69,25 +71,28 @@ void PageBuilder::endElement() {
     }
 }
 
-void PageBuilder::addWord(String word) {
+void PageBuilder::addWord(std::string_view word) {
     if (!refusal) return;
     if (!subtree.isEmpty()) {
-        subtree.addWord(std::move(word));
+        subtree.addWord(word);
     } else {
-        addToLine(makeWord(std::move(word)));
+        addToLine(makeWord(word));
     }
 }
 
-ZRLWPtr<Box> PageBuilder::makeWord(String word) {
+ZRLWPtr<Box> PageBuilder::makeWord(std::string_view word) {
     if (spareWords.empty()) {
-        ZRLWPtr<DomNode> node = ZR::MovePtr<DomNode>(new DomText(std::move(word)));
+        ZRLWPtr<DomNode> node = makeText(word);
         ZRLWPtr<Box> box = ZR::MovePtr<Box>(new InlineBox(node.object));
         box->heldNode = std::move(node);
         return box;
     }
     ZRLWPtr<Box> box = std::move(spareWords.back());
     spareWords.pop_back();
-    static_cast<DomText&>(*box->node).text = std::move(word);
+    // In the buffer that is there.
+    String& shown = static_cast<DomText&>(*box->node).text;
+    shown.deleteRegion(0, shown.length());
+    shown.concat(word.data(), static_cast<int>(word.length()));
     return box;
 }
 

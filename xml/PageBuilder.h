@@ -19,14 +19,16 @@ class PageBuilder final : public DocumentHandler {
 public:
     /// `promisesModestEdges` says that the document has no extreme edges: without that promise
     /// lines and rows are kept until nothing can reach them.
-    PageBuilder(ZRLWPtr<DomElement> root, unsigned width, bool promisesModestEdges);
+    /// About `expectedLength` bytes of text are provided for.
+    PageBuilder(ZRLWPtr<DomElement> root, unsigned width, bool promisesModestEdges,
+                int expectedLength);
     PageBuilder(PageBuilder const&) = delete;
     PageBuilder& operator=(PageBuilder const&) = delete;
     ~PageBuilder() override;
 
     void startElement(ZRLWPtr<DomElement> element) override;
     void endElement() override;
-    void addWord(String word) override;
+    void addWord(std::string_view word) override;
 
     /// To be called at the end of the document: finishes the page and appends it to `out`; or
     /// returns why a child was refused by its parent, the first that was, with `out` unchanged.
@@ -53,7 +55,7 @@ private:
     void addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> const& box);
     void addToLine(ZRLWPtr<Box> box);
     void closeLine();
-    ZRLWPtr<Box> makeWord(String word);
+    ZRLWPtr<Box> makeWord(std::string_view word);
     void paintDone();
     void keepWords(Box& line);
     void releaseRows();

@@ -27,7 +27,7 @@ XCode xmlToText(String& out, String const& xml, ZRList<ZRLWPtr<StyleNode>> const
     XCode result = checkRoot(root.object);
     if (!result) return result;
     bool const hasModestEdges = !mayHaveExtremeEdges(xml, styles);
-    PageBuilder builder(root, width, hasModestEdges);
+    PageBuilder builder(root, width, hasModestEdges, xml.length());
     result = read(builder, xml, styles);
     return result ? builder.finish(out) : result;
 }

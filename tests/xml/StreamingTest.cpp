@@ -47,9 +47,9 @@ TEST(Streaming, MakesThePageOfTheWholeTrees) {
         "<b>aaa aaaa aaaaa <p>yy yy yy yy yy yy</p></b>",
         "aa bb <b>cc <p>dd ee</p> ff</b> gg <b><p>hh ii</p></b> jj kk ll mm",
         // A table in a block on a line shows how often the line was laid out.
-        "a b c d e f g h <b>i <div>j <table><tr><td>k</td><td>l l l</td></tr>"
-        "<tr><td>m m m m</td></tr></table></div></b> n o p q r s t <b><div><table><tr><td>u u</td>"
-        "<td>v</td></tr><tr><td>w w w w</td></tr></table></div></b> x y z",
+        ("a b c d e f g h <b>i <div>j <table><tr><td>k</td><td>l l l</td></tr>"
+         "<tr><td>m m m m</td></tr></table></div></b> n o p q r s t <b><div><table><tr><td>u u</td>"
+         "<td>v</td></tr><tr><td>w w w w</td></tr></table></div></b> x y z"),
         // A negative edge makes room again.
         "aaa bbb ccc ddd <b margin-left=\"-40\">e</b>",
         "aaa<p>b</p><p margin-top=\"-2\" background-color=\"red\">c</p>",
@@ -57,8 +57,8 @@ TEST(Streaming, MakesThePageOfTheWholeTrees) {
         "<div background-color=\"red\" padding=\"1\">a<p border-width=\"1\">b c d e f</p>g</div>",
         "<div padding-left=\"3\"><p padding-top=\"2\"/>a<div padding=\"2\">b</div>c</div>d",
         "<div padding-top=\"2147483637\" border-top-width=\"5\" padding-left=\"2\"/>",
-        "<p>a</p><p>b</p><p>c</p><div padding-left=\"2\" padding-top=\"2147483637\" "
-        "border-top-width=\"11\"/>",
+        ("<p>a</p><p>b</p><p>c</p><div padding-left=\"2\" padding-top=\"2147483637\" "
+         "border-top-width=\"11\"/>"),
         "<b>a<tr/></b></p>",
         "<td>a</td><b",
         "<div display=\"none\">a<td/></div>b",

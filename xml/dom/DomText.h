@@ -1,7 +1,9 @@
 #pragma once
 
+#include <string_view>
 #include <utility>
 
+#include "base/ZRLWPtr.h"
 #include "xml/dom/DomNode.h"
 
 namespace CLI::XML {
@@ -17,6 +19,12 @@ public:
     String toString() const override;
     String dump(unsigned indent) const override;
 };
+
+/// A new text node.
+inline ZRLWPtr<DomNode> makeText(std::string_view word) {
+    return ZR::MovePtr<DomNode>(
+        new DomText(String(word.data(), 0, static_cast<int>(word.length()))));
+}
 
 /// `node` as a text; null for null and for an element.
 inline DomText const* asText(DomNode const* node) {

@@ -15,7 +15,7 @@ public:
     void push(ZRLWPtr<DomElement> element) { open.push_back(std::move(element)); }
 
     /// Adds a text to the innermost element.
-    void addWord(String word) { add(ZR::MovePtr<DomNode>(new DomText(std::move(word)))); }
+    void addWord(std::string_view word) { add(makeText(word)); }
 
     /// Closes the innermost element. Returns the outermost one if that was it, otherwise null.
     ZRLWPtr<DomElement> pop() {

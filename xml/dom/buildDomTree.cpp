@@ -18,11 +18,11 @@ public:
         if (element) outermost.children.add(std::move(element));
     }
 
-    void addWord(String word) override {
+    void addWord(std::string_view word) override {
         if (open.isEmpty()) {
-            outermost.children.add(ZR::MovePtr<DomNode>(new DomText(std::move(word))));
+            outermost.children.add(makeText(word));
         } else {
-            open.addWord(std::move(word));
+            open.addWord(word);
         }
     }
 

@@ -100,11 +100,15 @@ private:
             if (*next == '\0') return;
             char const* const start = next;
             while (*next != '\0' && !whiteSpace.contains(*next)) ++next;
-            bool const keepsItsSpace = *next == ' ';
-            String word(start, 0, static_cast<int>(next - start) + (keepsItsSpace ? 1 : 0));
-            if (*next != '\0' && !keepsItsSpace) word += " ";
-            if (hasReferences) word = replaceEntities(word);
-            handler.addWord(std::move(word));
+            bool const isFollowed = *next != '\0';
+            auto const length = static_cast<std::size_t>(next - start);
+            if (!hasReferences && (!isFollowed || *next == ' ')) {
+                handler.addWord({start, length + (isFollowed ? 1 : 0)});
+                continue;
+            }
+            String word(start, 0, static_cast<int>(length));
+            if (isFollowed) word += " ";
+            handler.addWord(replaceEntities(word).view());
         }
     }
 

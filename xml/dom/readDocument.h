@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "base/XCode.h"
 #include "xml/css/StyleNode.h"
 #include "xml/dom/DomElement.h"
@@ -16,8 +18,8 @@ public:
     virtual void startElement(ZRLWPtr<DomElement> element) = 0;
     /// The innermost open element ends.
     virtual void endElement() = 0;
-    /// One word of running text, with the space that followed it.
-    virtual void addWord(String word) = 0;
+    /// One word of running text, with the space that followed it. The bytes are gone afterwards.
+    virtual void addWord(std::string_view word) = 0;
 };
 
 /// Reads events until the end tag that closes what was open at the beginning, which is left unread,

@@ -116,21 +116,22 @@ bool Canvas::draw(Canvas const& source, unsigned x, unsigned y) {
 }
 
 bool Canvas::drawClipped(String const& text, int x, int y, Attributes const& attributes) {
-    auto const length = static_cast<unsigned>(std::strlen(text.c_str()));
-    auto const clipped = static_cast<unsigned>(x < 0 ? -std::int64_t{x} : 0);
+    char const* shown = text.c_str();
+    std::size_t length = std::strlen(shown);
+    std::size_t const clipped = x < 0 ? static_cast<std::size_t>(-std::int64_t{x}) : 0;
     bool const allClipped = y < 0 || (clipped > 0 && clipped >= length);
     if (text.length() == 0 || allClipped) return false;
     unsigned const index = getOrStoreAttribute(attributes);
     ZRVector<Byte>& row = touchRow(std::uint64_t{originRow()} + static_cast<unsigned>(y));
     // A text that begins with a NUL creates the row and writes nothing.
     if (length == 0) return true;
-    char const* const bytes = text.c_str() + clipped;
+    shown += clipped;
+    length -= clipped;
     unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
-    unsigned const shown = length - clipped;
-    lengthen(row, std::uint64_t{column} + shown, column);
-    Byte* const cells = row.data + column;
-    for (unsigned i = 0; i < shown; ++i) {
-        cells[i] = Byte::make(static_cast<unsigned char>(bytes[i]), index);
+    if (column + length > row.count) lengthen(row, column + length, column);
+    Byte* cell = row.data + column;
+    for (char const* const end = shown + length; shown != end; ++shown, ++cell) {
+        *cell = Byte::make(static_cast<unsigned char>(*shown), index);
     }
     return true;
 }
