@@ -29,6 +29,7 @@ void runOnSmallStack(std::function<void()> function) {
 }
 
 struct Nesting {
+    char const* name;
     char const* start;
     char const* end;
 };
@@ -71,11 +72,12 @@ TEST_P(Depth, IsDumped) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(Nesting, Depth,
-                         testing::Values(Nesting{"<div>", "</div>"}, Nesting{"<b>", "</b>"},
-                                         Nesting{"<p><b>", "</b></p>"},
-                                         Nesting{"<table><tr><td><div>",
-                                                 "</div></td></tr></table>"}));
+INSTANTIATE_TEST_SUITE_P(
+    Nesting, Depth,
+    testing::Values(Nesting{"Blocks", "<div>", "</div>"}, Nesting{"Inlines", "<b>", "</b>"},
+                    Nesting{"InlinesInBlocks", "<p><b>", "</b></p>"},
+                    Nesting{"Tables", "<table><tr><td><div>", "</div></td></tr></table>"}),
+    [](auto const& nesting) { return nesting.param.name; });
 
 }  // namespace
 }  // namespace CLI::XML

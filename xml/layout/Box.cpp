@@ -21,10 +21,9 @@ Box::~Box() {
 }
 
 bool Box::isForeign() const {
-    static std::type_info const* const s_classes[] = {&typeid(BlockBox),  &typeid(LineBox),
-                                                      &typeid(InlineBox), &typeid(TableBox),
-                                                      &typeid(RowBox),    &typeid(CellBox)};
-    return typeid(*this) != *s_classes[type];
+    std::type_info const& own = typeid(*this);
+    return own != typeid(InlineBox) && own != typeid(LineBox) && own != typeid(BlockBox) &&
+           own != typeid(CellBox) && own != typeid(RowBox) && own != typeid(TableBox);
 }
 
 void Box::layout(Dimensions const& containing) {

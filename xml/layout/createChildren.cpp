@@ -1,5 +1,7 @@
 // How a box builds the boxes below it from the children of its node.
 
+#include <iterator>
+
 #include "xml/dom/DomElement.h"
 #include "xml/layout/TableBox.h"
 #include "xml/layout/makeChild.h"
@@ -58,7 +60,9 @@ Walk createBoxes(Box& box, XCode& result) {
 }  // namespace
 
 XCode makeChild(Box const& parent, DomNode& child, ZRLWPtr<Box>& made) {
-    MakeBox const make = s_childRules[parent.type][child.display];
+    auto const type = static_cast<std::size_t>(parent.type);
+    MakeBox const make =
+        type < std::size(s_childRules) ? s_childRules[type][child.display] : nullptr;
     if (make == nullptr) return refuse(child, *asElement(parent.node));
     made = make(&child);
     return XCode();
