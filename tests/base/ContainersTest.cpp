@@ -72,6 +72,26 @@ TEST(HashTable, KeepsItsBucketsWhenItIsCleared) {
     EXPECT_EQ(bucket->bucketPrev, bucket->bucketNext);
 }
 
+TEST(HashTable, FindsTheOldestOfManyKeys) {
+    Table table;
+    // Each key twice, half of them from before the table is indexed.
+    for (int round = 0; round < 2; ++round) {
+        for (int i = 0; i < 50; ++i) {
+            String const key(String::formatted, "key%d", i);
+            table.add(key, round == 0 ? key : String("newer"));
+        }
+    }
+    table.set("key49", "set");
+    table.set("other", "added");
+    EXPECT_EQ(table.count, 101U);
+    EXPECT_EQ(lookUp(table, "key7") + lookUp(table, "key49") + lookUp(table, "other"),
+              "key7setadded");
+    table.clear();
+    EXPECT_EQ(lookUp(table, "key7"), "no, untouched");
+    table.set("key7", "again");
+    EXPECT_EQ(contents(table), "key7=again 1");
+}
+
 TEST(List, WalksItsValuesInTheOrderOfAppending) {
     ZRList<String> list;
     for (int round = 0; round < 2; ++round) {

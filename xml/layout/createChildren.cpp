@@ -31,6 +31,13 @@ constexpr ChildRules s_childRules[] = {
     {make<BlockBox>, make<InlineBox>, nullptr, nullptr, nullptr},
 };
 
+MakeBox ruleFor(Box const& parent, DomNode const& child) {
+    auto const type = static_cast<std::size_t>(parent.type);
+    auto const display = static_cast<std::size_t>(child.display);
+    bool const isKnown = type < std::size(s_childRules) && display < DomNode::None;
+    return isKnown ? s_childRules[type][display] : nullptr;
+}
+
 XCode refuse(DomNode const& child, DomElement const& parent) {
     DomElement const* const element = asElement(&child);
     return testExpression(false).setStringF("Cannot layout '%s' within '%s'",
@@ -60,9 +67,7 @@ Walk createBoxes(Box& box, XCode& result) {
 }  // namespace
 
 XCode makeChild(Box const& parent, DomNode& child, ZRLWPtr<Box>& made) {
-    auto const type = static_cast<std::size_t>(parent.type);
-    MakeBox const make =
-        type < std::size(s_childRules) ? s_childRules[type][child.display] : nullptr;
+    MakeBox const make = ruleFor(parent, child);
     if (make == nullptr) return refuse(child, *asElement(parent.node));
     made = make(&child);
     return XCode();
