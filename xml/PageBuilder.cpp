@@ -51,9 +51,8 @@ void PageBuilder::startElement(ZRLWPtr<DomElement> element) {
         subtree.push(std::move(element));
         return;
     }
-    ZRLWPtr<Box> box;
-    refusal = makeChild(*innermost().box, *element, box);
-    if (!refusal) return;
+    ZRLWPtr<Box> const box = makeChild(*innermost().box, *element, refusal);
+    if (!box) return;
     if (element->display == DomNode::Block) {
         openBlock(std::move(element), box);
     } else {

@@ -51,9 +51,8 @@ Walk createBoxes(Box& box, XCode& result) {
     if (element == nullptr) co_return;
     for (ZRLWPtr<DomNode> const& child : element->children) {
         if (child->display == DomNode::None) continue;
-        ZRLWPtr<Box> made;
-        result = makeChild(box, *child, made);
-        if (!result) co_return;
+        ZRLWPtr<Box> const made = makeChild(box, *child, result);
+        if (!made) co_return;
         if (child->display == DomNode::Inline) {
             box.getOrCreateLineBox()->children.add(made);
         } else {
@@ -66,11 +65,11 @@ Walk createBoxes(Box& box, XCode& result) {
 
 }  // namespace
 
-XCode makeChild(Box const& parent, DomNode& child, ZRLWPtr<Box>& made) {
+ZRLWPtr<Box> makeChild(Box const& parent, DomNode& child, XCode& result) {
     MakeBox const make = ruleFor(parent, child);
-    if (make == nullptr) return refuse(child, *asElement(parent.node));
-    made = make(&child);
-    return XCode();
+    if (make != nullptr) return make(&child);
+    result = refuse(child, *asElement(parent.node));
+    return {};
 }
 
 XCode Box::createChildren() {

@@ -4,9 +4,9 @@
 
 namespace CLI::XML {
 
-/// Makes the box for a child of the node of `parent`, without boxes below it and without putting
-/// it anywhere. Fails with "Cannot layout '%s' within '%s'" on a child that `parent` cannot hold.
+/// A new box for a child of the node of `parent`, without boxes below it and not put anywhere yet.
+/// Null for a child that `parent` cannot hold; then `result` is "Cannot layout '%s' within '%s'".
 /// The child's display kind is not `DomNode::None`.
-XCode makeChild(Box const& parent, DomNode& child, ZRLWPtr<Box>& made);
+ZRLWPtr<Box> makeChild(Box const& parent, DomNode& child, XCode& result);
 
 }  // namespace CLI::XML
