@@ -5,17 +5,11 @@
 
 #include "xml/layout/TableBox.h"
 #include "xml/layout/makeChild.h"
+#include "xml/pageOfWidth.h"
 
 namespace CLI::XML {
 
 namespace {
-
-Dimensions pageOfWidth(unsigned width) {
-    Dimensions page;
-    auto const widest = static_cast<unsigned>(std::numeric_limits<std::int32_t>::max());
-    page.content.width = static_cast<std::int32_t>(std::min(width, widest));
-    return page;
-}
 
 ZRLWPtr<BlockBox> asBlock(ZRLWPtr<Box> const& box) {
     return ZRLWPtr<BlockBox>::share(static_cast<BlockBox*>(box.object));
@@ -31,9 +25,7 @@ PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<DomElement> rendered, ZRLWPtr<BlockBox
       flow(*box, containing),
       painting(*box, canvas, attributes, BoxPainting::Open) {}
 
-PageBuilder::PageBuilder(ZRLWPtr<DomElement> root, unsigned width, bool promisesModestEdges,
-                         int expectedLength)
-    : letsGoEarly(promisesModestEdges) {
+PageBuilder::PageBuilder(ZRLWPtr<DomElement> root, unsigned width, int expectedLength) {
     text.reserve(static_cast<std::size_t>(expectedLength));
     ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(root.object));
     open.emplace_back(std::move(root), box, pageOfWidth(width), page, Canvas::Attributes());
@@ -145,7 +137,7 @@ void PageBuilder::addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> co
 }
 
 void PageBuilder::addToLine(ZRLWPtr<Box> box) {
-    innermost().flow.addToLine(std::move(box), letsGoEarly);
+    innermost().flow.addToLine(std::move(box));
     paintDone();
 }
 
@@ -177,7 +169,7 @@ void PageBuilder::keepWords(Box& line) {
 /// Without extreme edges nothing is painted above the end of what an open block holds already.
 void PageBuilder::releaseRows() {
     OpenBlock const& block = innermost();
-    if (!letsGoEarly || !block.paintsOnPage) return;
+    if (!block.paintsOnPage) return;
     std::int64_t const row = std::int64_t{page.originRow()} + block.box->dimensions.content.height;
     if (row <= std::numeric_limits<std::int32_t>::max()) {
         page.moveRowsTo(text, static_cast<unsigned>(row));

@@ -17,11 +17,9 @@ namespace CLI::XML {
 /// a table is kept until that is closed, since its boxes may be laid out again.
 class PageBuilder final : public DocumentHandler {
 public:
-    /// `promisesModestEdges` says that the document has no extreme edges: without that promise
-    /// lines and rows are kept until nothing can reach them.
-    /// About `expectedLength` bytes of text are provided for.
-    PageBuilder(ZRLWPtr<DomElement> root, unsigned width, bool promisesModestEdges,
-                int expectedLength);
+    /// About `expectedLength` bytes of text are provided for. The document must have no extreme
+    /// edges.
+    PageBuilder(ZRLWPtr<DomElement> root, unsigned width, int expectedLength);
     PageBuilder(PageBuilder const&) = delete;
     PageBuilder& operator=(PageBuilder const&) = delete;
     ~PageBuilder() override;
@@ -63,7 +61,6 @@ private:
     Canvas page;
     /// Rows of the page that nothing can change any more.
     std::string text;
-    bool const letsGoEarly;
     std::vector<OpenBlock> open;
     /// Of the innermost block, a child that is being read and is not a block.
     OpenElements subtree;

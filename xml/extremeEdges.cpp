@@ -7,7 +7,7 @@ namespace CLI::XML {
 
 namespace {
 
-constexpr std::size_t s_modestDigits = 7;
+constexpr std::size_t s_modestDigits = 4;
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 

@@ -1,5 +1,7 @@
 #include "xml/PageBuilder.h"
+#include "xml/dom/buildDomTree.h"
 #include "xml/extremeEdges.h"
+#include "xml/pageOfWidth.h"
 #include "xml/parser/PullParser.h"
 #include "xml/xml.h"
 
@@ -8,9 +10,9 @@ namespace CLI::XML {
 namespace {
 
 /// Reads the document to its end; the copy of the markup is gone when this returns.
-XCode read(PageBuilder& builder, String const& xml, StyleList const& styles) {
+XCode read(DocumentHandler& handler, String const& xml, StyleList const& styles) {
     PullParser parser(xml);
-    return readDocument(builder, true, parser, styles);
+    return readDocument(handler, true, parser, styles);
 }
 
 XCode checkRoot(DomNode const* root) {
@@ -19,17 +21,43 @@ XCode checkRoot(DomNode const* root) {
     return testExpression(false).setStringF("Root node must be a block-level element");
 }
 
+/// Builds, lays out and paints while reading.
+XCode convertStream(String& out, String const& xml, StyleList const& styles, unsigned width) {
+    ZRLWPtr<DomElement> const root = createRootElement();
+    XCode result = checkRoot(root.object);
+    if (!result) return result;
+    PageBuilder builder(root, width, xml.length());
+    result = read(builder, xml, styles);
+    return result ? builder.finish(out) : result;
+}
+
+/// One stage after the other.
+XCode convertWhole(String& out, String const& xml, StyleList const& styles, unsigned width) {
+    ZRLWPtr<DomElement> root;
+    XCode result;
+    {
+        PullParser parser(xml);
+        result = buildDomTree(root, true, parser, styles);
+    }
+    if (!result) return result;
+    // Boxes point to nodes: the box tree, declared behind them, goes first.
+    ZRLWPtr<Box> const rootBox = ZR::MovePtr<Box>(new BlockBox(root.object));
+    result = rootBox->createChildren();
+    if (!result) return result;
+    rootBox->layout(pageOfWidth(width));
+    Canvas page;
+    rootBox->drawTo(page, Canvas::Attributes());
+    out += page.dump("\n");
+    return result;
+}
+
 }  // namespace
 
 XCode xmlToText(String& out, String const& xml, ZRList<ZRLWPtr<StyleNode>> const& styles,
                 unsigned int width) {
-    ZRLWPtr<DomElement> const root = createRootElement();
-    XCode result = checkRoot(root.object);
-    if (!result) return result;
-    bool const hasModestEdges = !mayHaveExtremeEdges(xml, styles);
-    PageBuilder builder(root, width, hasModestEdges, xml.length());
-    result = read(builder, xml, styles);
-    return result ? builder.finish(out) : result;
+    // What is painted early has to be final, and is painted although the document may fail later.
+    bool const isExtreme = mayHaveExtremeEdges(xml, styles);
+    return (isExtreme ? convertWhole : convertStream)(out, xml, styles, width);
 }
 
 }  // namespace CLI::XML

@@ -36,7 +36,7 @@ Walk BlockFlow::add(ZRLWPtr<Box> const& child, LayoutPass pass) {
     return placePending(pass, 0);
 }
 
-void BlockFlow::addToLine(ZRLWPtr<Box> box, bool mayBreak) {
+void BlockFlow::addToLine(ZRLWPtr<Box> box) {
     if (pending.empty()) {
         pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
         breaks = 0;
@@ -47,7 +47,7 @@ void BlockFlow::addToLine(ZRLWPtr<Box> box, bool mayBreak) {
     line.isSettled = false;
     room -= box->dimensions.content.width;
     line.children.add(std::move(box));
-    if (!mayBreak || room >= 0 || available == s_largestWidth) return;
+    if (room >= 0 || available == s_largestWidth) return;
     // It is too wide already, so that its layout would only be done again.
     bool const areBoxesSettled = areSettled(line.children);
     ZRLWPtr<Box> rest = line.split(available);

@@ -26,10 +26,10 @@ public:
     /// Lays out `child` and whatever is broken off it.
     Walk add(ZRLWPtr<Box> const& child, LayoutPass pass);
 
-    /// Puts an inline box at the end of the open line, which is begun where there is none. With
-    /// `mayBreak`, which promises that nothing on the line has a negative edge, what is certain not
-    /// to stay on it, whatever follows, is broken off.
-    void addToLine(ZRLWPtr<Box> box, bool mayBreak);
+    /// Puts an inline box at the end of the open line, which is begun where there is none, and
+    /// breaks off what is certain not to stay on it, whatever follows. Nothing on the line may have
+    /// a negative edge.
+    void addToLine(ZRLWPtr<Box> box);
     /// Lays out what is left of the open line, if there is one.
     void closeLine();
 
