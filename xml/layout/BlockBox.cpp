@@ -5,12 +5,7 @@
 namespace CLI::XML {
 
 Walk BlockBox::layOut(Dimensions const& containing, LayoutPass pass) {
-    if (!pass.isOutermost && isForeign()) {
-        layout(containing);
-        isSettled = false;
-        co_return;
-    }
-    pass.isOutermost = false;
+    if (isLaidOutByItsOwn(containing, pass)) co_return;
     bool const isSameWidth = containing.content.width == containingWidth;
     if (pass.again && isSettled && isSameWidth) co_return;
     containingWidth = containing.content.width;

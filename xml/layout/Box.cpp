@@ -1,6 +1,7 @@
 #include "xml/layout/Box.h"
 
 #include <typeinfo>
+#include <utility>
 
 #include "base/releaseTree.h"
 #include "xml/css/properties.h"
@@ -24,6 +25,14 @@ bool Box::isForeign() const {
     std::type_info const& own = typeid(*this);
     return own != typeid(InlineBox) && own != typeid(LineBox) && own != typeid(BlockBox) &&
            own != typeid(CellBox) && own != typeid(RowBox) && own != typeid(TableBox);
+}
+
+bool Box::isLaidOutByItsOwn(Dimensions const& containing, LayoutPass& pass) {
+    bool const isAsked = std::exchange(pass.isOutermost, false);
+    if (isAsked || !isForeign()) return false;
+    layout(containing);
+    isSettled = false;
+    return true;
 }
 
 void Box::layout(Dimensions const& containing) {

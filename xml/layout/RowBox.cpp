@@ -5,12 +5,7 @@
 namespace CLI::XML {
 
 Walk RowBox::layOut(Dimensions const& containing, LayoutPass pass) {
-    if (!pass.isOutermost && isForeign()) {
-        layout(containing);
-        isSettled = false;
-        co_return;
-    }
-    pass.isOutermost = false;
+    if (isLaidOutByItsOwn(containing, pass)) co_return;
     RightwardRow row(dimensions);
     isSettled = true;
     for (unsigned i = 0; i < children.count; ++i) {

@@ -16,12 +16,7 @@ void raiseSides(EdgeSizes& maxima, EdgeSizes const& edges) {
 }  // namespace
 
 Walk TableBox::layOut(Dimensions const& containing, LayoutPass pass) {
-    if (!pass.isOutermost && isForeign()) {
-        layout(containing);
-        isSettled = false;
-        co_return;
-    }
-    pass.isOutermost = false;
+    if (isLaidOutByItsOwn(containing, pass)) co_return;
     if (pass.again && isSettled) co_return;
     dimensions.content.height = 0;
     releaseCells();

@@ -18,12 +18,7 @@ bool takesLessThanItsContent(Dimensions const& d) {
 template <class Gap>
 Walk layoutRightwards(Box& box, Dimensions const& containing, LayoutPass pass) {
     constexpr Gap gapBetween;
-    if (!pass.isOutermost && box.isForeign()) {
-        box.layout(containing);
-        box.isSettled = false;
-        co_return;
-    }
-    pass.isOutermost = false;
+    if (box.isLaidOutByItsOwn(containing, pass)) co_return;
     if (pass.again && box.isSettled) co_return;
     // A block keeps the breaks that it got at any width behind the boxes before it.
     if (box.type != Box::Line && box.holdsBlock) pass.isLimited = false;
