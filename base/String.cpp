@@ -142,14 +142,32 @@ bool String::reserve(int length) {
     return true;
 }
 
-String& String::appendGrowing(String const& s) {
-    std::int64_t const needed = std::int64_t{length()} + s.length();
-    if (needed > s_longestText) return *this;
-    if (!hasRoomFor(static_cast<int>(needed))) {
-        reserve(static_cast<int>(
-            std::min<std::int64_t>(std::max(needed, std::int64_t{length()} * 2), s_longestText)));
+bool String::appendGrowing(std::string_view s) {
+    auto const longest = static_cast<std::size_t>(s_longestText);
+    auto const former = static_cast<std::size_t>(length());
+    if (s.length() > longest - former) return false;
+    std::size_t const needed = former + s.length();
+    if (!hasRoomFor(static_cast<int>(needed)) &&
+        !reserve(static_cast<int>(std::min(std::max(needed, former * 2), longest)))) {
+        return false;
     }
-    return *this += s;
+    concat(s.data(), static_cast<int>(s.length()));
+    return true;
+}
+
+void String::shrinkToFit() {
+    if (store.capacity == 0) return;
+    if (length() <= s_inlineLength) {
+        *this = String(*this);
+        return;
+    }
+    int const bytes = bufferSizeFor(length());
+    auto const slack = static_cast<int>(sizeof store.storage);
+    if (bytes - slack >= store.capacity) return;
+    void* const fitting = std::realloc(store.storage.buffer, static_cast<std::size_t>(bytes));
+    if (fitting == nullptr) return;
+    store.storage.buffer = static_cast<char*>(fitting);
+    store.capacity = bytes - slack;
 }
 
 String& String::concatf(char const* format, ...) {

@@ -95,9 +95,12 @@ public:
     /// False, with nothing changed, when there is no memory for it.
     bool reserve(int length);
 
-    /// Appends `s` to a text that is built piece by piece: where the buffer must grow it at least
-    /// doubles, so that the pieces together cost linear time.
-    String& appendGrowing(String const& s);
+    /// Appends `s`, which is not in this string, to a text that is built piece by piece: where the
+    /// buffer must grow it at least doubles, so that the pieces together cost linear time. False,
+    /// with nothing changed, where there is no memory for it.
+    bool appendGrowing(std::string_view s);
+    /// Gives back what the buffer holds beyond that of a fresh copy of the text.
+    void shrinkToFit();
 
     /// `s` repeated `n` times.
     static String repeat(String const& s, unsigned n);

@@ -1,6 +1,9 @@
 #include "cli/files.h"
 
+#include <sys/stat.h>
+
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -16,13 +19,19 @@ struct CloseFile {
 };
 using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
 
+/// Provides for the whole of a file that has a size, to no effect where it cannot.
+void reserveSize(std::FILE* file, String& content) {
+    struct stat status = {};
+    bool const isKnown = fstat(fileno(file), &status) == 0 && S_ISREG(status.st_mode);
+    if (isKnown && status.st_size <= INT_MAX) content.reserve(static_cast<int>(status.st_size));
+}
+
 /// Reads to the end; false, with `errno` set, on an error or where the text outgrows a String.
 bool readAll(std::FILE* file, String& content) {
+    reserveSize(file, content);
     char piece[65536];
     while (std::size_t const n = std::fread(piece, 1, sizeof piece, file)) {
-        int const wanted = content.length() + static_cast<int>(n);
-        content.appendGrowing(String(piece, 0, static_cast<int>(n)));
-        if (content.length() != wanted) {
+        if (!content.appendGrowing({piece, n})) {
             errno = EFBIG;
             return false;
         }

@@ -26,7 +26,7 @@ PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<DomElement> rendered, ZRLWPtr<BlockBox
       painting(*box, canvas, attributes, BoxPainting::Open) {}
 
 PageBuilder::PageBuilder(ZRLWPtr<DomElement> root, unsigned width, int expectedLength) {
-    text.reserve(static_cast<std::size_t>(expectedLength));
+    text.reserve(expectedLength);
     ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(root.object));
     open.emplace_back(std::move(root), box, pageOfWidth(width), page, Canvas::Attributes());
     innermost().paintsOnPage = innermost().painting.paintsDirectly();
@@ -90,10 +90,14 @@ ZRLWPtr<Box> PageBuilder::makeWord(std::string_view word) {
 XCode PageBuilder::finish(String& out) {
     if (!refusal) return refusal;
     closeBlock();
-    page.moveRowsTo(text, std::numeric_limits<unsigned>::max());
-    // A longer text is one that a String cannot hold, and appends nothing.
-    if (text.size() <= static_cast<std::size_t>(std::numeric_limits<int>::max())) {
-        out.concat(text.data(), static_cast<int>(text.size()));
+    moveRowsAbove(std::numeric_limits<unsigned>::max());
+    // A text that could not be held as a whole appends nothing.
+    if (!isTextComplete) return refusal;
+    if (out.length() > 0) {
+        out += text;
+    } else {
+        text.shrinkToFit();
+        out = std::move(text);
     }
     return refusal;
 }
@@ -172,8 +176,12 @@ void PageBuilder::releaseRows() {
     if (!block.paintsOnPage) return;
     std::int64_t const row = std::int64_t{page.originRow()} + block.box->dimensions.content.height;
     if (row <= std::numeric_limits<std::int32_t>::max()) {
-        page.moveRowsTo(text, static_cast<unsigned>(row));
+        moveRowsAbove(static_cast<unsigned>(row));
     }
+}
+
+void PageBuilder::moveRowsAbove(unsigned row) {
+    isTextComplete = page.moveRowsTo(text, row) && isTextComplete;
 }
 
 }  // namespace CLI::XML

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "xml/dom/OpenElements.h"
@@ -57,10 +56,12 @@ private:
     void paintDone();
     void keepWords(Box& line);
     void releaseRows();
+    void moveRowsAbove(unsigned row);
 
     Canvas page;
     /// Rows of the page that nothing can change any more.
-    std::string text;
+    String text;
+    bool isTextComplete = true;
     std::vector<OpenBlock> open;
     /// Of the innermost block, a child that is being read and is not a block.
     OpenElements subtree;

@@ -25,10 +25,10 @@ Walk dumpTree(Box const& box, unsigned indent, String& out) {
     line += box.node != nullptr ? box.node->toString() : String("(anonymous)");
     line += ": ";
     line.concatf("(%d, %d, %d, %d)\n", content.x, content.y, content.width, content.height);
-    out.appendGrowing(line);
+    out.appendGrowing(line.view());
     for (ZRLWPtr<Box> const& child : box.children) {
         if (child->isForeign()) {
-            out.appendGrowing(child->dump(indent + 2));
+            out.appendGrowing(child->dump(indent + 2).view());
         } else {
             co_await dumpTree(*child, indent + 2, out);
         }

@@ -19,7 +19,7 @@ Walk dumpTree(DomNode const& node, unsigned indent, String& out) {
         line += element->name.c_str();
         line += ":\n";
     }
-    out.appendGrowing(line);
+    out.appendGrowing(line.view());
     if (element == nullptr) co_return;
     for (ZRLWPtr<DomNode> const& child : element->children) {
         co_await dumpTree(*child, indent + 2, out);

@@ -9,12 +9,6 @@ namespace CLI::XML {
 
 namespace {
 
-/// Reads the document to its end; the copy of the markup is gone when this returns.
-XCode read(DocumentHandler& handler, String const& xml, StyleList const& styles) {
-    PullParser parser(xml);
-    return readDocument(handler, true, parser, styles);
-}
-
 XCode checkRoot(DomNode const* root) {
     if (root == nullptr) return testExpression(false);
     if (root->display == DomNode::Block) return XCode();
@@ -27,7 +21,8 @@ XCode convertStream(String& out, String const& xml, StyleList const& styles, uns
     XCode result = checkRoot(root.object);
     if (!result) return result;
     PageBuilder builder(root, width, xml.length());
-    result = read(builder, xml, styles);
+    PullParser parser = PullParser::withoutCopy(xml);
+    result = readDocument(builder, true, parser, styles);
     return result ? builder.finish(out) : result;
 }
 
@@ -36,7 +31,7 @@ XCode convertWhole(String& out, String const& xml, StyleList const& styles, unsi
     ZRLWPtr<DomElement> root;
     XCode result;
     {
-        PullParser parser(xml);
+        PullParser parser = PullParser::withoutCopy(xml);
         result = buildDomTree(root, true, parser, styles);
     }
     if (!result) return result;

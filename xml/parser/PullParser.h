@@ -35,7 +35,8 @@ public:
     /// The entities known in attribute values.
     static EntityReplacement const s_specialReplacement[];
 
-    String text;
+    /// The markup: this parser's copy, or the caller's own.
+    String const& text;
     /// What reading an attribute index at or past the end yields.
     Attribute emptyAttribute;
     /// Index of the next unread byte of `text`.
@@ -53,7 +54,13 @@ public:
     /// Line number and text of the last syntax error.
     String errorMessage;
 
-    explicit PullParser(String const& markup) : text(markup) {}
+    /// Reads a copy of `markup`.
+    explicit PullParser(String const& markup) : text(copy), copy(markup) {}
+    /// Reads `markup` itself, which must outlive the parser and stay as it is.
+    static PullParser withoutCopy(String const& markup) { return PullParser(&markup); }
+    PullParser(PullParser const&) = delete;
+    PullParser& operator=(PullParser const&) = delete;
+    ~PullParser() = default;
 
     /// What stands at `position`; moves nothing. A NUL byte after "<" begins a start tag.
     TagType getNextTag() const;
@@ -80,10 +87,14 @@ public:
     void error(char const* message);
 
 private:
+    explicit PullParser(String const* borrowed) : text(*borrowed) {}
+
     XCode readAttribute(Attribute& attribute);
     XCode fail(char const* message);
     /// Advances to `end`, or to the end of the text where `end` is negative.
     void skipTo(int end);
+
+    String copy;
 };
 
 }  // namespace CLI::XML

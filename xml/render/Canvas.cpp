@@ -39,11 +39,10 @@ void Canvas::bringIntoUse(unsigned row) {
     }
 }
 
-ZRVector<Canvas::Byte>& Canvas::touchRow(std::uint64_t y) {
+ZRVector<Canvas::Byte>& Canvas::touchNewRow(std::uint64_t y) {
     if (y < movedRows || y >= std::numeric_limits<unsigned>::max())
         throw std::bad_array_new_length();
     auto const row = static_cast<unsigned>(y);
-    if (!frames.empty() && row < frames.back().end) return rows.data[row - movedRows];
     if (row - movedRows >= rows.count) bringIntoUse(row - movedRows);
     unsigned end = row + 1;
     for (std::size_t depth = frames.size(); depth-- > 0;) {
@@ -117,7 +116,8 @@ bool Canvas::draw(Canvas const& source, unsigned x, unsigned y) {
 
 bool Canvas::drawClipped(String const& text, int x, int y, Attributes const& attributes) {
     char const* shown = text.c_str();
-    std::size_t length = std::strlen(shown);
+    std::size_t length = text.view().find('\0');
+    if (length == std::string_view::npos) length = text.view().length();
     std::size_t const clipped = x < 0 ? static_cast<std::size_t>(-std::int64_t{x}) : 0;
     bool const allClipped = y < 0 || (clipped > 0 && clipped >= length);
     if (text.length() == 0 || allClipped) return false;
@@ -129,9 +129,9 @@ bool Canvas::drawClipped(String const& text, int x, int y, Attributes const& att
     length -= clipped;
     unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
     if (column + length > row.count) lengthen(row, column + length, column);
-    Byte* cell = row.data + column;
-    for (char const* const end = shown + length; shown != end; ++shown, ++cell) {
-        *cell = Byte::make(static_cast<unsigned char>(*shown), index);
+    Byte* const cells = row.data + column;
+    for (std::size_t i = 0; i < length; ++i) {
+        cells[i] = Byte::make(static_cast<unsigned char>(shown[i]), index);
     }
     return true;
 }
@@ -171,7 +171,7 @@ void Canvas::writeRow(ZRVector<Byte> const& row, Sink const& sink) const {
             Attributes const& previous = attributeTable[current];
             current = cell->attributeIndex;
             String const escape = attributeTable[current].generateFormattingFrom(previous);
-            sink(escape.c_str(), static_cast<std::size_t>(escape.length()));
+            sink(escape.view());
         }
         auto const length = std::min(static_cast<std::size_t>(row.end() - cell), sizeof piece);
         Byte const* const end = cell + length;
@@ -180,42 +180,48 @@ void Canvas::writeRow(ZRVector<Byte> const& row, Sink const& sink) const {
             piece[filled] = static_cast<char>(cell->character);
             filled += cell->character != 0 ? 1 : 0;
         }
-        sink(piece, filled);
+        sink({piece, filled});
     }
-    if (current != 0) sink("\x1b[0m", 4);
+    if (current != 0) sink("\x1b[0m");
 }
 
 String Canvas::dump(String const& lineSeparator) const {
     // Measured first, so that the text is written into one buffer.
     std::int64_t length = std::int64_t{lineSeparator.length()} * rows.count;
     for (ZRVector<Byte> const& row : rows) {
-        writeRow(row,
-                 [&length](char const*, std::size_t n) { length += static_cast<std::int64_t>(n); });
+        writeRow(row, [&length](std::string_view piece) {
+            length += static_cast<std::int64_t>(piece.length());
+        });
     }
     String result;
     if (!result.reserve(saturate(length))) return result;
     for (ZRVector<Byte> const& row : rows) {
-        writeRow(row, [&result](char const* piece, std::size_t n) {
-            result.concat(piece, static_cast<int>(n));
+        writeRow(row, [&result](std::string_view piece) {
+            result.concat(piece.data(), static_cast<int>(piece.length()));
         });
         result += lineSeparator;
     }
     return result;
 }
 
-void Canvas::moveRowsTo(std::string& text, unsigned y) {
+bool Canvas::moveRowsTo(String& text, unsigned y) {
     unsigned const moved = std::min(y - std::min(y, movedRows), rows.count);
-    if (moved == 0) return;
+    if (moved == 0) return true;
+    bool isComplete = true;
+    auto const append = [&](std::string_view piece) {
+        isComplete = text.appendGrowing(piece) && isComplete;
+    };
     for (unsigned i = 0; i < moved; ++i) {
         ZRVector<Byte>& row = rows.data[i];
-        writeRow(row, [&text](char const* piece, std::size_t n) { text.append(piece, n); });
-        text += '\n';
+        writeRow(row, append);
+        append("\n");
         row.count = 0;
         spareRows.push_back(std::move(row));
     }
     for (unsigned i = moved; i < rows.count; ++i) rows.data[i - moved] = std::move(rows.data[i]);
     rows.count -= moved;
     movedRows += moved;
+    return isComplete;
 }
 
 }  // namespace CLI::XML

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 #include "base/String.h"
@@ -101,7 +100,8 @@ public:
     String dump(String const& lineSeparator) const;
     /// Appends the rows above row `y` to `text` in the same form, each ended by a line feed, and
     /// forgets them: for a page of which nothing is drawn there any more. Rows keep their numbers.
-    void moveRowsTo(std::string& text, unsigned y);
+    /// False where there is no memory for all of the text, which is then without a part.
+    bool moveRowsTo(String& text, unsigned y);
 
     /// Row and column of the origin that `enter` has set.
     unsigned originRow() const { return frames.empty() ? 0 : frames.back().top; }
@@ -118,7 +118,11 @@ private:
     int resolveRow(unsigned y) const;
     unsigned originColumn() const { return frames.empty() ? 0 : frames.back().left; }
     /// Row `y`, which exists from now on, with all rows above it as long as the origins ask for.
-    ZRVector<Byte>& touchRow(std::uint64_t y);
+    ZRVector<Byte>& touchRow(std::uint64_t y) {
+        bool const isTouched = !frames.empty() && y >= movedRows && y < frames.back().end;
+        return isTouched ? rows.data[y - movedRows] : touchNewRow(y);
+    }
+    ZRVector<Byte>& touchNewRow(std::uint64_t y);
     void bringIntoUse(unsigned row);
     template <class Sink>
     void writeRow(ZRVector<Byte> const& row, Sink const& sink) const;
