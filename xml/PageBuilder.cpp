@@ -67,24 +67,9 @@ void PageBuilder::addWord(std::string_view word) {
     if (!subtree.isEmpty()) {
         subtree.addWord(word);
     } else {
-        addToLine(makeWord(word));
+        innermost().flow.addWord(word);
+        paintDone();
     }
-}
-
-ZRLWPtr<Box> PageBuilder::makeWord(std::string_view word) {
-    if (spareWords.empty()) {
-        ZRLWPtr<DomNode> node = makeText(word);
-        ZRLWPtr<Box> box = ZR::MovePtr<Box>(new InlineBox(node.object));
-        box->heldNode = std::move(node);
-        return box;
-    }
-    ZRLWPtr<Box> box = std::move(spareWords.back());
-    spareWords.pop_back();
-    // In the buffer that is there.
-    String& shown = static_cast<DomText&>(*box->node).text;
-    shown.deleteRegion(0, shown.length());
-    shown.concat(word.data(), static_cast<int>(word.length()));
-    return box;
 }
 
 XCode PageBuilder::finish(String& out) {
@@ -132,17 +117,13 @@ void PageBuilder::addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> co
     if (!refusal) return;
     if (element->display == DomNode::Inline) {
         box->heldNode = element;
-        addToLine(box);
+        innermost().flow.addToLine(box);
+        paintDone();
     } else {
         closeLine();
         Walk::run(innermost().flow.add(box, {}));
         paintDone();
     }
-}
-
-void PageBuilder::addToLine(ZRLWPtr<Box> box) {
-    innermost().flow.addToLine(std::move(box));
-    paintDone();
 }
 
 void PageBuilder::closeLine() {
@@ -155,19 +136,10 @@ void PageBuilder::paintDone() {
     if (block.flow.done.count == 0) return;
     Canvas& canvas = block.painting.canvas();
     for (unsigned i = 0; i < block.flow.done.count; ++i) {
-        Box& box = *block.flow.done.data[i];
-        box.drawTo(canvas, block.painting.attributes());
-        if (box.type == Box::Line) keepWords(box);
+        block.flow.done.data[i]->drawTo(canvas, block.painting.attributes());
     }
     block.flow.done.clear();
     releaseRows();
-}
-
-void PageBuilder::keepWords(Box& line) {
-    for (unsigned i = 0; i < line.children.count; ++i) {
-        ZRLWPtr<Box>& box = line.children.data[i];
-        if (isLeaf(*box) && box->node->kind == DomNode::Text) spareWords.push_back(std::move(box));
-    }
 }
 
 /// Without extreme edges nothing is painted above the end of what an open block holds already.

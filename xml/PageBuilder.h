@@ -50,11 +50,8 @@ private:
     void openBlock(ZRLWPtr<DomElement> element, ZRLWPtr<Box> const& box);
     void closeBlock();
     void addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> const& box);
-    void addToLine(ZRLWPtr<Box> box);
     void closeLine();
-    ZRLWPtr<Box> makeWord(std::string_view word);
     void paintDone();
-    void keepWords(Box& line);
     void releaseRows();
     void moveRowsAbove(unsigned row);
 
@@ -68,9 +65,6 @@ private:
     /// Its box; null where it is not displayed.
     ZRLWPtr<Box> subtreeBox;
     XCode refusal;
-    /// Boxes of words that were painted, each with its node, to be used again: most of a document
-    /// is words, and making one costs more than laying it out.
-    std::vector<ZRLWPtr<Box>> spareWords;
 };
 
 }  // namespace CLI::XML

@@ -4,12 +4,12 @@
 #include <limits>
 #include <utility>
 
+#include "xml/dom/DomText.h"
+
 namespace CLI::XML {
 
 namespace {
 
-/// Room for as many spares the storage of a line from growing in steps.
-constexpr unsigned s_boxesOnLine = 15;
 constexpr std::int32_t s_largestWidth = std::numeric_limits<std::int32_t>::max();
 
 std::int32_t widthWithin(Dimensions const& containing, EdgeSizes const& edges) {
@@ -19,6 +19,14 @@ std::int32_t widthWithin(Dimensions const& containing, EdgeSizes const& edges) {
 bool areSettled(ZRVector<ZRLWPtr<Box>> const& boxes) {
     return std::all_of(boxes.begin(), boxes.end(),
                        [](ZRLWPtr<Box> const& box) { return box->isSettled; });
+}
+
+/// The run of words at the end of a line, where another word may join it.
+Box* openRun(ZRVector<ZRLWPtr<Box>> const& boxes) {
+    Box* const last = boxes.count > 0 ? boxes[boxes.count - 1].object : nullptr;
+    DomText const* const text = last != nullptr ? asText(last->node) : nullptr;
+    bool const isOpen = text != nullptr && text->isRun && text->text.view().back() == ' ';
+    return isOpen ? last : nullptr;
 }
 
 }  // namespace
@@ -37,16 +45,42 @@ Walk BlockFlow::add(ZRLWPtr<Box> const& child, LayoutPass pass) {
 }
 
 void BlockFlow::addToLine(ZRLWPtr<Box> box) {
-    if (pending.empty()) {
-        pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
-        breaks = 0;
-        findRoom();
-    }
+    beginLine();
     measure(*box);
+    room -= box->dimensions.content.width;
+    pending.front()->children.add(std::move(box));
+    breakLine();
+}
+
+void BlockFlow::addWord(std::string_view word) {
+    beginLine();
+    std::size_t const space = word.find(' ');
+    // Behind a space within a word no line is broken.
+    bool const mayShareBox = space >= word.length() - 1 && !word.empty();
+    ZRVector<ZRLWPtr<Box>>& boxes = pending.front()->children;
+    Box* const run = mayShareBox ? openRun(boxes) : nullptr;
+    if (run != nullptr && static_cast<DomText&>(*run->node).text.appendGrowing(word)) {
+        sizeLeaf(*run);
+    } else {
+        // Only the first word behind a margin keeps away from it.
+        bool const isAtMargin =
+            boxes.count > 0 && boxes.data[boxes.count - 1]->dimensions.margin.right > 0;
+        boxes.add(makeWord(word, mayShareBox && !isAtMargin));
+    }
+    room -= static_cast<std::int64_t>(word.length());
+    breakLine();
+}
+
+void BlockFlow::beginLine() {
+    if (!pending.empty()) return;
+    pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
+    breaks = 0;
+    findRoom();
+}
+
+void BlockFlow::breakLine() {
     Box& line = *pending.front();
     line.isSettled = false;
-    room -= box->dimensions.content.width;
-    line.children.add(std::move(box));
     if (room >= 0 || available == s_largestWidth) return;
     // It is too wide already, so that its layout would only be done again.
     bool const areBoxesSettled = areSettled(line.children);
@@ -73,7 +107,6 @@ void BlockFlow::measure(Box& box) const {
 
 void BlockFlow::findRoom() {
     room = available;
-    pending.front()->children.enlarge(s_boxesOnLine);
     for (ZRLWPtr<Box> const& child : pending.front()->children) {
         room -= child->dimensions.content.width;
     }

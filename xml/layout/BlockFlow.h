@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string_view>
 #include <vector>
 
 #include "xml/layout/BlockBox.h"
@@ -30,6 +31,8 @@ public:
     /// breaks off what is certain not to stay on it, whatever follows. Nothing on the line may have
     /// a negative edge.
     void addToLine(ZRLWPtr<Box> box);
+    /// The same for a word.
+    void addWord(std::string_view word);
     /// Lays out what is left of the open line, if there is one.
     void closeLine();
 
@@ -45,6 +48,8 @@ public:
     ZRVector<ZRLWPtr<Box>> done;
 
 private:
+    void beginLine();
+    void breakLine();
     void measure(Box& box) const;
     LayoutPass passAfterBreak(bool isLimited) const;
     Walk placePending(LayoutPass pass, std::size_t kept);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string_view>
 #include <typeinfo>
 
 #include "xml/layout/Box.h"
@@ -32,6 +33,9 @@ protected:
 inline bool isLeaf(Box const& box) {
     return box.children.count == 0 && typeid(box) == typeid(InlineBox);
 }
+
+/// A box, already laid out, for a word or a run of words. It keeps its node.
+ZRLWPtr<Box> makeWord(std::string_view word, bool isRun);
 
 /// Lays out a box without children: a word takes a column a byte and one row, anything else
 /// nothing.

@@ -1,5 +1,7 @@
 // How the boxes of a line, and those of an inline element on it, stand side by side.
 
+#include <utility>
+
 #include "xml/dom/DomText.h"
 #include "xml/layout/InlineBox.h"
 #include "xml/layout/LineBox.h"
@@ -60,6 +62,15 @@ void sizeLeaf(Box& box) {
     box.isSettled = true;
     box.mayShrink = false;
     box.holdsBlock = false;
+}
+
+ZRLWPtr<Box> makeWord(std::string_view word, bool isRun) {
+    ZRLWPtr<DomNode> node = makeText(word);
+    static_cast<DomText&>(*node).isRun = isRun;
+    ZRLWPtr<Box> box = ZR::MovePtr<Box>(new InlineBox(node.object));
+    box->heldNode = std::move(node);
+    sizeLeaf(*box);
+    return box;
 }
 
 Walk LineBox::layOut(Dimensions const& containing, LayoutPass pass) {

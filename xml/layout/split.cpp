@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "base/saturate.h"
+#include "xml/dom/DomText.h"
 #include "xml/layout/InlineBox.h"
 #include "xml/layout/LineBox.h"
 
@@ -40,6 +41,30 @@ std::vector<Level> findBreak(Box& outermost, std::int64_t room) {
     return path;
 }
 
+/// Moves the words that do not fit off a run of them, to a new box. Where not even the first fits
+/// it stays only if `isFirst`, and then alone; null where that leaves nothing to move.
+ZRLWPtr<Box> splitRun(Box& run, std::int32_t room, bool isFirst) {
+    auto& words = static_cast<DomText&>(*run.node).text;
+    std::string_view const text = words.view();
+    std::size_t space = std::string_view::npos;
+    if (room > 0) space = text.rfind(' ', static_cast<std::size_t>(room) - 1);
+    if (space == std::string_view::npos && isFirst) space = text.find(' ');
+    if (space == std::string_view::npos || space + 1 == text.length()) return {};
+    ZRLWPtr<Box> rest = makeWord(text.substr(space + 1), true);
+    words.deleteRegion(static_cast<int>(space) + 1, words.length());
+    sizeLeaf(run);
+    return rest;
+}
+
+/// What does not fit of a box that is no element of the library's own kind.
+ZRLWPtr<Box> splitChild(Level const& level) {
+    Box& child = *level.box->children[level.unfitting];
+    if (child.isForeign()) return child.split(level.room);
+    DomText const* const text = isLeaf(child) ? asText(child.node) : nullptr;
+    bool const isRun = text != nullptr && text->isRun;
+    return isRun ? splitRun(child, level.room, level.unfitting == 0) : nullptr;
+}
+
 /// Moves what stands behind the break off the box of `level`. `childRest` is what was moved off
 /// the child that does not fit; where nothing was, that child moves itself, unless it is the
 /// first: it stays although it does not fit, so that every break moves something on and breaking
@@ -60,9 +85,7 @@ ZRLWPtr<Box> moveRest(Level const& level, ZRLWPtr<Box> const& childRest) {
 ZRLWPtr<Box> splitBox(Box& box, int width) {
     std::vector<Level> const path = findBreak(box, width);
     if (path.empty()) return {};
-    Level const& innermost = path.back();
-    Box& unfitting = *innermost.box->children[innermost.unfitting];
-    ZRLWPtr<Box> rest = unfitting.isForeign() ? unfitting.split(innermost.room) : nullptr;
+    ZRLWPtr<Box> rest = splitChild(path.back());
     for (std::size_t depth = path.size(); depth-- > 0;) rest = moveRest(path[depth], rest);
     return rest;
 }
