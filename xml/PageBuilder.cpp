@@ -62,10 +62,20 @@ void PageBuilder::endElement() {
     }
 }
 
+void PageBuilder::addWords(std::string_view words) {
+    if (!refusal) return;
+    if (!subtree.isEmpty()) {
+        addTexts(subtree.innermost(), words);
+    } else {
+        innermost().flow.addWords(words);
+        paintDone();
+    }
+}
+
 void PageBuilder::addWord(std::string_view word) {
     if (!refusal) return;
     if (!subtree.isEmpty()) {
-        subtree.addWord(word);
+        subtree.innermost().children.add(makeText(word));
     } else {
         innermost().flow.addWord(word);
         paintDone();

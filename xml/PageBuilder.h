@@ -25,6 +25,7 @@ public:
 
     void startElement(ZRLWPtr<DomElement> element) override;
     void endElement() override;
+    void addWords(std::string_view words) override;
     void addWord(std::string_view word) override;
 
     /// To be called at the end of the document: finishes the page and appends it to `out`; or

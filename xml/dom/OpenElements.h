@@ -14,21 +14,19 @@ public:
     bool isEmpty() const { return open.empty(); }
     void push(ZRLWPtr<DomElement> element) { open.push_back(std::move(element)); }
 
-    /// Adds a text to the innermost element.
-    void addWord(std::string_view word) { add(makeText(word)); }
+    /// The innermost element.
+    DomElement& innermost() const { return *open.back(); }
 
     /// Closes the innermost element. Returns the outermost one if that was it, otherwise null.
     ZRLWPtr<DomElement> pop() {
         ZRLWPtr<DomElement> closed = std::move(open.back());
         open.pop_back();
         if (open.empty()) return closed;
-        add(std::move(closed));
+        innermost().children.add(std::move(closed));
         return {};
     }
 
 private:
-    void add(ZRLWPtr<DomNode> node) { open.back()->children.add(std::move(node)); }
-
     std::vector<ZRLWPtr<DomElement>> open;
 };
 

@@ -18,15 +18,12 @@ public:
         if (element) outermost.children.add(std::move(element));
     }
 
-    void addWord(std::string_view word) override {
-        if (open.isEmpty()) {
-            outermost.children.add(makeText(word));
-        } else {
-            open.addWord(word);
-        }
-    }
+    void addWords(std::string_view words) override { addTexts(innermost(), words); }
+    void addWord(std::string_view word) override { innermost().children.add(makeText(word)); }
 
 private:
+    DomElement& innermost() const { return open.isEmpty() ? outermost : open.innermost(); }
+
     DomElement& outermost;
     OpenElements open;
 };

@@ -2,7 +2,8 @@
 
 #include <array>
 #include <cctype>
-#include <cstring>
+#include <cstdint>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
@@ -15,18 +16,26 @@ namespace CLI::XML {
 
 namespace {
 
-/// What `isspace` says of every byte, asked once.
-class WhiteSpace {
+/// What a byte is to running text. A NUL byte ends it.
+class TextBytes {
 public:
-    WhiteSpace() {
-        for (unsigned byte = 0; byte < members.size(); ++byte) {
-            members[byte] = std::isspace(static_cast<int>(byte)) != 0;
+    /// `isspace` is asked once for every byte.
+    TextBytes() {
+        for (unsigned byte = 1; byte < kinds.size(); ++byte) {
+            kinds[byte] = std::isspace(static_cast<int>(byte)) != 0 ? Space : Plain;
         }
+        kinds[static_cast<unsigned char>('&')] = Ampersand;
     }
-    bool contains(char c) const { return members[static_cast<unsigned char>(c)]; }
+    bool isSpace(char c) const { return kindOf(c) == Space; }
+    bool isPlain(char c) const { return kindOf(c) == Plain; }
+    bool isOfWord(char c) const { return kindOf(c) >= Plain; }
 
 private:
-    std::array<bool, 256> members{};
+    enum Kind : std::uint8_t { Nul, Space, Plain, Ampersand };
+
+    Kind kindOf(char c) const { return kinds[static_cast<unsigned char>(c)]; }
+
+    std::array<Kind, 256> kinds{};
 };
 
 /// The open elements of one reading, innermost last.
@@ -93,30 +102,50 @@ private:
     /// keeps one space of it. References are decoded after cutting, so that a decoded space never
     /// splits a word.
     void addWords(String const& content) {
-        bool const hasReferences = content.indexOf('&') >= 0;
-        char const* next = content.c_str();
-        for (;;) {
-            while (whiteSpace.contains(*next)) ++next;
-            if (*next == '\0') return;
+        auto const needed = static_cast<std::size_t>(content.length()) + 1;
+        if (words.size() < needed) words.resize(needed);
+        char* end = words.data();
+        for (char const* next = content.c_str();;) {
+            while (bytes.isSpace(*next)) ++next;
             char const* const start = next;
-            while (*next != '\0' && !whiteSpace.contains(*next)) ++next;
-            bool const isFollowed = *next != '\0';
-            auto const length = static_cast<std::size_t>(next - start);
-            if (!hasReferences && (!isFollowed || *next == ' ')) {
-                handler.addWord({start, length + (isFollowed ? 1 : 0)});
-                continue;
+            char* const startOfCopy = end;
+            while (bytes.isPlain(*next)) *end++ = *next++;
+            if (*next == '&') {
+                passOn(startOfCopy);
+                next = addDecoded(start);
+                end = words.data();
+            } else if (*next != '\0') {
+                *end++ = ' ';
+            } else {
+                break;
             }
-            String word(start, 0, static_cast<int>(length));
-            if (isFollowed) word += " ";
-            handler.addWord(replaceEntities(word).view());
         }
+        passOn(end);
+    }
+
+    /// Passes on what was copied to `words`, up to `end`.
+    void passOn(char const* end) {
+        auto const length = static_cast<std::size_t>(end - words.data());
+        if (length > 0) handler.addWords({words.data(), length});
+    }
+
+    /// Passes on the word at `start`, which holds an ampersand. Returns where it ends.
+    char const* addDecoded(char const* start) {
+        char const* end = start;
+        while (bytes.isOfWord(*end)) ++end;
+        String word(start, 0, static_cast<int>(end - start));
+        if (*end != '\0') word += " ";
+        handler.addWord(replaceEntities(word).view());
+        return end;
     }
 
     DocumentHandler& handler;
     PullParser& parser;
     /// By selector.
     std::unordered_map<std::string_view, ZRLWPtr<StyleNode> const*> lastRules;
-    WhiteSpace whiteSpace;
+    TextBytes bytes;
+    /// The words that are collected, and room for more.
+    std::string words;
     std::vector<ZRLWPtr<DomElement>> open;
 };
 

@@ -18,7 +18,10 @@ public:
     virtual void startElement(ZRLWPtr<DomElement> element) = 0;
     /// The innermost open element ends.
     virtual void endElement() = 0;
-    /// One word of running text, with the space that followed it. The bytes are gone afterwards.
+    /// Words of running text, at least one, each with the one space that followed it: only the last
+    /// may be without, and none has another space in it. The bytes are gone afterwards.
+    virtual void addWords(std::string_view words) = 0;
+    /// The same for a single word in which references were decoded, to anything.
     virtual void addWord(std::string_view word) = 0;
 };
 

@@ -21,12 +21,24 @@ bool areSettled(ZRVector<ZRLWPtr<Box>> const& boxes) {
                        [](ZRLWPtr<Box> const& box) { return box->isSettled; });
 }
 
-/// The run of words at the end of a line, where another word may join it.
+/// The run of words at the end of a line, where more may join it.
 Box* openRun(ZRVector<ZRLWPtr<Box>> const& boxes) {
     Box* const last = boxes.count > 0 ? boxes[boxes.count - 1].object : nullptr;
     DomText const* const text = last != nullptr ? asText(last->node) : nullptr;
     bool const isOpen = text != nullptr && text->isRun && text->text.view().back() == ' ';
     return isOpen ? last : nullptr;
+}
+
+/// Bytes of the words, from the first one on, that fit into `room` columns with their spaces.
+std::size_t lengthWithin(std::string_view words, std::int64_t room) {
+    if (room <= 0) return 0;
+    return words.rfind(' ', static_cast<std::size_t>(room) - 1) + 1;
+}
+
+/// Bytes up to the end of the word that begins at `start`.
+std::size_t lengthOfWord(std::string_view words, std::size_t start) {
+    std::size_t const space = words.find(' ', start);
+    return space == std::string_view::npos ? words.length() : space + 1;
 }
 
 }  // namespace
@@ -52,23 +64,40 @@ void BlockFlow::addToLine(ZRLWPtr<Box> box) {
     breakLine();
 }
 
+void BlockFlow::addWords(std::string_view words) {
+    while (!words.empty()) {
+        beginLine();
+        // As many as fit, and one more, which shows that it does not.
+        std::size_t const fitting = isAtMargin() ? 0 : lengthWithin(words, room);
+        std::string_view const joining = words.substr(0, lengthOfWord(words, fitting));
+        join(joining, true);
+        words.remove_prefix(joining.length());
+    }
+}
+
 void BlockFlow::addWord(std::string_view word) {
     beginLine();
-    std::size_t const space = word.find(' ');
-    // Behind a space within a word no line is broken.
-    bool const mayShareBox = space >= word.length() - 1 && !word.empty();
+    // No line is broken behind a space within a word.
+    join(word, !word.empty() && word.find(' ') >= word.length() - 1);
+}
+
+void BlockFlow::join(std::string_view words, bool isRun) {
     ZRVector<ZRLWPtr<Box>>& boxes = pending.front()->children;
-    Box* const run = mayShareBox ? openRun(boxes) : nullptr;
-    if (run != nullptr && static_cast<DomText&>(*run->node).text.appendGrowing(word)) {
+    Box* const run = isRun ? openRun(boxes) : nullptr;
+    if (run != nullptr && static_cast<DomText&>(*run->node).text.appendGrowing(words)) {
         sizeLeaf(*run);
     } else {
-        // Only the first word behind a margin keeps away from it.
-        bool const isAtMargin =
-            boxes.count > 0 && boxes.data[boxes.count - 1]->dimensions.margin.right > 0;
-        boxes.add(makeWord(word, mayShareBox && !isAtMargin));
+        boxes.add(makeWords(words, isRun && !isAtMargin()));
     }
-    room -= static_cast<std::int64_t>(word.length());
+    room -= static_cast<std::int64_t>(words.length());
     breakLine();
+}
+
+/// Whether the next box on the line keeps away from the one before it. Of words only the first
+/// does, which is a box of its own therefore.
+bool BlockFlow::isAtMargin() const {
+    ZRVector<ZRLWPtr<Box>> const& boxes = pending.front()->children;
+    return boxes.count > 0 && boxes[boxes.count - 1]->dimensions.margin.right > 0;
 }
 
 void BlockFlow::beginLine() {

@@ -31,7 +31,9 @@ public:
     /// breaks off what is certain not to stay on it, whatever follows. Nothing on the line may have
     /// a negative edge.
     void addToLine(ZRLWPtr<Box> box);
-    /// The same for a word.
+    /// The same for words, of which only the last may be without its one space; and for a word
+    /// that may be anything.
+    void addWords(std::string_view words);
     void addWord(std::string_view word);
     /// Lays out what is left of the open line, if there is one.
     void closeLine();
@@ -49,6 +51,8 @@ public:
 
 private:
     void beginLine();
+    bool isAtMargin() const;
+    void join(std::string_view words, bool isRun);
     void breakLine();
     void measure(Box& box) const;
     LayoutPass passAfterBreak(bool isLimited) const;

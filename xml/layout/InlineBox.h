@@ -35,7 +35,7 @@ inline bool isLeaf(Box const& box) {
 }
 
 /// A box, already laid out, for a word or a run of words. It keeps its node.
-ZRLWPtr<Box> makeWord(std::string_view word, bool isRun);
+ZRLWPtr<Box> makeWords(std::string_view words, bool isRun);
 
 /// Lays out a box without children: a word takes a column a byte and one row, anything else
 /// nothing.

@@ -64,8 +64,8 @@ void sizeLeaf(Box& box) {
     box.holdsBlock = false;
 }
 
-ZRLWPtr<Box> makeWord(std::string_view word, bool isRun) {
-    ZRLWPtr<DomNode> node = makeText(word);
+ZRLWPtr<Box> makeWords(std::string_view words, bool isRun) {
+    ZRLWPtr<DomNode> node = makeText(words);
     static_cast<DomText&>(*node).isRun = isRun;
     ZRLWPtr<Box> box = ZR::MovePtr<Box>(new InlineBox(node.object));
     box->heldNode = std::move(node);

@@ -50,7 +50,7 @@ ZRLWPtr<Box> splitRun(Box& run, std::int32_t room, bool isFirst) {
     if (room > 0) space = text.rfind(' ', static_cast<std::size_t>(room) - 1);
     if (space == std::string_view::npos && isFirst) space = text.find(' ');
     if (space == std::string_view::npos || space + 1 == text.length()) return {};
-    ZRLWPtr<Box> rest = makeWord(text.substr(space + 1), true);
+    ZRLWPtr<Box> rest = makeWords(text.substr(space + 1), true);
     words.deleteRegion(static_cast<int>(space) + 1, words.length());
     sizeLeaf(run);
     return rest;
