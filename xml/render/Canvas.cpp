@@ -1,11 +1,11 @@
 #include "xml/render/Canvas.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 #include <new>
 
 #include "base/saturate.h"
+#include "xml/render/cellBlocks.h"
 
 namespace CLI::XML {
 
@@ -115,24 +115,20 @@ bool Canvas::draw(Canvas const& source, unsigned x, unsigned y) {
 }
 
 bool Canvas::drawClipped(String const& text, int x, int y, Attributes const& attributes) {
-    char const* shown = text.c_str();
-    std::size_t length = text.view().find('\0');
-    if (length == std::string_view::npos) length = text.view().length();
+    std::string_view shown = text.view();
+    shown = shown.substr(0, shown.find('\0'));
     std::size_t const clipped = x < 0 ? static_cast<std::size_t>(-std::int64_t{x}) : 0;
-    bool const allClipped = y < 0 || (clipped > 0 && clipped >= length);
+    bool const allClipped = y < 0 || (clipped > 0 && clipped >= shown.length());
     if (text.length() == 0 || allClipped) return false;
     unsigned const index = getOrStoreAttribute(attributes);
     ZRVector<Byte>& row = touchRow(std::uint64_t{originRow()} + static_cast<unsigned>(y));
     // A text that begins with a NUL creates the row and writes nothing.
-    if (length == 0) return true;
-    shown += clipped;
-    length -= clipped;
+    if (shown.empty()) return true;
+    shown.remove_prefix(clipped);
     unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
-    if (column + length > row.count) lengthen(row, column + length, column);
-    Byte* const cells = row.data + column;
-    for (std::size_t i = 0; i < length; ++i) {
-        cells[i] = Byte::make(static_cast<unsigned char>(shown[i]), index);
-    }
+    std::size_t const end = column + shown.length();
+    if (end > row.count) lengthen(row, end, column);
+    setCells(row.data + column, shown, index);
     return true;
 }
 
@@ -164,24 +160,33 @@ bool Canvas::drawClipped(Canvas const& source, int x, int y) {
 
 template <class Sink>
 void Canvas::writeRow(ZRVector<Byte> const& row, Sink const& sink) const {
-    char piece[256] = {};
+    char piece[s_cellsInBlock * 16];
+    std::size_t filled = 0;
+    auto const flush = [&] {
+        if (filled > 0) sink(std::string_view(piece, filled));
+        filled = 0;
+    };
     unsigned current = 0;
     for (Byte const* cell = row.begin(); cell != row.end();) {
         if (cell->attributeIndex != current) {
+            flush();
             Attributes const& previous = attributeTable[current];
             current = cell->attributeIndex;
-            String const escape = attributeTable[current].generateFormattingFrom(previous);
-            sink(escape.view());
+            sink(attributeTable[current].generateFormattingFrom(previous).view());
         }
-        auto const length = std::min(static_cast<std::size_t>(row.end() - cell), sizeof piece);
-        Byte const* const end = cell + length;
-        std::size_t filled = 0;
+        if (sizeof piece - filled < s_cellsInBlock) flush();
+        auto const left = std::min(static_cast<std::size_t>(row.end() - cell), s_cellsInBlock);
+        Byte const* const end = cell + left;
+        if (left == s_cellsInBlock && readBlock(cell, current, piece + filled)) {
+            filled += left;
+            cell = end;
+        }
         for (; cell != end && cell->attributeIndex == current; ++cell) {
             piece[filled] = static_cast<char>(cell->character);
             filled += cell->character != 0 ? 1 : 0;
         }
-        sink({piece, filled});
     }
+    flush();
     if (current != 0) sink("\x1b[0m");
 }
 
