@@ -17,18 +17,17 @@ ZRLWPtr<BlockBox> asBlock(ZRLWPtr<Box> const& box) {
 
 }  // namespace
 
-PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<DomElement> rendered, ZRLWPtr<BlockBox> made,
-                                  Dimensions const& containing, Canvas& canvas,
-                                  Canvas::Attributes const& attributes)
-    : element(std::move(rendered)),
-      box(std::move(made)),
+PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& containing,
+                                  Canvas& canvas, Canvas::Attributes const& attributes)
+    : box(std::move(made)),
       flow(*box, containing),
       painting(*box, canvas, attributes, BoxPainting::Open) {}
 
 PageBuilder::PageBuilder(ZRLWPtr<DomElement> root, unsigned width, int expectedLength) {
     text.reserve(expectedLength);
     ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(root.object));
-    open.emplace_back(std::move(root), box, pageOfWidth(width), page, Canvas::Attributes());
+    box->heldNode = std::move(root);
+    open.emplace_back(box, pageOfWidth(width), page, Canvas::Attributes());
     innermost().paintsOnPage = innermost().painting.paintsDirectly();
 }
 
@@ -37,47 +36,64 @@ PageBuilder::~PageBuilder() {
     while (!open.empty()) open.pop_back();
 }
 
+/// The box that receives what is read.
+Box& PageBuilder::parent() { return subtree.empty() ? *innermost().box : *subtree.back(); }
+
 void PageBuilder::startElement(ZRLWPtr<DomElement> element) {
     if (!refusal) return;
-    if (!subtree.isEmpty() || element->display == DomNode::None) {
-        subtree.push(std::move(element));
+    if (hidden > 0 || element->display == DomNode::None) {
+        ++hidden;
         return;
     }
-    ZRLWPtr<Box> const box = makeChild(*innermost().box, *element, refusal);
+    ZRLWPtr<Box> box = makeChild(parent(), *element, refusal);
     if (!box) return;
-    if (element->display == DomNode::Block) {
-        openBlock(std::move(element), box);
-    } else {
-        subtreeBox = box;
-        subtree.push(std::move(element));
+    DomNode::Display const display = element->display;
+    box->heldNode = std::move(element);
+    if (subtree.empty() && display == DomNode::Block) {
+        openBlock(box);
+        return;
     }
+    if (!subtree.empty()) {
+        Box& holder = display == DomNode::Inline ? *parent().getOrCreateLineBox() : parent();
+        holder.children.add(box);
+    }
+    subtree.push_back(std::move(box));
 }
 
 void PageBuilder::endElement() {
     if (!refusal) return;
-    if (subtree.isEmpty()) {
+    if (hidden > 0) {
+        --hidden;
+    } else if (subtree.empty()) {
         closeBlock();
-    } else if (ZRLWPtr<DomElement> const element = subtree.pop()) {
-        addSubtree(element, std::exchange(subtreeBox, nullptr));
+    } else {
+        ZRLWPtr<Box> box = std::move(subtree.back());
+        subtree.pop_back();
+        if (subtree.empty()) addSubtree(std::move(box));
     }
 }
 
-void PageBuilder::addWords(std::string_view words) {
-    if (!refusal) return;
-    if (!subtree.isEmpty()) {
-        addTexts(subtree.innermost(), words);
+bool PageBuilder::takesText() {
+    if (refusal && hidden == 0) refusal = checkText(parent());
+    return refusal && hidden == 0;
+}
+
+void PageBuilder::addWords(std::string_view read) {
+    if (!takesText()) return;
+    if (!subtree.empty()) {
+        words.addWords(parent().getOrCreateLineBox()->children, read);
     } else {
-        innermost().flow.addWords(words);
+        innermost().flow.addWords(read, words);
         paintDone();
     }
 }
 
 void PageBuilder::addWord(std::string_view word) {
-    if (!refusal) return;
-    if (!subtree.isEmpty()) {
-        subtree.innermost().children.add(makeText(word));
+    if (!takesText()) return;
+    if (!subtree.empty()) {
+        words.addWord(parent().getOrCreateLineBox()->children, word);
     } else {
-        innermost().flow.addWord(word);
+        innermost().flow.addWord(word, words);
         paintDone();
     }
 }
@@ -97,13 +113,13 @@ XCode PageBuilder::finish(String& out) {
     return refusal;
 }
 
-void PageBuilder::openBlock(ZRLWPtr<DomElement> element, ZRLWPtr<Box> const& box) {
+void PageBuilder::openBlock(ZRLWPtr<Box> const& box) {
     closeLine();
-    OpenBlock& parent = innermost();
-    parent.flow.place(*asBlock(box));
-    bool const isOnPage = parent.paintsOnPage;
-    open.emplace_back(std::move(element), asBlock(box), parent.box->dimensions,
-                      parent.painting.canvas(), parent.painting.attributes());
+    OpenBlock& around = innermost();
+    around.flow.place(*asBlock(box));
+    bool const isOnPage = around.paintsOnPage;
+    open.emplace_back(asBlock(box), around.box->dimensions, around.painting.canvas(),
+                      around.painting.attributes());
     innermost().paintsOnPage = isOnPage && innermost().painting.paintsDirectly();
 }
 
@@ -112,28 +128,21 @@ void PageBuilder::closeBlock() {
     innermost().flow.finish();
     innermost().painting.finish();
     ZRLWPtr<BlockBox> const box = innermost().box;
-    ZRLWPtr<DomElement> const element = innermost().element;
     open.pop_back();
     if (open.empty()) return;
     innermost().flow.take(*box);
     releaseRows();
 }
 
-/// Builds, lays out and paints what stands below an inline element or a table, now that it is
-/// complete; an element that is not displayed goes as it came.
-void PageBuilder::addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> const& box) {
-    if (!box) return;
-    refusal = box->createChildren();
-    if (!refusal) return;
-    if (element->display == DomNode::Inline) {
-        box->heldNode = element;
-        innermost().flow.addToLine(box);
-        paintDone();
+/// Lays out and paints an inline element or a table, now that it is complete.
+void PageBuilder::addSubtree(ZRLWPtr<Box> box) {
+    if (box->node->display == DomNode::Inline) {
+        innermost().flow.addToLine(std::move(box));
     } else {
         closeLine();
         Walk::run(innermost().flow.add(box, {}));
-        paintDone();
     }
+    paintDone();
 }
 
 void PageBuilder::closeLine() {

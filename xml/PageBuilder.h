@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "xml/dom/OpenElements.h"
+#include "xml/dom/readDocument.h"
 #include "xml/layout/BlockFlow.h"
 #include "xml/render/BoxPainting.h"
 
@@ -25,7 +25,7 @@ public:
 
     void startElement(ZRLWPtr<DomElement> element) override;
     void endElement() override;
-    void addWords(std::string_view words) override;
+    void addWords(std::string_view read) override;
     void addWord(std::string_view word) override;
 
     /// To be called at the end of the document: finishes the page and appends it to `out`; or
@@ -35,11 +35,9 @@ public:
 private:
     /// A block that is being read, all of whose ancestors are.
     struct OpenBlock {
-        OpenBlock(ZRLWPtr<DomElement> rendered, ZRLWPtr<BlockBox> made,
-                  Dimensions const& containing, Canvas& canvas,
+        OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& containing, Canvas& canvas,
                   Canvas::Attributes const& attributes);
 
-        ZRLWPtr<DomElement> element;
         ZRLWPtr<BlockBox> box;
         BlockFlow flow;
         BoxPainting painting;
@@ -48,9 +46,11 @@ private:
     };
 
     OpenBlock& innermost() { return open.back(); }
-    void openBlock(ZRLWPtr<DomElement> element, ZRLWPtr<Box> const& box);
+    Box& parent();
+    bool takesText();
+    void openBlock(ZRLWPtr<Box> const& box);
     void closeBlock();
-    void addSubtree(ZRLWPtr<DomElement> const& element, ZRLWPtr<Box> const& box);
+    void addSubtree(ZRLWPtr<Box> box);
     void closeLine();
     void paintDone();
     void releaseRows();
@@ -61,11 +61,12 @@ private:
     String text;
     bool isTextComplete = true;
     std::vector<OpenBlock> open;
-    /// Of the innermost block, a child that is being read and is not a block.
-    OpenElements subtree;
-    /// Its box; null where it is not displayed.
-    ZRLWPtr<Box> subtreeBox;
+    /// In the innermost block, the boxes that are being read from one that is not a block on.
+    std::vector<ZRLWPtr<Box>> subtree;
+    /// Open elements from the outermost one on that is not displayed.
+    unsigned hidden = 0;
     XCode refusal;
+    Words words;
 };
 
 }  // namespace CLI::XML

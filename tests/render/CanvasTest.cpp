@@ -69,7 +69,7 @@ TEST(Canvas, ClipsTextLeftOfAndAboveItsOrigin) {
         int const column = static_cast<int>(x);
         int const row = static_cast<int>(y);
         bool const drawn = x == s_append || y == s_append
-                               ? canvas.drawClipped(text, column, row, s_plain)
+                               ? canvas.drawClipped(text.view(), column, row, s_plain)
                                : canvas.draw(text, x, y, s_plain);
         EXPECT_EQ(textOf(canvas), expected) << shown(text) << " at " << column << ',' << row;
         EXPECT_EQ(drawn, expected[0] != '0') << shown(text) << " at " << column << ',' << row;

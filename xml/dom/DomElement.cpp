@@ -2,7 +2,6 @@
 
 #include "base/releaseTree.h"
 #include "xml/css/properties.h"
-#include "xml/dom/DomText.h"
 
 namespace CLI::XML {
 
@@ -19,14 +18,6 @@ constexpr DisplayKeyword s_displayKeywords[] = {
 };
 
 }  // namespace
-
-void addTexts(DomElement& element, std::string_view words) {
-    while (!words.empty()) {
-        std::string_view const word = words.substr(0, words.find(' ') + 1);
-        element.children.add(makeText(word.empty() ? words : word));
-        words.remove_prefix(word.empty() ? words.length() : word.length());
-    }
-}
 
 DomElement::~DomElement() {
     releaseTree(*this, [](DomNode* child) { return asElement(child); });

@@ -38,9 +38,6 @@ public:
     virtual XCode getStyle(String const& property, String& value) const;
 };
 
-/// Adds a text a word to the children of `element`. Only the last word may be without a space.
-void addTexts(DomElement& element, std::string_view words);
-
 /// `node` as an element; null for null and for a text node.
 inline DomElement const* asElement(DomNode const* node) {
     bool const isElement = node != nullptr && node->kind == DomNode::Element;

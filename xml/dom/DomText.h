@@ -12,9 +12,6 @@ namespace CLI::XML {
 class DomText final : public DomNode {
 public:
     String text;
-    /// Stands for a run of words, of which the last may be without a space: a line is broken behind
-    /// any of them, as it is broken between texts. Only where nobody but the conversion sees it.
-    bool isRun = false;
 
     explicit DomText(String word) : DomNode(Text, Inline), text(std::move(word)) {}
     ~DomText() override = default;

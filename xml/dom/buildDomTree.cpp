@@ -1,31 +1,45 @@
 #include "xml/dom/buildDomTree.h"
 
-#include "xml/dom/OpenElements.h"
+#include <utility>
+#include <vector>
+
+#include "xml/dom/readDocument.h"
 
 namespace CLI::XML {
 
 namespace {
 
-/// Puts everything below one element.
+/// Puts everything below one element. An element enters the one around it when it is complete.
 class TreeBuilder final : public DocumentHandler {
 public:
     explicit TreeBuilder(DomElement& root) : outermost(root) {}
 
-    void startElement(ZRLWPtr<DomElement> element) override { open.push(std::move(element)); }
+    void startElement(ZRLWPtr<DomElement> element) override { open.push_back(std::move(element)); }
 
     void endElement() override {
-        ZRLWPtr<DomElement> element = open.pop();
-        if (element) outermost.children.add(std::move(element));
+        ZRLWPtr<DomElement> closed = std::move(open.back());
+        open.pop_back();
+        innermost().children.add(std::move(closed));
     }
 
-    void addWords(std::string_view words) override { addTexts(innermost(), words); }
+    /// A text a word.
+    void addWords(std::string_view words) override {
+        while (!words.empty()) {
+            std::size_t const space = words.find(' ');
+            bool const isLast = space == std::string_view::npos;
+            std::size_t const length = isLast ? words.length() : space + 1;
+            addWord(words.substr(0, length));
+            words.remove_prefix(length);
+        }
+    }
+
     void addWord(std::string_view word) override { innermost().children.add(makeText(word)); }
 
 private:
-    DomElement& innermost() const { return open.isEmpty() ? outermost : open.innermost(); }
+    DomElement& innermost() const { return open.empty() ? outermost : *open.back(); }
 
     DomElement& outermost;
-    OpenElements open;
+    std::vector<ZRLWPtr<DomElement>> open;
 };
 
 }  // namespace

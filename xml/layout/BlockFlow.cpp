@@ -4,8 +4,6 @@
 #include <limits>
 #include <utility>
 
-#include "xml/dom/DomText.h"
-
 namespace CLI::XML {
 
 namespace {
@@ -21,24 +19,10 @@ bool areSettled(ZRVector<ZRLWPtr<Box>> const& boxes) {
                        [](ZRLWPtr<Box> const& box) { return box->isSettled; });
 }
 
-/// The run of words at the end of a line, where more may join it.
-Box* openRun(ZRVector<ZRLWPtr<Box>> const& boxes) {
-    Box* const last = boxes.count > 0 ? boxes[boxes.count - 1].object : nullptr;
-    DomText const* const text = last != nullptr ? asText(last->node) : nullptr;
-    bool const isOpen = text != nullptr && text->isRun && text->text.view().back() == ' ';
-    return isOpen ? last : nullptr;
-}
-
 /// Bytes of the words, from the first one on, that fit into `room` columns with their spaces.
 std::size_t lengthWithin(std::string_view words, std::int64_t room) {
     if (room <= 0) return 0;
     return words.rfind(' ', static_cast<std::size_t>(room) - 1) + 1;
-}
-
-/// Bytes up to the end of the word that begins at `start`.
-std::size_t lengthOfWord(std::string_view words, std::size_t start) {
-    std::size_t const space = words.find(' ', start);
-    return space == std::string_view::npos ? words.length() : space + 1;
 }
 
 }  // namespace
@@ -60,44 +44,32 @@ void BlockFlow::addToLine(ZRLWPtr<Box> box) {
     beginLine();
     measure(*box);
     room -= box->dimensions.content.width;
-    pending.front()->children.add(std::move(box));
+    lineBoxes().add(std::move(box));
     breakLine();
 }
 
-void BlockFlow::addWords(std::string_view words) {
+void BlockFlow::addWords(std::string_view words, Words& source) {
     while (!words.empty()) {
         beginLine();
         // As many as fit, and one more, which shows that it does not.
-        std::size_t const fitting = isAtMargin() ? 0 : lengthWithin(words, room);
-        std::string_view const joining = words.substr(0, lengthOfWord(words, fitting));
-        join(joining, true);
-        words.remove_prefix(joining.length());
+        std::size_t const fitting = lengthWithin(words, room);
+        std::size_t const length = fitting + Words::lengthOfWord(words, fitting);
+        std::string_view const joining = words.substr(0, length);
+        source.addWords(lineBoxes(), joining);
+        takeWords(joining);
+        words.remove_prefix(length);
     }
 }
 
-void BlockFlow::addWord(std::string_view word) {
+void BlockFlow::addWord(std::string_view word, Words& source) {
     beginLine();
-    // No line is broken behind a space within a word.
-    join(word, !word.empty() && word.find(' ') >= word.length() - 1);
+    source.addWord(lineBoxes(), word);
+    takeWords(word);
 }
 
-void BlockFlow::join(std::string_view words, bool isRun) {
-    ZRVector<ZRLWPtr<Box>>& boxes = pending.front()->children;
-    Box* const run = isRun ? openRun(boxes) : nullptr;
-    if (run != nullptr && static_cast<DomText&>(*run->node).text.appendGrowing(words)) {
-        sizeLeaf(*run);
-    } else {
-        boxes.add(makeWords(words, isRun && !isAtMargin()));
-    }
+void BlockFlow::takeWords(std::string_view words) {
     room -= static_cast<std::int64_t>(words.length());
     breakLine();
-}
-
-/// Whether the next box on the line keeps away from the one before it. Of words only the first
-/// does, which is a box of its own therefore.
-bool BlockFlow::isAtMargin() const {
-    ZRVector<ZRLWPtr<Box>> const& boxes = pending.front()->children;
-    return boxes.count > 0 && boxes[boxes.count - 1]->dimensions.margin.right > 0;
 }
 
 void BlockFlow::beginLine() {
@@ -136,7 +108,7 @@ void BlockFlow::measure(Box& box) const {
 
 void BlockFlow::findRoom() {
     room = available;
-    for (ZRLWPtr<Box> const& child : pending.front()->children) {
+    for (ZRLWPtr<Box> const& child : lineBoxes()) {
         room -= child->dimensions.content.width;
     }
 }

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "xml/layout/BlockBox.h"
-#include "xml/layout/InlineBox.h"
 #include "xml/layout/LineBox.h"
+#include "xml/layout/Words.h"
 #include "xml/layout/placement.h"
 
 namespace CLI::XML {
@@ -32,9 +32,9 @@ public:
     /// a negative edge.
     void addToLine(ZRLWPtr<Box> box);
     /// The same for words, of which only the last may be without its one space; and for a word
-    /// that may be anything.
-    void addWords(std::string_view words);
-    void addWord(std::string_view word);
+    /// that may be anything. Their boxes are from `source`.
+    void addWords(std::string_view words, Words& source);
+    void addWord(std::string_view word, Words& source);
     /// Lays out what is left of the open line, if there is one.
     void closeLine();
 
@@ -51,8 +51,9 @@ public:
 
 private:
     void beginLine();
-    bool isAtMargin() const;
-    void join(std::string_view words, bool isRun);
+    /// Of the open line.
+    Words::Boxes& lineBoxes() const { return pending.front()->children; }
+    void takeWords(std::string_view words);
     void breakLine();
     void measure(Box& box) const;
     LayoutPass passAfterBreak(bool isLimited) const;

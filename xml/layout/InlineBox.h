@@ -10,6 +10,12 @@ namespace CLI::XML {
 /// A word, or the part of an inline element that stands on one line.
 class InlineBox : public Box {
 public:
+    /// Stands for a run of words, the bytes of the text of `node` from `runBegin` on: a line may be
+    /// broken behind every space in it, as it may between two boxes. Otherwise 0 bytes, and the box
+    /// shows the whole text.
+    std::int32_t runBegin = 0;
+    std::int32_t runLength = 0;
+
     explicit InlineBox(DomNode* rendered) : InlineBox(rendered, Inline) {}
     InlineBox(InlineBox const& other) = default;
     ~InlineBox() override = default;
@@ -34,8 +40,8 @@ inline bool isLeaf(Box const& box) {
     return box.children.count == 0 && typeid(box) == typeid(InlineBox);
 }
 
-/// A box, already laid out, for a word or a run of words. It keeps its node.
-ZRLWPtr<Box> makeWords(std::string_view words, bool isRun);
+/// What a box without children shows; nothing where its node is no text.
+std::string_view shownText(Box const& box);
 
 /// Lays out a box without children: a word takes a column a byte and one row, anything else
 /// nothing.

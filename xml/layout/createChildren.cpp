@@ -31,18 +31,19 @@ constexpr ChildRules s_childRules[] = {
     {make<BlockBox>, make<InlineBox>, nullptr, nullptr, nullptr},
 };
 
-MakeBox ruleFor(Box const& parent, DomNode const& child) {
+/// What stands for a text in a message.
+constexpr char const* s_text = "text";
+
+MakeBox ruleFor(Box const& parent, DomNode::Display childDisplay) {
     auto const type = static_cast<std::size_t>(parent.type);
-    auto const display = static_cast<std::size_t>(child.display);
+    auto const display = static_cast<std::size_t>(childDisplay);
     bool const isKnown = type < std::size(s_childRules) && display < DomNode::None;
     return isKnown ? s_childRules[type][display] : nullptr;
 }
 
-XCode refuse(DomNode const& child, DomElement const& parent) {
-    DomElement const* const element = asElement(&child);
-    return testExpression(false).setStringF("Cannot layout '%s' within '%s'",
-                                            element != nullptr ? element->name.c_str() : "text",
-                                            parent.name.c_str());
+XCode refuse(char const* child, Box const& parent) {
+    return testExpression(false).setStringF("Cannot layout '%s' within '%s'", child,
+                                            asElement(parent.node)->name.c_str());
 }
 
 Walk createBoxes(Box& box, XCode& result) {
@@ -66,10 +67,15 @@ Walk createBoxes(Box& box, XCode& result) {
 }  // namespace
 
 ZRLWPtr<Box> makeChild(Box const& parent, DomNode& child, XCode& result) {
-    MakeBox const make = ruleFor(parent, child);
+    MakeBox const make = ruleFor(parent, child.display);
     if (make != nullptr) return make(&child);
-    result = refuse(child, *asElement(parent.node));
+    DomElement const* const element = asElement(&child);
+    result = refuse(element != nullptr ? element->name.c_str() : s_text, parent);
     return {};
+}
+
+XCode checkText(Box const& parent) {
+    return ruleFor(parent, DomNode::Inline) != nullptr ? XCode() : refuse(s_text, parent);
 }
 
 XCode Box::createChildren() {

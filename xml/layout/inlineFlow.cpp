@@ -1,7 +1,5 @@
 // How the boxes of a line, and those of an inline element on it, stand side by side.
 
-#include <utility>
-
 #include "xml/dom/DomText.h"
 #include "xml/layout/InlineBox.h"
 #include "xml/layout/LineBox.h"
@@ -54,23 +52,22 @@ Walk layoutRightwards(Box& box, Dimensions const& containing, LayoutPass pass) {
 
 }  // namespace
 
+std::string_view shownText(Box const& box) {
+    DomText const* const text = asText(box.node);
+    if (text == nullptr) return {};
+    auto const* const word = isLeaf(box) ? static_cast<InlineBox const*>(&box) : nullptr;
+    if (word == nullptr || word->runLength == 0) return text->text.view();
+    return text->text.view().substr(static_cast<std::size_t>(word->runBegin),
+                                    static_cast<std::size_t>(word->runLength));
+}
+
 void sizeLeaf(Box& box) {
-    DomText const* const word = asText(box.node);
-    bool const isShown = word != nullptr && word->text.length() > 0;
-    box.dimensions.content.width = isShown ? word->text.length() : 0;
-    box.dimensions.content.height = isShown ? 1 : 0;
+    auto const length = static_cast<std::int32_t>(shownText(box).length());
+    box.dimensions.content.width = length;
+    box.dimensions.content.height = length > 0 ? 1 : 0;
     box.isSettled = true;
     box.mayShrink = false;
     box.holdsBlock = false;
-}
-
-ZRLWPtr<Box> makeWords(std::string_view words, bool isRun) {
-    ZRLWPtr<DomNode> node = makeText(words);
-    static_cast<DomText&>(*node).isRun = isRun;
-    ZRLWPtr<Box> box = ZR::MovePtr<Box>(new InlineBox(node.object));
-    box->heldNode = std::move(node);
-    sizeLeaf(*box);
-    return box;
 }
 
 Walk LineBox::layOut(Dimensions const& containing, LayoutPass pass) {

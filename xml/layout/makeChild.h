@@ -9,4 +9,7 @@ namespace CLI::XML {
 /// The child's display kind is not `DomNode::None`.
 ZRLWPtr<Box> makeChild(Box const& parent, DomNode& child, XCode& result);
 
+/// Success where `parent` can hold running text, otherwise "Cannot layout 'text' within '%s'".
+XCode checkText(Box const& parent);
+
 }  // namespace CLI::XML

@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "base/saturate.h"
-#include "xml/dom/DomText.h"
 #include "xml/layout/InlineBox.h"
 #include "xml/layout/LineBox.h"
 
@@ -41,28 +40,32 @@ std::vector<Level> findBreak(Box& outermost, std::int64_t room) {
     return path;
 }
 
-/// Moves the words that do not fit off a run of them, to a new box. Where not even the first fits
-/// it stays only if `isFirst`, and then alone; null where that leaves nothing to move.
-ZRLWPtr<Box> splitRun(Box& run, std::int32_t room, bool isFirst) {
-    auto& words = static_cast<DomText&>(*run.node).text;
-    std::string_view const text = words.view();
+/// Moves the words that do not fit off a run of them. Where not even the first fits it stays only
+/// if `isFirst`, and then alone; null where that leaves nothing to move.
+ZRLWPtr<Box> splitRun(InlineBox& run, std::int32_t room, bool isFirst) {
+    std::string_view const text = shownText(run);
     std::size_t space = std::string_view::npos;
     if (room > 0) space = text.rfind(' ', static_cast<std::size_t>(room) - 1);
     if (space == std::string_view::npos && isFirst) space = text.find(' ');
     if (space == std::string_view::npos || space + 1 == text.length()) return {};
-    ZRLWPtr<Box> rest = makeWords(text.substr(space + 1), true);
-    words.deleteRegion(static_cast<int>(space) + 1, words.length());
+    auto const kept = static_cast<std::int32_t>(space) + 1;
+    ZRLWPtr<Box> rest = run.clone();
+    auto& moved = static_cast<InlineBox&>(*rest);
+    moved.runBegin += kept;
+    moved.runLength -= kept;
+    run.runLength = kept;
+    sizeLeaf(moved);
     sizeLeaf(run);
     return rest;
 }
 
-/// What does not fit of a box that is no element of the library's own kind.
-ZRLWPtr<Box> splitChild(Level const& level) {
-    Box& child = *level.box->children[level.unfitting];
-    if (child.isForeign()) return child.split(level.room);
-    DomText const* const text = isLeaf(child) ? asText(child.node) : nullptr;
-    bool const isRun = text != nullptr && text->isRun;
-    return isRun ? splitRun(child, level.room, level.unfitting == 0) : nullptr;
+/// What does not fit of the box at the end of the way, where it can tell.
+ZRLWPtr<Box> splitUnfitting(Level const& level) {
+    Box& box = *level.box->children[level.unfitting];
+    if (box.isForeign()) return box.split(level.room);
+    InlineBox* const leaf = isLeaf(box) ? static_cast<InlineBox*>(&box) : nullptr;
+    bool const isRun = leaf != nullptr && leaf->runLength > 0;
+    return isRun ? splitRun(*leaf, level.room, level.unfitting == 0) : nullptr;
 }
 
 /// Moves what stands behind the break off the box of `level`. `childRest` is what was moved off
@@ -85,7 +88,7 @@ ZRLWPtr<Box> moveRest(Level const& level, ZRLWPtr<Box> const& childRest) {
 ZRLWPtr<Box> splitBox(Box& box, int width) {
     std::vector<Level> const path = findBreak(box, width);
     if (path.empty()) return {};
-    ZRLWPtr<Box> rest = splitChild(path.back());
+    ZRLWPtr<Box> rest = splitUnfitting(path.back());
     for (std::size_t depth = path.size(); depth-- > 0;) rest = moveRest(path[depth], rest);
     return rest;
 }

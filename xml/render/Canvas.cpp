@@ -107,19 +107,18 @@ int Canvas::resolveRow(unsigned y) const {
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): the text is a parameter by value
 bool Canvas::draw(String text, unsigned x, unsigned y, Attributes const& attributes) {
-    return drawClipped(text, resolveColumn(x), resolveRow(y), attributes);
+    return drawClipped(text.view(), resolveColumn(x), resolveRow(y), attributes);
 }
 
 bool Canvas::draw(Canvas const& source, unsigned x, unsigned y) {
     return drawClipped(source, resolveColumn(x), resolveRow(y));
 }
 
-bool Canvas::drawClipped(String const& text, int x, int y, Attributes const& attributes) {
-    std::string_view shown = text.view();
-    shown = shown.substr(0, shown.find('\0'));
+bool Canvas::drawClipped(std::string_view text, int x, int y, Attributes const& attributes) {
+    std::string_view shown = text.substr(0, text.find('\0'));
     std::size_t const clipped = x < 0 ? static_cast<std::size_t>(-std::int64_t{x}) : 0;
     bool const allClipped = y < 0 || (clipped > 0 && clipped >= shown.length());
-    if (text.length() == 0 || allClipped) return false;
+    if (text.empty() || allClipped) return false;
     unsigned const index = getOrStoreAttribute(attributes);
     ZRVector<Byte>& row = touchRow(std::uint64_t{originRow()} + static_cast<unsigned>(y));
     // A text that begins with a NUL creates the row and writes nothing.

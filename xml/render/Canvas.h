@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "base/String.h"
@@ -85,7 +86,7 @@ public:
     bool draw(Canvas const& source, unsigned x, unsigned y);
 
     /// `draw` at a position that may be negative.
-    bool drawClipped(String const& text, int x, int y, Attributes const& attributes);
+    bool drawClipped(std::string_view text, int x, int y, Attributes const& attributes);
     bool drawClipped(Canvas const& source, int x, int y);
 
     /// Moves the origin to (x, y), so that what is drawn until `leave` is drawn as if onto a canvas

@@ -6,7 +6,6 @@
 #include "base/saturate.h"
 #include "xml/css/properties.h"
 #include "xml/dom/DomElement.h"
-#include "xml/dom/DomText.h"
 #include "xml/layout/InlineBox.h"
 #include "xml/render/BoxPainting.h"
 
@@ -66,7 +65,7 @@ void drawColumn(Canvas& canvas, String const& text, int x, Rect const& area,
     if (text.length() == 0 || std::int64_t{x} + text.length() <= 0) return;
     int const end = saturate(std::int64_t{area.y} + area.height);
     for (int row = std::max(area.y, 0); row < end; ++row) {
-        canvas.drawClipped(text, x, row, attributes);
+        canvas.drawClipped(text.view(), x, row, attributes);
     }
 }
 
@@ -106,9 +105,8 @@ bool applyBackground(Box const& box, Attributes& attributes) {
 }
 
 void drawLeaf(Box const& box, Canvas& canvas, Attributes const& attributes) {
-    DomText const* const word = asText(box.node);
     Rect const& content = box.dimensions.content;
-    if (word != nullptr) canvas.drawClipped(word->text, content.x, content.y, attributes);
+    canvas.drawClipped(shownText(box), content.x, content.y, attributes);
 }
 
 bool isEmptyCell(Box const& box) { return box.children.count == 0 && box.type == Box::Cell; }
@@ -213,16 +211,16 @@ void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
     }
     if (border.top > 0) {
         Strip const side = stripAlong(area, styleOf(Property::s_borderTopStyle));
-        canvas.drawClipped(side.text, side.x, area.y, attributes);
+        canvas.drawClipped(side.text.view(), side.x, area.y, attributes);
     }
     if (border.bottom > 0) {
         Strip const side = stripAlong(area, styleOf(Property::s_borderBottomStyle));
-        canvas.drawClipped(side.text, side.x, bottom, attributes);
+        canvas.drawClipped(side.text.view(), side.x, bottom, attributes);
     }
 
     String const corner = getStyle(Property::s_borderCornerStyle, String::s_empty);
     auto const drawCorner = [&](int vertical, int horizontal, int x, int y) {
-        if (vertical > 0 && horizontal > 0) canvas.drawClipped(corner, x, y, attributes);
+        if (vertical > 0 && horizontal > 0) canvas.drawClipped(corner.view(), x, y, attributes);
     };
     drawCorner(border.top, border.left, area.x, area.y);
     drawCorner(border.top, border.right, right, area.y);
