@@ -1,7 +1,6 @@
 #include "base/XCode.h"
 
 #include <cstdarg>
-#include <utility>
 
 XCode::XCode(XCode const& other) : word(other.word) {
     if (!other.isInline()) word = reinterpret_cast<std::uintptr_t>(new Record(*other.record()));
@@ -9,13 +8,6 @@ XCode::XCode(XCode const& other) : word(other.word) {
 
 XCode& XCode::operator=(XCode const& other) {
     if (this != &other) *this = XCode(other);
-    return *this;
-}
-
-XCode& XCode::operator=(XCode&& other) noexcept {
-    if (this == &other) return *this;
-    releaseRecord();
-    word = std::exchange(other.word, s_success);
     return *this;
 }
 
@@ -35,8 +27,4 @@ XCode XCode::setStringF(char const* format, ...) {
     message.vformat(format, arguments);
     va_end(arguments);
     return setString(message);
-}
-
-void XCode::releaseRecord() {
-    if (!isInline()) delete record();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <utility>
 
 #include "base/String.h"
 
@@ -31,7 +32,12 @@ public:
     /// Takes the word over; `other` becomes the plain success.
     XCode(XCode&& other) noexcept : word(other.word) { other.word = s_success; }
     XCode& operator=(XCode const& other);
-    XCode& operator=(XCode&& other) noexcept;
+    XCode& operator=(XCode&& other) noexcept {
+        if (this == &other) return *this;
+        releaseRecord();
+        word = std::exchange(other.word, s_success);
+        return *this;
+    }
     ~XCode() { releaseRecord(); }
 
     bool isErr() const { return getValue() != 0; }
@@ -56,7 +62,9 @@ private:
 
     bool isInline() const { return (word & 1) != 0; }
     Record* record() const { return reinterpret_cast<Record*>(word); }
-    void releaseRecord();
+    void releaseRecord() {
+        if (!isInline()) delete record();
+    }
 };
 
 /// Success for true, the generic failure for false.

@@ -6,17 +6,23 @@ namespace CLI::XML {
 
 namespace {
 
-/// Reads one style sheet. Its sets differ from the markup's: a vertical tab is white space here.
+// The sets differ from the markup's: a vertical tab is white space here.
+constexpr ByteSet s_whitespace(" \t\v\r\n");
+constexpr ByteSet s_endOfSelector(" \t\v\r\n{");
+constexpr ByteSet s_endOfProperty(" \t\v\r\n:}");
+constexpr ByteSet s_endOfValue(" \t\v\r\n;");
+
+/// Reads one style sheet.
 class SheetReader {
 public:
     explicit SheetReader(String const& css) : text(css) {}
 
-    void skipWhitespace() { skipCharacters(text, position, line, " \t\v\r\n"); }
+    void skipWhitespace() { skipCharacters(text, position, line, s_whitespace); }
     bool atEnd() const { return position >= text.length(); }
 
     /// Reads a selector and the white space behind it.
     XCode readSelector(String& selector) {
-        if (!readToken(selector, " \t\v\r\n{")) return expecting("'{'");
+        if (!readToken(selector, s_endOfSelector)) return expecting("'{'");
         skipWhitespace();
         return XCode();
     }
@@ -26,7 +32,7 @@ public:
         XCode result = consume('{', "'{'");
         while (result) {
             String property;
-            if (!readToken(property, " \t\v\r\n:}")) return consume('}', "'}'");
+            if (!readToken(property, s_endOfProperty)) return consume('}', "'}'");
             result = readValue(property, declarations);
         }
         return result;
@@ -39,14 +45,14 @@ private:
         XCode result = consume(':', "':'");
         if (!result) return result;
         String value;
-        if (!readToken(value, " \t\v\r\n;")) return expecting("value");
+        if (!readToken(value, s_endOfValue)) return expecting("value");
         skipWhitespace();
         result = consume(';', "';'");
         if (result) declarations.set(property, value);
         return result;
     }
 
-    bool readToken(String& token, char const* stopSet) {
+    bool readToken(String& token, ByteSet const& stopSet) {
         return parseUntilCharacter(text, position, line, token, stopSet) > 0;
     }
 

@@ -20,9 +20,13 @@ constexpr VocabularyEntry s_vocabulary[] = {
 }  // namespace
 
 ZRLWPtr<DomElement> createDomElement(String const& tag) {
+    std::string_view const name = tag.view();
     for (VocabularyEntry const& entry : s_vocabulary) {
-        if (tag.view() == entry.tag)
+        // Names are short: the first byte and the length tell nearly all of them apart.
+        if (name.length() == entry.tag.length() && name.front() == entry.tag.front() &&
+            name == entry.tag) {
             return ZR::MovePtr<DomElement>(new DomElement(tag, entry.display));
+        }
     }
     return {};
 }

@@ -22,9 +22,22 @@ Box::~Box() {
 }
 
 bool Box::isForeign() const {
-    std::type_info const& own = typeid(*this);
-    return own != typeid(InlineBox) && own != typeid(LineBox) && own != typeid(BlockBox) &&
-           own != typeid(CellBox) && own != typeid(RowBox) && own != typeid(TableBox);
+    std::type_info const& actual = typeid(*this);
+    switch (type) {
+        case Block:
+            return actual != typeid(BlockBox);
+        case Line:
+            return actual != typeid(LineBox);
+        case Inline:
+            return actual != typeid(InlineBox);
+        case Table:
+            return actual != typeid(TableBox);
+        case Row:
+            return actual != typeid(RowBox);
+        case Cell:
+            return actual != typeid(CellBox);
+    }
+    return true;
 }
 
 bool Box::isLaidOutByItsOwn(Dimensions const& containing, LayoutPass& pass) {

@@ -11,8 +11,10 @@ namespace CLI::XML {
 namespace {
 
 /// End an element type or an attribute name.
-constexpr char const* s_delimiters = "<>/=\" \t\n\r";
-constexpr char const* s_whitespace = " \t\n\r";
+constexpr ByteSet s_delimiters("<>/=\" \t\n\r");
+constexpr ByteSet s_whitespace(" \t\n\r");
+constexpr ByteSet s_quotation("\"");
+constexpr ByteSet s_tagStart("<");
 constexpr char const* s_cdataStart = "<![CDATA[";
 constexpr char const* s_cdataEnd = "]]>";
 constexpr char const* s_commentStart = "<!--";
@@ -36,10 +38,10 @@ PullParser::TagType PullParser::getNextTag() const {
     if (text[position] != '<') return TAG_CONTENT;
     char const next = text[position + 1];
     if (next == '/') return TAG_END;
+    if (next == '?') return TAG_OTHER;
+    if (next != '!') return TAG_START;
     if (peekString(text, position, s_commentStart)) return TAG_COMMENT;
-    if (peekString(text, position, s_cdataStart)) return TAG_CONTENT;
-    if (next == '?' || next == '!') return TAG_OTHER;
-    return TAG_START;
+    return peekString(text, position, s_cdataStart) ? TAG_CONTENT : TAG_OTHER;
 }
 
 XCode PullParser::readStartTag() {
@@ -66,7 +68,7 @@ XCode PullParser::readStartTag() {
 XCode PullParser::readAttribute(Attribute& attribute) {
     if (!parseCharacter(text, position, '=')) return fail("Expecting assignment character '='");
     if (!parseCharacter(text, position, '"')) return fail(s_expectingQuotation);
-    parseUntilCharacter(text, position, line, attribute.value, "\"");
+    parseUntilCharacter(text, position, line, attribute.value, s_quotation);
     PARSE_AND_REPLACE_SPECIAL_XML_CHARS(attribute.value);
     if (!parseCharacter(text, position, '"')) return fail(s_expectingQuotation);
     return XCode();
@@ -93,7 +95,7 @@ XCode PullParser::readContent() {
     if (selfClosing) return testExpression(false);
     content = String::s_empty;
     if (!parseString(text, position, s_cdataStart)) {
-        parseUntilCharacter(text, position, line, content, "<");
+        parseUntilCharacter(text, position, line, content, s_tagStart);
         if (content.length() == 0) return fail(s_expectingContent);
         return XCode();
     }

@@ -8,8 +8,28 @@
 /// text belongs to every set.
 namespace CLI::XML {
 
+/// A character set that is looked up byte by byte.
+class ByteSet {
+public:
+    constexpr explicit ByteSet(char const* set) {
+        members[0] = true;
+        if (set[0] != '\0' && set[1] == '\0') single = set[0];
+        for (; *set != '\0'; ++set) members[static_cast<unsigned char>(*set)] = true;
+    }
+    constexpr bool contains(char c) const { return members[static_cast<unsigned char>(c)]; }
+    /// The one member besides NUL; NUL where there is another number of them.
+    constexpr char onlyMember() const { return single; }
+
+private:
+    bool members[256] = {};
+    char single = '\0';
+};
+
 /// Advances `position` over the bytes that belong to `set`.
-void skipCharacters(String const& text, int& position, int& line, char const* set);
+void skipCharacters(String const& text, int& position, int& line, ByteSet const& set);
+inline void skipCharacters(String const& text, int& position, int& line, char const* set) {
+    skipCharacters(text, position, line, ByteSet(set));
+}
 
 /// True when the byte at `position` belongs to `set`; false at the end.
 bool peekCharacter(String const& text, int position, String const& set);
@@ -18,7 +38,11 @@ bool peekCharacter(String const& text, int position, String const& set);
 bool peekString(String const& text, int position, char const* s);
 
 /// Consumes `c` if it is the next byte; false, with nothing moved, otherwise.
-bool parseCharacter(String const& text, int& position, char c);
+inline bool parseCharacter(String const& text, int& position, char c) {
+    if (position >= text.length() || text.c_str()[position] != c) return false;
+    ++position;
+    return true;
+}
 
 /// Consumes `s`, which holds no line feed, if the text continues with it; false, with nothing
 /// moved, otherwise.
@@ -26,7 +50,12 @@ bool parseString(String const& text, int& position, char const* s);
 
 /// Advances `position` up to the first byte that belongs to `set`, appends the bytes passed over
 /// to `out` and returns how many they were.
-int parseUntilCharacter(String const& text, int& position, int& line, String& out, char const* set);
+int parseUntilCharacter(String const& text, int& position, int& line, String& out,
+                        ByteSet const& set);
+inline int parseUntilCharacter(String const& text, int& position, int& line, String& out,
+                               char const* set) {
+    return parseUntilCharacter(text, position, line, out, ByteSet(set));
+}
 
 /// Advances `position` to `end`, which is not before it, counting line feeds.
 void advanceTo(int end, String const& text, int& position, int& line);
