@@ -23,10 +23,10 @@ PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& cont
       flow(*box, containing),
       painting(*box, canvas, attributes, BoxPainting::Open) {}
 
-PageBuilder::PageBuilder(ZRLWPtr<DomElement> root, unsigned width, int expectedLength) {
+PageBuilder::PageBuilder(DomElement& root, unsigned width, int expectedLength) {
     text.reserve(expectedLength);
-    ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(root.object));
-    box->heldNode = std::move(root);
+    ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(&root));
+    box->holdNode();
     open.emplace_back(box, pageOfWidth(width), page, Canvas::Attributes());
     innermost().paintsOnPage = innermost().painting.paintsDirectly();
 }
@@ -39,7 +39,7 @@ PageBuilder::~PageBuilder() {
 /// The box that receives what is read.
 Box& PageBuilder::parent() { return subtree.empty() ? *innermost().box : *subtree.back(); }
 
-void PageBuilder::startElement(ZRLWPtr<DomElement> element) {
+void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
     if (!refusal) return;
     if (hidden > 0 || element->display == DomNode::None) {
         ++hidden;
@@ -47,14 +47,13 @@ void PageBuilder::startElement(ZRLWPtr<DomElement> element) {
     }
     ZRLWPtr<Box> box = makeChild(parent(), *element, refusal);
     if (!box) return;
-    DomNode::Display const display = element->display;
-    box->heldNode = std::move(element);
-    if (subtree.empty() && display == DomNode::Block) {
+    box->holdNode();
+    if (subtree.empty() && element->display == DomNode::Block) {
         openBlock(box);
         return;
     }
     if (!subtree.empty()) {
-        Box& holder = display == DomNode::Inline ? *parent().getOrCreateLineBox() : parent();
+        Box& holder = element->display == DomNode::Inline ? *parent().getOrCreateLineBox() : parent();
         holder.children.add(box);
     }
     subtree.push_back(std::move(box));

@@ -18,12 +18,13 @@ class PageBuilder final : public DocumentHandler {
 public:
     /// About `expectedLength` bytes of text are provided for. The document must have no extreme
     /// edges.
-    PageBuilder(ZRLWPtr<DomElement> root, unsigned width, int expectedLength);
+    PageBuilder(DomElement& root, unsigned width, int expectedLength);
     PageBuilder(PageBuilder const&) = delete;
     PageBuilder& operator=(PageBuilder const&) = delete;
     ~PageBuilder() override;
 
-    void startElement(ZRLWPtr<DomElement> element) override;
+    bool mayShareElements() const override { return true; }
+    void startElement(ZRLWPtr<DomElement> const& element) override;
     void endElement() override;
     void addWords(std::string_view read) override;
     void addWord(std::string_view word) override;

@@ -20,7 +20,7 @@ XCode convertStream(String& out, String const& xml, StyleList const& styles, uns
     ZRLWPtr<DomElement> const root = createRootElement();
     XCode result = checkRoot(root.object);
     if (!result) return result;
-    PageBuilder builder(root, width, xml.length());
+    PageBuilder builder(*root, width, xml.length());
     PullParser parser = PullParser::withoutCopy(xml);
     result = readDocument(builder, true, parser, styles);
     return result ? builder.finish(out) : result;

@@ -14,7 +14,9 @@ class TreeBuilder final : public DocumentHandler {
 public:
     explicit TreeBuilder(DomElement& root) : outermost(root) {}
 
-    void startElement(ZRLWPtr<DomElement> element) override { open.push_back(std::move(element)); }
+    bool mayShareElements() const override { return false; }
+
+    void startElement(ZRLWPtr<DomElement> const& element) override { open.push_back(element); }
 
     void endElement() override {
         ZRLWPtr<DomElement> closed = std::move(open.back());

@@ -1,5 +1,6 @@
 #include "xml/dom/readDocument.h"
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cstdint>
@@ -51,15 +52,13 @@ public:
     XCode startElement() {
         XCode result = syntax(parser.readStartTag());
         if (!result) return result;
-        ZRLWPtr<DomElement> element = createDomElement(parser.name);
+        bool const isPlain = parser.attributes.count == 0 && handler.mayShareElements();
+        ZRLWPtr<DomElement> const element = isPlain ? plainElement() : makeElement();
         if (!element) {
             return testExpression(false).setStringF("Invalid tag: <%s>", parser.name.c_str());
         }
-        if (parser.attributes.count > 0) setAttributes(*element);
-        auto const rule = lastRules.find(element->name.view());
-        if (rule != lastRules.end()) element->styleNode = *rule->second;
         open.push_back(element);
-        handler.startElement(std::move(element));
+        handler.startElement(element);
         return XCode();
     }
 
@@ -90,6 +89,28 @@ public:
     }
 
 private:
+    /// An element for the start tag that was read; null where there is none of its name.
+    ZRLWPtr<DomElement> makeElement() const {
+        ZRLWPtr<DomElement> element = createDomElement(parser.name);
+        if (!element) return {};
+        if (parser.attributes.count > 0) setAttributes(*element);
+        auto const rule = lastRules.find(element->name.view());
+        if (rule != lastRules.end()) element->styleNode = *rule->second;
+        return element;
+    }
+
+    /// The same, one for all start tags of a name.
+    ZRLWPtr<DomElement> plainElement() {
+        auto const isNamed = [this](ZRLWPtr<DomElement> const& element) {
+            return element->name == parser.name;
+        };
+        auto const found = std::find_if(plainElements.begin(), plainElements.end(), isNamed);
+        if (found != plainElements.end()) return *found;
+        ZRLWPtr<DomElement> element = makeElement();
+        if (element) plainElements.push_back(element);
+        return element;
+    }
+
     void setAttributes(DomElement& element) const {
         ZRStringHashTable<String> attributes;
         for (PullParser::Attribute const& attribute : parser.attributes) {
@@ -143,6 +164,8 @@ private:
     PullParser& parser;
     /// By selector.
     std::unordered_map<std::string_view, ZRLWPtr<StyleNode> const*> lastRules;
+    /// At most one for each name that the language knows.
+    std::vector<ZRLWPtr<DomElement>> plainElements;
     TextBytes bytes;
     /// The words that are collected, and room for more.
     std::string words;

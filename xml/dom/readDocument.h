@@ -14,8 +14,11 @@ namespace CLI::XML {
 class DocumentHandler {
 public:
     virtual ~DocumentHandler() = default;
+    /// Whether elements that look alike, without attributes, may be one and the same: nothing is
+    /// added to them then.
+    virtual bool mayShareElements() const = 0;
     /// An element begins: its attributes, display kind and style rule are set, children follow.
-    virtual void startElement(ZRLWPtr<DomElement> element) = 0;
+    virtual void startElement(ZRLWPtr<DomElement> const& element) = 0;
     /// The innermost open element ends.
     virtual void endElement() = 0;
     /// Words of running text, at least one, each with the one space that followed it: only the last

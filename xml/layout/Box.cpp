@@ -14,11 +14,22 @@ Box::Box(DomNode* rendered, Type boxType) : ZR::RefCounted(nullptr), node(render
     initEdges();
 }
 
-Box::Box(Box const& other) : Box(other.node, other.type) { heldNode = other.heldNode; }
+Box::Box(Box const& other) : Box(other.node, other.type) {
+    isRun = other.isRun;
+    runBegin = other.runBegin;
+    if (other.holdsNode) holdNode();
+}
 
 Box::~Box() {
-    if (children.count == 0) return;
-    releaseTree(*this, [](Box* child) { return child->children.count > 0 ? child : nullptr; });
+    if (children.count > 0) {
+        releaseTree(*this, [](Box* child) { return child->children.count > 0 ? child : nullptr; });
+    }
+    if (holdsNode) node->release();
+}
+
+void Box::holdNode() {
+    node->addRef();
+    holdsNode = true;
 }
 
 bool Box::isForeign() const {

@@ -93,6 +93,9 @@ public:
     /// Reads padding, border and margin from the style.
     void initEdges();
 
+    /// Keeps `node`, where nothing else does, as long as there is this box or a clone of it.
+    void holdNode();
+
     /// Whether the box is of a class that derives from the six of the library.
     bool isForeign() const;
     /// Calls the `layout` of a box of a foreign class; false for the library's own, and where that
@@ -103,16 +106,22 @@ public:
 
     /// Known from the last layout: another one with the same `containing` would change nothing.
     /// Only read by a pass that is laid out `again`, since the tree may change between operations.
-    bool isSettled = false;
+    bool isSettled : 1 = false;
     /// Known from the last layout: a box on this line, or in this inline element, takes up less
     /// room than its content, so that a line that is too wide need not stay so.
-    bool mayShrink = false;
+    bool mayShrink : 1 = false;
     /// Known from the last layout: this is a block, or an inline box with one somewhere in it.
-    bool holdsBlock = false;
-    /// Keeps `node` where nothing else does. A clone shares it.
-    ZRLWPtr<DomNode> heldNode;
+    bool holdsBlock : 1 = false;
+    /// Stands for a run of words, as many bytes of the text of `node` as the content is wide: a line
+    /// may be broken behind every space in it, as it may between two boxes.
+    bool isRun : 1 = false;
+    /// Where the run begins in that text, in bytes.
+    std::int32_t runBegin = 0;
     /// Used while a tree is released.
     Box* nextReleased = nullptr;
+
+private:
+    bool holdsNode = false;
 };
 
 }  // namespace CLI::XML

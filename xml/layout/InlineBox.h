@@ -10,12 +10,6 @@ namespace CLI::XML {
 /// A word, or the part of an inline element that stands on one line.
 class InlineBox : public Box {
 public:
-    /// Stands for a run of words, the bytes of the text of `node` from `runBegin` on: a line may be
-    /// broken behind every space in it, as it may between two boxes. Otherwise 0 bytes, and the box
-    /// shows the whole text.
-    std::int32_t runBegin = 0;
-    std::int32_t runLength = 0;
-
     explicit InlineBox(DomNode* rendered) : InlineBox(rendered, Inline) {}
     InlineBox(InlineBox const& other) = default;
     ~InlineBox() override = default;

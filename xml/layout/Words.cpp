@@ -1,7 +1,6 @@
 #include "xml/layout/Words.h"
 
 #include <new>
-#include <utility>
 
 namespace CLI::XML {
 
@@ -11,26 +10,24 @@ namespace {
 constexpr int s_longText = 4000;
 
 /// The box at the end of `boxes`, where it shows the end of `text` and words can follow.
-InlineBox* openRun(Words::Boxes const& boxes, DomText const& text) {
-    if (boxes.count == 0 || text.text.length() == 0 || text.text.view().back() != ' ') {
-        return nullptr;
-    }
-    Box& last = *boxes[boxes.count - 1];
-    if (last.node != &text || !isLeaf(last)) return nullptr;
-    auto& run = static_cast<InlineBox&>(last);
-    return run.runBegin + run.runLength == text.text.length() ? &run : nullptr;
+Box* openRun(Words::Boxes const& boxes, DomText const& text) {
+    Box* const last = boxes.count > 0 ? boxes[boxes.count - 1].object : nullptr;
+    if (last == nullptr || last->node != &text || text.text.view().back() != ' ') return nullptr;
+    std::int32_t const end = last->runBegin + last->dimensions.content.width;
+    return end == text.text.length() ? last : nullptr;
 }
 
-ZRLWPtr<Box> makeBox(ZRLWPtr<DomNode> node) {
-    ZRLWPtr<Box> box = ZR::MovePtr<Box>(new InlineBox(node.object));
-    box->heldNode = std::move(node);
+Box& addBox(Words::Boxes& boxes, DomNode& node) {
+    boxes.add(ZR::MovePtr<Box>(new InlineBox(&node)));
+    Box& box = *boxes.data[boxes.count - 1];
+    box.holdNode();
     return box;
 }
 
 /// A box that nothing joins.
 void addSingle(Words::Boxes& boxes, std::string_view word) {
-    boxes.add(makeBox(makeText(word)));
-    sizeLeaf(*boxes.data[boxes.count - 1]);
+    ZRLWPtr<DomNode> const node = makeText(word);
+    sizeLeaf(addBox(boxes, *node));
 }
 
 /// Whether the next box keeps away from the last one. Of words only the first does, which is a box
@@ -66,18 +63,18 @@ void Words::addWord(Boxes& boxes, std::string_view word) {
 }
 
 void Words::addRun(Boxes& boxes, std::string_view words) {
-    InlineBox* run = text ? openRun(boxes, *text) : nullptr;
+    Box* run = text ? openRun(boxes, *text) : nullptr;
     if (run == nullptr) {
         if (!text || text->text.length() > s_longText) {
             text = ZR::MovePtr<DomText>(new DomText(String::s_empty));
             text->text.reserve(s_longText);
         }
-        boxes.add(makeBox(text));
-        run = static_cast<InlineBox*>(boxes.data[boxes.count - 1].object);
+        run = &addBox(boxes, *text);
+        run->isRun = true;
         run->runBegin = text->text.length();
     }
     if (!text->text.appendGrowing(words)) throw std::bad_alloc();
-    run->runLength += static_cast<std::int32_t>(words.length());
+    run->dimensions.content.width += static_cast<std::int32_t>(words.length());
     sizeLeaf(*run);
 }
 

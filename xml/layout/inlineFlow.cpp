@@ -55,10 +55,9 @@ Walk layoutRightwards(Box& box, Dimensions const& containing, LayoutPass pass) {
 std::string_view shownText(Box const& box) {
     DomText const* const text = asText(box.node);
     if (text == nullptr) return {};
-    auto const* const word = isLeaf(box) ? static_cast<InlineBox const*>(&box) : nullptr;
-    if (word == nullptr || word->runLength == 0) return text->text.view();
-    return text->text.view().substr(static_cast<std::size_t>(word->runBegin),
-                                    static_cast<std::size_t>(word->runLength));
+    if (!box.isRun) return text->text.view();
+    return text->text.view().substr(static_cast<std::size_t>(box.runBegin),
+                                    static_cast<std::size_t>(box.dimensions.content.width));
 }
 
 void sizeLeaf(Box& box) {

@@ -42,7 +42,7 @@ std::vector<Level> findBreak(Box& outermost, std::int64_t room) {
 
 /// Moves the words that do not fit off a run of them. Where not even the first fits it stays only
 /// if `isFirst`, and then alone; null where that leaves nothing to move.
-ZRLWPtr<Box> splitRun(InlineBox& run, std::int32_t room, bool isFirst) {
+ZRLWPtr<Box> splitRun(Box& run, std::int32_t room, bool isFirst) {
     std::string_view const text = shownText(run);
     std::size_t space = std::string_view::npos;
     if (room > 0) space = text.rfind(' ', static_cast<std::size_t>(room) - 1);
@@ -50,12 +50,10 @@ ZRLWPtr<Box> splitRun(InlineBox& run, std::int32_t room, bool isFirst) {
     if (space == std::string_view::npos || space + 1 == text.length()) return {};
     auto const kept = static_cast<std::int32_t>(space) + 1;
     ZRLWPtr<Box> rest = run.clone();
-    auto& moved = static_cast<InlineBox&>(*rest);
-    moved.runBegin += kept;
-    moved.runLength -= kept;
-    run.runLength = kept;
-    sizeLeaf(moved);
-    sizeLeaf(run);
+    rest->runBegin += kept;
+    rest->dimensions.content.width = run.dimensions.content.width - kept;
+    run.dimensions.content.width = kept;
+    sizeLeaf(*rest);
     return rest;
 }
 
@@ -63,9 +61,7 @@ ZRLWPtr<Box> splitRun(InlineBox& run, std::int32_t room, bool isFirst) {
 ZRLWPtr<Box> splitUnfitting(Level const& level) {
     Box& box = *level.box->children[level.unfitting];
     if (box.isForeign()) return box.split(level.room);
-    InlineBox* const leaf = isLeaf(box) ? static_cast<InlineBox*>(&box) : nullptr;
-    bool const isRun = leaf != nullptr && leaf->runLength > 0;
-    return isRun ? splitRun(*leaf, level.room, level.unfitting == 0) : nullptr;
+    return box.isRun ? splitRun(box, level.room, level.unfitting == 0) : nullptr;
 }
 
 /// Moves what stands behind the break off the box of `level`. `childRest` is what was moved off
