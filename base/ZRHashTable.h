@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <unordered_map>
@@ -50,7 +51,7 @@ public:
         node->key = key;
         node->value = value;
         if (buckets == s_noBuckets) buckets = new Node* [bucketCount] {};
-        Node*& bucket = bucketOf(key);
+        Node*& bucket = bucketOf(Hash()(key));
         if (bucket == nullptr) bucket = new Node;
         if (count == s_handful) indexAll();
         if (index != nullptr) index->try_emplace(node->key.view(), node.get());
@@ -62,7 +63,7 @@ public:
     /// Assigns `value` to the oldest entry with an equal key, or adds one. Returns the stored
     /// value.
     V& set(K const& key, V const& value) {
-        Node* const node = find(key);
+        Node* const node = findNode(key, Hash()(key));
         if (node == nullptr) return add(key, value);
         return node->value = value;
     }
@@ -70,10 +71,16 @@ public:
     /// Assigns the value of the oldest entry with an equal key to `out`; without one, returns
     /// false and leaves `out` untouched.
     bool get(K const& key, V& out) const {
-        Node const* const node = find(key);
+        Node const* const node = findNode(key, Hash()(key));
         if (node == nullptr) return false;
         out = node->value;
         return true;
+    }
+
+    /// The same without a copy, by the bytes of the key and their hash; null without an entry.
+    V const* find(std::string_view key, std::uint32_t hash) const {
+        Node const* const node = count > 0 ? findNode(key, hash) : nullptr;
+        return node != nullptr ? &node->value : nullptr;
     }
 
     /// Removes every entry, oldest first; bucket sentinels stay.
@@ -102,20 +109,24 @@ private:
         index = std::move(made);
     }
 
-    Node*& bucketOf(K const& key) const { return buckets[Hash()(key) % bucketCount]; }
+    Node*& bucketOf(std::uint32_t hash) const { return buckets[hash % bucketCount]; }
 
-    Node* find(K const& key) const {
+    template <class Key>
+    Node* findNode(Key const& key, std::uint32_t hash) const {
         if (index != nullptr) {
-            auto const found = index->find(key.view());
+            auto const found = index->find(viewOf(key));
             return found != index->end() ? found->second : nullptr;
         }
-        Node* const bucket = bucketOf(key);
+        Node* const bucket = bucketOf(hash);
         if (bucket == nullptr) return nullptr;
         for (Node* node = bucket->bucketNext; node != bucket; node = node->bucketNext) {
             if (Compare()(node->key, key)) return node;
         }
         return nullptr;
     }
+
+    static std::string_view viewOf(std::string_view key) { return key; }
+    static std::string_view viewOf(K const& key) { return key.view(); }
 
     void link(Node& node, Node& bucket) {
         node.next = head.next;

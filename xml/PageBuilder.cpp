@@ -81,8 +81,10 @@ void PageBuilder::addWords(std::string_view read) {
     if (!takesText()) return;
     if (!subtree.empty()) {
         words.addWords(parent().getOrCreateLineBox()->children, read);
-    } else {
-        innermost().flow.addWords(read, words);
+        return;
+    }
+    while (!read.empty()) {
+        read.remove_prefix(innermost().flow.addWords(read, words));
         paintDone();
     }
 }

@@ -1,35 +1,51 @@
 #pragma once
 
-#include "base/String.h"
+#include <cstdint>
+#include <string_view>
 
-/// The names of the style properties that have an effect, ready to be looked up.
-namespace CLI::XML::Property {
+#include "base/StringHash.h"
 
-extern String const s_margin;
-extern String const s_marginLeft;
-extern String const s_marginRight;
-extern String const s_marginTop;
-extern String const s_marginBottom;
-extern String const s_borderWidth;
-extern String const s_borderLeftWidth;
-extern String const s_borderRightWidth;
-extern String const s_borderTopWidth;
-extern String const s_borderBottomWidth;
-extern String const s_padding;
-extern String const s_paddingLeft;
-extern String const s_paddingRight;
-extern String const s_paddingTop;
-extern String const s_paddingBottom;
-extern String const s_backgroundColor;
-extern String const s_borderColor;
-extern String const s_borderStyle;
-extern String const s_borderLeftStyle;
-extern String const s_borderRightStyle;
-extern String const s_borderTopStyle;
-extern String const s_borderBottomStyle;
-extern String const s_borderCornerStyle;
-extern String const s_color;
-extern String const s_fontStyle;
-extern String const s_display;
+namespace CLI::XML {
 
-}  // namespace CLI::XML::Property
+/// The name of a style property, ready to be looked up.
+struct StyleProperty {
+    std::string_view name;
+    std::uint32_t hash;
+
+    constexpr explicit StyleProperty(std::string_view text)
+        : name(text), hash(StringHash()(text)) {}
+};
+
+/// The style properties that have an effect.
+namespace Property {
+
+inline constexpr StyleProperty s_margin("margin");
+inline constexpr StyleProperty s_marginLeft("margin-left");
+inline constexpr StyleProperty s_marginRight("margin-right");
+inline constexpr StyleProperty s_marginTop("margin-top");
+inline constexpr StyleProperty s_marginBottom("margin-bottom");
+inline constexpr StyleProperty s_borderWidth("border-width");
+inline constexpr StyleProperty s_borderLeftWidth("border-left-width");
+inline constexpr StyleProperty s_borderRightWidth("border-right-width");
+inline constexpr StyleProperty s_borderTopWidth("border-top-width");
+inline constexpr StyleProperty s_borderBottomWidth("border-bottom-width");
+inline constexpr StyleProperty s_padding("padding");
+inline constexpr StyleProperty s_paddingLeft("padding-left");
+inline constexpr StyleProperty s_paddingRight("padding-right");
+inline constexpr StyleProperty s_paddingTop("padding-top");
+inline constexpr StyleProperty s_paddingBottom("padding-bottom");
+inline constexpr StyleProperty s_backgroundColor("background-color");
+inline constexpr StyleProperty s_borderColor("border-color");
+inline constexpr StyleProperty s_borderStyle("border-style");
+inline constexpr StyleProperty s_borderLeftStyle("border-left-style");
+inline constexpr StyleProperty s_borderRightStyle("border-right-style");
+inline constexpr StyleProperty s_borderTopStyle("border-top-style");
+inline constexpr StyleProperty s_borderBottomStyle("border-bottom-style");
+inline constexpr StyleProperty s_borderCornerStyle("border-corner-style");
+inline constexpr StyleProperty s_color("color");
+inline constexpr StyleProperty s_fontStyle("font-style");
+inline constexpr StyleProperty s_display("display");
+
+}  // namespace Property
+
+}  // namespace CLI::XML

@@ -30,10 +30,11 @@ XCode DomElement::setAttributes(ZRStringHashTable<String> const& source) {
             attributes.add(entry->key, entry->value);
         }
     }
-    String value;
-    if (!attributes.get(Property::s_display, value)) return XCode();
+    constexpr StyleProperty property = Property::s_display;
+    String const* const value = attributes.find(property.name, property.hash);
+    if (value == nullptr) return XCode();
     for (DisplayKeyword const& candidate : s_displayKeywords) {
-        if (value.view() == candidate.keyword) display = candidate.display;
+        if (value->view() == candidate.keyword) display = candidate.display;
     }
     return XCode();
 }

@@ -48,17 +48,13 @@ void BlockFlow::addToLine(ZRLWPtr<Box> box) {
     breakLine();
 }
 
-void BlockFlow::addWords(std::string_view words, Words& source) {
-    while (!words.empty()) {
-        beginLine();
-        // As many as fit, and one more, which shows that it does not.
-        std::size_t const fitting = lengthWithin(words, room);
-        std::size_t const length = fitting + Words::lengthOfWord(words, fitting);
-        std::string_view const joining = words.substr(0, length);
-        source.addWords(lineBoxes(), joining);
-        takeWords(joining);
-        words.remove_prefix(length);
-    }
+std::size_t BlockFlow::addWords(std::string_view words, Words& source) {
+    beginLine();
+    std::size_t const fitting = lengthWithin(words, room);
+    std::size_t const length = fitting + Words::lengthOfWord(words, fitting);
+    source.addWords(lineBoxes(), words.substr(0, length));
+    takeWords(words.substr(0, length));
+    return length;
 }
 
 void BlockFlow::addWord(std::string_view word, Words& source) {

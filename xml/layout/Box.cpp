@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/releaseTree.h"
-#include "xml/css/properties.h"
+#include "xml/css/getNodeStyle.h"
 #include "xml/dom/DomElement.h"
 #include "xml/layout/TableBox.h"
 
@@ -69,9 +69,9 @@ void Box::initEdges() {
     dimensions.padding = dimensions.border = dimensions.margin = EdgeSizes();
     // Most boxes are words, and most elements have no style.
     if (!hasStyle(node)) return;
-    // Qualified, since it is called while the box is being constructed.
-    auto const cells = [this](String const& side, String const& allSides) {
-        return Box::getStyleInt2(side, allSides, 0);
+    auto const cells = [this](StyleProperty const& side, StyleProperty const& allSides) {
+        String const* const value = findStyle(node, side, allSides);
+        return value != nullptr ? value->toInteger() : 0;
     };
     EdgeSizes& margin = dimensions.margin;
     margin.left = cells(Property::s_marginLeft, Property::s_margin);

@@ -1,5 +1,8 @@
 #include "xml/render/Canvas.h"
 
+#include <charconv>
+#include <iterator>
+
 namespace CLI::XML {
 
 namespace {
@@ -28,6 +31,14 @@ constexpr FlagEscape s_flagEscapes[] = {
     {Canvas::Attributes::Hidden, "\x1b[8m"},
 };
 
+void appendColor(String& escape, char const* prefix, std::uint8_t color) {
+    char digits[4] = {};
+    char* const end = std::to_chars(std::begin(digits), std::end(digits) - 1, color).ptr;
+    *end = 'm';
+    escape += prefix;
+    escape.concat(digits, static_cast<int>(end + 1 - digits));
+}
+
 }  // namespace
 
 std::uint8_t Canvas::Attributes::color(String const& name) {
@@ -44,8 +55,8 @@ String Canvas::Attributes::generateFormattingFrom(Attributes const& previous) co
     for (FlagEscape const& candidate : s_flagEscapes) {
         if ((flags & candidate.flag) != 0) result += candidate.escape;
     }
-    if (foreground != NoColor) result.concatf("\x1b[3%dm", foreground);
-    if (background != NoColor) result.concatf("\x1b[4%dm", background);
+    if (foreground != NoColor) appendColor(result, "\x1b[3", foreground);
+    if (background != NoColor) appendColor(result, "\x1b[4", background);
     return result;
 }
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/saturate.h"
-#include "xml/css/properties.h"
+#include "xml/css/getNodeStyle.h"
 #include "xml/dom/DomElement.h"
 #include "xml/layout/InlineBox.h"
 #include "xml/render/BoxPainting.h"
@@ -96,12 +96,14 @@ Attributes withElementFlag(Box const& box, Attributes attributes) {
     return attributes;
 }
 
+/// Whether a property is there and not empty.
+bool isSet(String const* value) { return value != nullptr && value->length() > 0; }
+
 /// Whether the box has a background colour, which it hands down.
 bool applyBackground(Box const& box, Attributes& attributes) {
-    if (!hasStyle(box.node)) return false;
-    String const value = box.getStyle(Property::s_backgroundColor, String::s_empty);
-    if (value.length() > 0) attributes.background = Attributes::color(value);
-    return value.length() > 0;
+    String const* const value = findStyle(box.node, Property::s_backgroundColor);
+    if (isSet(value)) attributes.background = Attributes::color(*value);
+    return isSet(value);
 }
 
 void drawLeaf(Box const& box, Canvas& canvas, Attributes const& attributes) {
@@ -197,11 +199,12 @@ void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
     int const bottom = saturate(std::int64_t{area.y} + area.height - 1);
     EdgeSizes const& border = dimensions.border;
 
-    String const color = getStyle(Property::s_borderColor, String::s_empty);
-    if (color.length() > 0) attributes.foreground = Canvas::Attributes::color(color);
+    String const* const color = findStyle(node, Property::s_borderColor);
+    if (isSet(color)) attributes.foreground = Canvas::Attributes::color(*color);
 
-    auto const styleOf = [this](String const& property) {
-        return getStyle2(property, Property::s_borderStyle, "*");
+    auto const styleOf = [this](StyleProperty const& property) {
+        String const* const style = findStyle(node, property, Property::s_borderStyle);
+        return style != nullptr ? *style : String("*");
     };
     if (border.left > 0) {
         drawColumn(canvas, styleOf(Property::s_borderLeftStyle), area.x, area, attributes);
@@ -218,9 +221,10 @@ void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
         canvas.drawClipped(side.text.view(), side.x, bottom, attributes);
     }
 
-    String const corner = getStyle(Property::s_borderCornerStyle, String::s_empty);
+    String const* const corner = findStyle(node, Property::s_borderCornerStyle);
     auto const drawCorner = [&](int vertical, int horizontal, int x, int y) {
-        if (vertical > 0 && horizontal > 0) canvas.drawClipped(corner.view(), x, y, attributes);
+        if (corner == nullptr || vertical <= 0 || horizontal <= 0) return;
+        canvas.drawClipped(corner->view(), x, y, attributes);
     };
     drawCorner(border.top, border.left, area.x, area.y);
     drawCorner(border.top, border.right, right, area.y);
@@ -229,11 +233,10 @@ void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
 }
 
 void Box::applyContentAttributes(Canvas::Attributes& attributes) {
-    if (!hasStyle(node)) return;
-    String const color = getStyle(Property::s_color, String::s_empty);
-    if (color.length() > 0) attributes.foreground = Canvas::Attributes::color(color);
-    String const fontStyle = getStyle(Property::s_fontStyle, String::s_empty);
-    if (fontStyle.length() > 0) applyFontStyle(fontStyle, attributes);
+    String const* const color = findStyle(node, Property::s_color);
+    if (isSet(color)) attributes.foreground = Canvas::Attributes::color(*color);
+    String const* const fontStyle = findStyle(node, Property::s_fontStyle);
+    if (isSet(fontStyle)) applyFontStyle(*fontStyle, attributes);
 }
 
 }  // namespace CLI::XML
