@@ -109,7 +109,9 @@ void BlockFlow::findRoom() {
     }
 }
 
-void BlockFlow::closeLine() { Walk::run(placePending({.isMeasured = true}, 0)); }
+void BlockFlow::closeLine() {
+    if (!pending.empty()) Walk::run(placePending({.isMeasured = true}, 0));
+}
 
 LayoutPass BlockFlow::passAfterBreak(bool isLimited) const {
     return {.again = true, .isLimited = isLimited, .room = available};
