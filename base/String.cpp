@@ -105,6 +105,11 @@ String& String::operator=(String&& other) noexcept {
     return *this;
 }
 
+void String::assignToFresh(std::string_view s) {
+    bool const fits = s.length() <= static_cast<std::size_t>(s_longestText);
+    *this = fits ? String(s.data(), 0, static_cast<int>(s.length())) : String();
+}
+
 String& String::operator+=(String const& other) { return concat(other.c_str(), other.length()); }
 
 String& String::operator+=(char const* s) { return s == nullptr ? *this : concat(s, lengthOf(s)); }

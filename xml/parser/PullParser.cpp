@@ -46,16 +46,16 @@ PullParser::TagType PullParser::getNextTag() const {
 
 XCode PullParser::readStartTag() {
     if (selfClosing) return testExpression(false);
-    name = String::s_empty;
+    name.assign("");
     attributes.clear();
     if (!parseCharacter(text, position, '<')) return fail(s_expectingTagStart);
-    if (parseUntilCharacter(text, position, line, name, s_delimiters) == 0) {
-        return fail(s_expectingType);
-    }
+    if (!readName()) return fail(s_expectingType);
     for (;;) {
         skipCharacters(text, position, line, s_whitespace);
+        std::string_view const attributeName = takeUntil(text, position, line, s_delimiters);
+        if (attributeName.empty()) break;
         Attribute attribute;
-        if (parseUntilCharacter(text, position, line, attribute.name, s_delimiters) == 0) break;
+        attribute.name.assign(attributeName);
         XCode result = readAttribute(attribute);
         if (!result) return result;
         attributes.add(std::move(attribute));
@@ -74,18 +74,21 @@ XCode PullParser::readAttribute(Attribute& attribute) {
     return XCode();
 }
 
+bool PullParser::readName() {
+    name.assign(takeUntil(text, position, line, s_delimiters));
+    return name.length() > 0;
+}
+
 XCode PullParser::readEndTag() {
     attributes.clear();
     if (selfClosing) {
         selfClosing = false;
         return XCode();
     }
-    name = String::s_empty;
+    name.assign("");
     if (!parseCharacter(text, position, '<')) return fail(s_expectingTagStart);
     if (!parseCharacter(text, position, '/')) return fail("Expecting end mark character '/'");
-    if (parseUntilCharacter(text, position, line, name, s_delimiters) == 0) {
-        return fail(s_expectingType);
-    }
+    if (!readName()) return fail(s_expectingType);
     skipCharacters(text, position, line, s_whitespace);
     if (!parseCharacter(text, position, '>')) return fail(s_expectingTagEnd);
     return XCode();
@@ -93,16 +96,16 @@ XCode PullParser::readEndTag() {
 
 XCode PullParser::readContent() {
     if (selfClosing) return testExpression(false);
-    content = String::s_empty;
+    content.assign("");
     if (!parseString(text, position, s_cdataStart)) {
-        parseUntilCharacter(text, position, line, content, s_tagStart);
+        content.assign(takeUntil(text, position, line, s_tagStart));
         if (content.length() == 0) return fail(s_expectingContent);
         return XCode();
     }
     int const start = position;
     auto const end = text.view().find(s_cdataEnd, static_cast<std::size_t>(start));
     skipTo(end == std::string_view::npos ? -1 : static_cast<int>(end));
-    content.concat(text.c_str() + start, position - start);
+    content.assign({text.c_str() + start, static_cast<std::size_t>(position - start)});
     if (position == start) return fail(s_expectingContent);
     if (!parseString(text, position, s_cdataEnd)) return fail("Expecting end of CDATA ']]>'");
     return XCode();

@@ -89,6 +89,7 @@ public:
 private:
     explicit PullParser(String const* borrowed) : text(*borrowed) {}
 
+    bool readName();
     XCode readAttribute(Attribute& attribute);
     XCode fail(char const* message);
     /// Advances to `end`, or to the end of the text where `end` is negative.

@@ -47,8 +47,7 @@ bool parseString(String const& text, int& position, char const* s) {
     return true;
 }
 
-int parseUntilCharacter(String const& text, int& position, int& line, String& out,
-                        ByteSet const& set) {
+std::string_view takeUntil(String const& text, int& position, int& line, ByteSet const& set) {
     char const* const bytes = text.c_str();
     int const start = position;
     int const end = findMember(bytes, start, text.length(), set);
@@ -57,8 +56,15 @@ int parseUntilCharacter(String const& text, int& position, int& line, String& ou
     } else {
         advanceTo(end, text, position, line);
     }
-    out.concat(bytes + start, end - start);
-    return end - start;
+    return {bytes + start, static_cast<std::size_t>(end - start)};
+}
+
+int parseUntilCharacter(String const& text, int& position, int& line, String& out,
+                        ByteSet const& set) {
+    std::string_view const taken = takeUntil(text, position, line, set);
+    int const length = static_cast<int>(taken.length());
+    out.concat(taken.data(), length);
+    return length;
 }
 
 void advanceTo(int end, String const& text, int& position, int& line) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "base/String.h"
 
 /// Scanning primitives of the markup and the style-sheet reader. Positions are byte indexes into
@@ -56,6 +58,10 @@ inline int parseUntilCharacter(String const& text, int& position, int& line, Str
                                char const* set) {
     return parseUntilCharacter(text, position, line, out, ByteSet(set));
 }
+
+/// The bytes from `position` up to the first one that belongs to `set`, over which `position`
+/// advances.
+std::string_view takeUntil(String const& text, int& position, int& line, ByteSet const& set);
 
 /// Advances `position` to `end`, which is not before it, counting line feeds.
 void advanceTo(int end, String const& text, int& position, int& line);
