@@ -105,9 +105,19 @@ String& String::operator=(String&& other) noexcept {
     return *this;
 }
 
-void String::assignToFresh(std::string_view s) {
-    bool const fits = s.length() <= static_cast<std::size_t>(s_longestText);
-    *this = fits ? String(s.data(), 0, static_cast<int>(s.length())) : String();
+void String::assign(std::string_view s) {
+    if (s.length() > static_cast<std::size_t>(s_longestText)) {
+        *this = String();
+        return;
+    }
+    auto const length = static_cast<int>(s.length());
+    if (!hasRoomFor(length)) {
+        *this = String(s.data(), 0, length);
+        return;
+    }
+    std::memcpy(store.begin(), s.data(), s.length());
+    store.begin()[length] = '\0';
+    store.length = length;
 }
 
 String& String::operator+=(String const& other) { return concat(other.c_str(), other.length()); }

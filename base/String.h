@@ -2,7 +2,6 @@
 
 #include <cstdarg>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 
 /// A byte string with a 7-character inline buffer. One byte is one character and one terminal
@@ -81,15 +80,7 @@ public:
     String& operator+=(char const* s);
     /// Replaces the text by `s`, which is not in this string, in the buffer that is there if it has
     /// room.
-    void assign(std::string_view s) {
-        if (s.length() < static_cast<std::size_t>(store.capacity) + sizeof store.storage) {
-            std::memcpy(store.begin(), s.data(), s.length());
-            store.begin()[s.length()] = '\0';
-            store.length = static_cast<int>(s.length());
-        } else {
-            assignToFresh(s);
-        }
-    }
+    void assign(std::string_view s);
     /// Appends the first `n` characters of `s`.
     String& concat(char const* s, int n);
     /// What every appending operation rests on. `s` may lie inside this string.
@@ -128,7 +119,6 @@ public:
     int toInteger() const;
 
 private:
-    void assignToFresh(std::string_view s);
     bool hasRoomFor(int length) const {
         return length < store.capacity + static_cast<int>(sizeof store.storage);
     }

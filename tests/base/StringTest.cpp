@@ -43,6 +43,28 @@ TEST(StringBuffer, ThatCannotBeHadLeavesTheEmptyTextOrTheFormerOne) {
     EXPECT_EQ(String::repeat(bytes("a\0"), 2), bytes("a\0a\0"));
 }
 
+TEST(StringBuffer, GrowsAheadAndShrinksToWhatAFreshTextTakes) {
+    String text;
+    unsigned buffers = 0;
+    for (int i = 0; i < 20000; ++i) {
+        char const* const former = text.c_str();
+        EXPECT_TRUE(text.appendGrowing("ab"));
+        if (text.c_str() != former) ++buffers;
+    }
+    EXPECT_LT(buffers, 20U);
+    for (int length : {40000, 8, 7, 0}) {
+        text.deleteRegion(length, text.length());
+        text.shrinkToFit();
+        EXPECT_EQ(text.capacity(), String(text.c_str()).capacity()) << length;
+        EXPECT_EQ(text.length(), length);
+    }
+    text.assign("123456789");
+    char const* const buffer = text.c_str();
+    text.assign("abcdefghijk");
+    EXPECT_EQ(text, "abcdefghijk");
+    EXPECT_EQ(text.c_str(), buffer);
+}
+
 TEST(StringMove, TakesTheBufferAndAssignmentExchanges) {
     String source = "a longer text";
     char const* const buffer = source.c_str();

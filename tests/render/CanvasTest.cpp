@@ -37,6 +37,22 @@ TEST(Canvas, OverwritesCellsAndSwitchesAttributesBetweenThem) {
     EXPECT_EQ(textOf(canvas), "^[[0m^[[34m  ^[[0m^[[31mz^[[0m ^[[0m^[[34m!^[[0m$\n");
 }
 
+TEST(Canvas, ShowsEachCellOfALongRowWhereverItDiffers) {
+    std::string const row = "0123456789abcdefghijklmnopqrstuvwxyz!";
+    for (unsigned i = 0; i < row.length(); ++i) {
+        std::string const before = row.substr(0, i);
+        std::string const behind = row.substr(i + 1);
+        Canvas canvas;
+        canvas.draw(row.c_str(), 0, 0, s_plain);
+        canvas.draw("X", i, 0, s_red);
+        EXPECT_EQ(textOf(canvas), before + "^[[0m^[[31mX^[[0m" + behind + "$\n");
+        canvas.rows[0][i] = Canvas::Byte::make(0, 0);
+        String moved = "> ";
+        EXPECT_TRUE(canvas.moveRowsTo(moved, 1));
+        EXPECT_EQ(shown(moved), "> " + before + behind + "$\n");
+    }
+}
+
 TEST(Canvas, AppendsAtItsWidthAndBelowItsLastRow) {
     Canvas canvas;
     Canvas source;

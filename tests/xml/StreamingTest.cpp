@@ -46,6 +46,11 @@ TEST(Streaming, MakesThePageOfTheWholeTrees) {
         "aaaa bbbb <i/>&x;<b padding-top=\"1\"/>cc",
         "<b>aaa aaaa aaaaa <p>yy yy yy yy yy yy</p></b>",
         "aa bb <b>cc <p>dd ee</p> ff</b> gg <b><p>hh ii</p></b> jj kk ll mm",
+        // Only the first word behind a margin keeps away from it.
+        "<b margin-right=\"2\">a</b>bb cc dd <b><div><i margin-right=\"3\">e</i>ff gg hh</div></b>",
+        // Words without a space behind them, with spaces in them, and without anything.
+        "aa<!-- -->bb cc<![CDATA[ dd\t]]>ee<b>ff</b>gg",
+        "a&nbsp;b c&nbsp;d&x; &x;&x; ee &x;<b>f&nbsp;g&x; h</b>",
         // A table in a block on a line shows how often the line was laid out.
         ("a b c d e f g h <b>i <div>j <table><tr><td>k</td><td>l l l</td></tr>"
          "<tr><td>m m m m</td></tr></table></div></b> n o p q r s t <b><div><table><tr><td>u u</td>"
@@ -72,6 +77,15 @@ TEST(Streaming, MakesThePageOfTheWholeTrees) {
     }
 }
 
+TEST(Streaming, MakesThePageOfTheWholeTreesOfALongText) {
+    std::string words;
+    for (int i = 0; i < 3000; ++i) words += std::to_string(i * i) + (i % 7 == 0 ? "\n" : " ");
+    for (int const width : {7, 80, 2147483647}) {
+        expectSamePage(words, "", width);
+        expectSamePage("a <b>" + words + "<i>" + words + "</i></b> z", "", width);
+    }
+}
+
 /// Documents from a fixed seed: everything in everything, with edges, tables and styles.
 class Scribbler {
 public:
@@ -82,7 +96,7 @@ public:
         for (unsigned n = pick(7); n > 0; --n) {
             text += depth > 0 && pick(3) == 0
                         ? element(depth - 1)
-                        : std::string(1 + pick(9), 'w') + (pick(4) ? " " : "");
+                        : word();
         }
         return text;
     }
@@ -90,6 +104,14 @@ public:
     unsigned pick(unsigned n) { return static_cast<unsigned>(random() % n); }
 
 private:
+    std::string word() {
+        static constexpr char const* s_ends[] = {
+            " ", " ", " ", " ", "", "\n", "<!-- -->", "&nbsp;x ", "&x; "};
+        std::string letters;
+        for (unsigned n = 1 + pick(9); n > 0; --n) letters += static_cast<char>('a' + pick(26));
+        return letters + s_ends[pick(9)];
+    }
+
     std::string element(int depth) {
         static constexpr char const* s_names[] = {"div", "p", "b", "i", "em", "mark", "h1"};
         if (pick(6) == 0) return table(depth);
@@ -112,7 +134,7 @@ private:
     std::string attributes() {
         static constexpr char const* s_edges[] = {
             "margin",       "margin-left", "padding",           "padding-right",
-            "border-width", "padding-top", "border-left-width", "margin-bottom"};
+            "border-width", "padding-top", "border-left-width", "margin-right"};
         if (pick(3) > 0) return "";
         if (pick(4) == 0) return " background-color=\"blue\"";
         int const cells = static_cast<int>(pick(4)) - (pick(5) == 0 ? 3 : 0);
