@@ -2,6 +2,8 @@
 // public operations one after the other, is the same page.
 
 #include <random>
+#include <string>
+#include <vector>
 
 #include "tests/support/boxes.h"
 #include "xml/xml.h"
@@ -83,6 +85,31 @@ TEST(Streaming, MakesThePageOfTheWholeTreesOfALongText) {
     for (int const width : {7, 80, 2147483647}) {
         expectSamePage(words, "", width);
         expectSamePage("a <b>" + words + "<i>" + words + "</i></b> z", "", width);
+    }
+}
+
+TEST(Streaming, MakesThePageOfTheWholeTreesOfElementsInOneAnother) {
+    static constexpr char const* s_tags[] = {"<b>", "<i>", "<em>", "<mark>", "<i padding-left=\"1\">"};
+    std::mt19937 random(7);
+    for (int document = 0; document < 300; ++document) {
+        std::string markup;
+        std::vector<std::string> ends;
+        for (int i = 0; i < 60; ++i) {
+            unsigned const what = random() % 8;
+            if (what < 2 && !ends.empty()) {
+                markup += ends.back();
+                ends.pop_back();
+            } else if (what < 5) {
+                std::string const tag = s_tags[random() % (document % 2 == 0 ? 2 : 5)];
+                markup += tag;
+                ends.push_back("</" + tag.substr(1, tag.find_first_of(" >") - 1) + ">");
+            } else {
+                markup += std::to_string(random() % 100000) + (what < 7 ? " " : "");
+            }
+        }
+        for (; !ends.empty(); ends.pop_back()) markup += ends.back();
+        expectSamePage(markup, "mark{color:red;}", static_cast<int>(random() % 20));
+        if (testing::Test::HasFailure()) break;
     }
 }
 

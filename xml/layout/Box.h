@@ -95,6 +95,8 @@ public:
 
     /// Keeps `node`, where nothing else does, as long as there is this box or a clone of it.
     void holdNode();
+    /// Whether only the conversion knows the box: that makes its boxes hold their nodes.
+    bool isUnseen() const { return holdsNode; }
 
     /// Whether the box is of a class that derives from the six of the library.
     bool isForeign() const;

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "base/saturate.h"
+#include "xml/dom/DomElement.h"
 #include "xml/layout/InlineBox.h"
 #include "xml/layout/LineBox.h"
 
@@ -17,6 +18,9 @@ struct Level {
     /// What that child is offered, in columns.
     std::int32_t room;
 };
+
+/// As many names as there are of inline elements.
+constexpr unsigned s_plainNames = 5;
 
 bool isBreakable(Box const& box) { return box.type != Box::Block && box.type != Box::Table; }
 
@@ -64,6 +68,23 @@ ZRLWPtr<Box> splitUnfitting(Level const& level) {
     return box.isRun ? splitRun(box, level.room, level.unfitting == 0) : nullptr;
 }
 
+bool isPlain(Box const& box) { return box.type == Box::Inline && !hasStyle(box.node); }
+
+/// Whether `rest`, which was broken off the last child of `box`, needs no clone of `box` around it:
+/// an element without style shows only in its name, and one of the same name is around all of
+/// `rest`. Only where nobody sees the boxes. Otherwise every line within many elements would have a
+/// box for each of them.
+bool goesWithout(Box const& box, Box const& rest) {
+    if (!box.isUnseen() || box.holdsBlock || !isPlain(box)) return false;
+    Box const* around = &rest;
+    // Elements that look alike are the same one. Any style on the way would count in the widths.
+    for (unsigned depth = 0; depth < s_plainNames && around->node != box.node; ++depth) {
+        if (around->children.count != 1 || !isPlain(*around)) return false;
+        around = around->children[0].object;
+    }
+    return around->node == box.node;
+}
+
 /// Moves what stands behind the break off the box of `level`. `childRest` is what was moved off
 /// the child that does not fit; where nothing was, that child moves itself, unless it is the
 /// first: it stays although it does not fit, so that every break moves something on and breaking
@@ -73,6 +94,11 @@ ZRLWPtr<Box> moveRest(Level const& level, ZRLWPtr<Box> const& childRest) {
     bool const staysInPart = childRest || level.unfitting == 0;
     unsigned const firstMoved = staysInPart ? level.unfitting + 1 : level.unfitting;
     if (!childRest && firstMoved == box.children.count) return {};
+    bool const isAlone = childRest && firstMoved == box.children.count;
+    if (isAlone && goesWithout(box, *childRest)) {
+        box.isSettled = false;
+        return childRest;
+    }
     ZRLWPtr<Box> rest = box.clone();
     if (childRest) rest->children.add(childRest);
     box.children.moveTailTo(firstMoved, rest->children);
