@@ -12,7 +12,8 @@
 ///         for (ZRLWPtr<Box> const& child : box.children) co_await visit(*child);
 ///     }
 ///
-/// A call does nothing until it is awaited. Its parameters must outlive it; an exception passes
+/// A call does nothing until it is awaited, but for a function that hands out the `Walk` of another
+/// one, or an empty one where it has nothing left to call. Its parameters must outlive it; an exception passes
 /// through to the caller as it would through a function.
 class [[nodiscard]] Walk {
 public:
@@ -36,6 +37,8 @@ public:
         void unhandled_exception() { failure = std::current_exception(); }
     };
 
+    /// A call that has returned already.
+    Walk() = default;
     Walk(Walk&& other) noexcept : call(std::exchange(other.call, nullptr)) {}
     Walk& operator=(Walk&&) = delete;
     ~Walk() {
@@ -44,13 +47,14 @@ public:
 
     static void run(Walk const& outermost) {
         Handle running = outermost.call;
+        if (!running) return;
         running.promise().running = &running;
         while (running) running.resume();
         outermost.await_resume();
     }
 
     // What `co_await` asks of an operand.
-    bool await_ready() const noexcept { return false; }
+    bool await_ready() const noexcept { return !call; }
     void await_suspend(Handle caller) const noexcept {
         promise_type& promise = call.promise();
         promise.caller = caller;
@@ -58,11 +62,11 @@ public:
         *promise.running = call;
     }
     void await_resume() const {
-        if (call.promise().failure) std::rethrow_exception(call.promise().failure);
+        if (call && call.promise().failure) std::rethrow_exception(call.promise().failure);
     }
 
 private:
     explicit Walk(Handle made) : call(made) {}
 
-    Handle call;
+    Handle call = nullptr;
 };

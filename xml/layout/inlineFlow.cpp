@@ -15,39 +15,92 @@ bool takesLessThanItsContent(Dimensions const& d) {
     return isNegative(d.padding) || isNegative(d.border) || isNegative(d.margin);
 }
 
+/// The layout of one box whose children stand side by side, child by child.
 template <class Gap>
-Walk layoutRightwards(Box& box, Dimensions const& containing, LayoutPass pass) {
-    constexpr Gap gapBetween;
-    if (box.isLaidOutByItsOwn(containing, pass)) co_return;
-    if (pass.again && box.isSettled) co_return;
-    // A block keeps the breaks that it got at any width behind the boxes before it.
-    if (box.type != Box::Line && box.holdsBlock) pass.isLimited = false;
-    RightwardRow row(box.dimensions);
+class InlineLayout {
+public:
+    InlineLayout(Box& laidOut, LayoutPass asked)
+        : box(laidOut), pass(asked), row(laidOut.dimensions) {
+        // A block keeps the breaks that it got at any width behind the boxes before it.
+        if (box.type != Box::Line && box.holdsBlock) pass.isLimited = false;
+    }
+
+    bool isDone() const { return isFull || next == box.children.count; }
+    LayoutPass const& passForChild() const { return pass; }
+
+    /// Places the words that come next.
+    void placeWords() {
+        while (!isDone()) {
+            Box& child = *box.children.data[next];
+            if (asText(child.node) == nullptr || !isLeaf(child)) return;
+            sizeLeaf(child);
+            row.addWord(child.dimensions.content, Gap());
+            take(child);
+        }
+    }
+
+    /// Places the next child, which is to be laid out before it is taken in.
+    Box& place() {
+        Box& child = *box.children.data[next];
+        row.place(child.dimensions, Gap());
+        return child;
+    }
+
+    void takeLaidOut(Box const& child) {
+        row.add(child.dimensions);
+        areAllSettled = areAllSettled && child.isSettled;
+        holdsBlock = holdsBlock || child.holdsBlock;
+        mayShrink = mayShrink || child.mayShrink || takesLessThanItsContent(child.dimensions);
+        take(child);
+    }
+
+    void finish() {
+        if (box.children.count == 0) sizeLeaf(box);
+        box.holdsBlock = holdsBlock;
+        box.isSettled = areAllSettled && next == box.children.count;
+        box.mayShrink = mayShrink;
+    }
+
+private:
+    void take(Box const& child) {
+        ++next;
+        if (!pass.isLimited) return;
+        pass.room -= child.dimensions.content.width;
+        isFull = pass.room < 0;
+    }
+
+    Box& box;
+    LayoutPass pass;
+    RightwardRow row;
+    unsigned next = 0;
     bool holdsBlock = false;
     bool areAllSettled = true;
     bool mayShrink = false;
     bool isFull = false;
-    unsigned i = 0;
-    while (i < box.children.count && !isFull) {
-        Box& child = *box.children.data[i++];
-        if (asText(child.node) != nullptr && isLeaf(child)) {
-            sizeLeaf(child);
-            row.addWord(child.dimensions.content, gapBetween);
-        } else {
-            row.place(child.dimensions, gapBetween);
-            if (!pass.isMeasured) co_await child.layOut(box.dimensions, pass);
-            row.add(child.dimensions);
-            areAllSettled = areAllSettled && child.isSettled;
-            holdsBlock = holdsBlock || child.holdsBlock;
-            mayShrink = mayShrink || child.mayShrink || takesLessThanItsContent(child.dimensions);
-        }
-        if (pass.isLimited) pass.room -= child.dimensions.content.width;
-        isFull = pass.isLimited && pass.room < 0;
+};
+
+/// Goes on where the next child is not a word.
+template <class Gap>
+Walk layoutChildren(Box& box, InlineLayout<Gap> layout) {
+    while (!layout.isDone()) {
+        Box& child = layout.place();
+        LayoutPass const& pass = layout.passForChild();
+        if (!pass.isMeasured) co_await child.layOut(box.dimensions, pass);
+        layout.takeLaidOut(child);
+        layout.placeWords();
     }
-    if (box.children.count == 0) sizeLeaf(box);
-    box.holdsBlock = holdsBlock;
-    box.isSettled = areAllSettled && i == box.children.count;
-    box.mayShrink = mayShrink;
+    layout.finish();
+}
+
+template <class Gap>
+Walk layoutRightwards(Box& box, Dimensions const& containing, LayoutPass pass) {
+    if (box.isLaidOutByItsOwn(containing, pass)) return {};
+    if (pass.again && box.isSettled) return {};
+    InlineLayout<Gap> layout(box, pass);
+    layout.placeWords();
+    if (!layout.isDone()) return layoutChildren(box, layout);
+    layout.finish();
+    return {};
 }
 
 }  // namespace

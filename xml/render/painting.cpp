@@ -113,13 +113,23 @@ void drawLeaf(Box const& box, Canvas& canvas, Attributes const& attributes) {
 
 bool isEmptyCell(Box const& box) { return box.children.count == 0 && box.type == Box::Cell; }
 
-Walk drawTree(Box& box, Canvas& canvas, Attributes inherited) {
-    BoxPainting painting(box, canvas, inherited, BoxPainting::Complete);
-    for (unsigned i = 0; i < box.children.count; ++i) {
-        Box& child = *box.children.data[i];
-        if (isLeaf(child)) {
-            drawLeaf(child, painting.canvas(), painting.attributes());
-        } else if (isEmptyCell(child) || child.isForeign()) {
+/// Draws the children without children from `first` on. Returns the index of the next one that is
+/// not.
+unsigned drawLeaves(Box const& box, unsigned first, BoxPainting const& painting) {
+    unsigned i = first;
+    for (; i < box.children.count && isLeaf(*box.children.data[i]); ++i) {
+        drawLeaf(*box.children.data[i], painting.canvas(), painting.attributes());
+    }
+    return i;
+}
+
+Walk drawTree(Box& box, Canvas& canvas, Attributes inherited);
+
+/// Draws the children from `next` on, which is not a leaf.
+Walk drawChildren(Box& box, unsigned next, BoxPainting painting) {
+    for (; next < box.children.count; next = drawLeaves(box, next + 1, painting)) {
+        Box& child = *box.children.data[next];
+        if (isEmptyCell(child) || child.isForeign()) {
             child.drawTo(painting.canvas(), painting.attributes());
         } else {
             Attributes const handedDown = withElementFlag(child, painting.attributes());
@@ -127,6 +137,14 @@ Walk drawTree(Box& box, Canvas& canvas, Attributes inherited) {
         }
     }
     painting.finish();
+}
+
+Walk drawTree(Box& box, Canvas& canvas, Attributes inherited) {
+    BoxPainting painting(box, canvas, inherited, BoxPainting::Complete);
+    unsigned const next = drawLeaves(box, 0, painting);
+    if (next < box.children.count) return drawChildren(box, next, std::move(painting));
+    painting.finish();
+    return {};
 }
 
 }  // namespace
