@@ -18,16 +18,17 @@ ZRLWPtr<BlockBox> asBlock(ZRLWPtr<Box> const& box) {
 }  // namespace
 
 PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& containing,
-                                  Canvas& canvas, Canvas::Attributes const& attributes)
+                                  BlockFlow::Boxes& boxes, Canvas& canvas,
+                                  Canvas::Attributes const& attributes)
     : box(std::move(made)),
-      flow(*box, containing),
+      flow(*box, containing, boxes),
       painting(*box, canvas, attributes, BoxPainting::Open) {}
 
 PageBuilder::PageBuilder(DomElement& root, unsigned width, int expectedLength) {
     text.reserve(expectedLength);
     ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(&root));
     box->holdNode();
-    open.emplace_back(box, pageOfWidth(width), page, Canvas::Attributes());
+    open.emplace_back(box, pageOfWidth(width), onTheirWay, page, Canvas::Attributes());
     innermost().paintsOnPage = innermost().painting.paintsDirectly();
 }
 
@@ -119,7 +120,7 @@ void PageBuilder::openBlock(ZRLWPtr<Box> const& box) {
     OpenBlock& around = innermost();
     around.flow.place(*asBlock(box));
     bool const isOnPage = around.paintsOnPage;
-    open.emplace_back(asBlock(box), around.box->dimensions, around.painting.canvas(),
+    open.emplace_back(asBlock(box), around.box->dimensions, onTheirWay, around.painting.canvas(),
                       around.painting.attributes());
     innermost().paintsOnPage = isOnPage && innermost().painting.paintsDirectly();
 }
@@ -153,12 +154,12 @@ void PageBuilder::closeLine() {
 
 void PageBuilder::paintDone() {
     OpenBlock& block = innermost();
-    if (block.flow.done.count == 0) return;
+    if (onTheirWay.done.count == 0) return;
     Canvas& canvas = block.painting.canvas();
-    for (unsigned i = 0; i < block.flow.done.count; ++i) {
-        block.flow.done.data[i]->drawTo(canvas, block.painting.attributes());
+    for (unsigned i = 0; i < onTheirWay.done.count; ++i) {
+        onTheirWay.done.data[i]->drawTo(canvas, block.painting.attributes());
     }
-    block.flow.done.clear();
+    onTheirWay.done.clear();
     releaseRows();
 }
 

@@ -36,8 +36,8 @@ public:
 private:
     /// A block that is being read, all of whose ancestors are.
     struct OpenBlock {
-        OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& containing, Canvas& canvas,
-                  Canvas::Attributes const& attributes);
+        OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& containing, BlockFlow::Boxes& boxes,
+                  Canvas& canvas, Canvas::Attributes const& attributes);
 
         ZRLWPtr<BlockBox> box;
         BlockFlow flow;
@@ -61,6 +61,8 @@ private:
     /// Rows of the page that nothing can change any more.
     String text;
     bool isTextComplete = true;
+    /// Of the innermost block: those around it have none on their way.
+    BlockFlow::Boxes onTheirWay;
     std::vector<OpenBlock> open;
     /// In the innermost block, the boxes that are being read from one that is not a block on.
     std::vector<ZRLWPtr<Box>> subtree;

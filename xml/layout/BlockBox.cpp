@@ -9,15 +9,16 @@ Walk BlockBox::layOut(Dimensions const& containing, LayoutPass pass) {
     bool const isSameWidth = containing.content.width == containingWidth;
     if (pass.again && isSettled && isSameWidth) co_return;
     containingWidth = containing.content.width;
-    BlockFlow flow(*this, containing);
+    BlockFlow::Boxes boxes;
+    BlockFlow flow(*this, containing, boxes);
     for (unsigned i = 0; i < children.count; ++i) {
         co_await flow.add(children[i], {.again = pass.again});
     }
     flow.finish();
-    if (flow.done.count == children.count) co_return;
+    if (boxes.done.count == children.count) co_return;
     // Lines were broken.
-    if (flow.done.capacity < children.capacity) flow.done.enlarge(children.capacity - 1);
-    children = std::move(flow.done);
+    if (boxes.done.capacity < children.capacity) boxes.done.enlarge(children.capacity - 1);
+    children = std::move(boxes.done);
 }
 
 }  // namespace CLI::XML

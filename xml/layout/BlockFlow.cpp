@@ -27,8 +27,9 @@ std::size_t lengthWithin(std::string_view words, std::int64_t room) {
 
 }  // namespace
 
-BlockFlow::BlockFlow(BlockBox& laidOut, Dimensions const& containing)
+BlockFlow::BlockFlow(BlockBox& laidOut, Dimensions const& containing, Boxes& boxesOnTheirWay)
     : block(laidOut),
+      boxes(boxesOnTheirWay),
       available(widthWithin(containing, block.dimensions.edges())),
       stack(block.dimensions) {
     // The children read the width that they are offered from here.
@@ -36,7 +37,7 @@ BlockFlow::BlockFlow(BlockBox& laidOut, Dimensions const& containing)
 }
 
 Walk BlockFlow::add(ZRLWPtr<Box> const& child, LayoutPass pass) {
-    pending.push_back(child);
+    boxes.pending.push_back(child);
     return placePending(pass, 0);
 }
 
@@ -69,21 +70,21 @@ void BlockFlow::takeWords(std::string_view words) {
 }
 
 void BlockFlow::beginLine() {
-    if (!pending.empty()) return;
-    pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
+    if (!boxes.pending.empty()) return;
+    boxes.pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
     breaks = 0;
     findRoom();
 }
 
 void BlockFlow::breakLine() {
-    Box& line = *pending.front();
+    Box& line = *boxes.pending.front();
     line.isSettled = false;
     if (room >= 0 || available == s_largestWidth) return;
     // It is too wide already, so that its layout would only be done again.
     bool const areBoxesSettled = areSettled(line.children);
     ZRLWPtr<Box> rest = line.split(available);
     if (!rest) return;
-    pending.insert(pending.begin(), std::move(rest));
+    boxes.pending.insert(boxes.pending.begin(), std::move(rest));
     ++breaks;
     Walk::run(placePending(passAfterBreak(areBoxesSettled), 1));
     findRoom();
@@ -110,7 +111,7 @@ void BlockFlow::findRoom() {
 }
 
 void BlockFlow::closeLine() {
-    if (!pending.empty()) Walk::run(placePending({.isMeasured = true}, 0));
+    if (!boxes.pending.empty()) Walk::run(placePending({.isMeasured = true}, 0));
 }
 
 LayoutPass BlockFlow::passAfterBreak(bool isLimited) const {
@@ -120,24 +121,24 @@ LayoutPass BlockFlow::passAfterBreak(bool isLimited) const {
 Walk BlockFlow::placePending(LayoutPass pass, std::size_t kept) {
     // Below the largest width only, since a sum that saturates there is never too wide.
     bool staysTooWide = available < s_largestWidth;
-    while (!pending.empty()) {
-        Box& next = *pending.back();
+    while (!boxes.pending.empty()) {
+        Box& next = *boxes.pending.back();
         stack.place(next.dimensions);
         co_await next.layOut(block.dimensions, pass);
         if (!pass.isLimited) staysTooWide = staysTooWide && !next.mayShrink && next.isSettled;
         bool const isTooWide = next.dimensions.marginBox().width > available;
         if (ZRLWPtr<Box> rest = isTooWide ? next.split(available) : nullptr) {
-            if (pending.size() == 1) ++breaks;
+            if (boxes.pending.size() == 1) ++breaks;
             pass = passAfterBreak(staysTooWide);
             // The same box again, now with less content.
-            pending.insert(pending.end() - 1, std::move(rest));
+            boxes.pending.insert(boxes.pending.end() - 1, std::move(rest));
             continue;
         }
-        if (pending.size() <= kept) co_return;
+        if (boxes.pending.size() <= kept) co_return;
         stack.add(next.dimensions);
         areAllSettled = areAllSettled && next.isSettled;
-        done.add(std::move(pending.back()));
-        pending.pop_back();
+        boxes.done.add(std::move(boxes.pending.back()));
+        boxes.pending.pop_back();
     }
 }
 

@@ -12,14 +12,22 @@ namespace CLI::XML {
 
 /// The layout of a block, step by step: the children go in one after the other, are laid out one
 /// below the other, and lines that are too wide are broken. What has got its place is handed out
-/// in `done`.
+/// in `Boxes::done`.
 ///
 /// The last line may stay open while boxes still arrive on it: then everything that follows is
 /// laid out only once it is closed.
 class BlockFlow {
 public:
-    /// Begins the layout of `laidOut`, which must outlive the flow.
-    BlockFlow(BlockBox& laidOut, Dimensions const& containing);
+    /// What is on its way through a flow. Flows of which only one is at work may share it.
+    struct Boxes {
+        /// What has got its place, in the order of the finished block; the caller may take it out.
+        ZRVector<ZRLWPtr<Box>> done;
+        /// What is still to be placed, the next one last. The open line is the first.
+        std::vector<ZRLWPtr<Box>> pending;
+    };
+
+    /// Begins the layout of `laidOut`. All three must outlive the flow.
+    BlockFlow(BlockBox& laidOut, Dimensions const& containing, Boxes& boxesOnTheirWay);
 
     /// The width that the children are offered, in columns.
     std::int32_t availableWidth() const { return available; }
@@ -47,13 +55,10 @@ public:
     /// Gives the block its width.
     void finish();
 
-    /// In the order of the finished block; the caller may take them out.
-    ZRVector<ZRLWPtr<Box>> done;
-
 private:
     void beginLine();
     /// Of the open line.
-    Words::Boxes& lineBoxes() const { return pending.front()->children; }
+    Words::Boxes& lineBoxes() const { return boxes.pending.front()->children; }
     void takeWords(std::string_view words);
     void breakLine();
     void measure(Box& box) const;
@@ -62,11 +67,10 @@ private:
     void findRoom();
 
     BlockBox& block;
+    Boxes& boxes;
     std::int32_t const available;
     DownwardStack stack;
     bool areAllSettled = true;
-    /// What is still to be placed, the next one last. The open line is the first.
-    std::vector<ZRLWPtr<Box>> pending;
     /// How often the open line was broken.
     unsigned breaks = 0;
     /// Columns that the contents on the open line have left.
