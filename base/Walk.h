@@ -13,8 +13,8 @@
 ///     }
 ///
 /// A call does nothing until it is awaited, but for a function that hands out the `Walk` of another
-/// one, or an empty one where it has nothing left to call. Its parameters must outlive it; an exception passes
-/// through to the caller as it would through a function.
+/// one, or an empty one where it has nothing left to call. Its parameters must outlive it; an
+/// exception passes through to the caller as it would through a function.
 class [[nodiscard]] Walk {
 public:
     struct promise_type;  // NOLINT(readability-identifier-naming): the language's name

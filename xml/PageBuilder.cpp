@@ -54,7 +54,8 @@ void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
         return;
     }
     if (!subtree.empty()) {
-        Box& holder = element->display == DomNode::Inline ? *parent().getOrCreateLineBox() : parent();
+        Box& holder =
+            element->display == DomNode::Inline ? *parent().getOrCreateLineBox() : parent();
         holder.children.add(box);
     }
     subtree.push_back(std::move(box));

@@ -89,7 +89,8 @@ TEST(Streaming, MakesThePageOfTheWholeTreesOfALongText) {
 }
 
 TEST(Streaming, MakesThePageOfTheWholeTreesOfElementsInOneAnother) {
-    static constexpr char const* s_tags[] = {"<b>", "<i>", "<em>", "<mark>", "<i padding-left=\"1\">"};
+    static constexpr char const* s_tags[] = {"<b>", "<i>", "<em>", "<mark>",
+                                             "<i padding-left=\"1\">"};
     std::mt19937 random(7);
     for (int document = 0; document < 300; ++document) {
         std::string markup;
@@ -121,9 +122,7 @@ public:
     std::string content(int depth) {
         std::string text;
         for (unsigned n = pick(7); n > 0; --n) {
-            text += depth > 0 && pick(3) == 0
-                        ? element(depth - 1)
-                        : word();
+            text += depth > 0 && pick(3) == 0 ? element(depth - 1) : word();
         }
         return text;
     }
@@ -132,8 +131,8 @@ public:
 
 private:
     std::string word() {
-        static constexpr char const* s_ends[] = {
-            " ", " ", " ", " ", "", "\n", "<!-- -->", "&nbsp;x ", "&x; "};
+        static constexpr char const* s_ends[] = {" ",  " ",        " ",        " ",   "",
+                                                 "\n", "<!-- -->", "&nbsp;x ", "&x; "};
         std::string letters;
         for (unsigned n = 1 + pick(9); n > 0; --n) letters += static_cast<char>('a' + pick(26));
         return letters + s_ends[pick(9)];

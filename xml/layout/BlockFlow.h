@@ -39,8 +39,8 @@ public:
     /// breaks off what is certain not to stay on it, whatever follows. Nothing on the line may have
     /// a negative edge.
     void addToLine(ZRLWPtr<Box> box);
-    /// The same for as many words as fit and one more, which shows that it does not. Only the last of
-    /// all may be without its one space. Returns the bytes that were taken.
+    /// The same for as many words as fit and one more, which shows that it does not. Only the last
+    /// of all may be without its one space. Returns the bytes that were taken.
     std::size_t addWords(std::string_view words, Words& source);
     /// The same for a word that may be anything.
     void addWord(std::string_view word, Words& source);

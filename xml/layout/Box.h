@@ -114,8 +114,8 @@ public:
     bool mayShrink : 1 = false;
     /// Known from the last layout: this is a block, or an inline box with one somewhere in it.
     bool holdsBlock : 1 = false;
-    /// Stands for a run of words, as many bytes of the text of `node` as the content is wide: a line
-    /// may be broken behind every space in it, as it may between two boxes.
+    /// Stands for a run of words, as many bytes of the text of `node` as the content is wide: a
+    /// line may be broken behind every space in it, as it may between two boxes.
     bool isRun : 1 = false;
     /// Where the run begins in that text, in bytes.
     std::int32_t runBegin = 0;

@@ -1,7 +1,7 @@
-#include "xml/render/Canvas.h"
-
 #include <charconv>
 #include <iterator>
+
+#include "xml/render/Canvas.h"
 
 namespace CLI::XML {
 
