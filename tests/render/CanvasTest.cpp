@@ -45,11 +45,15 @@ TEST(Canvas, ShowsEachCellOfALongRowWhereverItDiffers) {
         Canvas canvas;
         canvas.draw(row.c_str(), 0, 0, s_plain);
         canvas.draw("X", i, 0, s_red);
-        EXPECT_EQ(textOf(canvas), before + "^[[0m^[[31mX^[[0m" + behind + "$\n");
+        std::string expected = before;
+        expected.append("^[[0m^[[31mX^[[0m").append(behind).append("$\n");
+        EXPECT_EQ(textOf(canvas), expected);
         canvas.rows[0][i] = Canvas::Byte::make(0, 0);
         String moved = "> ";
         EXPECT_TRUE(canvas.moveRowsTo(moved, 1));
-        EXPECT_EQ(shown(moved), "> " + before + behind + "$\n");
+        expected = "> ";
+        expected.append(before).append(behind).append("$\n");
+        EXPECT_EQ(shown(moved), expected);
     }
 }
 

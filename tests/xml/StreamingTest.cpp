@@ -84,15 +84,17 @@ TEST(Streaming, MakesThePageOfTheWholeTreesOfALongText) {
     for (int i = 0; i < 3000; ++i) words += std::to_string(i * i) + (i % 7 == 0 ? "\n" : " ");
     for (int const width : {7, 80, 2147483647}) {
         expectSamePage(words, "", width);
-        expectSamePage("a <b>" + words + "<i>" + words + "</i></b> z", "", width);
+        std::string markup = "a <b>";
+        markup.append(words).append("<i>").append(words).append("</i></b> z");
+        expectSamePage(markup, "", width);
     }
 }
 
 TEST(Streaming, MakesThePageOfTheWholeTreesOfElementsInOneAnother) {
     static constexpr char const* s_tags[] = {"<b>", "<i>", "<em>", "<mark>",
                                              "<i padding-left=\"1\">"};
-    std::mt19937 random(7);
-    for (int document = 0; document < 300; ++document) {
+    for (unsigned document = 0; document < 300; ++document) {
+        std::mt19937 random(document);
         std::string markup;
         std::vector<std::string> ends;
         for (int i = 0; i < 60; ++i) {
