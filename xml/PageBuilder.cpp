@@ -18,17 +18,17 @@ ZRLWPtr<BlockBox> asBlock(ZRLWPtr<Box> const& box) {
 }  // namespace
 
 PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& containing,
-                                  BlockFlow::Boxes& boxes, Canvas& canvas,
+                                  BlockFlow::Taker& taker, Canvas& canvas,
                                   Canvas::Attributes const& attributes)
     : box(std::move(made)),
-      flow(*box, containing, boxes),
+      flow(*box, containing, taker),
       painting(*box, canvas, attributes, BoxPainting::Open) {}
 
 PageBuilder::PageBuilder(DomElement& root, unsigned width, int expectedLength) {
     text.reserve(expectedLength);
     ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(&root));
     box->holdNode();
-    open.emplace_back(box, pageOfWidth(width), onTheirWay, page, Canvas::Attributes());
+    open.emplace_back(box, pageOfWidth(width), *this, page, Canvas::Attributes());
     innermost().paintsOnPage = innermost().painting.paintsDirectly();
 }
 
@@ -87,7 +87,6 @@ void PageBuilder::addWords(std::string_view read) {
     }
     while (!read.empty()) {
         read.remove_prefix(innermost().flow.addWords(read, words));
-        paintDone();
     }
 }
 
@@ -97,7 +96,6 @@ void PageBuilder::addWord(std::string_view word) {
         words.addWord(parent().getOrCreateLineBox()->children, word);
     } else {
         innermost().flow.addWord(word, words);
-        paintDone();
     }
 }
 
@@ -117,17 +115,17 @@ XCode PageBuilder::finish(String& out) {
 }
 
 void PageBuilder::openBlock(ZRLWPtr<Box> const& box) {
-    closeLine();
+    innermost().flow.closeLine();
     OpenBlock& around = innermost();
     around.flow.place(*asBlock(box));
     bool const isOnPage = around.paintsOnPage;
-    open.emplace_back(asBlock(box), around.box->dimensions, onTheirWay, around.painting.canvas(),
+    open.emplace_back(asBlock(box), around.box->dimensions, *this, around.painting.canvas(),
                       around.painting.attributes());
     innermost().paintsOnPage = isOnPage && innermost().painting.paintsDirectly();
 }
 
 void PageBuilder::closeBlock() {
-    closeLine();
+    innermost().flow.closeLine();
     innermost().flow.finish();
     innermost().painting.finish();
     ZRLWPtr<BlockBox> const box = innermost().box;
@@ -142,25 +140,14 @@ void PageBuilder::addSubtree(ZRLWPtr<Box> box) {
     if (box->node->display == DomNode::Inline) {
         innermost().flow.addToLine(std::move(box));
     } else {
-        closeLine();
+        innermost().flow.closeLine();
         Walk::run(innermost().flow.add(box, {}));
     }
-    paintDone();
 }
 
-void PageBuilder::closeLine() {
-    innermost().flow.closeLine();
-    paintDone();
-}
-
-void PageBuilder::paintDone() {
-    OpenBlock& block = innermost();
-    if (onTheirWay.done.count == 0) return;
-    Canvas& canvas = block.painting.canvas();
-    for (unsigned i = 0; i < onTheirWay.done.count; ++i) {
-        onTheirWay.done.data[i]->drawTo(canvas, block.painting.attributes());
-    }
-    onTheirWay.done.clear();
+/// Paints a child of the innermost block.
+void PageBuilder::take(ZRLWPtr<Box> box) {
+    box->drawTo(innermost().painting.canvas(), innermost().painting.attributes());
     releaseRows();
 }
 

@@ -14,7 +14,7 @@ namespace CLI::XML {
 ///
 /// This holds as long as every open element around is a block. What stands in an inline element or
 /// a table is kept until that is closed, since its boxes may be laid out again.
-class PageBuilder final : public DocumentHandler {
+class PageBuilder final : public DocumentHandler, public BlockFlow::Taker {
 public:
     /// About `expectedLength` bytes of text are provided for. The document must have no extreme
     /// edges.
@@ -36,7 +36,7 @@ public:
 private:
     /// A block that is being read, all of whose ancestors are.
     struct OpenBlock {
-        OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& containing, BlockFlow::Boxes& boxes,
+        OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& containing, BlockFlow::Taker& taker,
                   Canvas& canvas, Canvas::Attributes const& attributes);
 
         ZRLWPtr<BlockBox> box;
@@ -52,8 +52,7 @@ private:
     void openBlock(ZRLWPtr<Box> const& box);
     void closeBlock();
     void addSubtree(ZRLWPtr<Box> box);
-    void closeLine();
-    void paintDone();
+    void take(ZRLWPtr<Box> box) override;
     void releaseRows();
     void moveRowsAbove(unsigned row);
 
@@ -61,8 +60,6 @@ private:
     /// Rows of the page that nothing can change any more.
     String text;
     bool isTextComplete = true;
-    /// Of the innermost block: those around it have none on their way.
-    BlockFlow::Boxes onTheirWay;
     std::vector<OpenBlock> open;
     /// In the innermost block, the boxes that are being read from one that is not a block on.
     std::vector<ZRLWPtr<Box>> subtree;

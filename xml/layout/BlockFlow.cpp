@@ -27,9 +27,9 @@ std::size_t lengthWithin(std::string_view words, std::int64_t room) {
 
 }  // namespace
 
-BlockFlow::BlockFlow(BlockBox& laidOut, Dimensions const& containing, Boxes& boxesOnTheirWay)
+BlockFlow::BlockFlow(BlockBox& laidOut, Dimensions const& containing, Taker& boxTaker)
     : block(laidOut),
-      boxes(boxesOnTheirWay),
+      taker(boxTaker),
       available(widthWithin(containing, block.dimensions.edges())),
       stack(block.dimensions) {
     // The children read the width that they are offered from here.
@@ -37,7 +37,7 @@ BlockFlow::BlockFlow(BlockBox& laidOut, Dimensions const& containing, Boxes& box
 }
 
 Walk BlockFlow::add(ZRLWPtr<Box> const& child, LayoutPass pass) {
-    boxes.pending.push_back(child);
+    taker.pending.push_back(child);
     return placePending(pass, 0);
 }
 
@@ -70,21 +70,21 @@ void BlockFlow::takeWords(std::string_view words) {
 }
 
 void BlockFlow::beginLine() {
-    if (!boxes.pending.empty()) return;
-    boxes.pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
+    if (!taker.pending.empty()) return;
+    taker.pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
     breaks = 0;
     findRoom();
 }
 
 void BlockFlow::breakLine() {
-    Box& line = *boxes.pending.front();
+    Box& line = *taker.pending.front();
     line.isSettled = false;
     if (room >= 0 || available == s_largestWidth) return;
     // It is too wide already, so that its layout would only be done again.
     bool const areBoxesSettled = areSettled(line.children);
     ZRLWPtr<Box> rest = line.split(available);
     if (!rest) return;
-    boxes.pending.insert(boxes.pending.begin(), std::move(rest));
+    taker.pending.insert(taker.pending.begin(), std::move(rest));
     ++breaks;
     Walk::run(placePending(passAfterBreak(areBoxesSettled), 1));
     findRoom();
@@ -111,7 +111,7 @@ void BlockFlow::findRoom() {
 }
 
 void BlockFlow::closeLine() {
-    if (!boxes.pending.empty()) Walk::run(placePending({.isMeasured = true}, 0));
+    if (!taker.pending.empty()) Walk::run(placePending({.isMeasured = true}, 0));
 }
 
 LayoutPass BlockFlow::passAfterBreak(bool isLimited) const {
@@ -121,24 +121,25 @@ LayoutPass BlockFlow::passAfterBreak(bool isLimited) const {
 Walk BlockFlow::placePending(LayoutPass pass, std::size_t kept) {
     // Below the largest width only, since a sum that saturates there is never too wide.
     bool staysTooWide = available < s_largestWidth;
-    while (!boxes.pending.empty()) {
-        Box& next = *boxes.pending.back();
+    while (!taker.pending.empty()) {
+        Box& next = *taker.pending.back();
         stack.place(next.dimensions);
         co_await next.layOut(block.dimensions, pass);
         if (!pass.isLimited) staysTooWide = staysTooWide && !next.mayShrink && next.isSettled;
         bool const isTooWide = next.dimensions.marginBox().width > available;
         if (ZRLWPtr<Box> rest = isTooWide ? next.split(available) : nullptr) {
-            if (boxes.pending.size() == 1) ++breaks;
+            if (taker.pending.size() == 1) ++breaks;
             pass = passAfterBreak(staysTooWide);
             // The same box again, now with less content.
-            boxes.pending.insert(boxes.pending.end() - 1, std::move(rest));
+            taker.pending.insert(taker.pending.end() - 1, std::move(rest));
             continue;
         }
-        if (boxes.pending.size() <= kept) co_return;
+        if (taker.pending.size() <= kept) co_return;
         stack.add(next.dimensions);
         areAllSettled = areAllSettled && next.isSettled;
-        boxes.done.add(std::move(boxes.pending.back()));
-        boxes.pending.pop_back();
+        ZRLWPtr<Box> placed = std::move(taker.pending.back());
+        taker.pending.pop_back();
+        taker.take(std::move(placed));
     }
 }
 

@@ -11,23 +11,31 @@
 namespace CLI::XML {
 
 /// The layout of a block, step by step: the children go in one after the other, are laid out one
-/// below the other, and lines that are too wide are broken. What has got its place is handed out
-/// in `Boxes::done`.
+/// below the other, and lines that are too wide are broken. What has got its place goes to a
+/// `Taker`.
 ///
 /// The last line may stay open while boxes still arrive on it: then everything that follows is
 /// laid out only once it is closed.
 class BlockFlow {
 public:
-    /// What is on its way through a flow. Flows of which only one is at work may share it.
-    struct Boxes {
-        /// What has got its place, in the order of the finished block; the caller may take it out.
-        ZRVector<ZRLWPtr<Box>> done;
+    /// Receives each box when it has got its place, in the order of the finished block. Flows of
+    /// which only one is at work may share one.
+    class Taker {
+    public:
+        Taker() = default;
+        Taker(Taker const&) = delete;
+        Taker& operator=(Taker const&) = delete;
+        virtual ~Taker() = default;
+        virtual void take(ZRLWPtr<Box> box) = 0;
+
+    private:
+        friend class BlockFlow;
         /// What is still to be placed, the next one last. The open line is the first.
         std::vector<ZRLWPtr<Box>> pending;
     };
 
     /// Begins the layout of `laidOut`. All three must outlive the flow.
-    BlockFlow(BlockBox& laidOut, Dimensions const& containing, Boxes& boxesOnTheirWay);
+    BlockFlow(BlockBox& laidOut, Dimensions const& containing, Taker& boxTaker);
 
     /// The width that the children are offered, in columns.
     std::int32_t availableWidth() const { return available; }
@@ -58,7 +66,7 @@ public:
 private:
     void beginLine();
     /// Of the open line.
-    Words::Boxes& lineBoxes() const { return boxes.pending.front()->children; }
+    Words::Boxes& lineBoxes() const { return taker.pending.front()->children; }
     void takeWords(std::string_view words);
     void breakLine();
     void measure(Box& box) const;
@@ -67,7 +75,7 @@ private:
     void findRoom();
 
     BlockBox& block;
-    Boxes& boxes;
+    Taker& taker;
     std::int32_t const available;
     DownwardStack stack;
     bool areAllSettled = true;
