@@ -17,7 +17,7 @@ constexpr std::size_t s_cellsInBlock = 16;
 /// A cell as a number.
 inline std::uint32_t bitsOf(Canvas::Byte cell) { return std::bit_cast<std::uint32_t>(cell); }
 
-static_assert(std::bit_cast<std::uint32_t>(Canvas::Byte{0xFF, 0}) == 0xFF,
+static_assert(std::endian::native == std::endian::little,
               "the byte shown is the lowest of a cell's four");
 
 /// Sets a cell for each byte of `shown`, from `cells` on.
@@ -44,7 +44,7 @@ inline bool readBlock(Canvas::Byte const* cells, unsigned attributeIndex, char* 
     std::memcpy(block, cells, sizeof block);
     std::uint32_t const look = bitsOf(Canvas::Byte::make(0, attributeIndex));
     std::uint32_t difference = 0;
-    for (std::size_t i = 0; i < s_cellsInBlock; ++i) difference |= block[i] ^ look;
+    for (std::uint32_t const cell : block) difference |= cell ^ look;
     for (std::size_t i = 0; i < s_cellsInBlock; ++i) shown[i] = static_cast<char>(block[i]);
     unsigned empty = 0;
     for (std::size_t i = 0; i < s_cellsInBlock; ++i) empty |= shown[i] == '\0' ? 1U : 0U;
