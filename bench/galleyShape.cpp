@@ -7,6 +7,7 @@
 #include <fstream>
 #include <functional>
 #include <iostream>
+#include <vector>
 
 #include "bench/Conversion.h"
 #include "bench/allocations.h"
@@ -48,13 +49,26 @@ std::size_t convert(Bench::Source const& source, unsigned width) {
     return sizeOf(out);
 }
 
+std::size_t countBoxes(CLI::XML::Box const& root) {
+    std::size_t count = 0;
+    for (std::vector<CLI::XML::Box const*> open = {&root}; !open.empty();) {
+        CLI::XML::Box const& box = *open.back();
+        open.pop_back();
+        ++count;
+        for (ZRLWPtr<CLI::XML::Box> const& child : box.children) open.push_back(child.object);
+    }
+    return count;
+}
+
+/// What it makes is boxes, besides the page.
 std::size_t makeTrees(Bench::Source const& source, unsigned width) {
     Bench::Conversion conversion;
     conversion.read(source);
     conversion.build();
     conversion.layOut(width);
     conversion.paint();
-    return sizeOf(conversion.dump());
+    std::size_t const boxes = countBoxes(*conversion.box);
+    return boxes * sizeof(CLI::XML::Box) + sizeOf(conversion.dump());
 }
 
 std::size_t dumpTrees(Bench::Conversion const& conversion) {
