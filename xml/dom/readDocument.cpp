@@ -121,33 +121,39 @@ private:
 
     /// Cuts running text, up to its first NUL byte, into words. A word that white space follows
     /// keeps one space of it. References are decoded after cutting, so that a decoded space never
-    /// splits a word.
+    /// splits a word. Words that stand as they are passed on are not copied.
     void addWords(String const& content) {
-        auto const needed = static_cast<std::size_t>(content.length()) + 1;
-        if (words.size() < needed) words.resize(needed);
-        char* end = words.data();
-        for (char const* next = content.c_str();;) {
-            while (bytes.isSpace(*next)) ++next;
-            char const* const start = next;
-            char* const startOfCopy = end;
-            while (bytes.isPlain(*next)) *end++ = *next++;
-            if (*next == '&') {
-                passOn(startOfCopy);
-                next = addDecoded(start);
-                end = words.data();
-            } else if (*next != '\0') {
-                *end++ = ' ';
+        char const* first = skipSpace(content.c_str());
+        char const* next = first;
+        while (*next != '\0') {
+            char const* const word = next;
+            while (bytes.isPlain(*next)) ++next;
+            bool const isFollowedBySpace = *next == ' ';
+            if (isFollowedBySpace) ++next;
+            if (*next == '\0' || (isFollowedBySpace && !bytes.isSpace(*next))) continue;
+            if (isFollowedBySpace) {
+                passOn(first, next);
+            } else if (*next == '&') {
+                passOn(first, word);
+                next = addDecoded(word);
             } else {
-                break;
+                passOn(first, word);
+                spaced.assign(word, next);
+                spaced += ' ';
+                handler.addWords(spaced);
             }
+            first = next = skipSpace(next);
         }
-        passOn(end);
+        passOn(first, next);
     }
 
-    /// Passes on what was copied to `words`, up to `end`.
-    void passOn(char const* end) {
-        auto const length = static_cast<std::size_t>(end - words.data());
-        if (length > 0) handler.addWords({words.data(), length});
+    char const* skipSpace(char const* next) const {
+        while (bytes.isSpace(*next)) ++next;
+        return next;
+    }
+
+    void passOn(char const* first, char const* end) {
+        if (first != end) handler.addWords({first, static_cast<std::size_t>(end - first)});
     }
 
     /// Passes on the word at `start`, which holds an ampersand. Returns where it ends.
@@ -167,8 +173,8 @@ private:
     /// At most one for each name that the language knows.
     std::vector<ZRLWPtr<DomElement>> plainElements;
     TextBytes bytes;
-    /// The words that are collected, and room for more.
-    std::string words;
+    /// A word with a space in place of what follows it.
+    std::string spaced;
     std::vector<ZRLWPtr<DomElement>> open;
 };
 
