@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <charconv>
 #include <iterator>
 
@@ -31,13 +32,25 @@ constexpr FlagEscape s_flagEscapes[] = {
     {Canvas::Attributes::Hidden, "\x1b[8m"},
 };
 
-void appendColor(String& escape, char const* prefix, std::uint8_t color) {
-    char digits[4] = {};
-    char* const end = std::to_chars(std::begin(digits), std::end(digits) - 1, color).ptr;
-    *end = 'm';
-    escape += prefix;
-    escape.concat(digits, static_cast<int>(end + 1 - digits));
-}
+/// Collects escape sequences, as many as one attribute value has.
+class EscapeText {
+public:
+    void add(std::string_view escape) { end = std::copy(escape.begin(), escape.end(), end); }
+    void addColor(std::string_view prefix, std::uint8_t color) {
+        add(prefix);
+        end = std::to_chars(end, std::end(text), color).ptr;
+        add("m");
+    }
+    String toString() const { return String(text, 0, static_cast<int>(end - text)); }
+
+private:
+    /// "ESC[0m", as long as that of a flag, and "ESC[3254m".
+    static constexpr std::size_t s_short = 4;
+    static constexpr std::size_t s_color = 7;
+
+    char text[(1 + std::size(s_flagEscapes)) * s_short + 2 * s_color] = {};
+    char* end = text;
+};
 
 }  // namespace
 
@@ -49,15 +62,15 @@ std::uint8_t Canvas::Attributes::color(String const& name) {
 }
 
 String Canvas::Attributes::generateFormattingFrom(Attributes const& previous) const {
-    String result;
-    if (*this == previous) return result;
-    result += "\x1b[0m";
+    if (*this == previous) return {};
+    EscapeText escapes;
+    escapes.add("\x1b[0m");
     for (FlagEscape const& candidate : s_flagEscapes) {
-        if ((flags & candidate.flag) != 0) result += candidate.escape;
+        if ((flags & candidate.flag) != 0) escapes.add(candidate.escape);
     }
-    if (foreground != NoColor) appendColor(result, "\x1b[3", foreground);
-    if (background != NoColor) appendColor(result, "\x1b[4", background);
-    return result;
+    if (foreground != NoColor) escapes.addColor("\x1b[3", foreground);
+    if (background != NoColor) escapes.addColor("\x1b[4", background);
+    return escapes.toString();
 }
 
 }  // namespace CLI::XML
