@@ -9,10 +9,10 @@ namespace ZR {
 /// reference is released.
 class RefCounted {
 public:
-    /// References held.
-    int refCount = 1;
     /// Guards the releases that ask for it; not owned, may be null.
     ZRLock* lock;
+    /// References held.
+    int refCount = 1;
 
     explicit RefCounted(ZRLock* guard) : lock(guard) {}
     RefCounted(RefCounted const&) = delete;

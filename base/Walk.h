@@ -39,6 +39,7 @@ public:
 
     /// A call that has returned already.
     Walk() = default;
+    bool hasReturned() const { return !call; }
     Walk(Walk&& other) noexcept : call(std::exchange(other.call, nullptr)) {}
     Walk& operator=(Walk&&) = delete;
     ~Walk() {

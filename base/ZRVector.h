@@ -1,6 +1,10 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
 #include <limits>
+#include <memory>
 #include <new>
 #include <utility>
 
@@ -120,8 +124,12 @@ public:
 private:
     /// Makes slot `i` exist.
     void growToHold(unsigned i) {
+        if (i >= capacity) outgrow(i);
+    }
+
+    [[gnu::noinline]] void outgrow(unsigned i) {
         if (i == std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
-        if (i >= capacity) enlarge(i + 1);
+        enlarge(i + 1);
     }
 
     /// Sees to it that the storage holds more than `slots` slots: with one to spare, a tail of
@@ -135,37 +143,69 @@ private:
 
     /// Moves the elements into new storage.
     void moveTo(unsigned slots) {
-        T* const fresh = new T[slots];
-        for (unsigned i = 0; i < count; ++i) fresh[i] = std::move(data[i]);
+        struct Deleter {
+            void operator()(std::byte* storage) const { ::operator delete(storage); }
+        };
+        std::unique_ptr<std::byte, Deleter> storage(
+            static_cast<std::byte*>(::operator new(sizeOf(slots))));
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
+        T* const fresh = reinterpret_cast<T*>(storage.get() + s_front);
+        std::uninitialized_default_construct_n(fresh, slots);
+        storage.release();
+        std::move(data, data + count, fresh);
         freeStorage();
         data = fresh;
         allocated = slots;
-        skipped = 0;
+        setSkipped(0);
     }
 
     /// Takes the storage of `source` with its elements from `i` on. Nothing was held before.
     void takeStorageFrom(unsigned i, ZRVector& source) {
+        unsigned const before = source.skipped();
         unsigned const kept = std::exchange(source.count, 0) - i;
+        std::destroy_n(source.data, i);
         data = std::exchange(source.data, nullptr) + i;
         allocated = std::exchange(source.allocated, 0) - i;
-        skipped = std::exchange(source.skipped, 0) + i;
+        setSkipped(before + i);
         source.capacity = 0;
         count = kept;
         capacity = (kept + 1) / 2 * 2;
     }
 
-    void freeStorage() { delete[](data - skipped); }
+    void freeStorage() {
+        if (data == nullptr) return;
+        unsigned const before = skipped();
+        std::destroy_n(data, allocated);
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
+        ::operator delete(reinterpret_cast<std::byte*>(data - before) - s_front,
+                          sizeOf(before + allocated));
+    }
 
     void exchange(ZRVector& other) noexcept {
         std::swap(data, other.data);
         std::swap(count, other.count);
         std::swap(capacity, other.capacity);
         std::swap(allocated, other.allocated);
-        std::swap(skipped, other.skipped);
     }
 
+    /// Bytes of a storage of that many slots.
+    static std::size_t sizeOf(unsigned slots) { return s_front + std::size_t{slots} * sizeof(T); }
+
+    /// Slots of the storage before `data`, left behind by elements that were moved out: rarely any,
+    /// so that the number stands in the storage, right before `data`. There must be storage.
+    unsigned skipped() const {
+        unsigned result = 0;
+        std::memcpy(&result, bytesBefore(), sizeof result);
+        return result;
+    }
+    void setSkipped(unsigned slots) { std::memcpy(bytesBefore(), &slots, sizeof slots); }
+    void* bytesBefore() const {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
+        return reinterpret_cast<std::byte*>(data) - sizeof(unsigned);
+    }
+
+    /// Bytes before the first slot of a storage.
+    static constexpr std::size_t s_front = std::max(sizeof(unsigned), alignof(T));
     /// Slots of the storage from `data` on.
     unsigned allocated = 0;
-    /// Slots of the storage before `data`, left behind by elements that were moved out.
-    unsigned skipped = 0;
 };

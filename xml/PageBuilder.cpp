@@ -28,17 +28,18 @@ PageBuilder::PageBuilder(DomElement& root, unsigned width, int expectedLength) {
     text.reserve(expectedLength);
     ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(&root));
     box->holdNode();
-    open.emplace_back(box, pageOfWidth(width), *this, page, Canvas::Attributes());
-    innermost().paintsOnPage = innermost().painting.paintsDirectly();
+    innermost =
+        std::make_unique<OpenBlock>(box, pageOfWidth(width), *this, page, Canvas::Attributes());
+    innermost->paintsOnPage = innermost->painting.paintsDirectly();
 }
 
 PageBuilder::~PageBuilder() {
     // From the inside out: a painting ends within the one around it.
-    while (!open.empty()) open.pop_back();
+    while (innermost) innermost = std::move(innermost->around);
 }
 
 /// The box that receives what is read.
-Box& PageBuilder::parent() { return subtree.empty() ? *innermost().box : *subtree.back(); }
+Box& PageBuilder::parent() { return subtree.empty() ? *innermost->box : *subtree.back(); }
 
 void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
     if (!refusal) return;
@@ -86,7 +87,7 @@ void PageBuilder::addWords(std::string_view read) {
         return;
     }
     while (!read.empty()) {
-        read.remove_prefix(innermost().flow.addWords(read, words));
+        read.remove_prefix(innermost->flow.addWords(read, words));
     }
 }
 
@@ -95,13 +96,13 @@ void PageBuilder::addWord(std::string_view word) {
     if (!subtree.empty()) {
         words.addWord(parent().getOrCreateLineBox()->children, word);
     } else {
-        innermost().flow.addWord(word, words);
+        innermost->flow.addWord(word, words);
     }
 }
 
 XCode PageBuilder::finish(String& out) {
     if (!refusal) return refusal;
-    closeBlock();
+    finishBlock();
     moveRowsAbove(std::numeric_limits<unsigned>::max());
     // A text that could not be held as a whole appends nothing.
     if (!isTextComplete) return refusal;
@@ -115,47 +116,63 @@ XCode PageBuilder::finish(String& out) {
 }
 
 void PageBuilder::openBlock(ZRLWPtr<Box> const& box) {
-    innermost().flow.closeLine();
-    OpenBlock& around = innermost();
-    around.flow.place(*asBlock(box));
-    bool const isOnPage = around.paintsOnPage;
-    open.emplace_back(asBlock(box), around.box->dimensions, *this, around.painting.canvas(),
-                      around.painting.attributes());
-    innermost().paintsOnPage = isOnPage && innermost().painting.paintsDirectly();
+    innermost->flow.closeLine();
+    innermost->flow.place(*asBlock(box));
+    auto opened =
+        std::make_unique<OpenBlock>(asBlock(box), innermost->box->dimensions, *this,
+                                    innermost->painting.canvas(), innermost->painting.attributes());
+    opened->paintsOnPage = innermost->paintsOnPage && opened->painting.paintsDirectly();
+    opened->around = std::move(innermost);
+    innermost = std::move(opened);
+}
+
+void PageBuilder::finishBlock() {
+    innermost->flow.closeLine();
+    innermost->flow.finish();
+    innermost->painting.finish();
 }
 
 void PageBuilder::closeBlock() {
-    innermost().flow.closeLine();
-    innermost().flow.finish();
-    innermost().painting.finish();
-    ZRLWPtr<BlockBox> const box = innermost().box;
-    open.pop_back();
-    if (open.empty()) return;
-    innermost().flow.take(*box);
-    releaseRows();
+    finishBlock();
+    ZRLWPtr<BlockBox> const box = innermost->box;
+    innermost = std::move(innermost->around);
+    innermost->flow.take(*box);
+    if (innermost->paintsOnPage) releaseRows(innermost->box->dimensions.content.height);
 }
 
 /// Lays out and paints an inline element or a table, now that it is complete.
 void PageBuilder::addSubtree(ZRLWPtr<Box> box) {
     if (box->node->display == DomNode::Inline) {
-        innermost().flow.addToLine(std::move(box));
+        innermost->flow.addToLine(std::move(box));
     } else {
-        innermost().flow.closeLine();
-        Walk::run(innermost().flow.add(box, {}));
+        innermost->flow.closeLine();
+        Walk::run(innermost->flow.add(box, {}));
     }
 }
 
 /// Paints a child of the innermost block.
 void PageBuilder::take(ZRLWPtr<Box> box) {
-    box->drawTo(innermost().painting.canvas(), innermost().painting.attributes());
-    releaseRows();
+    Canvas& canvas = innermost->painting.canvas();
+    if (box->type == Box::Table) {
+        BoxPainting painting(*box, canvas, innermost->painting.attributes(), BoxPainting::Complete);
+        bool const isOnPage = innermost->paintsOnPage && painting.paintsDirectly();
+        // Row by row, so that of a long table few rows of cells are kept.
+        for (ZRLWPtr<Box> const& row : box->children) {
+            row->drawTo(painting.canvas(), painting.attributes());
+            Rect const& area = row->dimensions.content;
+            if (isOnPage) releaseRows(std::int64_t{area.y} + area.height);
+        }
+        painting.finish();
+    } else {
+        box->drawTo(canvas, innermost->painting.attributes());
+    }
+    if (innermost->paintsOnPage) releaseRows(innermost->box->dimensions.content.height);
 }
 
-/// Without extreme edges nothing is painted above the end of what an open block holds already.
-void PageBuilder::releaseRows() {
-    OpenBlock const& block = innermost();
-    if (!block.paintsOnPage) return;
-    std::int64_t const row = std::int64_t{page.originRow()} + block.box->dimensions.content.height;
+/// The page's origin is that of a box that stacks its children, and `height` rows below it have
+/// been painted: without extreme edges nothing more is painted there.
+void PageBuilder::releaseRows(std::int64_t height) {
+    std::int64_t const row = page.originRow() + height;
     if (row <= std::numeric_limits<std::int32_t>::max()) {
         moveRowsAbove(static_cast<unsigned>(row));
     }

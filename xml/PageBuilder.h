@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "xml/dom/readDocument.h"
@@ -39,6 +40,8 @@ private:
         OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& containing, BlockFlow::Taker& taker,
                   Canvas& canvas, Canvas::Attributes const& attributes);
 
+        /// The block around, null for the root.
+        std::unique_ptr<OpenBlock> around;
         ZRLWPtr<BlockBox> box;
         BlockFlow flow;
         BoxPainting painting;
@@ -46,21 +49,21 @@ private:
         bool paintsOnPage = false;
     };
 
-    OpenBlock& innermost() { return open.back(); }
     Box& parent();
     bool takesText();
     void openBlock(ZRLWPtr<Box> const& box);
     void closeBlock();
+    void finishBlock();
     void addSubtree(ZRLWPtr<Box> box);
     void take(ZRLWPtr<Box> box) override;
-    void releaseRows();
+    void releaseRows(std::int64_t height);
     void moveRowsAbove(unsigned row);
 
     Canvas page;
     /// Rows of the page that nothing can change any more.
     String text;
     bool isTextComplete = true;
-    std::vector<OpenBlock> open;
+    std::unique_ptr<OpenBlock> innermost;
     /// In the innermost block, the boxes that are being read from one that is not a block on.
     std::vector<ZRLWPtr<Box>> subtree;
     /// Open elements from the outermost one on that is not displayed.

@@ -20,8 +20,6 @@ public:
     ZRVector<ZRLWPtr<DomNode>> children;
     /// The one rule that applies, or null.
     ZRLWPtr<StyleNode> styleNode;
-    /// Used while a tree is released.
-    DomElement* nextReleased = nullptr;
 
     DomElement(String const& tag, Display elementDisplay)
         : DomNode(Element, elementDisplay), name(tag) {}

@@ -28,12 +28,9 @@ std::size_t lengthWithin(std::string_view words, std::int64_t room) {
 }  // namespace
 
 BlockFlow::BlockFlow(BlockBox& laidOut, Dimensions const& containing, Taker& boxTaker)
-    : block(laidOut),
-      taker(boxTaker),
-      available(widthWithin(containing, block.dimensions.edges())),
-      stack(block.dimensions) {
-    // The children read the width that they are offered from here.
-    block.dimensions.content.width = available;
+    : block(laidOut), taker(boxTaker), stack(block.dimensions) {
+    block.dimensions.content.width = widthWithin(containing, block.dimensions.edges());
+    block.isSettled = true;
 }
 
 Walk BlockFlow::add(ZRLWPtr<Box> const& child, LayoutPass pass) {
@@ -44,14 +41,14 @@ Walk BlockFlow::add(ZRLWPtr<Box> const& child, LayoutPass pass) {
 void BlockFlow::addToLine(ZRLWPtr<Box> box) {
     beginLine();
     measure(*box);
-    room -= box->dimensions.content.width;
+    taker.room -= box->dimensions.content.width;
     lineBoxes().add(std::move(box));
     breakLine();
 }
 
 std::size_t BlockFlow::addWords(std::string_view words, Words& source) {
     beginLine();
-    std::size_t const fitting = lengthWithin(words, room);
+    std::size_t const fitting = lengthWithin(words, taker.room);
     std::size_t const length = fitting + Words::lengthOfWord(words, fitting);
     source.addWords(lineBoxes(), words.substr(0, length));
     takeWords(words.substr(0, length));
@@ -65,27 +62,27 @@ void BlockFlow::addWord(std::string_view word, Words& source) {
 }
 
 void BlockFlow::takeWords(std::string_view words) {
-    room -= static_cast<std::int64_t>(words.length());
+    taker.room -= static_cast<std::int64_t>(words.length());
     breakLine();
 }
 
 void BlockFlow::beginLine() {
     if (!taker.pending.empty()) return;
     taker.pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
-    breaks = 0;
+    taker.breaks = 0;
     findRoom();
 }
 
 void BlockFlow::breakLine() {
     Box& line = *taker.pending.front();
     line.isSettled = false;
-    if (room >= 0 || available == s_largestWidth) return;
+    if (taker.room >= 0 || available() == s_largestWidth) return;
     // It is too wide already, so that its layout would only be done again.
     bool const areBoxesSettled = areSettled(line.children);
-    ZRLWPtr<Box> rest = line.split(available);
+    ZRLWPtr<Box> rest = line.split(available());
     if (!rest) return;
     taker.pending.insert(taker.pending.begin(), std::move(rest));
-    ++breaks;
+    ++taker.breaks;
     Walk::run(placePending(passAfterBreak(areBoxesSettled), 1));
     findRoom();
 }
@@ -98,15 +95,15 @@ void BlockFlow::measure(Box& box) const {
         return;
     }
     Walk::run(box.layOut(Dimensions(), {}));
-    for (unsigned i = 0; i < breaks && !box.isSettled; ++i) {
+    for (unsigned i = 0; i < taker.breaks && !box.isSettled; ++i) {
         Walk::run(box.layOut(Dimensions(), {.again = true}));
     }
 }
 
 void BlockFlow::findRoom() {
-    room = available;
+    taker.room = available();
     for (ZRLWPtr<Box> const& child : lineBoxes()) {
-        room -= child->dimensions.content.width;
+        taker.room -= child->dimensions.content.width;
     }
 }
 
@@ -115,37 +112,57 @@ void BlockFlow::closeLine() {
 }
 
 LayoutPass BlockFlow::passAfterBreak(bool isLimited) const {
-    return {.again = true, .isLimited = isLimited, .room = available};
+    return {.again = true, .isLimited = isLimited, .room = available()};
 }
 
 Walk BlockFlow::placePending(LayoutPass pass, std::size_t kept) {
+    if (taker.pending.empty()) return {};
     // Below the largest width only, since a sum that saturates there is never too wide.
-    bool staysTooWide = available < s_largestWidth;
-    while (!taker.pending.empty()) {
-        Box& next = *taker.pending.back();
-        stack.place(next.dimensions);
-        co_await next.layOut(block.dimensions, pass);
-        if (!pass.isLimited) staysTooWide = staysTooWide && !next.mayShrink && next.isSettled;
-        bool const isTooWide = next.dimensions.marginBox().width > available;
-        if (ZRLWPtr<Box> rest = isTooWide ? next.split(available) : nullptr) {
-            if (taker.pending.size() == 1) ++breaks;
-            pass = passAfterBreak(staysTooWide);
-            // The same box again, now with less content.
-            taker.pending.insert(taker.pending.end() - 1, std::move(rest));
-            continue;
-        }
-        if (taker.pending.size() <= kept) co_return;
-        stack.add(next.dimensions);
-        areAllSettled = areAllSettled && next.isSettled;
-        ZRLWPtr<Box> placed = std::move(taker.pending.back());
-        taker.pending.pop_back();
-        taker.take(std::move(placed));
+    Placing placing = {pass, kept, available() < s_largestWidth};
+    do {
+        Walk layoutOfNext = layOutNext(placing.pass);
+        if (!layoutOfNext.hasReturned()) return placeRemaining(placing, std::move(layoutOfNext));
+    } while (takeNext(placing));
+    return {};
+}
+
+/// Goes on where the layout of the next box has calls of its own.
+Walk BlockFlow::placeRemaining(Placing placing, Walk layoutOfNext) {
+    co_await layoutOfNext;
+    while (takeNext(placing)) co_await layOutNext(placing.pass);
+}
+
+Walk BlockFlow::layOutNext(LayoutPass const& pass) const {
+    Box& next = *taker.pending.back();
+    stack.place(next.dimensions);
+    return next.layOut(block.dimensions, pass);
+}
+
+/// Gives the next box its place, or breaks it. Returns whether a box is to be laid out after that.
+bool BlockFlow::takeNext(Placing& placing) {
+    Box& next = *taker.pending.back();
+    if (!placing.pass.isLimited) {
+        placing.staysTooWide = placing.staysTooWide && !next.mayShrink && next.isSettled;
     }
+    bool const isTooWide = next.dimensions.marginBox().width > available();
+    if (ZRLWPtr<Box> rest = isTooWide ? next.split(available()) : nullptr) {
+        if (taker.pending.size() == 1) ++taker.breaks;
+        placing.pass = passAfterBreak(placing.staysTooWide);
+        // The same box again, now with less content.
+        taker.pending.insert(taker.pending.end() - 1, std::move(rest));
+        return true;
+    }
+    if (taker.pending.size() <= placing.kept) return false;
+    stack.add(next.dimensions);
+    block.isSettled = block.isSettled && next.isSettled;
+    ZRLWPtr<Box> placed = std::move(taker.pending.back());
+    taker.pending.pop_back();
+    taker.take(std::move(placed));
+    return !taker.pending.empty();
 }
 
 void BlockFlow::finish() {
     stack.finish();
-    block.isSettled = areAllSettled;
     block.mayShrink = false;
     block.holdsBlock = true;
 }

@@ -32,13 +32,14 @@ public:
         friend class BlockFlow;
         /// What is still to be placed, the next one last. The open line is the first.
         std::vector<ZRLWPtr<Box>> pending;
+        /// How often the open line was broken.
+        unsigned breaks = 0;
+        /// Columns that the contents on the open line have left.
+        std::int64_t room = 0;
     };
 
     /// Begins the layout of `laidOut`. All three must outlive the flow.
     BlockFlow(BlockBox& laidOut, Dimensions const& containing, Taker& boxTaker);
-
-    /// The width that the children are offered, in columns.
-    std::int32_t availableWidth() const { return available; }
 
     /// Lays out `child` and whatever is broken off it.
     Walk add(ZRLWPtr<Box> const& child, LayoutPass pass);
@@ -64,6 +65,17 @@ public:
     void finish();
 
 private:
+    /// What `placePending` knows from box to box.
+    struct Placing {
+        LayoutPass pass;
+        /// Boxes that stay pending.
+        std::size_t kept;
+        /// The box that is next has been too wide, however often it was laid out.
+        bool staysTooWide;
+    };
+
+    /// The width that the children are offered, in columns: what they read from the block.
+    std::int32_t available() const { return block.dimensions.content.width; }
     void beginLine();
     /// Of the open line.
     Words::Boxes& lineBoxes() const { return taker.pending.front()->children; }
@@ -72,17 +84,14 @@ private:
     void measure(Box& box) const;
     LayoutPass passAfterBreak(bool isLimited) const;
     Walk placePending(LayoutPass pass, std::size_t kept);
+    Walk placeRemaining(Placing placing, Walk layoutOfNext);
+    Walk layOutNext(LayoutPass const& pass) const;
+    bool takeNext(Placing& placing);
     void findRoom();
 
     BlockBox& block;
     Taker& taker;
-    std::int32_t const available;
     DownwardStack stack;
-    bool areAllSettled = true;
-    /// How often the open line was broken.
-    unsigned breaks = 0;
-    /// Columns that the contents on the open line have left.
-    std::int64_t room = 0;
 };
 
 }  // namespace CLI::XML

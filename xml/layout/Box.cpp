@@ -10,7 +10,7 @@
 
 namespace CLI::XML {
 
-Box::Box(DomNode* rendered, Type boxType) : ZR::RefCounted(nullptr), node(rendered), type(boxType) {
+Box::Box(DomNode* rendered, Type boxType) : ZR::RefCounted(nullptr), type(boxType), node(rendered) {
     initEdges();
 }
 

@@ -37,16 +37,35 @@ struct LayoutPass {
 /// of a class of the caller's own are called as any virtual operation is.
 class Box : public ZR::RefCounted {
 public:
-    enum Type : std::int32_t { Block, Line, Inline, Table, Row, Cell };
+    enum Type : std::uint8_t { Block, Line, Inline, Table, Row, Cell };
 
+    // What is small comes first, behind the reference count: a box is two cache lines large.
+    Type type;
+    /// Known from the last layout: another one with the same `containing` would change nothing.
+    /// Only read by a pass that is laid out `again`, since the tree may change between operations.
+    bool isSettled : 1 = false;
+    /// Known from the last layout: a box on this line, or in this inline element, takes up less
+    /// room than its content, so that a line that is too wide need not stay so.
+    bool mayShrink : 1 = false;
+    /// Known from the last layout: this is a block, or an inline box with one somewhere in it.
+    bool holdsBlock : 1 = false;
+    /// Stands for a run of words, as many bytes of the text of `node` as the content is wide: a
+    /// line may be broken behind every space in it, as it may between two boxes.
+    bool isRun : 1 = false;
+
+private:
+    bool holdsNode : 1 = false;
+
+public:
     /// The node that the box renders; null for a line box only.
     DomNode* node;
-    Type type;
     /// Padding, border and margin are set from birth and never change; layout sets the content
     /// rectangle.
     Dimensions dimensions;
     /// In document order.
     ZRVector<ZRLWPtr<Box>> children;
+    /// Where a run begins in the text of `node`, in bytes.
+    std::int32_t runBegin = 0;
 
     Box(DomNode* rendered, Type boxType);
     /// A box for the same node, with the same edges; geometry and children are not copied.
@@ -105,25 +124,6 @@ public:
     bool isLaidOutByItsOwn(Dimensions const& containing, LayoutPass& pass);
     /// A layout as a call of the walk that `layout` runs.
     virtual Walk layOut(Dimensions const& containing, LayoutPass pass) = 0;
-
-    /// Known from the last layout: another one with the same `containing` would change nothing.
-    /// Only read by a pass that is laid out `again`, since the tree may change between operations.
-    bool isSettled : 1 = false;
-    /// Known from the last layout: a box on this line, or in this inline element, takes up less
-    /// room than its content, so that a line that is too wide need not stay so.
-    bool mayShrink : 1 = false;
-    /// Known from the last layout: this is a block, or an inline box with one somewhere in it.
-    bool holdsBlock : 1 = false;
-    /// Stands for a run of words, as many bytes of the text of `node` as the content is wide: a
-    /// line may be broken behind every space in it, as it may between two boxes.
-    bool isRun : 1 = false;
-    /// Where the run begins in that text, in bytes.
-    std::int32_t runBegin = 0;
-    /// Used while a tree is released.
-    Box* nextReleased = nullptr;
-
-private:
-    bool holdsNode = false;
 };
 
 }  // namespace CLI::XML

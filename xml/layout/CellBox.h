@@ -10,10 +10,10 @@ public:
     /// The width of a column record that constrains nothing.
     static constexpr std::int32_t s_unconstrainedWidth = 0x7FFFFFFF;
 
-    /// What the cell's column imposes on it. Set by table layout only.
-    Dimensions columnDimensions;
     /// The width of the content itself at the last layout.
     std::int32_t naturalWidth = 0;
+    /// What the cell's column imposes on it. Set by table layout only.
+    Dimensions columnDimensions;
 
     explicit CellBox(DomNode* rendered) : InlineBox(rendered, Cell) {}
     CellBox(CellBox const& other) : InlineBox(other) {}
