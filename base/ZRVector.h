@@ -122,6 +122,12 @@ public:
     }
 
 private:
+    using Allocator = std::allocator<std::byte>;
+    struct Deallocator {
+        std::size_t size;
+        void operator()(std::byte* storage) const { Allocator().deallocate(storage, size); }
+    };
+
     /// Makes slot `i` exist.
     void growToHold(unsigned i) {
         if (i >= capacity) outgrow(i);
@@ -143,15 +149,12 @@ private:
 
     /// Moves the elements into new storage.
     void moveTo(unsigned slots) {
-        struct Deleter {
-            void operator()(std::byte* storage) const { ::operator delete(storage); }
-        };
-        std::unique_ptr<std::byte, Deleter> storage(
-            static_cast<std::byte*>(::operator new(sizeOf(slots))));
+        std::unique_ptr<std::byte, Deallocator> storage(Allocator().allocate(sizeOf(slots)),
+                                                        {sizeOf(slots)});
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
         T* const fresh = reinterpret_cast<T*>(storage.get() + s_front);
         std::uninitialized_default_construct_n(fresh, slots);
-        storage.release();
+        static_cast<void>(storage.release());
         std::move(data, data + count, fresh);
         freeStorage();
         data = fresh;
@@ -177,8 +180,8 @@ private:
         unsigned const before = skipped();
         std::destroy_n(data, allocated);
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
-        ::operator delete(reinterpret_cast<std::byte*>(data - before) - s_front,
-                          sizeOf(before + allocated));
+        auto* const storage = reinterpret_cast<std::byte*>(data - before) - s_front;
+        Allocator().deallocate(storage, sizeOf(before + allocated));
     }
 
     void exchange(ZRVector& other) noexcept {

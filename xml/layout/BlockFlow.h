@@ -69,9 +69,9 @@ private:
     struct Placing {
         LayoutPass pass;
         /// Boxes that stay pending.
-        std::size_t kept;
+        std::size_t kept = 0;
         /// The box that is next has been too wide, however often it was laid out.
-        bool staysTooWide;
+        bool staysTooWide = false;
     };
 
     /// The width that the children are offered, in columns: what they read from the block.
