@@ -24,7 +24,8 @@ PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& cont
       flow(*box, containing, taker),
       painting(*box, canvas, attributes, BoxPainting::Open) {}
 
-PageBuilder::PageBuilder(DomElement& root, unsigned width, int expectedLength) {
+PageBuilder::PageBuilder(DomElement& root, unsigned width, int expectedLength, CellBudget& budget)
+    : page(&budget) {
     text.reserve(expectedLength);
     ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(&root));
     box->holdNode();
@@ -104,14 +105,7 @@ XCode PageBuilder::finish(String& out) {
     if (!refusal) return refusal;
     finishBlock();
     moveRowsAbove(std::numeric_limits<unsigned>::max());
-    // A text that could not be held as a whole appends nothing.
-    if (!isTextComplete) return refusal;
-    if (out.length() > 0) {
-        out += text;
-    } else {
-        text.shrinkToFit();
-        out = std::move(text);
-    }
+    if (isTextComplete) out = std::move(text);
     return refusal;
 }
 

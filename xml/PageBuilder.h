@@ -18,8 +18,8 @@ namespace CLI::XML {
 class PageBuilder final : public DocumentHandler, public BlockFlow::Taker {
 public:
     /// About `expectedLength` bytes of text are provided for. The document must have no extreme
-    /// edges.
-    PageBuilder(DomElement& root, unsigned width, int expectedLength);
+    /// edges. The budget outlives the builder.
+    PageBuilder(DomElement& root, unsigned width, int expectedLength, CellBudget& budget);
     PageBuilder(PageBuilder const&) = delete;
     PageBuilder& operator=(PageBuilder const&) = delete;
     ~PageBuilder() override;
@@ -30,8 +30,9 @@ public:
     void addWords(std::string_view read) override;
     void addWord(std::string_view word) override;
 
-    /// To be called at the end of the document: finishes the page and appends it to `out`; or
-    /// returns why a child was refused by its parent, the first that was, with `out` unchanged.
+    /// To be called at the end of the document: finishes the page and returns its text in `out`,
+    /// which is empty where it could not be held as a whole; or says why a child was refused by its
+    /// parent, the first that was.
     XCode finish(String& out);
 
 private:

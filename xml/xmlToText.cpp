@@ -1,3 +1,6 @@
+#include <limits>
+#include <utility>
+
 #include "xml/PageBuilder.h"
 #include "xml/dom/buildDomTree.h"
 #include "xml/extremeEdges.h"
@@ -16,18 +19,20 @@ XCode checkRoot(DomNode const* root) {
 }
 
 /// Builds, lays out and paints while reading.
-XCode convertStream(String& out, String const& xml, StyleList const& styles, unsigned width) {
+XCode convertStream(String& text, String const& xml, StyleList const& styles, unsigned width,
+                    CellBudget& budget) {
     ZRLWPtr<DomElement> const root = createRootElement();
     XCode result = checkRoot(root.object);
     if (!result) return result;
-    PageBuilder builder(*root, width, xml.length());
+    PageBuilder builder(*root, width, xml.length(), budget);
     PullParser parser = PullParser::withoutCopy(xml);
     result = readDocument(builder, true, parser, styles);
-    return result ? builder.finish(out) : result;
+    return result ? builder.finish(text) : result;
 }
 
 /// One stage after the other.
-XCode convertWhole(String& out, String const& xml, StyleList const& styles, unsigned width) {
+XCode convertWhole(String& text, String const& xml, StyleList const& styles, unsigned width,
+                   CellBudget& budget) {
     ZRLWPtr<DomElement> root;
     XCode result;
     {
@@ -40,9 +45,9 @@ XCode convertWhole(String& out, String const& xml, StyleList const& styles, unsi
     result = rootBox->createChildren();
     if (!result) return result;
     rootBox->layout(pageOfWidth(width));
-    Canvas page;
+    Canvas page(&budget);
     rootBox->drawTo(page, Canvas::Attributes());
-    out += page.dump("\n");
+    if (!page.moveRowsTo(text, std::numeric_limits<unsigned>::max())) text = String();
     return result;
 }
 
@@ -52,7 +57,21 @@ XCode xmlToText(String& out, String const& xml, ZRList<ZRLWPtr<StyleNode>> const
                 unsigned int width) {
     // What is painted early has to be final, and is painted although the document may fail later.
     bool const isExtreme = mayHaveExtremeEdges(xml, styles);
-    return (isExtreme ? convertWhole : convertStream)(out, xml, styles, width);
+    CellBudget budget(CellBudget::ofDocument(xml.length()));
+    String text;
+    XCode result = (isExtreme ? convertWhole : convertStream)(text, xml, styles, width, budget);
+    if (!result) return result;
+    // Last of all failures, wherever in the document.
+    if (budget.isExceeded()) {
+        return testExpression(false).setStringF("Page too large: more than %u cells", budget.limit);
+    }
+    if (out.length() > 0) {
+        out += text;
+    } else {
+        text.shrinkToFit();
+        out = std::move(text);
+    }
+    return result;
 }
 
 }  // namespace CLI::XML

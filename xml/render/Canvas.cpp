@@ -13,9 +13,11 @@ namespace {
 
 constexpr std::int64_t s_largestOrigin = std::numeric_limits<std::int32_t>::max();
 
+}  // namespace
+
 /// Makes the row at least `width` cells long; the cells from its former end up to `filled` become
 /// fillers, those behind them are for the caller to set.
-void lengthen(ZRVector<Canvas::Byte>& row, std::uint64_t width, unsigned filled) {
+void Canvas::lengthen(ZRVector<Byte>& row, std::uint64_t width, unsigned filled) {
     if (width > std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
     unsigned const formerWidth = row.count;
     auto const end = static_cast<unsigned>(width);
@@ -23,20 +25,65 @@ void lengthen(ZRVector<Canvas::Byte>& row, std::uint64_t width, unsigned filled)
     // As many slots as cells added one by one would take.
     row.enlarge(end - 1);
     row.count = end;
-    for (unsigned i = formerWidth; i < std::min(filled, end); ++i) {
-        row.data[i] = Canvas::Byte::make(' ', 0);
-    }
+    unsigned const filledEnd = std::min(filled, end);
+    if (filledEnd <= formerWidth) return;
+    std::fill(row.data + formerWidth, row.data + filledEnd, Byte::make(' ', 0));
+    cellsMade += filledEnd - formerWidth;
 }
-
-}  // namespace
 
 void Canvas::bringIntoUse(unsigned row) {
     unsigned const formerCount = rows.count;
     rows[row];
+    cellsMade += rows.count - formerCount;
     for (unsigned i = formerCount; i <= row && !spareRows.empty(); ++i) {
         rows.data[i] = std::move(spareRows.back());
         spareRows.pop_back();
     }
+}
+
+/// Calls `visit` with each frame that begins to use rows where row `y` comes into use, and with the
+/// first of these and the one behind the last: a frame's origin is below that of the one around it,
+/// which sees to the rows above.
+template <class Visit>
+void Canvas::visitUntouched(std::uint64_t y, Visit const& visit) {
+    std::uint64_t end = y + 1;
+    for (std::size_t depth = frames.size(); depth-- > 0;) {
+        Frame& frame = frames[depth];
+        bool const wasTouched = frame.end > frame.top;
+        visit(frame, std::max(frame.end, movedRows), end);
+        if (wasTouched) break;
+        end = frame.top;
+    }
+}
+
+/// Whether the budget has the cells of a text of that length from a column of row `y` on, of the
+/// fillers before it, and of what comes into use with the row.
+bool Canvas::mayDrawAt(std::uint64_t y, unsigned column, std::size_t length) {
+    // Not more than all rows above and the fillers in all of them.
+    std::uint64_t const most =
+        (y + 1 - std::min(y, std::uint64_t{movedRows})) * (std::uint64_t{column} + 1) + length;
+    return most <= budget->remaining() ||
+           budget->suffices(costOfRow(y) + costInRow(y, column, length));
+}
+
+std::uint64_t Canvas::costInRow(std::uint64_t y, unsigned column, std::size_t length) const {
+    if (length == 0) return 0;
+    bool const exists = y >= movedRows && y - movedRows < rows.count;
+    unsigned const width = exists ? rows.data[y - movedRows].count : 0;
+    return column - std::min(column, std::max(width, originColumn())) + length;
+}
+
+std::uint64_t Canvas::costOfRow(std::uint64_t y) {
+    if (isTouched(y)) return 0;
+    std::uint64_t const existing = std::uint64_t{movedRows} + rows.count;
+    std::uint64_t cost = y < existing ? 0 : y + 1 - existing;
+    visitUntouched(y, [&](Frame const& frame, std::uint64_t first, std::uint64_t end) {
+        for (; first < std::min(end, existing); ++first) {
+            cost += frame.left - std::min(frame.left, rows.data[first - movedRows].count);
+        }
+        if (first < end) cost += (end - first) * frame.left;
+    });
+    return cost;
 }
 
 ZRVector<Canvas::Byte>& Canvas::touchNewRow(std::uint64_t y) {
@@ -44,19 +91,20 @@ ZRVector<Canvas::Byte>& Canvas::touchNewRow(std::uint64_t y) {
         throw std::bad_array_new_length();
     auto const row = static_cast<unsigned>(y);
     if (row - movedRows >= rows.count) bringIntoUse(row - movedRows);
-    unsigned end = row + 1;
-    for (std::size_t depth = frames.size(); depth-- > 0;) {
-        Frame& frame = frames[depth];
-        bool const wasTouched = frame.end > frame.top;
-        for (unsigned i = std::max(frame.end, movedRows); i < end; ++i) {
+    visitUntouched(y, [this](Frame& frame, std::uint64_t first, std::uint64_t end) {
+        for (std::uint64_t i = first; i < end; ++i) {
             lengthen(rows.data[i - movedRows], frame.left, frame.left);
         }
-        frame.end = std::max(frame.end, end);
-        // The frames around this one have seen to the rows above it.
-        if (wasTouched) break;
-        end = frame.top;
-    }
+        frame.end = std::max(frame.end, static_cast<unsigned>(end));
+    });
     return rows.data[row - movedRows];
+}
+
+bool Canvas::mayDraw(std::int64_t cells, std::int64_t times) const {
+    if (budget == nullptr || cells <= 0 || times <= 0) return true;
+    bool const isBeyondAll = cells > std::numeric_limits<std::int64_t>::max() / times;
+    return budget->suffices(isBeyondAll ? std::numeric_limits<std::uint64_t>::max()
+                                        : static_cast<std::uint64_t>(cells * times));
 }
 
 bool Canvas::enter(int x, int y) {
@@ -119,15 +167,20 @@ bool Canvas::drawClipped(std::string_view text, int x, int y, Attributes const& 
     std::size_t const clipped = x < 0 ? static_cast<std::size_t>(-std::int64_t{x}) : 0;
     bool const allClipped = y < 0 || (clipped > 0 && clipped >= shown.length());
     if (text.empty() || allClipped) return false;
-    unsigned const index = getOrStoreAttribute(attributes);
-    ZRVector<Byte>& row = touchRow(std::uint64_t{originRow()} + static_cast<unsigned>(y));
     // A text that begins with a NUL creates the row and writes nothing.
-    if (shown.empty()) return true;
-    shown.remove_prefix(clipped);
+    if (!shown.empty()) shown.remove_prefix(clipped);
     unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
-    std::size_t const end = column + shown.length();
-    if (end > row.count) lengthen(row, end, column);
-    setCells(row.data + column, shown, index);
+    std::uint64_t const rowNumber = std::uint64_t{originRow()} + static_cast<unsigned>(y);
+    if (budget != nullptr && !mayDrawAt(rowNumber, column, shown.length())) return false;
+    std::uint64_t const formerlyMade = cellsMade;
+    unsigned const index = getOrStoreAttribute(attributes);
+    ZRVector<Byte>& row = touchRow(rowNumber);
+    if (!shown.empty()) {
+        std::size_t const end = column + shown.length();
+        if (end > row.count) lengthen(row, end, column);
+        setCells(row.data + column, shown, index);
+    }
+    if (budget != nullptr) budget->take(cellsMade - formerlyMade + shown.length());
     return true;
 }
 
@@ -165,13 +218,20 @@ void Canvas::writeRow(ZRVector<Byte> const& row, Sink const& sink) const {
         if (filled > 0) sink(std::string_view(piece, filled));
         filled = 0;
     };
+    auto const writeEscapes = [&](std::string_view sequences) {
+        if (budget != nullptr) {
+            if (!budget->suffices(sequences.length())) return;
+            budget->take(sequences.length());
+        }
+        sink(sequences);
+    };
     unsigned current = 0;
     for (Byte const* cell = row.begin(); cell != row.end();) {
         if (cell->attributeIndex != current) {
             flush();
             Attributes const& previous = attributeTable[current];
             current = cell->attributeIndex;
-            sink(attributeTable[current].generateFormattingFrom(previous).view());
+            writeEscapes(attributeTable[current].generateFormattingFrom(previous).view());
         }
         if (sizeof piece - filled < s_cellsInBlock) flush();
         auto const left = std::min(static_cast<std::size_t>(row.end() - cell), s_cellsInBlock);
@@ -186,7 +246,7 @@ void Canvas::writeRow(ZRVector<Byte> const& row, Sink const& sink) const {
         }
     }
     flush();
-    if (current != 0) sink("\x1b[0m");
+    if (current != 0) writeEscapes("\x1b[0m");
 }
 
 String Canvas::dump(String const& lineSeparator) const {

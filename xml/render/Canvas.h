@@ -6,6 +6,7 @@
 
 #include "base/String.h"
 #include "base/ZRVector.h"
+#include "xml/render/CellBudget.h"
 
 namespace CLI::XML {
 
@@ -66,7 +67,10 @@ public:
     /// Top row first.
     ZRVector<ZRVector<Byte>> rows;
 
-    Canvas() { attributeTable.add(Attributes()); }
+    Canvas() : Canvas(nullptr) {}
+    /// A canvas of a page: a text whose cells the budget does not have is not drawn. The budget
+    /// outlives the canvas; null for none.
+    explicit Canvas(CellBudget* ofPage) : budget(ofPage) { attributeTable.add(Attributes()); }
     Canvas(Canvas const&) = delete;
     Canvas& operator=(Canvas const&) = delete;
     ~Canvas() = default;
@@ -78,7 +82,7 @@ public:
 
     /// Writes the bytes of `text`, up to a NUL, from (x, y) rightwards over whatever is there.
     /// Any other value above 2147483647 is a negative position. Returns false, with nothing
-    /// changed, when there is no text or all of it is clipped.
+    /// changed, when there is no text, all of it is clipped or the budget is exceeded.
     bool draw(String text, unsigned x, unsigned y, Attributes const& attributes);
     /// Composes every cell of `source`, another canvas, onto this one, its top left corner at
     /// (x, y). Source cells replace target cells, spaces too. Returns whether `source` has a cell
@@ -88,6 +92,11 @@ public:
     /// `draw` at a position that may be negative.
     bool drawClipped(std::string_view text, int x, int y, Attributes const& attributes);
     bool drawClipped(Canvas const& source, int x, int y);
+
+    /// To be asked before `times` texts of `cells` cells are made or drawn: false where the budget
+    /// does not have them, and nothing of the page counts any more.
+    bool mayDraw(std::int64_t cells, std::int64_t times) const;
+    CellBudget* cellBudget() const { return budget; }
 
     /// Moves the origin to (x, y), so that what is drawn until `leave` is drawn as if onto a canvas
     /// of its own that is then composed onto this one there. Returns false, with nothing changed,
@@ -120,14 +129,25 @@ private:
     unsigned originColumn() const { return frames.empty() ? 0 : frames.back().left; }
     /// Row `y`, which exists from now on, with all rows above it as long as the origins ask for.
     ZRVector<Byte>& touchRow(std::uint64_t y) {
-        bool const isTouched = !frames.empty() && y >= movedRows && y < frames.back().end;
-        return isTouched ? rows.data[y - movedRows] : touchNewRow(y);
+        return isTouched(y) ? rows.data[y - movedRows] : touchNewRow(y);
     }
     ZRVector<Byte>& touchNewRow(std::uint64_t y);
+    template <class Visit>
+    void visitUntouched(std::uint64_t y, Visit const& visit);
+    bool mayDrawAt(std::uint64_t y, unsigned column, std::size_t length);
+    std::uint64_t costOfRow(std::uint64_t y);
+    std::uint64_t costInRow(std::uint64_t y, unsigned column, std::size_t length) const;
+    bool isTouched(std::uint64_t y) const {
+        return !frames.empty() && y >= movedRows && y < frames.back().end;
+    }
     void bringIntoUse(unsigned row);
+    void lengthen(ZRVector<Byte>& row, std::uint64_t width, unsigned filled);
     template <class Sink>
     void writeRow(ZRVector<Byte> const& row, Sink const& sink) const;
 
+    CellBudget* budget;
+    /// Rows, and cells that only fill the way to others, so far.
+    std::uint64_t cellsMade = 0;
     /// What `getOrStoreAttribute` returned last.
     unsigned lastIndex = 0;
     /// Innermost last.

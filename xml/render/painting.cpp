@@ -58,31 +58,37 @@ void applyFontStyle(String const& value, Attributes& attributes) {
     attributes.flags = static_cast<std::uint8_t>(kept | style.added);
 }
 
+/// Columns from the beginning of `text`, which ends at a NUL, or from the left edge of the canvas.
+std::int64_t shownLength(String const& text, int x) {
+    int const end = text.indexOf('\0');
+    return std::int64_t{end < 0 ? text.length() : end} + std::min(x, 0);
+}
+
 /// Draws `text` in every row of `area` that the canvas can hold, beginning at column `x`.
 void drawColumn(Canvas& canvas, String const& text, int x, Rect const& area,
                 Attributes const& attributes) {
-    // Nothing to see, in as many rows as there may be.
-    if (text.length() == 0 || std::int64_t{x} + text.length() <= 0) return;
     int const end = saturate(std::int64_t{area.y} + area.height);
-    for (int row = std::max(area.y, 0); row < end; ++row) {
-        canvas.drawClipped(text.view(), x, row, attributes);
-    }
+    int row = std::max(area.y, 0);
+    if (!canvas.mayDraw(shownLength(text, x), std::int64_t{end} - row)) return;
+    // Where nothing is to be seen in one row, nothing is in as many as there may be.
+    while (row < end && canvas.drawClipped(text.view(), x, row, attributes)) ++row;
 }
 
-/// A text along a row, and the column at which it begins.
-struct Strip {
-    String text;
-    int x;
-};
-
-/// `text` once for every column of `area`, less the repetitions that would lie left of the canvas;
-/// nothing for an area without columns.
-Strip stripAlong(Rect const& area, String const& text) {
-    if (text.length() == 0 || area.width <= 0) return {String::s_empty, area.x};
+/// Draws `text` once for every column of `area` in its rows from `top` on, which are `height`.
+void drawStrips(Canvas& canvas, String const& text, Rect const& area, int top, int height,
+                Attributes const& attributes) {
+    Rect const rows = {area.x, top, area.width, height};
+    if (std::int64_t{top} + height <= 0 || area.width <= 0 || text.length() == 0) return;
+    // Behind a NUL nothing shows.
+    if (text.indexOf('\0') >= 0) return drawColumn(canvas, text, area.x, rows, attributes);
     std::int64_t const left = std::max<std::int64_t>(0, -std::int64_t{area.x});
+    // Repetitions that would lie left of the canvas are not made.
     auto const clipped = std::min(left / text.length(), std::int64_t{area.width});
-    return {String::repeat(text, static_cast<unsigned>(area.width - clipped)),
-            static_cast<int>(area.x + clipped * text.length())};
+    std::int64_t const length = (area.width - clipped) * text.length();
+    auto const x = static_cast<int>(area.x + clipped * text.length());
+    if (!canvas.mayDraw(length + std::min(x, 0), 1)) return;
+    drawColumn(canvas, String::repeat(text, static_cast<unsigned>(area.width - clipped)), x, rows,
+               attributes);
 }
 
 /// `attributes` with the flag that the name of an inline element adds.
@@ -161,7 +167,7 @@ BoxPainting::BoxPainting(Box& painted, Canvas& ofParent, Canvas::Attributes cons
     box->applyContentAttributes(content);
     Rect const& area = box->dimensions.content;
     isDirect = !isBeneathMissing && target->enter(area.x, area.y);
-    if (!isDirect) own = std::make_unique<Canvas>();
+    if (!isDirect) own = std::make_unique<Canvas>(target->cellBudget());
 }
 
 bool BoxPainting::hasBorder() const {
@@ -206,8 +212,7 @@ void InlineBox::drawTo(Canvas& canvas, Canvas::Attributes const& attributes) {
 void Box::drawBackgroundTo(Canvas& canvas, Canvas::Attributes& attributes) {
     if (!applyBackground(*this, attributes)) return;
     Rect const area = dimensions.borderBox();
-    Strip const row = stripAlong(area, " ");
-    drawColumn(canvas, row.text, row.x, area, attributes);
+    drawStrips(canvas, " ", area, area.y, area.height, attributes);
 }
 
 void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
@@ -231,12 +236,10 @@ void Box::drawBorderTo(Canvas& canvas, Canvas::Attributes attributes) {
         drawColumn(canvas, styleOf(Property::s_borderRightStyle), right, area, attributes);
     }
     if (border.top > 0) {
-        Strip const side = stripAlong(area, styleOf(Property::s_borderTopStyle));
-        canvas.drawClipped(side.text.view(), side.x, area.y, attributes);
+        drawStrips(canvas, styleOf(Property::s_borderTopStyle), area, area.y, 1, attributes);
     }
     if (border.bottom > 0) {
-        Strip const side = stripAlong(area, styleOf(Property::s_borderBottomStyle));
-        canvas.drawClipped(side.text.view(), side.x, bottom, attributes);
+        drawStrips(canvas, styleOf(Property::s_borderBottomStyle), area, bottom, 1, attributes);
     }
 
     String const* const corner = findStyle(node, Property::s_borderCornerStyle);

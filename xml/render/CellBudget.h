@@ -1,0 +1,42 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+
+namespace CLI::XML {
+
+/// What the canvases of one page may hold together, in cells: a short document cannot demand work
+/// and memory without end. Counted are the cells that are drawn and those that fill the way to
+/// them, one for every row, and one for every byte of escape text. Composing a canvas onto another
+/// counts nothing, since all of it has been counted.
+class CellBudget {
+public:
+    /// The budget of a document of that many bytes.
+    static unsigned ofDocument(int bytes) {
+        constexpr std::int64_t s_least = std::int64_t{1} << 26;
+        constexpr std::int64_t s_most = std::numeric_limits<unsigned>::max();
+        return static_cast<unsigned>(std::clamp(std::int64_t{bytes} * 100, s_least, s_most));
+    }
+
+    explicit CellBudget(unsigned cells) : limit(cells), left(cells) {}
+
+    /// Whether that many cells are left. Where they are not, nothing suffices from now on.
+    bool suffices(std::uint64_t cells) {
+        if (cells > left) isSpent = true;
+        return !isSpent;
+    }
+    /// Takes cells for which it suffices.
+    void take(std::uint64_t cells) { left -= cells; }
+
+    std::uint64_t remaining() const { return isSpent ? 0 : left; }
+    bool isExceeded() const { return isSpent; }
+
+    unsigned const limit;
+
+private:
+    std::uint64_t left;
+    bool isSpent = false;
+};
+
+}  // namespace CLI::XML
