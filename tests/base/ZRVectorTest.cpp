@@ -110,17 +110,14 @@ TEST(VectorTail, MovesBehindTheElementsOfTheTarget) {
     }
 }
 
-/// A number whose arrays can be refused.
+/// A number that new storage can refuse to hold.
 struct Refusable {
     static inline bool s_refused = false;
     int value = 0;
 
-    static void* operator new[](std::size_t size) {
+    Refusable() {
         if (s_refused) throw std::bad_alloc();
-        return ::operator new[](size);
     }
-    static void operator delete[](void* memory) { ::operator delete[](memory); }
-    Refusable() = default;
     explicit Refusable(int number) : value(number) {}
     Refusable(Refusable&& other) noexcept : value(std::exchange(other.value, 0)) {}
     Refusable& operator=(Refusable&& other) noexcept {
