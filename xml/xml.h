@@ -5,7 +5,10 @@
 ///
 /// The library prints nothing, keeps no state between calls and throws nothing but the
 /// allocator's out-of-memory exception. Every failure is a result code with a message
-/// (`XCode::getString`). Conversions that share a rule list run one at a time.
+/// (`XCode::getString`).
+///
+/// Conversions may run on any number of threads at once, and may share a rule list as long as
+/// nobody changes it. Everything else belongs to one thread at a time.
 
 #include "base/String.h"
 #include "base/XCode.h"

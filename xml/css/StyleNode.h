@@ -1,5 +1,7 @@
 #pragma once
 
+#include <atomic>
+
 #include "base/RefCounted.h"
 #include "base/ZRLWPtr.h"
 #include "base/ZRList.h"
@@ -7,7 +9,8 @@
 
 namespace CLI::XML {
 
-/// One style rule. It is complete when it enters a rule list and does not change afterwards.
+/// One style rule. It is complete when it enters a rule list and does not change afterwards, so
+/// that conversions on several threads may share it: its references alone are counted atomically.
 class StyleNode final : public ZR::RefCounted {
 public:
     /// Matched against tag names by exact equality.
@@ -18,6 +21,12 @@ public:
     explicit StyleNode(String const& selectorText)
         : ZR::RefCounted(nullptr), selector(selectorText) {}
     ~StyleNode() override = default;
+
+    void addRef() override { std::atomic_ref(refCount).fetch_add(1, std::memory_order_relaxed); }
+    bool tryRelease() override {
+        // Whoever destroys the rule comes behind all that others did with it.
+        return std::atomic_ref(refCount).fetch_sub(1, std::memory_order_acq_rel) == 1;
+    }
 };
 
 /// Style rules in sheet order.
