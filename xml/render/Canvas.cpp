@@ -56,21 +56,20 @@ void Canvas::visitUntouched(std::uint64_t y, Visit const& visit) {
     }
 }
 
-/// Whether the budget has the cells of a text of that length from a column of row `y` on, of the
-/// fillers before it, and of what comes into use with the row.
-bool Canvas::mayDrawAt(std::uint64_t y, unsigned column, std::size_t length) {
-    // Not more than all rows above and the fillers in all of them.
+/// Whether the budget has `drawn` cells, the fillers before column `column` in the rows from `top`
+/// to `last`, and what comes into use with these rows.
+bool Canvas::mayDrawAt(std::uint64_t top, std::uint64_t last, unsigned column, std::size_t drawn) {
+    // Not more than all rows down to the last and the fillers in all of them.
     std::uint64_t const most =
-        (y + 1 - std::min(y, std::uint64_t{movedRows})) * (std::uint64_t{column} + 1) + length;
-    return most <= budget->remaining() ||
-           budget->suffices(costOfRow(y) + costInRow(y, column, length));
-}
-
-std::uint64_t Canvas::costInRow(std::uint64_t y, unsigned column, std::size_t length) const {
-    if (length == 0) return 0;
-    bool const exists = y >= movedRows && y - movedRows < rows.count;
-    unsigned const width = exists ? rows.data[y - movedRows].count : 0;
-    return column - std::min(column, std::max(width, originColumn())) + length;
+        (last + 1 - std::min(last, std::uint64_t{movedRows})) * (std::uint64_t{column} + 1) + drawn;
+    if (most <= budget->remaining()) return true;
+    std::uint64_t cost = costOfRow(last) + drawn;
+    for (std::uint64_t y = top; y <= last; ++y) {
+        bool const exists = y >= movedRows && y - movedRows < rows.count;
+        unsigned const width = exists ? rows.data[y - movedRows].count : 0;
+        cost += column - std::min(column, std::max(width, originColumn()));
+    }
+    return budget->suffices(cost);
 }
 
 std::uint64_t Canvas::costOfRow(std::uint64_t y) {
@@ -171,7 +170,8 @@ bool Canvas::drawClipped(std::string_view text, int x, int y, Attributes const& 
     if (!shown.empty()) shown.remove_prefix(clipped);
     unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
     std::uint64_t const rowNumber = std::uint64_t{originRow()} + static_cast<unsigned>(y);
-    if (budget != nullptr && !mayDrawAt(rowNumber, column, shown.length())) return false;
+    unsigned const filled = shown.empty() ? 0 : column;
+    if (budget != nullptr && !mayDrawAt(rowNumber, rowNumber, filled, shown.length())) return false;
     std::uint64_t const formerlyMade = cellsMade;
     unsigned const index = getOrStoreAttribute(attributes);
     ZRVector<Byte>& row = touchRow(rowNumber);
@@ -189,6 +189,10 @@ bool Canvas::drawClipped(Canvas const& source, int x, int y) {
     auto const clippedRows = static_cast<unsigned>(y < 0 ? -std::int64_t{y} : 0);
     unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
     std::uint64_t const top = std::uint64_t{originRow()} + static_cast<unsigned>(std::max(y, 0));
+    if (source.rows.count <= clippedRows) return false;
+    std::uint64_t const last = top + (source.rows.count - clippedRows) - 1;
+    if (budget != nullptr && !mayDrawAt(top, last, column, 0)) return false;
+    std::uint64_t const formerlyMade = cellsMade;
     unsigned sourceIndex = 0;
     unsigned mappedIndex = 0;
     bool drawn = false;
@@ -207,6 +211,7 @@ bool Canvas::drawClipped(Canvas const& source, int x, int y) {
         }
         drawn = drawn || length > 0;
     }
+    if (budget != nullptr) budget->take(cellsMade - formerlyMade);
     return drawn;
 }
 

@@ -134,9 +134,8 @@ private:
     ZRVector<Byte>& touchNewRow(std::uint64_t y);
     template <class Visit>
     void visitUntouched(std::uint64_t y, Visit const& visit);
-    bool mayDrawAt(std::uint64_t y, unsigned column, std::size_t length);
+    bool mayDrawAt(std::uint64_t top, std::uint64_t last, unsigned column, std::size_t drawn);
     std::uint64_t costOfRow(std::uint64_t y);
-    std::uint64_t costInRow(std::uint64_t y, unsigned column, std::size_t length) const;
     bool isTouched(std::uint64_t y) const {
         return !frames.empty() && y >= movedRows && y < frames.back().end;
     }

@@ -8,8 +8,8 @@ namespace CLI::XML {
 
 /// What the canvases of one page may hold together, in cells: a short document cannot demand work
 /// and memory without end. Counted are the cells that are drawn and those that fill the way to
-/// them, one for every row, and one for every byte of escape text. Composing a canvas onto another
-/// counts nothing, since all of it has been counted.
+/// them, one for every row, and one for every byte of escape text. Of a canvas that is composed
+/// onto another the cells have been counted: only rows and fillers that come into use there count.
 class CellBudget {
 public:
     /// The budget of a document of that many bytes.
