@@ -111,6 +111,9 @@ TEST(LargePages, AreRefusedBeforeTheyAreMade) {
             EXPECT_EQ(resultOf(markup, 80, ""), s_tooLarge) << shown(markup);
         }
     }
+    // A canvas of its own is composed far down.
+    EXPECT_EQ(resultOf("<div padding-top=\"2147483637\" margin-left=\"-1\">b</div>", 80, ""),
+              s_tooLarge);
     EXPECT_EQ(
         resultOf("<p>x</p>", 80, "p { border-top-width: 9; padding-left: 70; border-style: o; } "),
         "ok");
