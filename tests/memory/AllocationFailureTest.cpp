@@ -143,9 +143,9 @@ TEST(AllocationFailure, LeavesOutputAndRulesOfAConversionAlone) {
                 EXPECT_EQ(out, "before");
                 throw;
             }
-            // At most a text is missing.
+            // Some text may be missing, and what it would have asked for.
             EXPECT_TRUE(isAnswered || out == "before");
-            EXPECT_LE(out.length(), page.length());
+            EXPECT_EQ(out.substring(0, 6), "before");
         });
         for (ZRLWPtr<StyleNode> const& rule : sheet.rules) EXPECT_EQ(rule->refCount, 1);
         String again("before");
@@ -218,7 +218,6 @@ TEST(AllocationFailure, LeavesAStringAsItWas) {
         bool const wasRefused = text.length() == 5;
         EXPECT_EQ(text, wasRefused ? "short" : "shortand something that does not fit");
         EXPECT_EQ(s_allocations, before + 1);
-        EXPECT_EQ(text.reserve(5000) ? text.length() : text.length(), wasRefused ? 5 : 36);
     });
 }
 

@@ -68,7 +68,8 @@ void BlockFlow::takeWords(std::string_view words) {
 
 void BlockFlow::beginLine() {
     if (!taker.pending.empty()) return;
-    taker.pending.emplace_back(ZR::MovePtr<Box>(new LineBox));
+    ZRLWPtr<Box> line = ZR::MovePtr<Box>(new LineBox);
+    taker.pending.push_back(std::move(line));
     taker.breaks = 0;
     findRoom();
 }
