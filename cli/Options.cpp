@@ -42,6 +42,8 @@ std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& optio
                    "Print a tree instead of the page: the document's, or the boxes after layout")
         ->option_text("dom|boxes")
         ->check(CLI::IsMember({"dom", "boxes"}));
+    app.add_flag("--raw", options.isRaw,
+                 "Pass control characters of the document and the sheets on to the terminal");
 
     try {
         app.parse(argc, argv);

@@ -17,6 +17,8 @@ struct Options {
     /// In columns; without it the terminal's width counts.
     std::optional<unsigned> width;
     Output output = Output::Page;
+    /// Control characters of the document and the sheets reach the terminal.
+    bool isRaw = false;
 };
 
 /// Reads the command line into `options`. A status means that the tool is done: help or version

@@ -6,6 +6,7 @@
 
 #include "cli/ExitStatus.h"
 #include "cli/Options.h"
+#include "cli/controls.h"
 #include "cli/files.h"
 #include "cli/report.h"
 #include "cli/terminalWidth.h"
@@ -17,10 +18,17 @@ namespace {
 
 using CLI::XML::StyleList;
 
+/// Reads a document or a sheet.
+bool readInput(std::string const& file, String& text, Options const& options) {
+    if (!readFile(file, text)) return false;
+    if (!options.isRaw) replaceControls(text);
+    return true;
+}
+
 /// Appends the rules of a sheet to `styles`.
-ExitStatus readSheet(std::string const& file, StyleList& styles) {
+ExitStatus readSheet(std::string const& file, StyleList& styles, Options const& options) {
     String css;
-    if (!readFile(file, css)) return ExitStatus::FileAtFault;
+    if (!readInput(file, css, options)) return ExitStatus::FileAtFault;
     StyleList rules;
     XCode const result = CLI::XML::parseCss(rules, css);
     if (!result) {
@@ -55,11 +63,11 @@ XCode dumpTree(String& out, String const& document, StyleList const& styles, uns
 ExitStatus run(Options const& options) {
     StyleList styles;
     for (std::string const& sheet : options.sheets) {
-        ExitStatus const status = readSheet(sheet, styles);
+        ExitStatus const status = readSheet(sheet, styles, options);
         if (status != ExitStatus::Rendered) return status;
     }
     String document;
-    if (!readFile(options.document, document)) return ExitStatus::FileAtFault;
+    if (!readInput(options.document, document, options)) return ExitStatus::FileAtFault;
 
     unsigned const width = options.width ? *options.width : terminalWidth();
     String page;
@@ -70,6 +78,7 @@ ExitStatus run(Options const& options) {
         reportError(displayName(options.document), result.getString().c_str());
         return ExitStatus::InputAtFault;
     }
+    if (!options.isRaw) repairCharacters(page);
     return writeOutput(page) ? ExitStatus::Rendered : ExitStatus::FileAtFault;
 }
 

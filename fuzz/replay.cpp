@@ -1,14 +1,13 @@
 // Runs a fuzz target once over each file named, and over each file in each folder named: the
 // inputs that are known, in every build and without a fuzzer.
 
-#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size);
+#include "fuzz/check.h"
 
 namespace {
 

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+struct Outcome {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+/// Runs the tool in a folder of its own, as a shell would.
+class Tool : public testing::Test {
+protected:
+    Tool() {
+        std::string name = testing::TempDir() + "galley-XXXXXX";
+        folder = mkdtemp(name.data());
+    }
+    ~Tool() override { std::filesystem::remove_all(folder); }
+
+    void write(std::string const& name, std::string const& text) const {
+        std::ofstream(folder / name, std::ios::binary) << text;
+    }
+    std::string read(std::string const& name) const {
+        std::ifstream file(folder / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    Outcome run(std::string const& arguments, std::string const& input = "") const {
+        write("stdin", input);
+        std::string const command = "cd " + folder.string() + " && { " GALLEY_TOOL " " + arguments +
+                                    "; } <stdin 2>stderr >stdout";
+        int const status = std::system(command.c_str());
+        return {WEXITSTATUS(status), read("stdout"), read("stderr")};
+    }
+
+    std::filesystem::path folder;
+};
