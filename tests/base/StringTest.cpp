@@ -63,6 +63,8 @@ TEST(StringBuffer, GrowsAheadAndShrinksToWhatAFreshTextTakes) {
     text.assign("abcdefghijk");
     EXPECT_EQ(text, "abcdefghijk");
     EXPECT_EQ(text.c_str(), buffer);
+    text.assign(std::string_view(buffer, 3'000'000'000U));
+    EXPECT_EQ(text, "");
 }
 
 TEST(StringMove, TakesTheBufferAndAssignmentExchanges) {

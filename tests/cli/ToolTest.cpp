@@ -86,6 +86,15 @@ TEST_F(Tool, SaysWhichFileAndLineIsAtFault) {
     }
 }
 
+TEST_F(Tool, SaysWhereMemoryEnds) {
+    // Builds without it are for sanitizers, which take more than any limit.
+    if (!GALLEY_HAS_JEMALLOC) GTEST_SKIP();
+    Outcome const outcome = run("", "<p margin-left=\"60000000\">x</p>", "ulimit -v 150000; ");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err, "<stdin>: error: Out of memory\n");
+}
+
 TEST_F(Tool, RefusesWhatItDoesNotKnow) {
     for (char const* arguments : {"--nonsense", "--width x", "--width -1", "--dump html", "--css",
                                   "--css - -", "--width 0x3", "--width ''", "one.xml two.xml"}) {

@@ -1,4 +1,5 @@
 #include <tuple>
+#include <typeinfo>
 
 #include "tests/support/boxes.h"
 
@@ -66,6 +67,18 @@ TEST(Clone, SharesNodeAndEdgesOnly) {
     EXPECT_EQ(clone->refCount, 1);
     EXPECT_EQ(rectangle(clone->dimensions.content), "0,0 0x0");
     EXPECT_EQ(clone->dimensions.margin.bottom, 2);
+}
+
+TEST(Clone, IsOfTheSameClass) {
+    Page page("<table><tr><td><p><b>x</b></p></td></tr></table>");
+    for (char const* const name : {"p", "b", "table", "tr", "td"}) {
+        Box& box = page.find(name);
+        ZRLWPtr<Box> const clone = box.clone();
+        EXPECT_TRUE(typeid(*clone) == typeid(box)) << name;
+        EXPECT_EQ(clone->type, box.type);
+        EXPECT_EQ(clone->children.count, 0U);
+        EXPECT_EQ(clone->node, box.node);
+    }
 }
 
 }  // namespace

@@ -123,6 +123,24 @@ TEST(LineBreaking, GivesWhatWholeLayoutsOfEveryLineGive) {
     }
 }
 
+TEST(LineBreaking, SplitsAnInlineElementByItself) {
+    Page page("<b>aa bb <i>cc dd</i></b>");
+    Box& element = page.find("b");
+    page.layOut(80);
+    ZRLWPtr<Box> const rest = element.split(9);
+    EXPECT_EQ(shape(element), "inline b['aa ' 'bb ' inline i['cc ']]");
+    EXPECT_EQ(shape(*rest), "inline b[inline i['dd']]");
+    EXPECT_FALSE(rest->split(2));
+}
+
+TEST(LineBreaking, KeepsTheRoomForBoxes) {
+    Page page("<p>aa bb cc</p>");
+    page.find("p").children.enlarge(20);
+    page.layOut(3);
+    EXPECT_EQ(page.find("p").children.count, 3U);
+    EXPECT_EQ(page.find("p").children.capacity, 22U);
+}
+
 TEST(LineBreaking, NeverSplitsBlocksAndTables) {
     Page const page("<div/><table/>");
     EXPECT_FALSE(page.find("div").split(-1) || page.find("table").split(-1));

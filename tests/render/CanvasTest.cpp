@@ -68,6 +68,17 @@ TEST(Canvas, AppendsAtItsWidthAndBelowItsLastRow) {
     EXPECT_EQ(textOf(canvas), "abc$\nd  X$\n    Y$\n");
 }
 
+TEST(Canvas, DrawsNothingAboveRowsThatWereMovedOut) {
+    Canvas canvas;
+    String text;
+    canvas.draw("a", 0, 0, s_plain);
+    EXPECT_TRUE(canvas.moveRowsTo(text, 1));
+    EXPECT_THROW(canvas.draw("b", 0, 0, s_plain), std::bad_alloc);
+    canvas.draw("c", 0, 1, s_plain);
+    EXPECT_TRUE(canvas.moveRowsTo(text, 2));
+    EXPECT_EQ(text, "a\nc\n");
+}
+
 TEST(Canvas, ShowsEveryByteButNul) {
     Canvas canvas;
     canvas.draw(bytes("a\xE9\0b"), 0, 0, s_plain);

@@ -82,6 +82,14 @@ TEST(Painting, LeavesOutEmptyInlineBoxesAndCoversEarlierOnes) {
                rowsOf);
 }
 
+TEST(Painting, OfAnInlineBoxAloneAddsItsOwnFlag) {
+    Page page("<p><i>x<b>y</b></i></p>");
+    page.layOut(80);
+    Canvas canvas;
+    page.find("i").drawTo(canvas, {.flags = Canvas::Attributes::Underline});
+    EXPECT_EQ(shown(canvas.dump("")), "^[[0m^[[2m^[[4mx^[[0m^[[1m^[[2m^[[4my^[[0m");
+}
+
 /// Writes down the operations that paint it.
 struct LoggedBox : BlockBox {
     LoggedBox(DomNode* element, std::string& events) : BlockBox(element), log(events) {}

@@ -31,10 +31,12 @@ protected:
         std::ifstream file(folder / name, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
-    Outcome run(std::string const& arguments, std::string const& input = "") const {
+    /// `before` are commands of the shell, each with its semicolon.
+    Outcome run(std::string const& arguments, std::string const& input = "",
+                std::string const& before = "") const {
         write("stdin", input);
-        std::string const command = "cd " + folder.string() + " && { " GALLEY_TOOL " " + arguments +
-                                    "; } <stdin 2>stderr >stdout";
+        std::string const command = "cd " + folder.string() + " && { " + before + GALLEY_TOOL " " +
+                                    arguments + "; } <stdin 2>stderr >stdout";
         int const status = std::system(command.c_str());
         return {WEXITSTATUS(status), read("stdout"), read("stderr")};
     }

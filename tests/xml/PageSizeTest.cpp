@@ -48,6 +48,11 @@ TEST(CellBudget, CountsRowsFillersAndDrawnCells) {
         canvas.leave();
         return isDrawn;
     });
+    // The last row is there already, and shorter than where the new origin begins.
+    expectCost((1 + 1) + 2 + 1, [](Canvas& canvas) {
+        canvas.drawClipped("a", 0, 0, {});
+        return canvas.enter(3, 0) && canvas.drawClipped("b", 0, 0, {});
+    });
     expectCost((1 + 3) + (6 + 2), [](Canvas& canvas) {
         Canvas source(canvas.cellBudget());
         source.drawClipped("abc", 0, 0, {});

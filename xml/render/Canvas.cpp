@@ -86,8 +86,7 @@ std::uint64_t Canvas::costOfRow(std::uint64_t y) {
 }
 
 ZRVector<Canvas::Byte>& Canvas::touchNewRow(std::uint64_t y) {
-    if (y < movedRows || y >= std::numeric_limits<unsigned>::max())
-        throw std::bad_array_new_length();
+    if (y < movedRows) throw std::bad_array_new_length();
     auto const row = static_cast<unsigned>(y);
     if (row - movedRows >= rows.count) bringIntoUse(row - movedRows);
     visitUntouched(y, [this](Frame& frame, std::uint64_t first, std::uint64_t end) {
