@@ -74,7 +74,8 @@ TEST(Clone, IsOfTheSameClass) {
     for (char const* const name : {"p", "b", "table", "tr", "td"}) {
         Box& box = page.find(name);
         ZRLWPtr<Box> const clone = box.clone();
-        EXPECT_TRUE(typeid(*clone) == typeid(box)) << name;
+        Box const& cloned = *clone;
+        EXPECT_TRUE(typeid(cloned) == typeid(box)) << name;
         EXPECT_EQ(clone->type, box.type);
         EXPECT_EQ(clone->children.count, 0U);
         EXPECT_EQ(clone->node, box.node);
