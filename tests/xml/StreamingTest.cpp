@@ -119,7 +119,8 @@ TEST(Streaming, MakesThePageOfTheWholeTreesOfElementsInOneAnother) {
 /// Documents from a fixed seed: everything in everything, with edges, tables and styles.
 class Scribbler {
 public:
-    explicit Scribbler(unsigned seed) : random(seed) {}
+    /// `tallest` is the most rows that an edge takes, or is short of.
+    explicit Scribbler(unsigned seed, unsigned tallest = 0) : random(seed), tallestEdge(tallest) {}
 
     std::string content(int depth) {
         std::string text;
@@ -163,13 +164,21 @@ private:
         static constexpr char const* s_edges[] = {
             "margin",       "margin-left", "padding",           "padding-right",
             "border-width", "padding-top", "border-left-width", "margin-right"};
+        static constexpr char const* s_verticalEdges[] = {
+            "padding-top", "padding-bottom", "margin-top", "margin-bottom", "border-top-width"};
         if (pick(3) > 0) return "";
+        if (tallestEdge > 0 && pick(3) == 0) {
+            int const rows = static_cast<int>(pick(tallestEdge)) * (pick(6) == 0 ? -1 : 1);
+            return std::string(" border-right-width=\"1\" ") + s_verticalEdges[pick(5)] + "=\"" +
+                   std::to_string(rows) + "\"";
+        }
         if (pick(4) == 0) return " background-color=\"blue\"";
         int const cells = static_cast<int>(pick(4)) - (pick(5) == 0 ? 3 : 0);
         return std::string(" ") + s_edges[pick(8)] + "=\"" + std::to_string(cells) + "\"";
     }
 
     std::mt19937 random;
+    unsigned tallestEdge;
 };
 
 TEST(Streaming, MakesThePageOfTheWholeTreesWhateverTheDocument) {
@@ -180,6 +189,15 @@ TEST(Streaming, MakesThePageOfTheWholeTreesWhateverTheDocument) {
         Scribbler scribbler(seed);
         std::string const document = scribbler.content(5);
         expectSamePage(document, s_sheets[seed % 3], static_cast<int>(scribbler.pick(60)));
+        if (testing::Test::HasFailure()) break;
+    }
+}
+
+TEST(Streaming, MakesThePageOfTheWholeTreesHoweverTall) {
+    for (unsigned seed = 0; seed < 400; ++seed) {
+        Scribbler scribbler(seed, 1000);
+        std::string const document = scribbler.content(4);
+        expectSamePage(document, "td{border-width:1;}", static_cast<int>(scribbler.pick(20)));
         if (testing::Test::HasFailure()) break;
     }
 }

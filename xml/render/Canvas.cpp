@@ -11,13 +11,35 @@ namespace CLI::XML {
 
 namespace {
 
+/// A page keeps so many new rows as one, as long as they stay alike.
+constexpr std::uint64_t s_tall = 256;
+
 constexpr std::int64_t s_largestOrigin = std::numeric_limits<std::int32_t>::max();
+
+/// Repeats what `text` has from `start` on until it is there `times` times. False where there is no
+/// memory for it.
+bool repeatEnd(String& text, int start, unsigned times) {
+    // In pieces that are appended fast, one of them smaller.
+    constexpr int s_pieceLength = 65536;
+    String const once = text.substring(start, text.length());
+    if (once.length() == 0) return false;
+    auto const inPiece = static_cast<unsigned>(std::max(1, s_pieceLength / once.length()));
+    String const piece = String::repeat(once, std::min(inPiece, times - 1));
+    bool isComplete = piece.length() > 0;
+    for (unsigned left = times - 1; left > 0 && isComplete;) {
+        unsigned const now = std::min(left, inPiece);
+        auto const length = std::size_t{now} * static_cast<std::size_t>(once.length());
+        isComplete = text.appendGrowing(piece.view().substr(0, length));
+        left -= now;
+    }
+    return isComplete;
+}
 
 }  // namespace
 
-/// Makes the row at least `width` cells long; the cells from its former end up to `filled` become
-/// fillers, those behind them are for the caller to set.
-void Canvas::lengthen(ZRVector<Byte>& row, std::uint64_t width, unsigned filled) {
+/// Makes the row, or as many that are alike, at least `width` cells long; the cells from its former
+/// end up to `filled` become fillers, those behind them are for the caller to set.
+void Canvas::lengthen(ZRVector<Byte>& row, std::uint64_t width, unsigned filled, unsigned times) {
     if (width > std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
     unsigned const formerWidth = row.count;
     auto const end = static_cast<unsigned>(width);
@@ -28,17 +50,78 @@ void Canvas::lengthen(ZRVector<Byte>& row, std::uint64_t width, unsigned filled)
     unsigned const filledEnd = std::min(filled, end);
     if (filledEnd <= formerWidth) return;
     std::fill(row.data + formerWidth, row.data + filledEnd, Byte::make(' ', 0));
-    cellsMade += filledEnd - formerWidth;
+    cellsMade += std::uint64_t{filledEnd - formerWidth} * times;
 }
 
-void Canvas::bringIntoUse(unsigned row) {
+/// Adds empty rows up to `end`.
+void Canvas::bringIntoUse(std::uint64_t end) {
+    if (end > std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
+    std::uint64_t added = end - endOfRows();
+    cellsMade += added;
+    if (budget != nullptr && added > s_tall) {
+        // All but the last, which is about to be drawn in.
+        runs.push_back({rows.count, static_cast<unsigned>(added - 2)});
+        repeatedRows += added - 2;
+        added = 2;
+    }
     unsigned const formerCount = rows.count;
-    rows[row];
-    cellsMade += rows.count - formerCount;
-    for (unsigned i = formerCount; i <= row && !spareRows.empty(); ++i) {
+    rows[formerCount + static_cast<unsigned>(added) - 1];
+    for (unsigned i = formerCount; i < rows.count && !spareRows.empty(); ++i) {
         rows.data[i] = std::move(spareRows.back());
         spareRows.pop_back();
     }
+}
+
+/// The rows that an entry of `rows` stands for.
+unsigned Canvas::rowsAt(unsigned index) const {
+    auto const run = std::lower_bound(runs.begin(), runs.end(), index,
+                                      [](Run const& r, unsigned i) { return r.index < i; });
+    return run != runs.end() && run->index == index ? run->more + 1 : 1;
+}
+
+/// The entry that begins with row `y`, or ends before it. A run that reaches over it is cut in two.
+unsigned Canvas::cutAt(std::uint64_t y) {
+    std::uint64_t before = 0;
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        Run& run = runs[i];
+        std::uint64_t const start = movedRows + run.index + before;
+        if (y <= start) break;
+        if (y > start + run.more) {
+            before += run.more;
+            continue;
+        }
+        auto const upper = static_cast<unsigned>(y - start);
+        auto const lower = run.more + 1 - upper;
+        unsigned const index = run.index;
+        rows.insert(index, rows[index]);
+        for (std::size_t later = i + 1; later < runs.size(); ++later) ++runs[later].index;
+        --repeatedRows;
+        run.more = upper - 1;
+        runs.insert(runs.begin() + static_cast<std::ptrdiff_t>(i) + 1, {index + 1, lower - 1});
+        std::erase_if(runs, [](Run const& r) { return r.more == 0; });
+        return index + 1;
+    }
+    return static_cast<unsigned>(y - movedRows - before);
+}
+
+/// Calls `visit` with each entry of the rows from `first` up to `end`, which exist, and the number
+/// of rows that it stands for.
+template <class Visit>
+void Canvas::visitRows(std::uint64_t first, std::uint64_t end, Visit const& visit) {
+    if (first >= end) return;
+    if (runs.empty()) {
+        for (; first < end; ++first) visit(rows.data[first - movedRows], 1U);
+        return;
+    }
+    unsigned const from = cutAt(first);
+    unsigned const to = cutAt(end);
+    for (unsigned i = from; i < to; ++i) visit(rows.data[i], rowsAt(i));
+}
+
+ZRVector<Canvas::Byte>& Canvas::loneRow(std::uint64_t y) {
+    unsigned const index = cutAt(y);
+    cutAt(y + 1);
+    return rows.data[index];
 }
 
 /// Calls `visit` with each frame that begins to use rows where row `y` comes into use, and with the
@@ -58,44 +141,48 @@ void Canvas::visitUntouched(std::uint64_t y, Visit const& visit) {
 
 /// Whether the budget has `drawn` cells, the fillers before column `column` in the rows from `top`
 /// to `last`, and what comes into use with these rows.
-bool Canvas::mayDrawAt(std::uint64_t top, std::uint64_t last, unsigned column, std::size_t drawn) {
+bool Canvas::mayDrawAt(std::uint64_t top, std::uint64_t last, unsigned column,
+                       std::uint64_t drawn) {
     // Not more than all rows down to the last and the fillers in all of them.
     std::uint64_t const most =
-        (last + 1 - std::min(last, std::uint64_t{movedRows})) * (std::uint64_t{column} + 1) + drawn;
-    if (most <= budget->remaining()) return true;
+        (last + 1 - std::min(last, std::uint64_t{movedRows})) * (std::uint64_t{column} + 1);
+    std::uint64_t const remaining = budget->remaining();
+    if (most <= remaining && drawn <= remaining - most) return true;
+    // Each a product of what fits in 32 bits, and less by far.
     std::uint64_t cost = costOfRow(last) + drawn;
-    for (std::uint64_t y = top; y <= last; ++y) {
-        bool const exists = y >= movedRows && y - movedRows < rows.count;
-        unsigned const width = exists ? rows.data[y - movedRows].count : 0;
-        cost += column - std::min(column, std::max(width, originColumn()));
-    }
+    std::uint64_t const existing = std::max(top, std::min(last + 1, endOfRows()));
+    visitRows(std::max(top, std::uint64_t{movedRows}), existing,
+              [&](ZRVector<Byte> const& row, unsigned times) {
+                  unsigned const width = std::max(row.count, originColumn());
+                  cost += std::uint64_t{column - std::min(column, width)} * times;
+              });
+    cost += (last + 1 - existing) * (column - std::min(column, originColumn()));
     return budget->suffices(cost);
 }
 
 std::uint64_t Canvas::costOfRow(std::uint64_t y) {
     if (isTouched(y)) return 0;
-    std::uint64_t const existing = std::uint64_t{movedRows} + rows.count;
+    std::uint64_t const existing = endOfRows();
     std::uint64_t cost = y < existing ? 0 : y + 1 - existing;
     visitUntouched(y, [&](Frame const& frame, std::uint64_t first, std::uint64_t end) {
-        for (; first < std::min(end, existing); ++first) {
-            cost += frame.left - std::min(frame.left, rows.data[first - movedRows].count);
-        }
-        if (first < end) cost += (end - first) * frame.left;
+        std::uint64_t const existingEnd = std::max(first, std::min(end, existing));
+        visitRows(first, existingEnd, [&](ZRVector<Byte> const& row, unsigned times) {
+            cost += std::uint64_t{frame.left - std::min(frame.left, row.count)} * times;
+        });
+        if (existingEnd < end) cost += (end - existingEnd) * frame.left;
     });
     return cost;
 }
 
-ZRVector<Canvas::Byte>& Canvas::touchNewRow(std::uint64_t y) {
+void Canvas::touchNewRow(std::uint64_t y) {
     if (y < movedRows) throw std::bad_array_new_length();
-    auto const row = static_cast<unsigned>(y);
-    if (row - movedRows >= rows.count) bringIntoUse(row - movedRows);
+    if (y >= endOfRows()) bringIntoUse(y + 1);
     visitUntouched(y, [this](Frame& frame, std::uint64_t first, std::uint64_t end) {
-        for (std::uint64_t i = first; i < end; ++i) {
-            lengthen(rows.data[i - movedRows], frame.left, frame.left);
-        }
+        visitRows(first, end, [&](ZRVector<Byte>& row, unsigned times) {
+            lengthen(row, frame.left, frame.left, times);
+        });
         frame.end = std::max(frame.end, static_cast<unsigned>(end));
     });
-    return rows.data[row - movedRows];
 }
 
 bool Canvas::mayDraw(std::int64_t cells, std::int64_t times) const {
@@ -109,7 +196,7 @@ bool Canvas::enter(int x, int y) {
     std::int64_t const left = std::int64_t{originColumn()} + x;
     std::int64_t const top = std::int64_t{originRow()} + y;
     if (x < 0 || y < 0 || std::max(left, top) > s_largestOrigin) return false;
-    std::int64_t const end = std::int64_t{movedRows} + rows.count;
+    auto const end = static_cast<std::int64_t>(endOfRows());
     bool const isBehindLastRow =
         top + 1 == end && top >= movedRows && rows.data[rows.count - 1].count <= left;
     if (top < end && !isBehindLastRow) return false;
@@ -148,7 +235,7 @@ int Canvas::resolveColumn(unsigned x) const {
 }
 
 int Canvas::resolveRow(unsigned y) const {
-    return static_cast<int>(y == AppendPosition ? rows.count : y);
+    return static_cast<int>(y == AppendPosition ? endOfRows() : y);
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): the text is a parameter by value
@@ -161,53 +248,75 @@ bool Canvas::draw(Canvas const& source, unsigned x, unsigned y) {
 }
 
 bool Canvas::drawClipped(std::string_view text, int x, int y, Attributes const& attributes) {
+    return drawDown(text, x, y, 1, attributes);
+}
+
+bool Canvas::drawDown(std::string_view text, int x, int y, int height,
+                      Attributes const& attributes) {
     std::string_view shown = text.substr(0, text.find('\0'));
     std::size_t const clipped = x < 0 ? static_cast<std::size_t>(-std::int64_t{x}) : 0;
-    bool const allClipped = y < 0 || (clipped > 0 && clipped >= shown.length());
+    std::int64_t const end = saturate(std::int64_t{y} + height);
+    bool const allClipped = end <= std::max(y, 0) || (clipped > 0 && clipped >= shown.length());
     if (text.empty() || allClipped) return false;
-    // A text that begins with a NUL creates the row and writes nothing.
+    // A text that begins with a NUL creates the rows and writes nothing.
     if (!shown.empty()) shown.remove_prefix(clipped);
     unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
-    std::uint64_t const rowNumber = std::uint64_t{originRow()} + static_cast<unsigned>(y);
+    std::uint64_t const top = std::uint64_t{originRow()} + static_cast<unsigned>(std::max(y, 0));
+    std::uint64_t const last = originRow() + static_cast<std::uint64_t>(end) - 1;
+    std::uint64_t const drawn = (last + 1 - top) * shown.length();
     unsigned const filled = shown.empty() ? 0 : column;
-    if (budget != nullptr && !mayDrawAt(rowNumber, rowNumber, filled, shown.length())) return false;
+    if (budget != nullptr && !mayDrawAt(top, last, filled, drawn)) return false;
     std::uint64_t const formerlyMade = cellsMade;
     unsigned const index = getOrStoreAttribute(attributes);
-    ZRVector<Byte>& row = touchRow(rowNumber);
-    if (!shown.empty()) {
-        std::size_t const end = column + shown.length();
-        if (end > row.count) lengthen(row, end, column);
+    auto const drawIn = [&](ZRVector<Byte>& row, unsigned times) {
+        if (shown.empty()) return;
+        std::size_t const rowEnd = column + shown.length();
+        if (rowEnd > row.count) lengthen(row, rowEnd, column, times);
         setCells(row.data + column, shown, index);
+    };
+    if (budget == nullptr || top == last) {
+        for (std::uint64_t row = top; row <= last; ++row) drawIn(touchRow(row), 1);
+    } else {
+        touchRow(last);
+        visitRows(top, last + 1, drawIn);
     }
-    if (budget != nullptr) budget->take(cellsMade - formerlyMade + shown.length());
+    if (budget != nullptr) budget->take(cellsMade - formerlyMade + drawn);
     return true;
 }
 
 bool Canvas::drawClipped(Canvas const& source, int x, int y) {
     auto const clippedColumns = static_cast<unsigned>(x < 0 ? -std::int64_t{x} : 0);
-    auto const clippedRows = static_cast<unsigned>(y < 0 ? -std::int64_t{y} : 0);
+    std::uint64_t skippedRows = static_cast<std::uint64_t>(y < 0 ? -std::int64_t{y} : 0);
     unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
-    std::uint64_t const top = std::uint64_t{originRow()} + static_cast<unsigned>(std::max(y, 0));
-    if (source.rows.count <= clippedRows) return false;
-    std::uint64_t const last = top + (source.rows.count - clippedRows) - 1;
+    std::uint64_t top = std::uint64_t{originRow()} + static_cast<unsigned>(std::max(y, 0));
+    if (source.endOfRows() <= skippedRows) return false;
+    std::uint64_t const last = top + (source.endOfRows() - skippedRows) - 1;
     if (budget != nullptr && !mayDrawAt(top, last, column, 0)) return false;
     std::uint64_t const formerlyMade = cellsMade;
     unsigned sourceIndex = 0;
     unsigned mappedIndex = 0;
     bool drawn = false;
-    for (unsigned r = clippedRows; r < source.rows.count; ++r) {
+    for (unsigned r = 0; r < source.rows.count; ++r) {
+        std::uint64_t const all = source.rowsAt(r);
+        std::uint64_t const skipped = std::min(all, skippedRows);
+        skippedRows -= skipped;
+        if (skipped == all) continue;
         ZRVector<Byte> const& sourceRow = source.rows[r];
-        ZRVector<Byte>& row = touchRow(top + (r - clippedRows));
         unsigned const length = sourceRow.count - std::min(clippedColumns, sourceRow.count);
-        lengthen(row, std::uint64_t{column} + length, column);
-        for (unsigned i = 0; i < length; ++i) {
-            Byte const cell = sourceRow[clippedColumns + i];
-            if (cell.attributeIndex != sourceIndex) {
-                sourceIndex = cell.attributeIndex;
-                mappedIndex = getOrStoreAttribute(source.attributeTable[sourceIndex]);
+        std::uint64_t const end = top + (all - skipped);
+        touchRow(end - 1);
+        visitRows(top, end, [&](ZRVector<Byte>& row, unsigned times) {
+            lengthen(row, std::uint64_t{column} + length, column, times);
+            for (unsigned i = 0; i < length; ++i) {
+                Byte const cell = sourceRow[clippedColumns + i];
+                if (cell.attributeIndex != sourceIndex) {
+                    sourceIndex = cell.attributeIndex;
+                    mappedIndex = getOrStoreAttribute(source.attributeTable[sourceIndex]);
+                }
+                row.data[column + i] = Byte::make(cell.character, mappedIndex);
             }
-            row.data[column + i] = Byte::make(cell.character, mappedIndex);
-        }
+        });
+        top = end;
         drawn = drawn || length > 0;
     }
     if (budget != nullptr) budget->take(cellsMade - formerlyMade);
@@ -215,7 +324,7 @@ bool Canvas::drawClipped(Canvas const& source, int x, int y) {
 }
 
 template <class Sink>
-void Canvas::writeRow(ZRVector<Byte> const& row, Sink const& sink) const {
+void Canvas::writeRow(ZRVector<Byte> const& row, unsigned times, Sink const& sink) const {
     char piece[s_cellsInBlock * 16];
     std::size_t filled = 0;
     auto const flush = [&] {
@@ -224,8 +333,8 @@ void Canvas::writeRow(ZRVector<Byte> const& row, Sink const& sink) const {
     };
     auto const writeEscapes = [&](std::string_view sequences) {
         if (budget != nullptr) {
-            if (!budget->suffices(sequences.length())) return;
-            budget->take(sequences.length());
+            if (!budget->suffices(sequences.length() * times)) return;
+            budget->take(sequences.length() * times);
         }
         sink(sequences);
     };
@@ -255,40 +364,51 @@ void Canvas::writeRow(ZRVector<Byte> const& row, Sink const& sink) const {
 
 String Canvas::dump(String const& lineSeparator) const {
     // Measured first, so that the text is written into one buffer.
-    std::int64_t length = std::int64_t{lineSeparator.length()} * rows.count;
-    for (ZRVector<Byte> const& row : rows) {
-        writeRow(row, [&length](std::string_view piece) {
-            length += static_cast<std::int64_t>(piece.length());
+    std::int64_t length = 0;
+    for (unsigned i = 0; i < rows.count; ++i) {
+        std::int64_t const times = rowsAt(i);
+        length += lineSeparator.length() * times;
+        writeRow(rows[i], 0, [&](std::string_view piece) {
+            length += static_cast<std::int64_t>(piece.length()) * times;
         });
     }
     String result;
     if (!result.reserve(saturate(length))) return result;
-    for (ZRVector<Byte> const& row : rows) {
-        writeRow(row, [&result](std::string_view piece) {
-            result.concat(piece.data(), static_cast<int>(piece.length()));
-        });
-        result += lineSeparator;
+    for (unsigned i = 0; i < rows.count; ++i) {
+        for (unsigned times = rowsAt(i); times > 0; --times) {
+            writeRow(rows[i], 0, [&result](std::string_view piece) {
+                result.concat(piece.data(), static_cast<int>(piece.length()));
+            });
+            result += lineSeparator;
+        }
     }
     return result;
 }
 
 bool Canvas::moveRowsTo(String& text, unsigned y) {
-    unsigned const moved = std::min(y - std::min(y, movedRows), rows.count);
-    if (moved == 0) return true;
+    std::uint64_t const end = std::min(std::uint64_t{y}, endOfRows());
+    if (end <= movedRows) return true;
+    unsigned const moved = runs.empty() ? static_cast<unsigned>(end - movedRows) : cutAt(end);
     bool isComplete = true;
     auto const append = [&](std::string_view piece) {
         isComplete = text.appendGrowing(piece) && isComplete;
     };
     for (unsigned i = 0; i < moved; ++i) {
         ZRVector<Byte>& row = rows.data[i];
-        writeRow(row, append);
+        unsigned const times = runs.empty() ? 1 : rowsAt(i);
+        int const start = text.length();
+        writeRow(row, times, append);
         append("\n");
+        if (times > 1) isComplete = repeatEnd(text, start, times) && isComplete;
         row.count = 0;
         spareRows.push_back(std::move(row));
     }
     for (unsigned i = moved; i < rows.count; ++i) rows.data[i - moved] = std::move(rows.data[i]);
     rows.count -= moved;
-    movedRows += moved;
+    std::erase_if(runs, [moved](Run const& run) { return run.index < moved; });
+    for (Run& run : runs) run.index -= moved;
+    repeatedRows -= end - movedRows - moved;
+    movedRows = static_cast<unsigned>(end);
     return isComplete;
 }
 

@@ -64,7 +64,7 @@ public:
 
     /// The distinct attribute values that the cells refer to.
     ZRVector<Attributes> attributeTable;
-    /// Top row first.
+    /// Top row first. On a canvas of a page one entry may stand for many rows that are alike.
     ZRVector<ZRVector<Byte>> rows;
 
     Canvas() : Canvas(nullptr) {}
@@ -98,6 +98,9 @@ public:
     bool mayDraw(std::int64_t cells, std::int64_t times) const;
     CellBudget* cellBudget() const { return budget; }
 
+    /// Draws the text in `height` rows, from row `y` down.
+    bool drawDown(std::string_view text, int x, int y, int height, Attributes const& attributes);
+
     /// Moves the origin to (x, y), so that what is drawn until `leave` is drawn as if onto a canvas
     /// of its own that is then composed onto this one there. Returns false, with nothing changed,
     /// where that would not be the same: where the position is negative, or cells are there
@@ -124,25 +127,39 @@ private:
         unsigned end;
     };
 
+    /// An entry of `rows` that stands for more than one row.
+    struct Run {
+        unsigned index;
+        unsigned more;
+    };
+
     int resolveColumn(unsigned x) const;
     int resolveRow(unsigned y) const;
     unsigned originColumn() const { return frames.empty() ? 0 : frames.back().left; }
-    /// Row `y`, which exists from now on, with all rows above it as long as the origins ask for.
-    ZRVector<Byte>& touchRow(std::uint64_t y) {
-        return isTouched(y) ? rows.data[y - movedRows] : touchNewRow(y);
-    }
-    ZRVector<Byte>& touchNewRow(std::uint64_t y);
-    template <class Visit>
-    void visitUntouched(std::uint64_t y, Visit const& visit);
-    bool mayDrawAt(std::uint64_t top, std::uint64_t last, unsigned column, std::size_t drawn);
-    std::uint64_t costOfRow(std::uint64_t y);
+    /// The row behind the last one.
+    std::uint64_t endOfRows() const { return std::uint64_t{movedRows} + rows.count + repeatedRows; }
     bool isTouched(std::uint64_t y) const {
         return !frames.empty() && y >= movedRows && y < frames.back().end;
     }
-    void bringIntoUse(unsigned row);
-    void lengthen(ZRVector<Byte>& row, std::uint64_t width, unsigned filled);
+    /// Row `y`, which exists from now on, with all rows above it as long as the origins ask for.
+    ZRVector<Byte>& touchRow(std::uint64_t y) {
+        if (!isTouched(y)) touchNewRow(y);
+        return runs.empty() ? rows.data[y - movedRows] : loneRow(y);
+    }
+    void touchNewRow(std::uint64_t y);
+    template <class Visit>
+    void visitUntouched(std::uint64_t y, Visit const& visit);
+    template <class Visit>
+    void visitRows(std::uint64_t first, std::uint64_t end, Visit const& visit);
+    ZRVector<Byte>& loneRow(std::uint64_t y);
+    unsigned cutAt(std::uint64_t y);
+    unsigned rowsAt(unsigned index) const;
+    void bringIntoUse(std::uint64_t end);
+    void lengthen(ZRVector<Byte>& row, std::uint64_t width, unsigned filled, unsigned times = 1);
+    bool mayDrawAt(std::uint64_t top, std::uint64_t last, unsigned column, std::uint64_t drawn);
+    std::uint64_t costOfRow(std::uint64_t y);
     template <class Sink>
-    void writeRow(ZRVector<Byte> const& row, Sink const& sink) const;
+    void writeRow(ZRVector<Byte> const& row, unsigned times, Sink const& sink) const;
 
     CellBudget* budget;
     /// Rows, and cells that only fill the way to others, so far.
@@ -151,6 +168,10 @@ private:
     unsigned lastIndex = 0;
     /// Innermost last.
     std::vector<Frame> frames;
+    /// In the order of their entries.
+    std::vector<Run> runs;
+    /// All rows that runs stand for, but one each.
+    std::uint64_t repeatedRows = 0;
     /// Rows that were moved out; `rows` begins behind them.
     unsigned movedRows = 0;
     /// Empty rows with storage.

@@ -58,20 +58,10 @@ void applyFontStyle(String const& value, Attributes& attributes) {
     attributes.flags = static_cast<std::uint8_t>(kept | style.added);
 }
 
-/// Columns from the beginning of `text`, which ends at a NUL, or from the left edge of the canvas.
-std::int64_t shownLength(String const& text, int x) {
-    int const end = text.indexOf('\0');
-    return std::int64_t{end < 0 ? text.length() : end} + std::min(x, 0);
-}
-
 /// Draws `text` in every row of `area` that the canvas can hold, beginning at column `x`.
 void drawColumn(Canvas& canvas, String const& text, int x, Rect const& area,
                 Attributes const& attributes) {
-    int const end = saturate(std::int64_t{area.y} + area.height);
-    int row = std::max(area.y, 0);
-    if (!canvas.mayDraw(shownLength(text, x), std::int64_t{end} - row)) return;
-    // Where nothing is to be seen in one row, nothing is in as many as there may be.
-    while (row < end && canvas.drawClipped(text.view(), x, row, attributes)) ++row;
+    canvas.drawDown(text.view(), x, area.y, area.height, attributes);
 }
 
 /// Draws `text` once for every column of `area` in its rows from `top` on, which are `height`.
