@@ -274,7 +274,9 @@ bool Canvas::drawDown(std::string_view text, int x, int y, int height,
         if (rowEnd > row.count) lengthen(row, rowEnd, column, times);
         setCells(row.data + column, shown, index);
     };
-    if (budget == nullptr || top == last) {
+    if (top == last) {
+        drawIn(touchRow(top), 1);
+    } else if (budget == nullptr) {
         for (std::uint64_t row = top; row <= last; ++row) drawIn(touchRow(row), 1);
     } else {
         touchRow(last);
@@ -405,9 +407,11 @@ bool Canvas::moveRowsTo(String& text, unsigned y) {
     }
     for (unsigned i = moved; i < rows.count; ++i) rows.data[i - moved] = std::move(rows.data[i]);
     rows.count -= moved;
-    std::erase_if(runs, [moved](Run const& run) { return run.index < moved; });
-    for (Run& run : runs) run.index -= moved;
-    repeatedRows -= end - movedRows - moved;
+    if (!runs.empty()) {
+        std::erase_if(runs, [moved](Run const& run) { return run.index < moved; });
+        for (Run& run : runs) run.index -= moved;
+        repeatedRows -= end - movedRows - moved;
+    }
     movedRows = static_cast<unsigned>(end);
     return isComplete;
 }
