@@ -7,6 +7,6 @@
 /// belong to no UTF-8 character, which a terminal may take for one byte each.
 void replaceControls(String& text);
 
-/// The same for a page of texts without controls, whose escape bytes are the library's own: painting
-/// cuts characters apart and puts bytes of two of them together.
+/// The same for a page of texts without controls, whose escape bytes are the library's own:
+/// painting cuts characters apart and puts bytes of two of them together.
 void repairCharacters(String& page);
