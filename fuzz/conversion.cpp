@@ -137,13 +137,13 @@ void convert(Input const& input) {
     }
     std::string_view const page = outputs[0].view().substr(6);
     require(page.empty() || page.back() == '\n', "every row ends with a line feed");
-    bool const hasEscapes = input.markup.indexOf('\x1b') >= 0 || input.sheet.indexOf('\x1b') >= 0;
-    if (!hasEscapes) requireOwnSequences(page);
-
-    // Large pages and deep documents take too long to be made in another way.
+    // Large pages and deep documents take too long to be looked at, and to be made in another way.
     constexpr std::size_t s_largestPage = 100'000;
     constexpr int s_largestMarkup = 20'000;
     if (page.size() > s_largestPage || input.markup.length() > s_largestMarkup) return;
+    bool const hasEscapes = input.markup.indexOf('\x1b') >= 0 || input.sheet.indexOf('\x1b') >= 0;
+    if (!hasEscapes) requireOwnSequences(page);
+
     PullParser parser(input.markup);
     ZRLWPtr<DomElement> root;
     require(buildDomTree(root, true, parser, rules), "a conversion reads as the builder does");
