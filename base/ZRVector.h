@@ -12,7 +12,7 @@
 ///
 /// 1. The elements are the first `count` slots of `data`; `count` <= `capacity`.
 /// 2. Slots past `count` hold T's default value (or are unset where T has no constructor).
-/// 3. The storage holds more than `capacity` slots; it is doubled when it is outgrown, so that
+/// 3. The storage holds at least `capacity` slots; it is doubled when it is outgrown, so that
 ///    appending costs constant time, while `capacity` follows the growth step.
 ///
 /// Where storage cannot be had the allocator's exception passes and the vector is unchanged.
@@ -61,10 +61,9 @@ public:
     /// than `n` already. True on success.
     bool enlarge(unsigned n) {
         if (n < capacity) return true;
-        unsigned long long const slots = (n / growBy + 1ULL) * growBy;
-        if (slots >= std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
-        provide(static_cast<unsigned>(slots));
-        capacity = static_cast<unsigned>(slots);
+        unsigned const slots = slotsAbove(n);
+        provide(slots);
+        capacity = slots;
         return true;
     }
 
@@ -115,6 +114,25 @@ public:
         count = i;
     }
 
+    /// Puts `n` elements, `T()` each, before the first one. Constant time, but for these, while
+    /// there are slots before the first: where there are none, such are made for a quarter of the
+    /// elements more.
+    void extendFront(unsigned n) {
+        if (n == 0) return;
+        unsigned long long const extended = 0ULL + count + n;
+        unsigned const slots = slotsAbove(extended - 1);
+        if (data == nullptr || skipped() < n || slots - n > allocated) {
+            moveTo(std::max(slots - n, allocated), n + static_cast<unsigned>(extended / 4));
+        }
+        unsigned const before = skipped();
+        std::uninitialized_value_construct_n(data - n, n);
+        data -= n;
+        allocated += n;
+        setSkipped(before - n);
+        count += n;
+        capacity = std::max(capacity, slots);
+    }
+
     /// Removes every element; the storage stays.
     void clear() {
         for (unsigned i = 0; i < count; ++i) data[i] = T();
@@ -127,6 +145,13 @@ private:
         std::size_t size;
         void operator()(std::byte* storage) const { Allocator().deallocate(storage, size); }
     };
+
+    /// The smallest multiple of `growBy` greater than `n`.
+    unsigned slotsAbove(unsigned long long n) const {
+        unsigned long long const slots = (n / growBy + 1) * growBy;
+        if (slots >= std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
+        return static_cast<unsigned>(slots);
+    }
 
     /// Makes slot `i` exist.
     void growToHold(unsigned i) {
@@ -147,19 +172,22 @@ private:
         moveTo(slots + 1 > doubled ? slots + 1 : doubled);
     }
 
-    /// Moves the elements into new storage.
-    void moveTo(unsigned slots) {
-        std::unique_ptr<std::byte, Deallocator> storage(Allocator().allocate(sizeOf(slots)),
-                                                        {sizeOf(slots)});
+    /// Moves the elements into new storage, with slots before them.
+    void moveTo(unsigned slots, unsigned before = 0) {
+        if (before > std::numeric_limits<unsigned>::max() - slots) {
+            throw std::bad_array_new_length();
+        }
+        std::size_t const size = sizeOf(before + slots);
+        std::unique_ptr<std::byte, Deallocator> storage(Allocator().allocate(size), {size});
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
-        T* const fresh = reinterpret_cast<T*>(storage.get() + s_front);
+        T* const fresh = reinterpret_cast<T*>(storage.get() + s_front) + before;
         std::uninitialized_default_construct_n(fresh, slots);
         static_cast<void>(storage.release());
         std::move(data, data + count, fresh);
         freeStorage();
         data = fresh;
         allocated = slots;
-        setSkipped(0);
+        setSkipped(before);
     }
 
     /// Takes the storage of `source` with its elements from `i` on. Nothing was held before.

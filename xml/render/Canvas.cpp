@@ -14,9 +14,20 @@ namespace {
 /// A page keeps so many new rows as one, as long as they stay alike.
 constexpr std::uint64_t s_tall = 256;
 
+/// Cells of a row that is not copied where it need not be.
+constexpr unsigned s_wide = 1024;
+
 constexpr std::int64_t s_largestOrigin = std::numeric_limits<std::int32_t>::max();
 
 }  // namespace
+
+Canvas::Canvas(Canvas& target) : budget(target.budget) {
+    if (budget != nullptr) {
+        exchangeAttributes(target);
+    } else {
+        attributeTable.add(Attributes());
+    }
+}
 
 /// Makes the row, or as many that are alike, at least `width` cells long; the cells from its former
 /// end up to `filled` become fillers, those behind them are for the caller to set.
@@ -166,11 +177,8 @@ void Canvas::touchNewRow(std::uint64_t y) {
     });
 }
 
-bool Canvas::mayDraw(std::int64_t cells, std::int64_t times) const {
-    if (budget == nullptr || cells <= 0 || times <= 0) return true;
-    bool const isBeyondAll = cells > std::numeric_limits<std::int64_t>::max() / times;
-    return budget->suffices(isBeyondAll ? std::numeric_limits<std::uint64_t>::max()
-                                        : static_cast<std::uint64_t>(cells * times));
+bool Canvas::mayDraw(std::int64_t cells) const {
+    return budget == nullptr || cells <= 0 || budget->suffices(static_cast<std::uint64_t>(cells));
 }
 
 bool Canvas::enter(int x, int y) {
@@ -267,7 +275,10 @@ bool Canvas::drawDown(std::string_view text, int x, int y, int height,
     return true;
 }
 
-bool Canvas::drawClipped(Canvas const& source, int x, int y) {
+/// Calls `lay` with the rows that rows of `source` lie on, and how they do. Returns whether there
+/// is a cell that does.
+template <class Lay>
+bool Canvas::visitComposed(Canvas const& source, int x, int y, Lay const& lay) {
     auto const clippedColumns = static_cast<unsigned>(x < 0 ? -std::int64_t{x} : 0);
     std::uint64_t skippedRows = static_cast<std::uint64_t>(y < 0 ? -std::int64_t{y} : 0);
     unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
@@ -276,34 +287,79 @@ bool Canvas::drawClipped(Canvas const& source, int x, int y) {
     std::uint64_t const last = top + (source.endOfRows() - skippedRows) - 1;
     if (budget != nullptr && !mayDrawAt(top, last, column, 0)) return false;
     std::uint64_t const formerlyMade = cellsMade;
-    unsigned sourceIndex = 0;
-    unsigned mappedIndex = 0;
     bool drawn = false;
     for (unsigned r = 0; r < source.rows.count; ++r) {
         std::uint64_t const all = source.rowsAt(r);
         std::uint64_t const skipped = std::min(all, skippedRows);
         skippedRows -= skipped;
         if (skipped == all) continue;
-        ZRVector<Byte> const& sourceRow = source.rows[r];
-        unsigned const length = sourceRow.count - std::min(clippedColumns, sourceRow.count);
+        unsigned const width = source.rows[r].count;
+        unsigned const length = width - std::min(clippedColumns, width);
         std::uint64_t const end = top + (all - skipped);
         touchRow(end - 1);
         visitRows(top, end, [&](ZRVector<Byte>& row, unsigned times) {
-            lengthen(row, std::uint64_t{column} + length, column, times);
-            for (unsigned i = 0; i < length; ++i) {
-                Byte const cell = sourceRow[clippedColumns + i];
-                if (cell.attributeIndex != sourceIndex) {
-                    sourceIndex = cell.attributeIndex;
-                    mappedIndex = getOrStoreAttribute(source.attributeTable[sourceIndex]);
-                }
-                row.data[column + i] = Byte::make(cell.character, mappedIndex);
-            }
+            lay(row, Overlap{r, times == end - top, times, clippedColumns, length, column});
         });
         top = end;
         drawn = drawn || length > 0;
     }
     if (budget != nullptr) budget->take(cellsMade - formerlyMade);
     return drawn;
+}
+
+bool Canvas::drawClipped(Canvas const& source, int x, int y) {
+    unsigned sourceIndex = 0;
+    unsigned mappedIndex = 0;
+    return visitComposed(source, x, y, [&](ZRVector<Byte>& row, Overlap const& overlap) {
+        unsigned const column = overlap.column;
+        lengthen(row, std::uint64_t{column} + overlap.length, column, overlap.rows);
+        for (unsigned i = 0; i < overlap.length; ++i) {
+            Byte const cell = source.rows[overlap.index][overlap.first + i];
+            if (cell.attributeIndex != sourceIndex) {
+                sourceIndex = cell.attributeIndex;
+                mappedIndex = getOrStoreAttribute(source.attributeTable[sourceIndex]);
+            }
+            row.data[column + i] = Byte::make(cell.character, mappedIndex);
+        }
+    });
+}
+
+void Canvas::compose(Canvas& inner, int x, int y) {
+    if (budget == nullptr) {
+        drawClipped(inner, x, y);
+        return;
+    }
+    visitComposed(inner, x, y, [&](ZRVector<Byte>& row, Overlap const& overlap) {
+        ZRVector<Byte>& source = inner.rows.data[overlap.index];
+        unsigned const length = overlap.length;
+        if (length >= s_wide && row.count <= length && overlap.isOnlyOne) {
+            takeRow(row, source, overlap);
+            return;
+        }
+        lengthen(row, std::uint64_t{overlap.column} + length, overlap.column, overlap.rows);
+        if (length > 0) std::copy_n(source.data + overlap.first, length, row.data + overlap.column);
+    });
+}
+
+/// Lays a row over a shorter one by taking it and laying the shorter one under it.
+void Canvas::takeRow(ZRVector<Byte>& row, ZRVector<Byte>& source, Overlap const& overlap) {
+    ZRVector<Byte> taken;
+    source.moveTailTo(overlap.first, taken);
+    taken.extendFront(overlap.column);
+    unsigned const kept = std::min(row.count, overlap.column);
+    if (kept > 0) std::copy_n(row.data, kept, taken.data);
+    std::fill(taken.data + kept, taken.data + overlap.column, Byte::make(' ', 0));
+    cellsMade += std::uint64_t{overlap.column - kept} * overlap.rows;
+    row = std::move(taken);
+}
+
+void Canvas::exchangeAttributes(Canvas& other) {
+    std::swap(attributeTable, other.attributeTable);
+    std::swap(lastIndex, other.lastIndex);
+}
+
+void Canvas::returnAttributes(Canvas& target) {
+    if (budget != nullptr) exchangeAttributes(target);
 }
 
 }  // namespace CLI::XML

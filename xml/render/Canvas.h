@@ -71,6 +71,10 @@ public:
     /// A canvas of a page: a text whose cells the budget does not have is not drawn. The budget
     /// outlives the canvas; null for none.
     explicit Canvas(CellBudget* ofPage) : budget(ofPage) { attributeTable.add(Attributes()); }
+    /// A canvas whose content becomes a part of `target` by `compose`. On a page it has the
+    /// target's attribute table until `returnAttributes` is called: until then nothing is drawn on
+    /// the target.
+    explicit Canvas(Canvas& target);
     Canvas(Canvas const&) = delete;
     Canvas& operator=(Canvas const&) = delete;
     ~Canvas() = default;
@@ -93,9 +97,15 @@ public:
     bool drawClipped(std::string_view text, int x, int y, Attributes const& attributes);
     bool drawClipped(Canvas const& source, int x, int y);
 
-    /// To be asked before `times` texts of `cells` cells are made or drawn: false where the budget
-    /// does not have them, and nothing of the page counts any more.
-    bool mayDraw(std::int64_t cells, std::int64_t times) const;
+    /// Gives the attribute table back that was borrowed from `target`.
+    void returnAttributes(Canvas& target);
+    /// `drawClipped` of a canvas that was made for this one, has given the table back, and is of no
+    /// use any more. On a page it costs as little as the smaller of the two does in each row.
+    void compose(Canvas& inner, int x, int y);
+
+    /// To be asked before a text of `cells` cells is made: false where the budget does not have
+    /// them, and nothing of the page counts any more.
+    bool mayDraw(std::int64_t cells) const;
     CellBudget* cellBudget() const { return budget; }
 
     /// Draws the text in `height` rows, from row `y` down.
@@ -133,6 +143,19 @@ private:
         unsigned more;
     };
 
+    /// Where a row of a canvas lies on one or more that are alike.
+    struct Overlap {
+        /// The source's entry, and whether it lies on `rows` rows here and nowhere else.
+        unsigned index;
+        bool isOnlyOne;
+        unsigned rows;
+        /// In the source, and how many cells from there on.
+        unsigned first;
+        unsigned length;
+        /// Where the first one comes to lie.
+        unsigned column;
+    };
+
     int resolveColumn(unsigned x) const;
     int resolveRow(unsigned y) const;
     unsigned originColumn() const { return frames.empty() ? 0 : frames.back().left; }
@@ -147,6 +170,10 @@ private:
         return runs.empty() ? rows.data[y - movedRows] : loneRow(y);
     }
     void touchNewRow(std::uint64_t y);
+    template <class Lay>
+    bool visitComposed(Canvas const& source, int x, int y, Lay const& lay);
+    void takeRow(ZRVector<Byte>& row, ZRVector<Byte>& source, Overlap const& overlap);
+    void exchangeAttributes(Canvas& other);
     template <class Visit>
     void visitUntouched(std::uint64_t y, Visit const& visit);
     template <class Visit>

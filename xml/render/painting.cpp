@@ -76,7 +76,7 @@ void drawStrips(Canvas& canvas, String const& text, Rect const& area, int top, i
     auto const clipped = std::min(left / text.length(), std::int64_t{area.width});
     std::int64_t const length = (area.width - clipped) * text.length();
     auto const x = static_cast<int>(area.x + clipped * text.length());
-    if (!canvas.mayDraw(length + std::min(x, 0), 1)) return;
+    if (!canvas.mayDraw(length + std::min(x, 0))) return;
     drawColumn(canvas, String::repeat(text, static_cast<unsigned>(area.width - clipped)), x, rows,
                attributes);
 }
@@ -157,7 +157,7 @@ BoxPainting::BoxPainting(Box& painted, Canvas& ofParent, Canvas::Attributes cons
     box->applyContentAttributes(content);
     Rect const& area = box->dimensions.content;
     isDirect = !isBeneathMissing && target->enter(area.x, area.y);
-    if (!isDirect) own = std::make_unique<Canvas>(target->cellBudget());
+    if (!isDirect) own = std::make_unique<Canvas>(*target);
 }
 
 bool BoxPainting::hasBorder() const {
@@ -180,11 +180,12 @@ BoxPainting::~BoxPainting() {
 
 void BoxPainting::finish() {
     if (isDirect) return;
+    own->returnAttributes(*target);
     if (isBeneathMissing) {
         box->drawBackgroundTo(*target, inherited);
         box->drawBorderTo(*target, inherited);
     }
-    target->drawClipped(*own, box->dimensions.content.x, box->dimensions.content.y);
+    target->compose(*own, box->dimensions.content.x, box->dimensions.content.y);
 }
 
 void Box::drawTo(Canvas& canvas, Canvas::Attributes const& attributes) {
