@@ -21,14 +21,6 @@ constexpr std::int64_t s_largestOrigin = std::numeric_limits<std::int32_t>::max(
 
 }  // namespace
 
-Canvas::Canvas(Canvas& target) : budget(target.budget) {
-    if (budget != nullptr) {
-        exchangeAttributes(target);
-    } else {
-        attributeTable.add(Attributes());
-    }
-}
-
 /// Makes the row, or as many that are alike, at least `width` cells long; the cells from its former
 /// end up to `filled` become fillers, those behind them are for the caller to set.
 void Canvas::lengthen(ZRVector<Byte>& row, std::uint64_t width, unsigned filled, unsigned times) {
@@ -353,13 +345,10 @@ void Canvas::takeRow(ZRVector<Byte>& row, ZRVector<Byte>& source, Overlap const&
     row = std::move(taken);
 }
 
-void Canvas::exchangeAttributes(Canvas& other) {
-    std::swap(attributeTable, other.attributeTable);
-    std::swap(lastIndex, other.lastIndex);
-}
-
-void Canvas::returnAttributes(Canvas& target) {
-    if (budget != nullptr) exchangeAttributes(target);
+void Canvas::exchangeAttributes(Canvas& inner) {
+    if (budget == nullptr) return;
+    std::swap(attributeTable, inner.attributeTable);
+    std::swap(lastIndex, inner.lastIndex);
 }
 
 }  // namespace CLI::XML

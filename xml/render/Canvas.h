@@ -71,10 +71,6 @@ public:
     /// A canvas of a page: a text whose cells the budget does not have is not drawn. The budget
     /// outlives the canvas; null for none.
     explicit Canvas(CellBudget* ofPage) : budget(ofPage) { attributeTable.add(Attributes()); }
-    /// A canvas whose content becomes a part of `target` by `compose`. On a page it has the
-    /// target's attribute table until `returnAttributes` is called: until then nothing is drawn on
-    /// the target.
-    explicit Canvas(Canvas& target);
     Canvas(Canvas const&) = delete;
     Canvas& operator=(Canvas const&) = delete;
     ~Canvas() = default;
@@ -97,10 +93,11 @@ public:
     bool drawClipped(std::string_view text, int x, int y, Attributes const& attributes);
     bool drawClipped(Canvas const& source, int x, int y);
 
-    /// Gives the attribute table back that was borrowed from `target`.
-    void returnAttributes(Canvas& target);
-    /// `drawClipped` of a canvas that was made for this one, has given the table back, and is of no
-    /// use any more. On a page it costs as little as the smaller of the two does in each row.
+    /// On a page, lends the attribute table to a canvas that is to be composed onto this one, or
+    /// takes it back: in between nothing is drawn here.
+    void exchangeAttributes(Canvas& inner);
+    /// `drawClipped` of a canvas that has had and returned the table, and is of no use any more. On
+    /// a page a wide row costs no more than what it is laid on.
     void compose(Canvas& inner, int x, int y);
 
     /// To be asked before a text of `cells` cells is made: false where the budget does not have
@@ -173,7 +170,6 @@ private:
     template <class Lay>
     bool visitComposed(Canvas const& source, int x, int y, Lay const& lay);
     void takeRow(ZRVector<Byte>& row, ZRVector<Byte>& source, Overlap const& overlap);
-    void exchangeAttributes(Canvas& other);
     template <class Visit>
     void visitUntouched(std::uint64_t y, Visit const& visit);
     template <class Visit>

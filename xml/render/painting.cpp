@@ -157,7 +157,9 @@ BoxPainting::BoxPainting(Box& painted, Canvas& ofParent, Canvas::Attributes cons
     box->applyContentAttributes(content);
     Rect const& area = box->dimensions.content;
     isDirect = !isBeneathMissing && target->enter(area.x, area.y);
-    if (!isDirect) own = std::make_unique<Canvas>(*target);
+    if (isDirect) return;
+    own = std::make_unique<Canvas>(target->cellBudget());
+    target->exchangeAttributes(*own);
 }
 
 bool BoxPainting::hasBorder() const {
@@ -180,7 +182,7 @@ BoxPainting::~BoxPainting() {
 
 void BoxPainting::finish() {
     if (isDirect) return;
-    own->returnAttributes(*target);
+    target->exchangeAttributes(*own);
     if (isBeneathMissing) {
         box->drawBackgroundTo(*target, inherited);
         box->drawBorderTo(*target, inherited);
