@@ -87,7 +87,7 @@ private:
         bool const isCdata = source[start] == '<';
         auto const end = static_cast<std::size_t>(parser.position) - (isCdata ? s_cdataEnd : 0);
         auto const isSpace = [](unsigned char c) { return std::isspace(c) != 0; };
-        auto const* const word = std::find_if_not(content.begin(), content.end(), isSpace);
+        auto const word = std::find_if_not(content.begin(), content.end(), isSpace);
         // A NUL byte ends the words of a content.
         if (word == content.end() || *word == '\0') return result;
         place.position = end - static_cast<std::size_t>(content.end() - word);

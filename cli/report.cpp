@@ -54,7 +54,8 @@ std::string errorText(std::string const& file, std::string const& message, std::
     auto const [line, words] = parseMessage(message);
     std::string const error = "error: " + std::string(words);
     auto const locate = kind == SourceKind::Document ? locateInDocument : locateInSheet;
-    std::optional<ErrorPlace> const place = locate(source, message);
+    std::optional<ErrorPlace> place;
+    if (!source.empty()) place = locate(source, message);
     if (!place) return heading(file, line, error);
 
     std::string text = heading(file, lineText(source, place->position), error) +
