@@ -50,22 +50,6 @@ std::size_t plainLength(std::string_view text) {
     return length;
 }
 
-/// Bytes of the well-formed character at `i` that begins with a byte from 0x80 on; 0 where there is
-/// none. The Unicode Standard, table 3-7.
-std::size_t characterLength(std::string_view text, std::size_t i) {
-    unsigned char const lead = byteAt(text, i);
-    std::size_t const length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4) return 0;
-    unsigned char const lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-    unsigned char const highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-    unsigned char const second = byteAt(text, i + 1);
-    if (second < lowest || second > highest) return 0;
-    for (std::size_t next = 2; next < length; ++next) {
-        if ((byteAt(text, i + next) & 0xC0U) != 0x80) return 0;
-    }
-    return length;
-}
-
 template <Controls controls>
 void replace(String& text) {
     std::string_view const given = text.view();
@@ -97,6 +81,21 @@ void replace(String& text) {
 }
 
 }  // namespace
+
+// The Unicode Standard, table 3-7.
+std::size_t characterLength(std::string_view text, std::size_t i) {
+    unsigned char const lead = byteAt(text, i);
+    std::size_t const length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4) return 0;
+    unsigned char const lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+    unsigned char const highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+    unsigned char const second = byteAt(text, i + 1);
+    if (second < lowest || second > highest) return 0;
+    for (std::size_t next = 2; next < length; ++next) {
+        if ((byteAt(text, i + next) & 0xC0U) != 0x80) return 0;
+    }
+    return length;
+}
 
 void replaceControls(String& text) { replace<Controls::Any>(text); }
 

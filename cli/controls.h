@@ -1,6 +1,13 @@
 #pragma once
 
+#include <cstddef>
+#include <string_view>
+
 #include "base/String.h"
+
+/// Bytes of the well-formed UTF-8 character at `i` that begins with a byte from 0x80 on; 0 where
+/// there is none.
+std::size_t characterLength(std::string_view text, std::size_t i);
 
 /// Puts a "?" in the place of every byte that may drive a terminal: of the control characters but
 /// white space, of those of two bytes in UTF-8 (U+0080 to U+009F), and of bytes 0x80 to 0x9F that

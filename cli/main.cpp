@@ -32,7 +32,7 @@ ExitStatus readSheet(std::string const& file, StyleList& styles, Options const& 
     StyleList rules;
     XCode const result = CLI::XML::parseCss(rules, css);
     if (!result) {
-        reportError(displayName(file), result.getString().c_str());
+        reportError(displayName(file), result.getString().c_str(), css.view(), SourceKind::Sheet);
         return ExitStatus::InputAtFault;
     }
     for (auto const& rule : rules) styles.add(rule);
@@ -75,7 +75,7 @@ ExitStatus run(Options const& options) {
                              ? CLI::XML::xmlToText(page, document, styles, width)
                              : dumpTree(page, document, styles, width, options.output);
     if (!result) {
-        reportError(displayName(options.document), result.getString().c_str());
+        reportError(displayName(options.document), result.getString().c_str(), document.view());
         return ExitStatus::InputAtFault;
     }
     if (!options.isRaw) repairCharacters(page);

@@ -1,17 +1,75 @@
 #include "cli/report.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <optional>
 
-std::string displayName(std::string const& file) { return file == "-" ? "<stdin>" : file; }
+#include "base/String.h"
+#include "cli/controls.h"
+#include "cli/locateError.h"
+#include "cli/sourceExcerpt.h"
 
-void reportError(std::string const& file, std::string const& message) {
-    constexpr char const* s_digits = "0123456789";
-    std::string const prefix = "Line ";
-    std::size_t const start = message.compare(0, prefix.size(), prefix) == 0 ? prefix.size() : 0;
-    std::size_t const end = message.find_first_not_of(s_digits, start);
-    bool const hasLine =
-        end != start && end != std::string::npos && message.compare(end, 2, ": ") == 0;
-    std::string const place = hasLine ? file + ":" + message.substr(start, end - start) : file;
-    std::string const text = hasLine ? message.substr(end + 2) : message;
-    std::fprintf(stderr, "%s: error: %s\n", place.c_str(), text.c_str());
+namespace {
+
+/// A message of the library, its line number set apart.
+struct Message {
+    /// Empty where it has none.
+    std::string_view line;
+    std::string_view words;
+};
+
+/// "3: WORDS", "Line 3: WORDS" or words alone.
+Message parseMessage(std::string_view message) {
+    std::string_view const prefix = "Line ";
+    std::size_t const number = message.starts_with(prefix) ? prefix.length() : 0;
+    std::size_t const end =
+        std::min(message.find_first_not_of("0123456789", number), message.length());
+    bool const hasLine = end != number && message.substr(end, 2) == ": ";
+    if (!hasLine) return {"", message};
+    return {message.substr(number, end - number), message.substr(end + 2)};
+}
+
+/// The first line of what is said about a place of a file.
+std::string heading(std::string const& file, std::string_view line, std::string_view words) {
+    std::string text = file;
+    if (!line.empty()) text.append(":").append(line);
+    return text.append(": ").append(words) + '\n';
+}
+
+std::string lineText(std::string_view source, std::size_t position) {
+    return std::to_string(lineNumber(source, position));
+}
+
+}  // namespace
+
+std::string displayName(std::string const& file) {
+    if (file == "-") return "<stdin>";
+    String name(file.c_str());
+    replaceControls(name);
+    return name.c_str();
+}
+
+std::string errorText(std::string const& file, std::string const& message, std::string_view source,
+                      SourceKind kind) {
+    auto const [line, words] = parseMessage(message);
+    std::string const error = "error: " + std::string(words);
+    auto const locate = kind == SourceKind::Document ? locateInDocument : locateInSheet;
+    std::optional<ErrorPlace> place;
+    if (!source.empty()) place = locate(source, message);
+    if (!place) return heading(file, line, error);
+
+    std::string text = heading(file, lineText(source, place->position), error) +
+                       sourceExcerpt(source, place->position);
+    if (auto const& unclosed = place->unclosed) {
+        std::string const note = "note: Start tag <" + std::string(unclosed->name) + "> is here";
+        text += heading(file, lineText(source, unclosed->position), note) +
+                sourceExcerpt(source, unclosed->position);
+    }
+    return text;
+}
+
+void reportError(std::string const& file, std::string const& message, std::string_view source,
+                 SourceKind kind) {
+    std::string const text = errorText(file, message, source, kind);
+    std::fwrite(text.data(), 1, text.length(), stderr);
 }

@@ -61,6 +61,8 @@ bool drivesATerminal(std::string const& printed) {
 
 TEST_F(TerminalSafety, HoldsForWhateverADocumentSays) {
     for (std::string const attack : s_attacks) {
+        std::string repeated;
+        for (int i = 0; i < 40; ++i) repeated += attack;
         std::string const documents[] = {
             "<p>a" + attack + "b</p>",
             "<p><![CDATA[" + attack + "]]></p>",
@@ -72,11 +74,16 @@ TEST_F(TerminalSafety, HoldsForWhateverADocumentSays) {
             "<p></" + attack + ">",
             "<table><p " + attack + "=\"" + attack + "\"/></table>",
             "<table>" + attack + "</table>",
+            attack + "<q/>" + std::string(99, 'a') + attack,
+            "<p>" + attack + "</b>",
+            "<p>" + attack,
+            repeated + "< " + repeated,
         };
         for (std::string const& document : documents) {
             Outcome const outcome = run("--width 5", document);
             EXPECT_FALSE(drivesATerminal(outcome.out)) << testing::PrintToString(document);
             EXPECT_FALSE(drivesATerminal(outcome.err)) << testing::PrintToString(document);
+            EXPECT_EQ(outcome.err.find('\x1b'), std::string::npos);
         }
         Outcome const trees = run("--dump dom", documents[0]);
         EXPECT_FALSE(drivesATerminal(trees.out)) << testing::PrintToString(attack);
@@ -85,6 +92,10 @@ TEST_F(TerminalSafety, HoldsForWhateverADocumentSays) {
         EXPECT_FALSE(drivesATerminal(styled.out + styled.err)) << testing::PrintToString(attack);
         write("sheet.css", "p { " + attack + " }");
         EXPECT_FALSE(drivesATerminal(run("--css sheet.css", "<p/>").err));
+        write("sheet.css", repeated + "{" + repeated + "}");
+        Outcome const refused = run("--css sheet.css", "<p/>");
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_FALSE(drivesATerminal(refused.err)) << testing::PrintToString(attack);
     }
 }
 

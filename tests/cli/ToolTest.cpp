@@ -60,6 +60,7 @@ TEST_F(Tool, DumpsEitherTree) {
 
 TEST_F(Tool, SaysWhichFileAndLineIsAtFault) {
     write("page.xml", "<p>\n<q/></p>");
+    write("good.css", "p {}");
     write("bad.css", "p {\n color red; }");
     struct Case {
         char const* arguments;
@@ -68,13 +69,25 @@ TEST_F(Tool, SaysWhichFileAndLineIsAtFault) {
         char const* error;
     };
     Case const cases[] = {
-        {"", "<p>\n< b>", 1, "<stdin>:2: error: Expecting element type\n"},
-        {"", "<p>\n\n", 1, "<stdin>:3: error: Missing end tag at the end\n"},
-        {"page.xml", "", 1, "page.xml: error: Invalid tag: <q>\n"},
-        {"--css bad.css", "<p/>", 1, "bad.css:2: error: Expecting ':'\n"},
-        {"", "<td/>", 1, "<stdin>: error: Cannot layout 'td' within 'html'\n"},
+        {"", "<p>\n< b>", 1,
+         "<stdin>:2: error: Expecting element type\n"
+         "    2 | < b>\n"
+         "      |  ^\n"},
+        {"page.xml", "", 1,
+         "page.xml:2: error: Invalid tag: <q>\n"
+         "    2 | <q/></p>\n"
+         "      | ^\n"},
+        {"--css good.css --css bad.css", "<q/>", 1,
+         "bad.css:2: error: Expecting ':'\n"
+         "    2 |  color red; }\n"
+         "      |        ^\n"},
+        {"--dump boxes", "<td/>", 1,
+         "<stdin>:1: error: Cannot layout 'td' within 'html'\n"
+         "    1 | <td/>\n"
+         "      | ^\n"},
         {"absent.xml", "", 3, "absent.xml: error: No such file or directory\n"},
         {"--css absent.css", "", 3, "absent.css: error: No such file or directory\n"},
+        {"\"$(printf 'a\\033b')\"", "", 3, "a?b: error: No such file or directory\n"},
         {".", "", 3, ".: error: Is a directory\n"},
         {">/dev/full", "<p>x</p>", 3, "<stdout>: error: No space left on device\n"},
     };
