@@ -1,0 +1,29 @@
+# What `cmake --install` puts where: the library and its headers, a CMake package, a file for
+# pkg-config, and the tool.
+
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/galley)
+set(pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+install(TARGETS galley EXPORT galley-targets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/galley COMPONENT development)
+install(EXPORT galley-targets NAMESPACE galley:: DESTINATION ${package_dir} COMPONENT development)
+
+configure_package_config_file(cmake/galley-config.cmake.in galley-config.cmake
+    INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(galley-config-version.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/galley-config.cmake
+              ${PROJECT_BINARY_DIR}/galley-config-version.cmake
+    DESTINATION ${package_dir} COMPONENT development)
+
+# The file finds its prefix from where it stands, so that a tree can be moved.
+file(RELATIVE_PATH GALLEY_PREFIX_FROM_PC /${pc_dir} /)
+configure_file(cmake/galley.pc.in galley.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/galley.pc DESTINATION ${pc_dir} COMPONENT development)
+
+if(GALLEY_BUILD_TOOL)
+    install(TARGETS galley-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
+endif()
