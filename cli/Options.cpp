@@ -130,10 +130,10 @@ void defineOptions(CLI::App& app, Options& options) {
         ->group("Output");
     std::string const wholeOrNot = ", whole or, where the document fails, not at all";
     CLI::Option* const output =
-        app.add_option("--output", options.files,
-                       "Write the page of the one document to this file" + wholeOrNot)
+        app.add_option_function<std::string>(
+               "--output", [&options](std::string const& file) { options.files = {file}; },
+               "Write the page of the one document to this file" + wholeOrNot)
             ->option_text("FILE")
-            ->expected(1)
             ->check(isName)
             ->group("Output");
     CLI::Option* const directory =

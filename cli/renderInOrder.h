@@ -7,8 +7,8 @@
 
 /// Makes `count` renderings, `jobs` of them at the same time, and hands them over in order, on the
 /// calling thread, until `take` returns false. `make` is called on other threads if `jobs` is above
-/// 1, and must not throw. No rendering is begun that is 2 * `jobs` or more ahead of the one that
-/// `take` waits for.
+/// 1, and must not throw. At most 2 * `jobs` renderings behind the one that `take` has are made or
+/// kept.
 void renderInOrder(std::size_t count, unsigned jobs,
                    std::function<Rendering(std::size_t)> const& make,
                    std::function<bool(Rendering const&)> const& take);
