@@ -13,9 +13,8 @@ namespace {
 /// Renderings that are being made, or wait for those before them.
 ///
 /// 1. `taken` <= `begun` <= `taken` + the number of slots, and `begun` <= `count`.
-/// 2. Rendering i, for `taken` <= i < `begun`, has the slot i modulo their number, which is empty
-/// as
-///    long as it is being made.
+/// 2. Rendering i, for `taken` <= i < `begun`, has the slot i modulo their number; the slot is
+///    empty as long as the rendering is being made.
 class Window {
 public:
     Window(std::size_t total, std::size_t size) : count(total), slots(size) {}

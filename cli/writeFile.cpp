@@ -6,6 +6,8 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 
 namespace {
 
@@ -58,7 +60,11 @@ int replaceFile(std::string const& name, std::string_view content, struct stat c
 
 int writeFile(std::string const& name, std::string_view content) {
     struct stat existing = {};
-    bool const isThere = lstat(name.c_str(), &existing) == 0;
-    if (isThere && !S_ISREG(existing.st_mode)) return writeStraight(name, content);
-    return replaceFile(name, content, isThere ? &existing : nullptr);
+    bool const isThere = stat(name.c_str(), &existing) == 0;
+    if (!isThere && lstat(name.c_str(), &existing) != 0) return replaceFile(name, content, nullptr);
+    // A link to what is not there yet is no regular file either.
+    if (!S_ISREG(existing.st_mode)) return writeStraight(name, content);
+    std::error_code fault;
+    std::string const target = std::filesystem::canonical(name, fault);
+    return fault ? fault.value() : replaceFile(target, content, &existing);
 }

@@ -158,6 +158,9 @@ TEST_F(Output, GoesToFilesWholeOrNotAtAll) {
     EXPECT_EQ(run("--output /dev/stdout a.xml | cat").out, "new\n");
     run("--output link a.xml", "", "ln -s target link; ");
     EXPECT_EQ(read("target"), "new\n");
+    run("--output link", "newer");
+    EXPECT_EQ(read("target"), "newer\n");
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
     struct Case {
         char const* arguments;
         char const* error;

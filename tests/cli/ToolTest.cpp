@@ -1,8 +1,5 @@
 #include "tests/support/tool.h"
 
-#include <pty.h>
-#include <unistd.h>
-
 #include <string>
 
 namespace {
@@ -32,19 +29,6 @@ TEST_F(Tool, BreaksLinesAtTheWidthAskedForElseAt80) {
     EXPECT_EQ(run("--width 0", "a b").out, "a \nb\n");
     EXPECT_EQ(run("", words).out.find('\n'), row.size());
     EXPECT_EQ(run("--width 99999999999", words).out.find('\n'), words.size());
-}
-
-TEST_F(Tool, TakesTheWidthOfTheTerminalItWritesTo) {
-    winsize const size{24, 6, 0, 0};
-    int controller = -1;
-    int terminal = -1;
-    ASSERT_EQ(openpty(&controller, &terminal, nullptr, nullptr, &size), 0);
-    EXPECT_EQ(run(std::string("- >") + ttyname(terminal), "aa bb cc").status, 0);
-    char seen[64] = {};
-    EXPECT_GT(::read(controller, seen, sizeof seen - 1), 0);
-    EXPECT_STREQ(seen, "aa bb \r\ncc\r\n");
-    close(controller);
-    close(terminal);
 }
 
 TEST_F(Tool, DumpsEitherTree) {
