@@ -2,57 +2,185 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 #include "base/String.h"
+#include "cli/outputNames.h"
 
 namespace {
 
+constexpr char const* s_footer =
+    "Exit status:\n"
+    "  0  everything was rendered, or passed --check\n"
+    "  1  a document or a sheet is at fault, or memory ran out\n"
+    "  2  usage\n"
+    "  3  a file cannot be read or written\n"
+    "A document that fails is reported, and the others are rendered all the same; the status is\n"
+    "that of the first failure. A sheet that fails ends the run, unless it is a --check.\n";
+
+/// Breaks the descriptions of options where a line of 80 columns ends.
+class HelpFormatter final : public CLI::Formatter {
+public:
+    HelpFormatter() { column_width(32); }
+
+    std::string make_option_desc(CLI::Option const* option) const override {
+        std::size_t const room = 80 - get_column_width();
+        std::string text = CLI::Formatter::make_option_desc(option);
+        for (std::size_t start = 0; start + room < text.length();) {
+            std::size_t const space = text.rfind(' ', start + room);
+            if (space == std::string::npos || space <= start) break;
+            text[space] = '\n';
+            start = space + 1;
+        }
+        return text;
+    }
+};
+
+template <class Value>
+using Choices = std::vector<std::pair<std::string, Value>>;
+
 std::string isWholeNumber(std::string const& text) {
     bool const valid = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
-    return valid ? "" : "'" + text + "' is not a number of columns";
+    return valid ? "" : "'" + text + "' is not a whole number";
 }
 
-/// Standard input can be read once only.
-void checkInputs(Options const& options) {
-    auto const sheets = std::count(options.sheets.begin(), options.sheets.end(), "-");
-    if (sheets + (options.document == "-" ? 1 : 0) > 1) {
-        throw CLI::ValidationError("-", "standard input can be read only once");
-    }
+std::string isPositive(std::string const& text) {
+    std::string const fault = isWholeNumber(text);
+    bool const isZero = text.find_first_not_of('0') == std::string::npos;
+    return fault.empty() && isZero ? "'" + text + "' is not positive" : fault;
+}
+
+std::string isName(std::string const& text) { return text.empty() ? "the name is empty" : ""; }
+
+/// A number that is too large counts as the largest.
+template <class Number>
+CLI::Option* addNumber(CLI::App& app, std::string const& name, Number& number,
+                       std::string const& description) {
+    auto const set = [&number](std::string const& text) {
+        number = static_cast<unsigned>(String(text.c_str()).toInteger());
+    };
+    return app.add_option_function<std::string>(name, set, description)->option_text("N");
+}
+
+template <class Value>
+CLI::Option* addChoice(CLI::App& app, std::string const& name, Value& value,
+                       Choices<Value> const& choices, std::string const& description) {
+    std::vector<std::string> words;
+    for (auto const& choice : choices) words.push_back(choice.first);
+    auto const set = [&value, choices](std::string const& word) {
+        for (auto const& choice : choices) {
+            if (choice.first == word) value = choice.second;
+        }
+    };
+    return app.add_option_function<std::string>(name, set, description)
+        ->option_text(CLI::detail::join(words, "|"))
+        ->check(CLI::IsMember(words));
+}
+
+/// Everything that the tool understands.
+void defineOptions(CLI::App& app, Options& options) {
+    app.set_version_flag("--version", "galley " GALLEY_VERSION);
+    app.footer(s_footer);
+    app.formatter(std::make_shared<HelpFormatter>());
+    app.add_option("FILE", options.documents,
+                   "The documents, in the order of their pages; \"-\" or nothing is standard input")
+        ->option_text("...");
+
+    app.add_option("--css", options.sheets,
+                   "A style sheet; any number of them, their rules in the order given")
+        ->option_text("FILE")
+        ->allow_extra_args(false)
+        ->group("Page");
+    addNumber(app, "--width", options.width,
+              "Width of the page in columns (default: that of the terminal on standard output, "
+              "else of the environment's COLUMNS, else 80)")
+        ->check(isWholeNumber)
+        ->group("Page");
+    addNumber(app, "--max-width", options.maxWidth, "The most that the width may be")
+        ->check(isWholeNumber)
+        ->group("Page");
+
+    CLI::Option* const format =
+        addChoice<Format>(
+            app, "--format", options.format,
+            {{"ansi", Format::Ansi},
+             {"plain", Format::Plain},
+             {"html", Format::Html},
+             {"svg", Format::Svg}},
+            "Text with escape sequences (the default), bare text, a <pre> element, or "
+            "a picture of a terminal")
+            ->group("Output");
+    addChoice<Color>(
+        app, "--color", options.color,
+        {{"auto", Color::Auto}, {"always", Color::Always}, {"never", Color::Never}},
+        "Escape sequences of the format ansi; auto, the default, keeps them where standard "
+        "output is a terminal, no file is named and NO_COLOR is unset or empty")
+        ->group("Output");
+    CLI::Option* const dump =
+        addChoice<Product>(app, "--dump", options.product,
+                           {{"dom", Product::DocumentTree}, {"boxes", Product::BoxTree}},
+                           "Print a tree instead of the page: the document's, or the boxes after "
+                           "layout")
+            ->excludes(format)
+            ->group("Output");
+    app.add_flag("--raw", options.isRaw,
+                 "Pass control characters of the document and the sheets on to the terminal; the "
+                 "formats plain, html and svg never hold any")
+        ->group("Output");
+    std::string const wholeOrNot = ", whole or, where the document fails, not at all";
+    CLI::Option* const output =
+        app.add_option_function<std::string>(
+               "--output", [&options](std::string const& file) { options.files = {file}; },
+               "Write the page of the one document to this file" + wholeOrNot)
+            ->option_text("FILE")
+            ->check(isName)
+            ->group("Output");
+    CLI::Option* const directory =
+        app.add_option("--output-dir", options.directory,
+                       "Write each page to a file in this directory, which is made where there is "
+                       "none, named after its document with .txt, .html or .svg" +
+                           wholeOrNot)
+            ->option_text("DIR")
+            ->check(isName)
+            ->excludes(output)
+            ->group("Output");
+
+    app.add_flag("--check", options.isCheck,
+                 "Write nothing but which documents and sheets fail, all of them")
+        ->option_text(" ")
+        ->excludes(dump)
+        ->excludes(output)
+        ->excludes(directory)
+        ->group("Run");
+    addNumber(app, "--jobs", options.jobs,
+              "Render this many documents at the same time, to the same effect (default: 1)")
+        ->check(isPositive)
+        ->group("Run");
+}
+
+/// What no option knows by itself.
+void settle(Options& options) {
+    if (options.documents.empty()) options.documents = {"-"};
+    if (options.files == std::vector<std::string>{"-"}) options.files.clear();
+    auto const inputs = std::count(options.sheets.begin(), options.sheets.end(), "-") +
+                        std::count(options.documents.begin(), options.documents.end(), "-");
+    if (inputs > 1) throw CLI::ValidationError("-", "standard input can be read only once");
+    options.isRaw = options.isRaw && options.format == Format::Ansi;
+    std::string const fault = nameOutputs(options);
+    if (!fault.empty()) throw CLI::ValidationError(fault);
 }
 
 }  // namespace
 
 std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& options) {
-    CLI::App app("Renders a document in a small XML/XHTML subset as text for a terminal.",
-                 "galley");
-    app.set_version_flag("--version", "galley " GALLEY_VERSION);
-    app.add_option("FILE", options.document, "The document; \"-\" or nothing is standard input")
-        ->option_text(" ");
-    app.add_option("--css", options.sheets,
-                   "A style sheet; any number of them, their rules in the order given")
-        ->option_text("FILE")
-        ->allow_extra_args(false);
-    std::string width;
-    app.add_option("--width", width,
-                   "Width of the page in columns (default: the terminal's, else 80)")
-        ->option_text("N")
-        ->check(isWholeNumber);
-    std::string tree;
-    app.add_option("--dump", tree,
-                   "Print a tree instead of the page: the document's, or the boxes after layout")
-        ->option_text("dom|boxes")
-        ->check(CLI::IsMember({"dom", "boxes"}));
-    app.add_flag("--raw", options.isRaw,
-                 "Pass control characters of the document and the sheets on to the terminal");
-
+    CLI::App app("Renders documents in a small XML/XHTML subset as text for a terminal.", "galley");
     try {
+        defineOptions(app, options);
         app.parse(argc, argv);
-        checkInputs(options);
+        settle(options);
     } catch (CLI::ParseError const& error) {
         return app.exit(error) == 0 ? ExitStatus::Rendered : ExitStatus::Usage;
     }
-    if (!width.empty()) options.width = static_cast<unsigned>(String(width.c_str()).toInteger());
-    if (tree == "dom") options.output = Options::Output::DocumentTree;
-    if (tree == "boxes") options.output = Options::Output::BoxTree;
     return std::nullopt;
 }

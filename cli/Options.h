@@ -6,19 +6,38 @@
 
 #include "cli/ExitStatus.h"
 
+/// When a page goes out with its escape sequences.
+enum class Color { Auto, Always, Never };
+
+/// How a page is written down.
+enum class Format { Ansi, Plain, Html, Svg };
+
+/// What a document is turned into.
+enum class Product { Page, DocumentTree, BoxTree };
+
 /// What the command line asks for.
 struct Options {
-    enum class Output { Page, DocumentTree, BoxTree };
-
-    /// "-" is standard input.
-    std::string document = "-";
+    /// At least one; "-" is standard input.
+    std::vector<std::string> documents;
     /// In the order given; their rules form one list.
     std::vector<std::string> sheets;
     /// In columns; without it the terminal's width counts.
     std::optional<unsigned> width;
-    Output output = Output::Page;
+    /// In columns.
+    std::optional<unsigned> maxWidth;
+    Product product = Product::Page;
+    Format format = Format::Ansi;
+    Color color = Color::Auto;
     /// Control characters of the document and the sheets reach the terminal.
     bool isRaw = false;
+    /// Documents and sheets are read and converted, but nothing is written.
+    bool isCheck = false;
+    /// Empty for standard output, else a file for each document.
+    std::vector<std::string> files;
+    /// Holds all of `files`; empty where one file was named.
+    std::string directory;
+    /// Documents that are rendered at the same time.
+    unsigned jobs = 1;
 };
 
 /// Reads the command line into `options`. A status means that the tool is done: help or version

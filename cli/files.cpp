@@ -5,10 +5,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstdio>
-#include <cstring>
 #include <memory>
-
-#include "cli/report.h"
 
 namespace {
 
@@ -41,18 +38,13 @@ bool readAll(std::FILE* file, String& content) {
 
 }  // namespace
 
-bool readFile(std::string const& name, String& content) {
+int readFile(std::string const& name, String& content) {
     OpenFile const file(name == "-" ? stdin : std::fopen(name.c_str(), "rb"));
-    if (file && readAll(file.get(), content)) return true;
-    reportError(displayName(name), std::strerror(errno));
-    return false;
+    return file && readAll(file.get(), content) ? 0 : errno;
 }
 
-bool writeOutput(String const& text) {
-    auto const length = static_cast<std::size_t>(text.length());
-    if (std::fwrite(text.c_str(), 1, length, stdout) == length && std::fflush(stdout) == 0) {
-        return true;
-    }
-    reportError("<stdout>", std::strerror(errno));
-    return false;
+int writeOutput(std::string_view text) {
+    bool const isDone = std::fwrite(text.data(), 1, text.length(), stdout) == text.length() &&
+                        std::fflush(stdout) == 0;
+    return isDone ? 0 : errno;
 }

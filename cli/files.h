@@ -1,13 +1,14 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "base/String.h"
 
-/// Reads a file, or standard input for "-", into `content`. On failure reports it on standard
-/// error and returns false.
-bool readFile(std::string const& name, String& content);
+// Both return 0, or the `errno` that tells why they failed.
 
-/// Writes `text` to standard output, down to the device. On failure reports it on standard error
-/// and returns false.
-bool writeOutput(String const& text);
+/// Reads a file, or standard input for "-", into `content`.
+int readFile(std::string const& name, String& content);
+
+/// Writes `text` to standard output, down to the device.
+int writeOutput(std::string_view text);

@@ -1,85 +1,64 @@
-// The tool: one document, any number of sheets, one page.
+// The tool: any number of documents and sheets, a page for each document.
 
-#include <algorithm>
-#include <climits>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
 #include <new>
 
 #include "cli/ExitStatus.h"
 #include "cli/Options.h"
-#include "cli/controls.h"
 #include "cli/files.h"
+#include "cli/render.h"
+#include "cli/renderInOrder.h"
 #include "cli/report.h"
-#include "cli/terminalWidth.h"
-#include "xml/dom/buildDomTree.h"
-#include "xml/layout/BlockBox.h"
-#include "xml/xml.h"
+#include "cli/sheets.h"
+#include "cli/writeFile.h"
 
 namespace {
 
-using CLI::XML::StyleList;
-
-/// Reads a document or a sheet.
-bool readInput(std::string const& file, String& text, Options const& options) {
-    if (!readFile(file, text)) return false;
-    if (!options.isRaw) replaceControls(text);
-    return true;
+ExitStatus write(String const& text, std::string const& file) {
+    int const fault = file.empty() ? writeOutput(text.view()) : writeFile(file, text.view());
+    if (fault == 0) return ExitStatus::Rendered;
+    reportError(file.empty() ? "<stdout>" : displayName(file), std::strerror(fault));
+    return ExitStatus::FileAtFault;
 }
 
-/// Appends the rules of a sheet to `styles`.
-ExitStatus readSheet(std::string const& file, StyleList& styles, Options const& options) {
-    String css;
-    if (!readInput(file, css, options)) return ExitStatus::FileAtFault;
-    StyleList rules;
-    XCode const result = CLI::XML::parseCss(rules, css);
-    if (!result) {
-        reportError(displayName(file), result.getString().c_str(), css.view(), SourceKind::Sheet);
-        return ExitStatus::InputAtFault;
-    }
-    for (auto const& rule : rules) styles.add(rule);
-    return ExitStatus::Rendered;
+ExitStatus makeDirectory(std::string const& directory) {
+    std::error_code fault;
+    if (!directory.empty()) std::filesystem::create_directories(directory, fault);
+    if (!fault) return ExitStatus::Rendered;
+    reportError(displayName(directory), std::strerror(fault.value()));
+    return ExitStatus::FileAtFault;
 }
 
-/// The trees that a conversion makes on its way, as text.
-XCode dumpTree(String& out, String const& document, StyleList const& styles, unsigned width,
-               Options::Output output) {
-    ZRLWPtr<CLI::XML::DomElement> root;
-    CLI::XML::PullParser parser(document);
-    XCode result = CLI::XML::buildDomTree(root, true, parser, styles);
-    if (!result) return result;
-    if (output == Options::Output::DocumentTree) {
-        out = root->dump(0);
-        return result;
-    }
-    CLI::XML::BlockBox rootBox(root.object);
-    result = rootBox.createChildren();
-    if (!result) return result;
-    CLI::XML::Dimensions page;
-    page.content.width = static_cast<int>(std::min<unsigned>(width, INT_MAX));
-    rootBox.layout(page);
-    out = rootBox.dump(0);
-    return result;
+/// Renders every document and returns the status of the first failure.
+ExitStatus renderAll(Options const& options, CLI::XML::StyleList const& styles) {
+    Manner const manner(options);
+    ExitStatus status = ExitStatus::Rendered;
+    std::size_t i = 0;
+    auto const make = [&](std::size_t n) { return render(options.documents[n], styles, manner); };
+    auto const take = [&](Rendering const& rendering) {
+        std::string const file = options.files.empty() ? "" : options.files[i];
+        ++i;
+        std::fwrite(rendering.error.data(), 1, rendering.error.length(), stderr);
+        ExitStatus result = rendering.status;
+        if (result == ExitStatus::Rendered && !options.isCheck)
+            result = write(rendering.text, file);
+        if (status == ExitStatus::Rendered) status = result;
+        // A standard output that has failed takes nothing more.
+        return result == rendering.status || !options.files.empty();
+    };
+    renderInOrder(options.documents.size(), options.jobs, make, take);
+    return status;
 }
 
 ExitStatus run(Options const& options) {
-    StyleList styles;
-    for (std::string const& sheet : options.sheets) {
-        ExitStatus const status = readSheet(sheet, styles, options);
-        if (status != ExitStatus::Rendered) return status;
-    }
-    String document;
-    if (!readInput(options.document, document, options)) return ExitStatus::FileAtFault;
-
-    unsigned const width = options.width ? *options.width : terminalWidth();
-    String page;
-    XCode const result = options.output == Options::Output::Page
-                             ? CLI::XML::xmlToText(page, document, styles, width)
-                             : dumpTree(page, document, styles, width, options.output);
-    if (!result) {
-        reportError(displayName(options.document), result.getString().c_str(), document.view());
-        return ExitStatus::InputAtFault;
-    }
-    if (!options.isRaw) repairCharacters(page);
-    return writeOutput(page) ? ExitStatus::Rendered : ExitStatus::FileAtFault;
+    CLI::XML::StyleList styles;
+    ExitStatus status = readSheets(options, styles);
+    if (status == ExitStatus::Rendered) status = makeDirectory(options.directory);
+    if (status != ExitStatus::Rendered && !options.isCheck) return status;
+    ExitStatus const rendered = renderAll(options, styles);
+    return status == ExitStatus::Rendered ? rendered : status;
 }
 
 }  // namespace
@@ -91,7 +70,7 @@ int main(int argc, char** argv) {
         try {
             status = run(options);
         } catch (std::bad_alloc const&) {
-            reportError(displayName(options.document), "Out of memory");
+            reportError("galley", "Out of memory");
             status = ExitStatus::InputAtFault;
         }
     }

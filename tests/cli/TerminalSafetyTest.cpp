@@ -80,7 +80,7 @@ TEST_F(TerminalSafety, HoldsForWhateverADocumentSays) {
             repeated + "< " + repeated,
         };
         for (std::string const& document : documents) {
-            Outcome const outcome = run("--width 5", document);
+            Outcome const outcome = run("--color always --width 5", document);
             EXPECT_FALSE(drivesATerminal(outcome.out)) << testing::PrintToString(document);
             EXPECT_FALSE(drivesATerminal(outcome.err)) << testing::PrintToString(document);
             EXPECT_EQ(outcome.err.find('\x1b'), std::string::npos);
@@ -88,7 +88,7 @@ TEST_F(TerminalSafety, HoldsForWhateverADocumentSays) {
         Outcome const trees = run("--dump dom", documents[0]);
         EXPECT_FALSE(drivesATerminal(trees.out)) << testing::PrintToString(attack);
         write("sheet.css", "p { border-width: 1; border-style: " + attack + "; }");
-        Outcome const styled = run("--css sheet.css", "<p>a</p>");
+        Outcome const styled = run("--color always --css sheet.css", "<p>a</p>");
         EXPECT_FALSE(drivesATerminal(styled.out + styled.err)) << testing::PrintToString(attack);
         write("sheet.css", "p { " + attack + " }");
         EXPECT_FALSE(drivesATerminal(run("--css sheet.css", "<p/>").err));
@@ -131,14 +131,19 @@ TEST_F(TerminalSafety, HoldsWherePaintingCutsCharactersApart) {
     EXPECT_EQ(run("--raw", covered).out, "\xc2\x9bx\n");
     EXPECT_EQ(run("", covered).out, "??x\n");
     std::string const parted = "<p>\xc3\x9bx</p><p padding-top=\"-1\" color=\"red\">\xc3</p>";
-    EXPECT_EQ(run("", parted).out, "\x1b[0m\x1b[31m\xc3\x1b[0m?x\n");
+    EXPECT_EQ(run("--color always", parted).out, "\x1b[0m\x1b[31m\xc3\x1b[0m?x\n");
 }
 
 TEST_F(TerminalSafety, IsGivenUpForRawOutputOnly) {
     write("sheet.css", "p { border-left-width: 1; border-left-style: \x1b[7m; }");
     std::string const document = "<p>\x1b[1m\x07</p>";
-    EXPECT_NE(run("--raw --css sheet.css", document).out.find("\x1b[1m\x07"), std::string::npos);
-    EXPECT_EQ(run("--css sheet.css", document).out.find('\x1b'), std::string::npos);
+    EXPECT_NE(run("--raw --color always --css sheet.css", document).out.find("\x1b[1m\x07"),
+              std::string::npos);
+    for (char const* format : {"ansi", "plain", "html", "svg"}) {
+        std::string const raw = format == std::string("ansi") ? "" : " --raw";
+        Outcome const outcome = run("--css sheet.css --format " + (format + raw), document);
+        EXPECT_EQ(outcome.out.find_first_of("\x1b\x07"), std::string::npos) << format;
+    }
 }
 
 }  // namespace

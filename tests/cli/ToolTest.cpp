@@ -1,8 +1,5 @@
 #include "tests/support/tool.h"
 
-#include <pty.h>
-#include <unistd.h>
-
 #include <string>
 
 namespace {
@@ -18,8 +15,10 @@ TEST_F(Tool, JoinsTheRulesOfAllSheetsInTheirOrder) {
     write("one.css", "p { padding-left: 1; } b { padding-left: 3; }");
     write("two.css", "p { padding-left: 2; }");
     std::string const page = "<p><b>x</b></p>";
-    EXPECT_EQ(run("--css one.css --css two.css", page).out, "     \x1b[0m\x1b[1mx\x1b[0m\n");
-    EXPECT_EQ(run("--css two.css --css one.css", page).out, "    \x1b[0m\x1b[1mx\x1b[0m\n");
+    EXPECT_EQ(run("--color always --css one.css --css two.css", page).out,
+              "     \x1b[0m\x1b[1mx\x1b[0m\n");
+    EXPECT_EQ(run("--color always --css two.css --css one.css", page).out,
+              "    \x1b[0m\x1b[1mx\x1b[0m\n");
 }
 
 TEST_F(Tool, BreaksLinesAtTheWidthAskedForElseAt80) {
@@ -30,19 +29,6 @@ TEST_F(Tool, BreaksLinesAtTheWidthAskedForElseAt80) {
     EXPECT_EQ(run("--width 0", "a b").out, "a \nb\n");
     EXPECT_EQ(run("", words).out.find('\n'), row.size());
     EXPECT_EQ(run("--width 99999999999", words).out.find('\n'), words.size());
-}
-
-TEST_F(Tool, TakesTheWidthOfTheTerminalItWritesTo) {
-    winsize const size{24, 6, 0, 0};
-    int controller = -1;
-    int terminal = -1;
-    ASSERT_EQ(openpty(&controller, &terminal, nullptr, nullptr, &size), 0);
-    EXPECT_EQ(run(std::string("- >") + ttyname(terminal), "aa bb cc").status, 0);
-    char seen[64] = {};
-    EXPECT_GT(::read(controller, seen, sizeof seen - 1), 0);
-    EXPECT_STREQ(seen, "aa bb \r\ncc\r\n");
-    close(controller);
-    close(terminal);
 }
 
 TEST_F(Tool, DumpsEitherTree) {
@@ -109,8 +95,27 @@ TEST_F(Tool, SaysWhereMemoryEnds) {
 }
 
 TEST_F(Tool, RefusesWhatItDoesNotKnow) {
-    for (char const* arguments : {"--nonsense", "--width x", "--width -1", "--dump html", "--css",
-                                  "--css - -", "--width 0x3", "--width ''", "one.xml two.xml"}) {
+    for (char const* arguments : {"--nonsense",
+                                  "--width x",
+                                  "--width -1",
+                                  "--dump html",
+                                  "--css",
+                                  "--css - -",
+                                  "--width 0x3",
+                                  "--width ''",
+                                  "--max-width -1",
+                                  "--color red",
+                                  "--format pdf",
+                                  "--dump dom --format html",
+                                  "--jobs 0",
+                                  "--jobs x",
+                                  "--check --output a",
+                                  "--check --dump dom",
+                                  "--output ''",
+                                  "--output a --output-dir b",
+                                  "--output a b.xml c.xml",
+                                  "--output-dir d a/x.xml b/x.htm",
+                                  "--format svg a.xml b.xml"}) {
         Outcome const outcome = run(arguments);
         EXPECT_EQ(outcome.status, 2) << arguments;
         EXPECT_EQ(outcome.out, "") << arguments;

@@ -1,0 +1,14 @@
+#include "cli/formats/AnsiReader.h"
+#include "cli/formats/append.h"
+#include "cli/formats/formats.h"
+
+void makePlain(String& page) {
+    if (page.indexOf('\x1b') < 0) return;
+    String plain;
+    plain.reserve(page.length());
+    AnsiReader reader(page.view());
+    for (AnsiReader::Run run; reader.next(run);) {
+        append(plain, run.text, run.endsRow ? "\n" : "");
+    }
+    page = std::move(plain);
+}

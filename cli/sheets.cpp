@@ -1,0 +1,41 @@
+#include "cli/sheets.h"
+
+#include <cstring>
+#include <new>
+
+#include "cli/controls.h"
+#include "cli/files.h"
+#include "cli/report.h"
+#include "xml/xml.h"
+
+namespace {
+
+using CLI::XML::StyleList;
+
+ExitStatus readSheet(std::string const& file, bool isRaw, StyleList& styles) {
+    String css;
+    if (int const fault = readFile(file, css)) {
+        reportError(displayName(file), std::strerror(fault));
+        return ExitStatus::FileAtFault;
+    }
+    if (!isRaw) replaceControls(css);
+    StyleList rules;
+    XCode const result = CLI::XML::parseCss(rules, css);
+    if (!result) {
+        reportError(displayName(file), result.getString().c_str(), css.view(), SourceKind::Sheet);
+        return ExitStatus::InputAtFault;
+    }
+    for (auto const& rule : rules) styles.add(rule);
+    return ExitStatus::Rendered;
+}
+
+}  // namespace
+
+ExitStatus readSheets(Options const& options, StyleList& styles) {
+    ExitStatus status = ExitStatus::Rendered;
+    for (std::string const& sheet : options.sheets) {
+        ExitStatus const read = readSheet(sheet, options.isRaw, styles);
+        if (status == ExitStatus::Rendered) status = read;
+    }
+    return status;
+}

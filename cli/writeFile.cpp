@@ -1,0 +1,70 @@
+#include "cli/writeFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
+
+namespace {
+
+constexpr mode_t s_anyMode = 0666;
+
+/// Writes everything and closes the file.
+int finish(int file, std::string_view content) {
+    int fault = 0;
+    while (fault == 0 && !content.empty()) {
+        ssize_t const written = write(file, content.data(), content.length());
+        if (written >= 0) content.remove_prefix(static_cast<std::size_t>(written));
+        if (written < 0 && errno != EINTR) fault = errno;
+    }
+    bool const isClosed = close(file) == 0;
+    return fault == 0 && !isClosed ? errno : fault;
+}
+
+int writeStraight(std::string const& name, std::string_view content) {
+    int const file = open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, s_anyMode);
+    return file < 0 ? errno : finish(file, content);
+}
+
+/// Creates a file beside `name`, since a rename stays within a file system. Sets `temporary`.
+int openBeside(std::string const& name, std::string& temporary) {
+    std::string const start =
+        name.substr(0, name.find_last_of('/') + 1) + ".galley-" + std::to_string(getpid()) + "-";
+    for (unsigned i = 0;; ++i) {
+        temporary = start + std::to_string(i);
+        int const file =
+            open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, s_anyMode);
+        if (file >= 0 || errno != EEXIST) return file;
+    }
+}
+
+/// `existing` is what stands there now, if anything.
+int replaceFile(std::string const& name, std::string_view content, struct stat const* existing) {
+    std::string temporary;
+    int const file = openBeside(name, temporary);
+    if (file < 0) return errno;
+    bool const isAlike = existing == nullptr || fchmod(file, existing->st_mode & 07777) == 0;
+    int fault = isAlike ? 0 : errno;
+    int const writing = finish(file, content);
+    if (fault == 0) fault = writing;
+    if (fault == 0 && std::rename(temporary.c_str(), name.c_str()) != 0) fault = errno;
+    if (fault != 0) unlink(temporary.c_str());
+    return fault;
+}
+
+}  // namespace
+
+int writeFile(std::string const& name, std::string_view content) {
+    struct stat existing = {};
+    bool const isThere = stat(name.c_str(), &existing) == 0;
+    if (!isThere && lstat(name.c_str(), &existing) != 0) return replaceFile(name, content, nullptr);
+    // A link to what is not there yet is no regular file either.
+    if (!S_ISREG(existing.st_mode)) return writeStraight(name, content);
+    std::error_code fault;
+    std::string const target = std::filesystem::canonical(name, fault);
+    return fault ? fault.value() : replaceFile(target, content, &existing);
+}
