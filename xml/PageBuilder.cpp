@@ -55,9 +55,10 @@ void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
         openBlock(box);
         return;
     }
+    bool const isInline = element->display == DomNode::Inline;
+    isSubtreeInline = isInline && (subtree.empty() || isSubtreeInline);
     if (!subtree.empty()) {
-        Box& holder =
-            element->display == DomNode::Inline ? *parent().getOrCreateLineBox() : parent();
+        Box& holder = isInline ? *parent().getOrCreateLineBox() : parent();
         holder.children.add(box);
     }
     subtree.push_back(std::move(box));
@@ -137,7 +138,7 @@ void PageBuilder::closeBlock() {
 /// Lays out and paints an inline element or a table, now that it is complete.
 void PageBuilder::addSubtree(ZRLWPtr<Box> box) {
     if (box->node->display == DomNode::Inline) {
-        innermost->flow.addToLine(std::move(box));
+        innermost->flow.addToLine(std::move(box), isSubtreeInline);
     } else {
         innermost->flow.closeLine();
         Walk::run(innermost->flow.add(box, {}));

@@ -67,6 +67,8 @@ private:
     std::unique_ptr<OpenBlock> innermost;
     /// In the innermost block, the boxes that are being read from one that is not a block on.
     std::vector<ZRLWPtr<Box>> subtree;
+    /// All of them are inline.
+    bool isSubtreeInline = false;
     /// Open elements from the outermost one on that is not displayed.
     unsigned hidden = 0;
     XCode refusal;

@@ -38,9 +38,10 @@ Walk BlockFlow::add(ZRLWPtr<Box> const& child, LayoutPass pass) {
     return placePending(pass, 0);
 }
 
-void BlockFlow::addToLine(ZRLWPtr<Box> box) {
+void BlockFlow::addToLine(ZRLWPtr<Box> box, bool holdsOnlyInline) {
     beginLine();
-    measure(*box);
+    measure(*box, holdsOnlyInline);
+    taker.hasOnlyInline = taker.hasOnlyInline && holdsOnlyInline;
     taker.room -= box->dimensions.content.width;
     lineBoxes().add(std::move(box));
     breakLine();
@@ -71,6 +72,7 @@ void BlockFlow::beginLine() {
     ZRLWPtr<Box> line = ZR::MovePtr<Box>(new LineBox);
     taker.pending.push_back(std::move(line));
     taker.breaks = 0;
+    taker.hasOnlyInline = true;
     findRoom();
 }
 
@@ -79,7 +81,7 @@ void BlockFlow::breakLine() {
     line.isSettled = false;
     if (taker.room >= 0 || available() == s_largestWidth) return;
     // It is too wide already, so that its layout would only be done again.
-    bool const areBoxesSettled = areSettled(line.children);
+    bool const areBoxesSettled = taker.hasOnlyInline || areSettled(line.children);
     ZRLWPtr<Box> rest = line.split(available());
     if (!rest) return;
     taker.pending.insert(taker.pending.begin(), std::move(rest));
@@ -89,13 +91,16 @@ void BlockFlow::breakLine() {
 }
 
 /// Every break of a line lays out what stays behind it, where the box would have been already.
-/// Only a table that is not settled shows how often.
-void BlockFlow::measure(Box& box) const {
+/// Only a table that is not settled shows how often. Where there is none, measuring ends with the
+/// first word that does not fit.
+void BlockFlow::measure(Box& box, bool holdsOnlyInline) const {
     if (isLeaf(box)) {
         sizeLeaf(box);
         return;
     }
-    Walk::run(box.layOut(Dimensions(), {}));
+    bool const isLimited = holdsOnlyInline && available() < s_largestWidth;
+    Walk::run(box.layOut(Dimensions(), {.isLimited = isLimited, .room = taker.room}));
+    if (isLimited) return;
     for (unsigned i = 0; i < taker.breaks && !box.isSettled; ++i) {
         Walk::run(box.layOut(Dimensions(), {.again = true}));
     }

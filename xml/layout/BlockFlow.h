@@ -34,6 +34,9 @@ public:
         std::vector<ZRLWPtr<Box>> pending;
         /// How often the open line was broken.
         unsigned breaks = 0;
+        /// There are only words and inline elements on the open line, which are laid out alike
+        /// however often that is done.
+        bool hasOnlyInline = true;
         /// Columns that the contents on the open line have left.
         std::int64_t room = 0;
     };
@@ -46,8 +49,8 @@ public:
 
     /// Puts an inline box at the end of the open line, which is begun where there is none, and
     /// breaks off what is certain not to stay on it, whatever follows. Nothing on the line may have
-    /// a negative edge.
-    void addToLine(ZRLWPtr<Box> box);
+    /// a negative edge. `holdsOnlyInline` tells that there is neither block nor table in the box.
+    void addToLine(ZRLWPtr<Box> box, bool holdsOnlyInline);
     /// The same for as many words as fit and one more, which shows that it does not. Only the last
     /// of all may be without its one space. Returns the bytes that were taken.
     std::size_t addWords(std::string_view words, Words& source);
@@ -81,7 +84,7 @@ private:
     Words::Boxes& lineBoxes() const { return taker.pending.front()->children; }
     void takeWords(std::string_view words);
     void breakLine();
-    void measure(Box& box) const;
+    void measure(Box& box, bool holdsOnlyInline) const;
     LayoutPass passAfterBreak(bool isLimited) const;
     Walk placePending(LayoutPass pass, std::size_t kept);
     Walk placeRemaining(Placing placing, Walk layoutOfNext);
