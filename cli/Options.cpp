@@ -10,29 +10,48 @@
 
 namespace {
 
-constexpr char const* s_footer =
-    "Exit status:\n"
-    "  0  everything was rendered, or passed --check\n"
-    "  1  a document or a sheet is at fault, or memory ran out\n"
-    "  2  usage\n"
-    "  3  a file cannot be read or written\n"
-    "A document that fails is reported, and the others are rendered all the same; the status is\n"
-    "that of the first failure. A sheet that fails ends the run, unless it is a --check.\n";
+/// Of --help, in columns.
+constexpr std::size_t s_helpWidth = 80;
 
-/// Breaks the descriptions of options where a line of 80 columns ends.
+constexpr StatusEntry s_statuses[] = {
+    {ExitStatus::Rendered, "everything was rendered, or passed --check"},
+    {ExitStatus::InputAtFault, "a document or a sheet is at fault, or memory ran out"},
+    {ExitStatus::Usage, "usage"},
+    {ExitStatus::FileAtFault, "a file cannot be read or written"},
+};
+constexpr char const* s_statusNote =
+    "A document that fails is reported, and the others are rendered all the same; the status is "
+    "that of the first failure. A sheet that fails ends the run, unless it is a --check.";
+
+/// Breaks `text` between words, from `start` on, into lines of at most `room` characters.
+void breakLines(std::string& text, std::size_t start, std::size_t room) {
+    while (start + room < text.length()) {
+        std::size_t const space = text.rfind(' ', start + room);
+        if (space == std::string::npos || space <= start) break;
+        text[space] = '\n';
+        start = space + 1;
+    }
+}
+
+std::string footer() {
+    std::string text = "Exit status:\n";
+    for (StatusEntry const& entry : s_statuses) {
+        text += "  " + std::to_string(static_cast<int>(entry.status)) + "  " + entry.meaning + "\n";
+    }
+    std::size_t const note = text.length();
+    text += s_statusNote;
+    breakLines(text, note, s_helpWidth);
+    return text + "\n";
+}
+
+/// Breaks the descriptions of options where a line ends.
 class HelpFormatter final : public CLI::Formatter {
 public:
     HelpFormatter() { column_width(32); }
 
     std::string make_option_desc(CLI::Option const* option) const override {
-        std::size_t const room = 80 - get_column_width();
         std::string text = CLI::Formatter::make_option_desc(option);
-        for (std::size_t start = 0; start + room < text.length();) {
-            std::size_t const space = text.rfind(' ', start + room);
-            if (space == std::string::npos || space <= start) break;
-            text[space] = '\n';
-            start = space + 1;
-        }
+        breakLines(text, 0, s_helpWidth - get_column_width());
         return text;
     }
 };
@@ -81,8 +100,6 @@ CLI::Option* addChoice(CLI::App& app, std::string const& name, Value& value,
 /// Everything that the tool understands.
 void defineOptions(CLI::App& app, Options& options) {
     app.set_version_flag("--version", "galley " GALLEY_VERSION);
-    app.footer(s_footer);
-    app.formatter(std::make_shared<HelpFormatter>());
     app.add_option("FILE", options.documents,
                    "The documents, in the order of their pages; \"-\" or nothing is standard input")
         ->option_text("...");
@@ -108,14 +125,14 @@ void defineOptions(CLI::App& app, Options& options) {
              {"plain", Format::Plain},
              {"html", Format::Html},
              {"svg", Format::Svg}},
-            "Text with escape sequences (the default), bare text, a <pre> element, or "
-            "a picture of a terminal")
+            "How pages are written: text with escape sequences (the default), bare text, a <pre> "
+            "element, or a picture of a terminal")
             ->group("Output");
     addChoice<Color>(
         app, "--color", options.color,
         {{"auto", Color::Auto}, {"always", Color::Always}, {"never", Color::Never}},
-        "Escape sequences of the format ansi; auto, the default, keeps them where standard "
-        "output is a terminal, no file is named and NO_COLOR is unset or empty")
+        "Whether the format ansi has its escape sequences; auto, the default, keeps them where "
+        "standard output is a terminal, no file is named and NO_COLOR is unset or empty")
         ->group("Output");
     CLI::Option* const dump =
         addChoice<Product>(app, "--dump", options.product,
@@ -171,11 +188,42 @@ void settle(Options& options) {
     if (!fault.empty()) throw CLI::ValidationError(fault);
 }
 
+/// What is said about the tool before its options.
+void defineApp(CLI::App& app) {
+    app.name("galley");
+    app.description("Renders documents in a small XML/XHTML subset as text for a terminal.");
+    app.footer(footer());
+    app.formatter(std::make_shared<HelpFormatter>());
+}
+
 }  // namespace
 
+std::vector<OptionEntry> describeOptions() {
+    CLI::App app;
+    Options options;
+    defineOptions(app, options);
+    std::vector<OptionEntry> entries;
+    for (CLI::Option const* option : app.get_options()) {
+        bool const isFlag = option->get_items_expected_max() == 0;
+        bool const isOption = option->nonpositional();
+        entries.push_back({isOption ? option->get_name() : option->get_name(true),
+                           isFlag ? "" : option->get_option_text(), option->get_description(),
+                           option->get_group() == "Options" ? "" : option->get_group(),
+                           option->get_expected_max() > 1});
+    }
+    return entries;
+}
+
+std::vector<StatusEntry> describeStatuses() {
+    return {std::begin(s_statuses), std::end(s_statuses)};
+}
+
+char const* statusNote() { return s_statusNote; }
+
 std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& options) {
-    CLI::App app("Renders documents in a small XML/XHTML subset as text for a terminal.", "galley");
+    CLI::App app;
     try {
+        defineApp(app);
         defineOptions(app, options);
         app.parse(argc, argv);
         settle(options);

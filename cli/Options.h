@@ -40,6 +40,31 @@ struct Options {
     unsigned jobs = 1;
 };
 
+/// An option of the command line, or the documents, as `--help` and the manual tell of it.
+struct OptionEntry {
+    /// With its dashes; "FILE" for the documents.
+    std::string name;
+    /// What stands behind the name: "FILE", "DIR" or "N" for such a thing, else the words that may
+    /// stand there with bars between them; empty for a flag.
+    std::string argument;
+    std::string description;
+    /// The heading that it stands under; empty for those that are in every program.
+    std::string group;
+    bool mayRepeat;
+};
+
+/// What one value of the exit status means.
+struct StatusEntry {
+    ExitStatus status;
+    char const* meaning;
+};
+
+/// All options, in the order of `--help`.
+std::vector<OptionEntry> describeOptions();
+std::vector<StatusEntry> describeStatuses();
+/// What the table of statuses leaves open.
+char const* statusNote();
+
 /// Reads the command line into `options`. A status means that the tool is done: help or version
 /// was printed, or the usage error was.
 std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& options);

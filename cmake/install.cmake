@@ -1,5 +1,5 @@
 # What `cmake --install` puts where: the library and its headers, a CMake package, a file for
-# pkg-config, and the tool.
+# pkg-config, and the tool with its manual page and completions.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -26,4 +26,13 @@ install(FILES ${PROJECT_BINARY_DIR}/galley.pc DESTINATION ${pc_dir} COMPONENT de
 
 if(GALLEY_BUILD_TOOL)
     install(TARGETS galley-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
+    set(manual ${PROJECT_BINARY_DIR}/manual)
+    set(share ${CMAKE_INSTALL_DATADIR})
+    install(FILES ${manual}/man/galley.1
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+    install(FILES ${manual}/bash/galley
+        DESTINATION ${share}/bash-completion/completions COMPONENT tool)
+    install(FILES ${manual}/zsh/_galley DESTINATION ${share}/zsh/site-functions COMPONENT tool)
+    install(FILES ${manual}/fish/galley.fish
+        DESTINATION ${share}/fish/vendor_completions.d COMPONENT tool)
 endif()

@@ -1,0 +1,105 @@
+// What shells offer behind "galley".
+
+#include <string>
+
+#include "cli/manual/OptionWords.h"
+#include "cli/manual/manual.h"
+
+namespace {
+
+/// `text` with a backslash before each of `special`.
+std::string escape(std::string const& text, std::string const& special) {
+    std::string escaped;
+    for (char const c : text) {
+        if (special.find(c) != std::string::npos) escaped += '\\';
+        escaped += c;
+    }
+    return escaped;
+}
+
+/// `text` as one word of a script, for any of the shells.
+std::string quoted(std::string const& text) {
+    std::string word = "'";
+    for (char const c : text) word += c == '\'' ? "'\\''" : std::string(1, c);
+    return word + "'";
+}
+
+std::string bashCase(OptionEntry const& entry) {
+    std::string const words = choiceWords(entry);
+    std::string action = "return";  // the default: files
+    if (entry.argument == "N") action = "compopt +o default 2>/dev/null; return";
+    if (entry.argument == "DIR") action = "_galley_offer -d; return";
+    if (!words.empty()) action = "_galley_offer -W " + quoted(words) + "; return";
+    return "        " + entry.name + ") " + action + " ;;\n";
+}
+
+std::string zshAction(OptionEntry const& entry) {
+    std::string const words = choiceWords(entry);
+    if (!words.empty()) return "(" + words + ")";
+    if (entry.argument == "N") return " ";
+    return entry.argument == "DIR" ? "_files -/" : "_files";
+}
+
+std::string zshSpec(OptionEntry const& entry) {
+    std::string const text = escape(shortDescription(entry), "[]:\\");
+    if (!isOption(entry)) return "*:document:_files";
+    std::string const spec = (entry.mayRepeat ? "*" : "") + entry.name;
+    if (entry.argument.empty()) return spec + "[" + text + "]";
+    return spec + "=[" + text + "]:" + entry.name.substr(2) + ":" + zshAction(entry);
+}
+
+std::string fishArgument(OptionEntry const& entry) {
+    std::string const words = choiceWords(entry);
+    if (entry.argument.empty()) return "";
+    if (!words.empty()) return " -x -k -a " + quoted(words);
+    if (entry.argument == "DIR") return " -x -a '(__fish_complete_directories)'";
+    return entry.argument == "N" ? " -x" : " -r -F";
+}
+
+}  // namespace
+
+std::string makeBashCompletion() {
+    std::string names;
+    std::string cases;
+    for (OptionEntry const& entry : describeOptions()) {
+        if (!isOption(entry)) continue;
+        names += (names.empty() ? "" : " ") + entry.name;
+        if (!entry.argument.empty()) cases += bashCase(entry);
+    }
+    return "# Completions of galley for bash.\n\n"
+           "_galley_offer() { mapfile -t COMPREPLY < <(compgen \"$@\" -- \"$current\"); }\n\n"
+           "_galley() {\n"
+           "    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}\n"
+           "    COMPREPLY=()\n"
+           "    # bash takes \"--width=8\" for three words.\n"
+           "    [[ $previous != = ]] || previous=${COMP_WORDS[COMP_CWORD - 2]}\n"
+           "    if [[ $current == = ]]; then\n"
+           "        previous=${COMP_WORDS[COMP_CWORD - 1]} current=\n"
+           "    fi\n"
+           "    case $previous in\n" +
+           cases +
+           "    esac\n"
+           "    [[ $current != -* ]] || _galley_offer -W " +
+           quoted(names) +
+           "\n"
+           "}\n\n"
+           "complete -o default -o filenames -F _galley galley\n";
+}
+
+std::string makeZshCompletion() {
+    std::string script = "#compdef galley\n# Completions of galley for zsh.\n\n_arguments";
+    for (OptionEntry const& entry : describeOptions()) {
+        script += " \\\n    " + quoted(zshSpec(entry));
+    }
+    return script + "\n";
+}
+
+std::string makeFishCompletion() {
+    std::string script = "# Completions of galley for fish.\n\n";
+    for (OptionEntry const& entry : describeOptions()) {
+        if (!isOption(entry)) continue;
+        script += "complete -c galley -l " + entry.name.substr(2) + fishArgument(entry) + " -d " +
+                  quoted(shortDescription(entry)) + "\n";
+    }
+    return script;
+}

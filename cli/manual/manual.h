@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+// Each makes one text of what `describeOptions` and `describeStatuses` tell.
+
+/// The manual page, for man(7).
+std::string makeManPage();
+
+std::string makeBashCompletion();
+std::string makeZshCompletion();
+std::string makeFishCompletion();
