@@ -106,6 +106,7 @@ String& String::operator=(String&& other) noexcept {
 }
 
 void String::assign(std::string_view s) {
+    if (s.empty()) return clear();
     if (s.length() > static_cast<std::size_t>(s_longestText)) {
         *this = String();
         return;

@@ -81,6 +81,11 @@ public:
     /// Replaces the text by `s`, which is not in this string, in the buffer that is there if it has
     /// room.
     void assign(std::string_view s);
+    /// Makes the text empty and keeps its buffer.
+    void clear() {
+        store.begin()[0] = '\0';
+        store.length = 0;
+    }
     /// Appends the first `n` characters of `s`.
     String& concat(char const* s, int n);
     /// What every appending operation rests on. `s` may lie inside this string.

@@ -115,7 +115,7 @@ private:
             append(svg, "<text y=\"", std::to_string(row * s_cellHeight + s_baseline),
                    "\" xml:space=\"preserve\">", words.view(), "</text>\n");
         }
-        words.assign("");
+        words.clear();
         column = 0;
         ++row;
     }

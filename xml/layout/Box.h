@@ -21,11 +21,12 @@ struct LayoutPass {
     /// does not fit into `room` columns behind the content before it, since breaking looks no
     /// further.
     bool isLimited = false;
-    std::int64_t room = 0;
     /// The boxes on the line have been laid out already: they are only placed.
     bool isMeasured = false;
     /// Asked of this box by the operation itself.
     bool isOutermost = false;
+    /// Where the pass is limited.
+    std::int64_t room = 0;
 };
 
 /// A box of the layout tree. Every displayed node of the document has one, or one a line where

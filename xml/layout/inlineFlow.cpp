@@ -26,7 +26,11 @@ public:
     }
 
     bool isDone() const { return isFull || next == box.children.count; }
-    LayoutPass const& passForChild() const { return pass; }
+
+    /// The layout of the child that was placed, where it has none yet.
+    Walk layOut(Box& child) const {
+        return pass.isMeasured ? Walk() : child.layOut(box.dimensions, pass);
+    }
 
     /// Places the words that come next.
     void placeWords() {
@@ -79,13 +83,13 @@ private:
     bool isFull = false;
 };
 
-/// Goes on where the next child is not a word.
+/// Goes on where the next child is not a word. There is one such call for each level of a deep
+/// document, so that it keeps little.
 template <class Gap>
-Walk layoutChildren(Box& box, InlineLayout<Gap> layout) {
+Walk layoutChildren(InlineLayout<Gap> layout) {
     while (!layout.isDone()) {
         Box& child = layout.place();
-        LayoutPass const& pass = layout.passForChild();
-        if (!pass.isMeasured) co_await child.layOut(box.dimensions, pass);
+        co_await layout.layOut(child);
         layout.takeLaidOut(child);
         layout.placeWords();
     }
@@ -98,7 +102,7 @@ Walk layoutRightwards(Box& box, Dimensions const& containing, LayoutPass pass) {
     if (pass.again && box.isSettled) return {};
     InlineLayout<Gap> layout(box, pass);
     layout.placeWords();
-    if (!layout.isDone()) return layoutChildren(box, layout);
+    if (!layout.isDone()) return layoutChildren(layout);
     layout.finish();
     return {};
 }

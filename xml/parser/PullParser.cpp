@@ -46,7 +46,7 @@ PullParser::TagType PullParser::getNextTag() const {
 
 XCode PullParser::readStartTag() {
     if (selfClosing) return testExpression(false);
-    name.assign("");
+    name.clear();
     attributes.clear();
     if (!parseCharacter(text, position, '<')) return fail(s_expectingTagStart);
     if (!readName()) return fail(s_expectingType);
@@ -85,7 +85,7 @@ XCode PullParser::readEndTag() {
         selfClosing = false;
         return XCode();
     }
-    name.assign("");
+    name.clear();
     if (!parseCharacter(text, position, '<')) return fail(s_expectingTagStart);
     if (!parseCharacter(text, position, '/')) return fail("Expecting end mark character '/'");
     if (!readName()) return fail(s_expectingType);
@@ -96,7 +96,7 @@ XCode PullParser::readEndTag() {
 
 XCode PullParser::readContent() {
     if (selfClosing) return testExpression(false);
-    content.assign("");
+    content.clear();
     if (!parseString(text, position, s_cdataStart)) {
         content.assign(takeUntil(text, position, line, s_tagStart));
         if (content.length() == 0) return fail(s_expectingContent);

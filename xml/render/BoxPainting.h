@@ -26,6 +26,7 @@ public:
     BoxPainting& operator=(BoxPainting&&) = delete;
     ~BoxPainting();
 
+    Box& painted() const { return *box; }
     Canvas& canvas() const { return own != nullptr ? *own : *target; }
     Canvas::Attributes const& attributes() const { return content; }
     /// Whether all paints straight onto the parent's canvas.

@@ -111,34 +111,39 @@ bool isEmptyCell(Box const& box) { return box.children.count == 0 && box.type ==
 
 /// Draws the children without children from `first` on. Returns the index of the next one that is
 /// not.
-unsigned drawLeaves(Box const& box, unsigned first, BoxPainting const& painting) {
+unsigned drawLeaves(BoxPainting const& painting, unsigned first) {
+    ZRVector<ZRLWPtr<Box>> const& children = painting.painted().children;
     unsigned i = first;
-    for (; i < box.children.count && isLeaf(*box.children.data[i]); ++i) {
-        drawLeaf(*box.children.data[i], painting.canvas(), painting.attributes());
+    for (; i < children.count && isLeaf(*children.data[i]); ++i) {
+        drawLeaf(*children.data[i], painting.canvas(), painting.attributes());
     }
     return i;
 }
 
-Walk drawTree(Box& box, Canvas& canvas, Attributes inherited);
+Walk drawTree(Box& box, Canvas& canvas, Attributes const& inherited);
 
-/// Draws the children from `next` on, which is not a leaf.
-Walk drawChildren(Box& box, unsigned next, BoxPainting painting) {
-    for (; next < box.children.count; next = drawLeaves(box, next + 1, painting)) {
-        Box& child = *box.children.data[next];
-        if (isEmptyCell(child) || child.isForeign()) {
-            child.drawTo(painting.canvas(), painting.attributes());
-        } else {
-            Attributes const handedDown = withElementFlag(child, painting.attributes());
-            co_await drawTree(child, painting.canvas(), handedDown);
-        }
+/// Draws a child that is not a leaf.
+Walk drawChild(BoxPainting const& painting, Box& child) {
+    if (isEmptyCell(child) || child.isForeign()) {
+        child.drawTo(painting.canvas(), painting.attributes());
+        return {};
+    }
+    return drawTree(child, painting.canvas(), withElementFlag(child, painting.attributes()));
+}
+
+/// Draws the children from `next` on, which is not a leaf. There is one such call for each level of
+/// a deep document, so that it keeps little.
+Walk drawChildren(BoxPainting painting, unsigned next) {
+    for (; next < painting.painted().children.count; next = drawLeaves(painting, next + 1)) {
+        co_await drawChild(painting, *painting.painted().children.data[next]);
     }
     painting.finish();
 }
 
-Walk drawTree(Box& box, Canvas& canvas, Attributes inherited) {
+Walk drawTree(Box& box, Canvas& canvas, Attributes const& inherited) {
     BoxPainting painting(box, canvas, inherited, BoxPainting::Complete);
-    unsigned const next = drawLeaves(box, 0, painting);
-    if (next < box.children.count) return drawChildren(box, next, std::move(painting));
+    unsigned const next = drawLeaves(painting, 0);
+    if (next < box.children.count) return drawChildren(std::move(painting), next);
     painting.finish();
     return {};
 }
@@ -148,13 +153,16 @@ Walk drawTree(Box& box, Canvas& canvas, Attributes inherited) {
 BoxPainting::BoxPainting(Box& painted, Canvas& ofParent, Canvas::Attributes const& handedDown,
                          Stage stage)
     : box(&painted), target(&ofParent), inherited(handedDown), content(handedDown) {
-    if (stage == Complete) {
-        box->drawBackgroundTo(*target, content);
-        box->drawBorderTo(*target, content);
-    } else {
-        isBeneathMissing = applyBackground(*box, content) || hasBorder();
+    // Most boxes have no style, which is all that the library's own classes look at.
+    if (hasStyle(box->node) || box->isForeign()) {
+        if (stage == Complete) {
+            box->drawBackgroundTo(*target, content);
+            box->drawBorderTo(*target, content);
+        } else {
+            isBeneathMissing = applyBackground(*box, content) || hasBorder();
+        }
+        box->applyContentAttributes(content);
     }
-    box->applyContentAttributes(content);
     Rect const& area = box->dimensions.content;
     isDirect = !isBeneathMissing && target->enter(area.x, area.y);
     if (isDirect) return;
