@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/export.h"
+
 class ZRLock;
 
 namespace ZR {
@@ -7,7 +9,7 @@ namespace ZR {
 /// The intrusively counted base of every shared object. A new object has one reference, its
 /// construction reference, which exactly one holder adopts; it destroys itself when the last
 /// reference is released.
-class RefCounted {
+class GALLEY_EXPORT RefCounted {
 public:
     /// Guards the releases that ask for it; not owned, may be null.
     ZRLock* lock;

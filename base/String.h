@@ -4,13 +4,15 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/export.h"
+
 /// A byte string with a 7-character inline buffer. One byte is one character and one terminal
 /// cell; there is no encoding awareness. The text is always NUL-terminated in its buffer, but the
 /// length, not the NUL, governs comparisons and copies.
 ///
 /// An operation that cannot allocate reports nothing: a constructor or an assignment leaves the
 /// empty string, an operation that appends or inserts leaves the text as it was.
-class String {
+class GALLEY_EXPORT String {
 public:
     /// The buffer and its length; all-zero fields are the empty string.
     ///
@@ -134,6 +136,6 @@ private:
 static_assert(sizeof(String) == 16);
 
 /// Equal texts by `strcmp`; against null, true exactly for the empty string.
-bool operator==(String const& left, char const* right);
+GALLEY_EXPORT bool operator==(String const& left, char const* right);
 /// Equal lengths and equal bytes.
-bool operator==(String const& left, String const& right);
+GALLEY_EXPORT bool operator==(String const& left, String const& right);

@@ -4,11 +4,12 @@
 #include <utility>
 
 #include "base/String.h"
+#include "base/export.h"
 
 /// A result code in one word. Value 0 is success and converts to true; every other value is a
 /// failure, which may carry a message. The plain success and the generic failure (value
 /// 0x7FFFFFFF) own nothing; a message lives in a record that the code owns and copies deeply.
-class XCode {
+class GALLEY_EXPORT XCode {
     struct _BoolTester {  // NOLINT(bugprone-reserved-identifier): the idiom's traditional name
         void dummy() const {}
     };

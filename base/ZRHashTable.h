@@ -33,13 +33,15 @@ public:
     Node head;
     /// Shared by all tables without entries, and never written to, until the first entry.
     Node** buckets = s_noBuckets;
+    /// Not told by their address, since a program and a library may have an `s_noBuckets` each.
+    bool ownsBuckets = false;
 
     ZRHashTable() = default;
     ZRHashTable(ZRHashTable const&) = delete;
     ZRHashTable& operator=(ZRHashTable const&) = delete;
     virtual ~ZRHashTable() {
         clear();
-        if (buckets == s_noBuckets) return;
+        if (!ownsBuckets) return;
         for (unsigned i = 0; i < bucketCount; ++i) delete buckets[i];
         delete[] buckets;
     }
@@ -50,7 +52,8 @@ public:
         auto node = std::make_unique<Node>();
         node->key = key;
         node->value = value;
-        if (buckets == s_noBuckets) buckets = new Node* [bucketCount] {};
+        if (!ownsBuckets) buckets = new Node* [bucketCount] {};
+        ownsBuckets = true;
         Node*& bucket = bucketOf(Hash()(key));
         if (bucket == nullptr) bucket = new Node;
         if (count == s_handful) indexAll();

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "base/XCode.h"
+#include "base/export.h"
 
 /// A lock that a shared object can be guarded by.
-class ZRLock {
+class GALLEY_EXPORT ZRLock {
 public:
     virtual ~ZRLock() = default;
     /// Success once the lock is held; a failure means that it is not.

@@ -14,6 +14,7 @@
 #include "base/XCode.h"
 #include "base/ZRLWPtr.h"
 #include "base/ZRList.h"
+#include "base/export.h"
 #include "xml/css/StyleNode.h"
 #include "xml/css/parseCss.h"
 
@@ -25,7 +26,7 @@ namespace CLI::XML {
 ///
 /// `styles` are the rules of one or more sheets in order, as `parseCss` makes them; they are only
 /// read. Of the rules whose selector is an element's name the last one applies.
-XCode xmlToText(String& out, String const& xml, ZRList<ZRLWPtr<StyleNode>> const& styles,
-                unsigned int width);
+GALLEY_EXPORT XCode xmlToText(String& out, String const& xml,
+                              ZRList<ZRLWPtr<StyleNode>> const& styles, unsigned int width);
 
 }  // namespace CLI::XML

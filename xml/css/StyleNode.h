@@ -6,12 +6,13 @@
 #include "base/ZRLWPtr.h"
 #include "base/ZRList.h"
 #include "base/ZRStringHashTable.h"
+#include "base/export.h"
 
 namespace CLI::XML {
 
 /// One style rule. It is complete when it enters a rule list and does not change afterwards, so
 /// that conversions on several threads may share it: its references alone are counted atomically.
-class StyleNode final : public ZR::RefCounted {
+class GALLEY_EXPORT StyleNode final : public ZR::RefCounted {
 public:
     /// Matched against tag names by exact equality.
     String selector;

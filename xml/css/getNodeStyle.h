@@ -2,6 +2,7 @@
 
 #include "base/String.h"
 #include "base/XCode.h"
+#include "base/export.h"
 #include "xml/css/properties.h"
 
 namespace CLI::XML {
@@ -11,7 +12,7 @@ class DomNode;
 /// The value that an element's own attributes or style rule give to `property`. For null, a text
 /// node, or a property that is not set: the generic failure without a message, `value` untouched.
 /// Nothing is inherited.
-XCode getNodeStyle(DomNode const* node, String const& property, String& value);
+GALLEY_EXPORT XCode getNodeStyle(DomNode const* node, String const& property, String& value);
 
 /// The same without a copy: null where the property is not set. The text belongs to the element or
 /// to its rule.

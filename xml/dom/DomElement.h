@@ -4,6 +4,7 @@
 #include "base/ZRLWPtr.h"
 #include "base/ZRStringHashTable.h"
 #include "base/ZRVector.h"
+#include "base/export.h"
 #include "xml/css/StyleNode.h"
 #include "xml/dom/DomNode.h"
 
@@ -11,7 +12,7 @@ namespace CLI::XML {
 
 /// An element: its attributes act as style declarations and take precedence over its rule's.
 /// Owns its children, its attributes and one reference to its style rule.
-class DomElement final : public DomNode {
+class GALLEY_EXPORT DomElement final : public DomNode {
 public:
     /// The tag name as written.
     String name;

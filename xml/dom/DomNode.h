@@ -4,12 +4,13 @@
 
 #include "base/RefCounted.h"
 #include "base/String.h"
+#include "base/export.h"
 
 namespace CLI::XML {
 
 /// A node of the document tree. A node has no link to its parent; the tree is navigated
 /// downwards only.
-class DomNode : public ZR::RefCounted {
+class GALLEY_EXPORT DomNode : public ZR::RefCounted {
 public:
     enum Kind : std::int32_t { Text, Element };
 

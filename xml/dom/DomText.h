@@ -4,12 +4,13 @@
 #include <utility>
 
 #include "base/ZRLWPtr.h"
+#include "base/export.h"
 #include "xml/dom/DomNode.h"
 
 namespace CLI::XML {
 
 /// One word of running text, with the space that followed it.
-class DomText final : public DomNode {
+class GALLEY_EXPORT DomText final : public DomNode {
 public:
     String text;
 

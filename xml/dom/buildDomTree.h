@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/XCode.h"
+#include "base/export.h"
 #include "xml/css/StyleNode.h"
 #include "xml/dom/DomElement.h"
 #include "xml/parser/PullParser.h"
@@ -15,7 +16,7 @@ namespace CLI::XML {
 ///
 /// The first failure ends the build and names its cause; elements that were open then are not
 /// appended.
-XCode buildDomTree(ZRLWPtr<DomElement>& parent, bool isTopLevel, PullParser& parser,
-                   ZRList<ZRLWPtr<StyleNode>> const& styles);
+GALLEY_EXPORT XCode buildDomTree(ZRLWPtr<DomElement>& parent, bool isTopLevel, PullParser& parser,
+                                 ZRList<ZRLWPtr<StyleNode>> const& styles);
 
 }  // namespace CLI::XML

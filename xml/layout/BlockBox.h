@@ -1,11 +1,12 @@
 #pragma once
 
+#include "base/export.h"
 #include "xml/layout/Box.h"
 
 namespace CLI::XML {
 
 /// Stacks blocks, tables and line boxes downwards, and breaks the lines that are too wide for it.
-class BlockBox : public Box {
+class GALLEY_EXPORT BlockBox : public Box {
 public:
     explicit BlockBox(DomNode* rendered) : BlockBox(rendered, Block) {}
     BlockBox(BlockBox const& other) = default;

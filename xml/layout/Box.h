@@ -6,6 +6,7 @@
 #include "base/XCode.h"
 #include "base/ZRLWPtr.h"
 #include "base/ZRVector.h"
+#include "base/export.h"
 #include "xml/dom/DomNode.h"
 #include "xml/layout/Dimensions.h"
 #include "xml/render/Canvas.h"
@@ -36,7 +37,7 @@ struct LayoutPass {
 /// The virtual operations stand in the order in which a conversion runs them: style, build, lay
 /// out, break, paint, show. None of them recurses over the depth of the tree; only the operations
 /// of a class of the caller's own are called as any virtual operation is.
-class Box : public ZR::RefCounted {
+class GALLEY_EXPORT Box : public ZR::RefCounted {
 public:
     enum Type : std::uint8_t { Block, Line, Inline, Table, Row, Cell };
 

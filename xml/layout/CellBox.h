@@ -1,11 +1,12 @@
 #pragma once
 
+#include "base/export.h"
 #include "xml/layout/InlineBox.h"
 
 namespace CLI::XML {
 
 /// A table cell: its content stands side by side on one line and is never broken.
-class CellBox final : public InlineBox {
+class GALLEY_EXPORT CellBox final : public InlineBox {
 public:
     /// The width of a column record that constrains nothing.
     static constexpr std::int32_t s_unconstrainedWidth = 0x7FFFFFFF;

@@ -3,12 +3,13 @@
 #include <string_view>
 #include <typeinfo>
 
+#include "base/export.h"
 #include "xml/layout/Box.h"
 
 namespace CLI::XML {
 
 /// A word, or the part of an inline element that stands on one line.
-class InlineBox : public Box {
+class GALLEY_EXPORT InlineBox : public Box {
 public:
     explicit InlineBox(DomNode* rendered) : InlineBox(rendered, Inline) {}
     InlineBox(InlineBox const& other) = default;

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "base/export.h"
 #include "xml/layout/Box.h"
 
 namespace CLI::XML {
 
 /// One line of inline boxes, or the run of them that a block has yet to break into lines. Has no
 /// node and no edges.
-class LineBox : public Box {
+class GALLEY_EXPORT LineBox : public Box {
 public:
     LineBox() : LineBox(nullptr, Line) {}
     LineBox(LineBox const& other) = default;

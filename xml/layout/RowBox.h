@@ -1,12 +1,13 @@
 #pragma once
 
+#include "base/export.h"
 #include "xml/layout/CellBox.h"
 #include "xml/layout/LineBox.h"
 
 namespace CLI::XML {
 
 /// A table row. Its children are cells.
-class RowBox final : public LineBox {
+class GALLEY_EXPORT RowBox final : public LineBox {
 public:
     explicit RowBox(DomNode* rendered) : LineBox(rendered, Row) {}
     RowBox(RowBox const& other) = default;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/export.h"
 #include "xml/layout/BlockBox.h"
 #include "xml/layout/RowBox.h"
 
@@ -10,7 +11,7 @@ namespace CLI::XML {
 ///
 /// Layout in order: measure the rows freely; raise the column records; impose them on the cells;
 /// stack the rows.
-class TableBox final : public BlockBox {
+class GALLEY_EXPORT TableBox final : public BlockBox {
 public:
     /// One record a column: the maxima of its cells' horizontal positions, widths and edges.
     /// Records outlive a layout; a later one starts from them.

@@ -5,6 +5,7 @@
 #include "base/String.h"
 #include "base/XCode.h"
 #include "base/ZRVector.h"
+#include "base/export.h"
 #include "xml/parser/references.h"
 
 namespace CLI::XML {
@@ -14,7 +15,7 @@ namespace CLI::XML {
 ///
 /// The reading and skipping operations return success, or the generic failure without a message
 /// after having set `errorMessage`. The parser does not recover: stop after a failure.
-class PullParser {
+class GALLEY_EXPORT PullParser {
 public:
     /// An attribute of a start tag, its value with entities replaced.
     struct Attribute {

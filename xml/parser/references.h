@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/String.h"
+#include "base/export.h"
 
 namespace CLI::XML {
 
@@ -14,6 +15,6 @@ struct EntityReplacement {
 /// ampersand becomes what `table` says of the name, compared exactly, or nothing for a name that
 /// is not in it. What was put in is not scanned again; an ampersand without a semicolon after it
 /// stays as it is.
-String decodeReferences(String const& text, EntityReplacement const* table);
+GALLEY_EXPORT String decodeReferences(String const& text, EntityReplacement const* table);
 
 }  // namespace CLI::XML

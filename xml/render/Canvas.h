@@ -6,6 +6,7 @@
 
 #include "base/String.h"
 #include "base/ZRVector.h"
+#include "base/export.h"
 #include "xml/render/CellBudget.h"
 
 namespace CLI::XML {
@@ -19,7 +20,7 @@ namespace CLI::XML {
 /// 2. Rows are ragged: each is as long as the cells written or padded into it. Rows and cells are
 ///    never removed, but for rows that `moveRowsTo` takes.
 /// 3. Cells that only fill the way to a position further right are spaces with the default value.
-class Canvas {
+class GALLEY_EXPORT Canvas {
 public:
     /// What a cell looks like, as one 32-bit value whose top byte is 0.
     struct Attributes {
