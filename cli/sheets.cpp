@@ -3,9 +3,9 @@
 #include <cstring>
 #include <new>
 
-#include "cli/controls.h"
 #include "cli/files.h"
 #include "cli/report.h"
+#include "terminal/controls.h"
 #include "xml/xml.h"
 
 namespace {
@@ -18,7 +18,7 @@ ExitStatus readSheet(std::string const& file, bool isRaw, StyleList& styles) {
         reportError(displayName(file), std::strerror(fault));
         return ExitStatus::FileAtFault;
     }
-    if (!isRaw) replaceControls(css);
+    if (!isRaw) CLI::XML::replaceControls(css);
     StyleList rules;
     XCode const result = CLI::XML::parseCss(rules, css);
     if (!result) {

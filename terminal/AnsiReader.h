@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
+namespace CLI::XML {
+
 /// How a cell looks.
 struct Look {
     static constexpr unsigned s_noColor = 8;
@@ -43,3 +45,5 @@ private:
     std::string_view page;
     Look look;
 };
+
+}  // namespace CLI::XML
