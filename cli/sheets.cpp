@@ -5,8 +5,8 @@
 
 #include "cli/files.h"
 #include "cli/report.h"
+#include "terminal/addSheet.h"
 #include "terminal/controls.h"
-#include "xml/xml.h"
 
 namespace {
 
@@ -19,13 +19,11 @@ ExitStatus readSheet(std::string const& file, bool isRaw, StyleList& styles) {
         return ExitStatus::FileAtFault;
     }
     if (!isRaw) CLI::XML::replaceControls(css);
-    StyleList rules;
-    XCode const result = CLI::XML::parseCss(rules, css);
+    XCode const result = CLI::XML::addSheet(styles, css);
     if (!result) {
         reportError(displayName(file), result.getString().c_str(), css.view(), SourceKind::Sheet);
         return ExitStatus::InputAtFault;
     }
-    for (auto const& rule : rules) styles.add(rule);
     return ExitStatus::Rendered;
 }
 

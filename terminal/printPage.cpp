@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "terminal/addSheet.h"
 #include "terminal/append.h"
 #include "terminal/controls.h"
 #include "terminal/plain.h"
@@ -23,7 +24,7 @@ bool tryToPrint(std::FILE* out, std::string_view document,
                 std::initializer_list<std::string_view> sheets) {
     StyleList styles;
     for (std::string_view const sheet : sheets) {
-        if (!parseCss(styles, withoutControls(sheet))) return false;
+        if (!addSheet(styles, withoutControls(sheet))) return false;
     }
     String page;
     if (!xmlToText(page, withoutControls(document), styles, terminalWidth(out))) return false;
