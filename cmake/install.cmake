@@ -42,3 +42,5 @@ if(GALLEY_BUILD_TOOL)
     install(FILES ${manual}/fish/galley.fish
         DESTINATION ${share}/fish/vendor_completions.d COMPONENT tool)
 endif()
+
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright COMPONENT library)
