@@ -2,11 +2,13 @@
 // does, and writes the source of a function that prints the page. Where there is a fault it says so
 // as a compiler would, and leaves no output. Only galley_embed in cmake/ calls it.
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <new>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "cli/ExitStatus.h"
@@ -65,8 +67,9 @@ ExitStatus embed(std::string const& output, std::string const& function, Input d
                  std::vector<Input> sheets) {
     ExitStatus const status = checkAll(document, sheets);
     if (status != ExitStatus::Rendered) return status;
-    std::vector<std::string_view> rules;
-    for (Input const& sheet : sheets) rules.push_back(sheet.bytes.view());
+    std::vector<std::string_view> rules(sheets.size());
+    std::transform(sheets.begin(), sheets.end(), rules.begin(),
+                   [](Input const& sheet) { return sheet.bytes.view(); });
     int const fault = writeFile(output, sourceText(function, document.bytes.view(), rules));
     if (fault == 0) return ExitStatus::Rendered;
     reportError(displayName(output), std::strerror(fault));

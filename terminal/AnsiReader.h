@@ -29,7 +29,7 @@ public:
         std::string_view text;
         Look look;
         /// Nothing follows in this row; then the run may be empty. Every row of a page has an end.
-        bool endsRow;
+        bool endsRow = false;
     };
 
     explicit AnsiReader(std::string_view text) : page(text) {}
