@@ -2,14 +2,16 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstdio>
 #include <cstring>
 #include <new>
 
-#include "cli/controls.h"
 #include "cli/files.h"
 #include "cli/formats/formats.h"
 #include "cli/report.h"
-#include "cli/terminal.h"
+#include "cli/terminal/controls.h"
+#include "cli/terminal/plain.h"
+#include "cli/terminal/terminal.h"
 #include "xml/dom/buildDomTree.h"
 #include "xml/layout/BlockBox.h"
 #include "xml/xml.h"
@@ -21,7 +23,7 @@ using CLI::XML::StyleList;
 Format effectiveFormat(Options const& options) {
     if (options.format != Format::Ansi || options.color == Color::Always) return options.format;
     bool const keepsColor =
-        options.color == Color::Auto && options.files.empty() && isColorWelcome();
+        options.color == Color::Auto && options.files.empty() && CLI::XML::isColorWelcome(stdout);
     return keepsColor ? Format::Ansi : Format::Plain;
 }
 
@@ -50,7 +52,7 @@ void applyFormat(String& page, Format format) {
         case Format::Ansi:
             break;
         case Format::Plain:
-            makePlain(page);
+            CLI::XML::makePlain(page);
             break;
         case Format::Html:
             makeHtml(page);
@@ -71,7 +73,7 @@ Rendering tryToRender(std::string const& file, StyleList const& styles, Manner c
     if (int const fault = readFile(file, document)) {
         return failure(ExitStatus::FileAtFault, file, std::strerror(fault));
     }
-    if (!manner.isRaw) replaceControls(document);
+    if (!manner.isRaw) CLI::XML::replaceControls(document);
     Rendering rendering;
     bool const isPage = manner.product == Product::Page;
     XCode const result = isPage
@@ -80,7 +82,7 @@ Rendering tryToRender(std::string const& file, StyleList const& styles, Manner c
     if (!result) {
         return failure(ExitStatus::InputAtFault, file, result.getString().c_str(), document.view());
     }
-    if (!manner.isRaw) repairCharacters(rendering.text);
+    if (!manner.isRaw) CLI::XML::repairCharacters(rendering.text);
     if (isPage) applyFormat(rendering.text, manner.format);
     return rendering;
 }
@@ -88,7 +90,7 @@ Rendering tryToRender(std::string const& file, StyleList const& styles, Manner c
 }  // namespace
 
 Manner::Manner(Options const& options)
-    : width(options.width ? *options.width : terminalWidth()),
+    : width(options.width ? *options.width : CLI::XML::terminalWidth(stdout)),
       product(options.product),
       format(effectiveFormat(options)),
       isRaw(options.isRaw) {

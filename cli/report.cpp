@@ -5,9 +5,9 @@
 #include <optional>
 
 #include "base/String.h"
-#include "cli/controls.h"
 #include "cli/locateError.h"
 #include "cli/sourceExcerpt.h"
+#include "cli/terminal/controls.h"
 
 namespace {
 
@@ -45,7 +45,7 @@ std::string lineText(std::string_view source, std::size_t position) {
 std::string displayName(std::string const& file) {
     if (file == "-") return "<stdin>";
     String name(file.c_str());
-    replaceControls(name);
+    CLI::XML::replaceControls(name);
     return name.c_str();
 }
 

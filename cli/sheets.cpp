@@ -3,10 +3,10 @@
 #include <cstring>
 #include <new>
 
-#include "cli/controls.h"
 #include "cli/files.h"
 #include "cli/report.h"
-#include "xml/xml.h"
+#include "cli/terminal/addSheet.h"
+#include "cli/terminal/controls.h"
 
 namespace {
 
@@ -18,14 +18,12 @@ ExitStatus readSheet(std::string const& file, bool isRaw, StyleList& styles) {
         reportError(displayName(file), std::strerror(fault));
         return ExitStatus::FileAtFault;
     }
-    if (!isRaw) replaceControls(css);
-    StyleList rules;
-    XCode const result = CLI::XML::parseCss(rules, css);
+    if (!isRaw) CLI::XML::replaceControls(css);
+    XCode const result = CLI::XML::addSheet(styles, css);
     if (!result) {
         reportError(displayName(file), result.getString().c_str(), css.view(), SourceKind::Sheet);
         return ExitStatus::InputAtFault;
     }
-    for (auto const& rule : rules) styles.add(rule);
     return ExitStatus::Rendered;
 }
 

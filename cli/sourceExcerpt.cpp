@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-#include "cli/controls.h"
+#include "cli/terminal/controls.h"
+
+using CLI::XML::characterLength;
 
 namespace {
 

@@ -1,5 +1,5 @@
-# What `cmake --install` puts where: the library and its headers, a CMake package, a file for
-# pkg-config, and the tool with its manual page and completions.
+# What `cmake --install` puts where: the library and its headers, a CMake package with what embeds
+# pages, a file for pkg-config, and the tool with its manual page and completions.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -10,6 +10,10 @@ set(pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 install(TARGETS galley EXPORT galley-targets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development
     FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/galley COMPONENT development)
+install(TARGETS galley-terminal galley-embed EXPORT galley-targets
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+    RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/galley COMPONENT development
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/galley COMPONENT development)
 install(EXPORT galley-targets NAMESPACE galley:: DESTINATION ${package_dir} COMPONENT development)
 
 configure_package_config_file(cmake/galley-config.cmake.in galley-config.cmake
@@ -17,6 +21,8 @@ configure_package_config_file(cmake/galley-config.cmake.in galley-config.cmake
 write_basic_package_version_file(galley-config-version.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/galley-config.cmake
               ${PROJECT_BINARY_DIR}/galley-config-version.cmake
+              cmake/galley-embed.cmake
+              cmake/galley-embed.h.in
     DESTINATION ${package_dir} COMPONENT development)
 
 # The file finds its prefix from where it stands, so that a tree can be moved.
@@ -36,3 +42,5 @@ if(GALLEY_BUILD_TOOL)
     install(FILES ${manual}/fish/galley.fish
         DESTINATION ${share}/fish/vendor_completions.d COMPONENT tool)
 endif()
+
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright COMPONENT library)

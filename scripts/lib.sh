@@ -22,6 +22,15 @@ quietly() {
     fi
 }
 
+# as_root COMMAND...: by way of sudo where this is another user.
+as_root() {
+    if ((EUID == 0)); then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
 # Installs what printing a page needs and brings build/release/galley up to date. A tree that is
 # configured here leaves the tests out, so that it needs no test framework.
 build_tool() {

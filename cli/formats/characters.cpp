@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <string>
 
-#include "cli/controls.h"
-#include "cli/formats/append.h"
+#include "cli/terminal/append.h"
+#include "cli/terminal/controls.h"
+
+using CLI::XML::append;
+using CLI::XML::characterLength;
 
 namespace {
 

@@ -2,11 +2,8 @@
 
 #include "base/String.h"
 
-// Each takes a page as the library makes it and puts another form in its place. All throw
+// Each takes a page as the library makes it and puts another form in its place. Both throw
 // std::bad_alloc where there is no memory for that.
-
-/// The text without escape sequences, byte for byte.
-void makePlain(String& page);
 
 /// A <pre> element with the colours of a terminal, which may stand in any HTML document, several of
 /// them one after the other. It is well-formed XML in ASCII.

@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <utility>
 
+using CLI::XML::Look;
+
 namespace {
 
 /// 0xRRGGBB, in the order of the sequences; the last is for text without a colour.

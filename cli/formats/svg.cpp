@@ -1,9 +1,12 @@
 #include <algorithm>
 
-#include "cli/formats/append.h"
 #include "cli/formats/characters.h"
 #include "cli/formats/formats.h"
 #include "cli/formats/style.h"
+#include "cli/terminal/append.h"
+
+using CLI::XML::AnsiReader;
+using CLI::XML::append;
 
 // A cell is 9 pixels wide and 18 high, as the glyphs of most fixed pitch fonts are three fifths as
 // wide as their size. The origin is that of the first cell; there is a margin around the cells.

@@ -4,11 +4,13 @@
 
 #include <string>
 
+#include "cli/terminal/plain.h"
+
 namespace {
 
 std::string plain(std::string const& page) {
     String text(page.c_str(), 0, static_cast<int>(page.length()));
-    makePlain(text);
+    CLI::XML::makePlain(text);
     return text.c_str();
 }
 

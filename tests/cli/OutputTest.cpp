@@ -1,11 +1,11 @@
 // Colours, widths, several documents, and where their pages go.
 
-#include <pty.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <string>
 
+#include "tests/support/Terminal.h"
 #include "tests/support/tool.h"
 
 namespace {
@@ -27,28 +27,6 @@ std::string headings(std::string const& errors) {
     return found;
 }
 
-/// A terminal of 6 columns for the tool to write to.
-struct Terminal {
-    Terminal() {
-        winsize const size{24, 6, 0, 0};
-        isOpen = openpty(&controller, &terminal, nullptr, nullptr, &size) == 0;
-    }
-    Terminal(Terminal const&) = delete;
-    Terminal& operator=(Terminal const&) = delete;
-    ~Terminal() {
-        close(controller);
-        close(terminal);
-    }
-    std::string seen() const {
-        char text[256] = {};
-        return ::read(controller, text, sizeof text - 1) > 0 ? text : "";
-    }
-
-    int controller = -1;
-    int terminal = -1;
-    bool isOpen = false;
-};
-
 TEST_F(Output, IsColoredWhereAskedForOrWelcome) {
     struct Case {
         char const* before;
@@ -67,7 +45,7 @@ TEST_F(Output, IsColoredWhereAskedForOrWelcome) {
         {"", "--format plain --color always", false, false},
     };
     for (Case const& c : cases) {
-        Terminal const terminal;
+        Terminal terminal;
         ASSERT_TRUE(terminal.isOpen);
         std::string const arguments = std::string(c.arguments) + " - ";
         EXPECT_EQ(run(arguments, "<b>x</b>", c.before).out, c.onPipe ? s_colored : "x\n")
@@ -76,7 +54,7 @@ TEST_F(Output, IsColoredWhereAskedForOrWelcome) {
         bool const isColored = terminal.seen().find("\x1b[1m") != std::string::npos;
         EXPECT_EQ(isColored, c.onTerminal) << c.before << arguments;
     }
-    Terminal const terminal;
+    Terminal terminal;
     run(std::string("--output page.txt - >") + ttyname(terminal.terminal), "<b>x</b>");
     EXPECT_EQ(read("page.txt"), "x\n");
 }
@@ -107,7 +85,7 @@ TEST_F(Output, TakesTheFirstWidthThereIs) {
             run(c.arguments, words, std::string("unset COLUMNS; ") + c.columns).out;
         EXPECT_EQ(page.find('\n'), c.width) << c.columns << c.arguments;
     }
-    Terminal const terminal;
+    Terminal terminal;
     run(std::string("- >") + ttyname(terminal.terminal), "aa bb cc", "export COLUMNS=30; ");
     EXPECT_EQ(terminal.seen(), "aa bb \r\ncc\r\n");
 }

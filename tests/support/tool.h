@@ -33,9 +33,9 @@ protected:
     }
     /// `before` are commands of the shell, each with its semicolon.
     Outcome run(std::string const& arguments, std::string const& input = "",
-                std::string const& before = "") const {
+                std::string const& before = "", std::string const& program = GALLEY_TOOL) const {
         write("stdin", input);
-        std::string const command = "cd " + folder.string() + " && { " + before + GALLEY_TOOL " " +
+        std::string const command = "cd " + folder.string() + " && { " + before + program + " " +
                                     arguments + "; } <stdin 2>stderr >stdout";
         int const status = std::system(command.c_str());
         return {WEXITSTATUS(status), read("stdout"), read("stderr")};

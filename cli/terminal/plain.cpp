@@ -1,8 +1,9 @@
-#include "cli/formats/AnsiReader.h"
-#include "cli/formats/append.h"
-#include "cli/formats/formats.h"
+#include "cli/terminal/plain.h"
 
-void makePlain(String& page) {
+#include "cli/terminal/AnsiReader.h"
+#include "cli/terminal/append.h"
+
+void CLI::XML::makePlain(String& page) {
     if (page.indexOf('\x1b') < 0) return;
     String plain;
     plain.reserve(page.length());

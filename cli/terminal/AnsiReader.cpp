@@ -1,6 +1,8 @@
-#include "cli/formats/AnsiReader.h"
+#include "cli/terminal/AnsiReader.h"
 
 #include <algorithm>
+
+namespace CLI::XML {
 
 namespace {
 
@@ -49,3 +51,5 @@ bool AnsiReader::next(Run& run) {
     if (run.endsRow) page.remove_prefix(1);
     return true;
 }
+
+}  // namespace CLI::XML

@@ -5,6 +5,8 @@
 
 #include "base/String.h"
 
+namespace CLI::XML {
+
 /// Bytes of the well-formed UTF-8 character at `i` that begins with a byte from 0x80 on; 0 where
 /// there is none.
 std::size_t characterLength(std::string_view text, std::size_t i);
@@ -17,3 +19,5 @@ void replaceControls(String& text);
 /// The same for a page of texts without controls, whose escape bytes are the library's own:
 /// painting cuts characters apart and puts bytes of two of them together.
 void repairCharacters(String& page);
+
+}  // namespace CLI::XML

@@ -1,9 +1,11 @@
-#include "cli/controls.h"
+#include "cli/terminal/controls.h"
 
 #include <cstddef>
 #include <cstring>
 #include <string>
 #include <string_view>
+
+namespace CLI::XML {
 
 namespace {
 
@@ -100,3 +102,5 @@ std::size_t characterLength(std::string_view text, std::size_t i) {
 void replaceControls(String& text) { replace<Controls::Any>(text); }
 
 void repairCharacters(String& page) { replace<Controls::None>(page); }
+
+}  // namespace CLI::XML

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
+namespace CLI::XML {
+
 /// How a cell looks.
 struct Look {
     static constexpr unsigned s_noColor = 8;
@@ -27,7 +29,7 @@ public:
         std::string_view text;
         Look look;
         /// Nothing follows in this row; then the run may be empty. Every row of a page has an end.
-        bool endsRow;
+        bool endsRow = false;
     };
 
     explicit AnsiReader(std::string_view text) : page(text) {}
@@ -43,3 +45,5 @@ private:
     std::string_view page;
     Look look;
 };
+
+}  // namespace CLI::XML

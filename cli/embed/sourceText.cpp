@@ -1,0 +1,49 @@
+#include "cli/embed/sourceText.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view s_lineStart = "        \"";
+
+/// Whether a byte may stand in a string literal as it is, in any character set.
+bool isPlain(char byte) {
+    return byte >= ' ' && byte <= '~' && byte != '"' && byte != '\\' && byte != '?';
+}
+
+/// One byte in a string literal. Three octal digits end an escape sequence, whatever follows.
+std::string escaped(char byte) {
+    if (isPlain(byte)) return {byte};
+    if (byte == '\n') return "\\n";
+    if (byte == '"') return "\\\"";
+    auto const code = static_cast<unsigned char>(byte);
+    auto const digit = [code](unsigned shift) {
+        return static_cast<char>('0' + (code >> shift & 7U));
+    };
+    return {'\\', digit(6), digit(3), digit(0)};
+}
+
+/// A view of `bytes` as an argument, a line of the source for each of theirs.
+std::string literal(std::string_view bytes) {
+    std::string text(s_lineStart);
+    for (std::size_t i = 0; i < bytes.length(); ++i) {
+        text += escaped(bytes[i]);
+        if (bytes[i] == '\n' && i + 1 < bytes.length()) text.append("\"\n").append(s_lineStart);
+    }
+    return text + "\"sv";
+}
+
+}  // namespace
+
+std::string sourceText(std::string const& function, std::string_view document,
+                       std::vector<std::string_view> const& sheets) {
+    std::string text =
+        "// Made by galley_embed.\n#include \"" + function +
+        ".h\"\n\n#include <string_view>\n\n#include \"cli/terminal/printPage.h\"\n\nbool " +
+        function +
+        "(std::FILE* out) {\n    using namespace std::literals;\n"
+        "    return CLI::XML::printPage(out,\n" +
+        literal(document) + ",\n        {";
+    for (std::string_view const sheet : sheets) text += "\n" + literal(sheet) + ",";
+    return text + "});\n}\n";
+}
