@@ -6,8 +6,10 @@ namespace ZR {
 /// Owns nothing by itself.
 template <class T>
 struct MovePtr {
+    /// Null where there is no object to hand over.
     T* object;
 
+    /// `newObject` still has the construction reference.
     explicit MovePtr(T* newObject) : object(newObject) {}
 };
 

@@ -16,16 +16,20 @@ public:
     /// References held.
     int refCount = 1;
 
+    /// An object with its construction reference; `guard` outlives it and may be null.
     explicit RefCounted(ZRLock* guard) : lock(guard) {}
     RefCounted(RefCounted const&) = delete;
     RefCounted& operator=(RefCounted const&) = delete;
 
+    /// One reference more.
     virtual void addRef() { ++refCount; }
+    /// One reference less; the object is destroyed with its last one.
     virtual void release() {
         if (tryRelease()) callDtor();
     }
     /// A release under the object's lock, if it has one.
     virtual void protectedRelease();
+    /// What guards releases now; null for nothing.
     virtual ZRLock* getLock() { return lock; }
     virtual ~RefCounted() = default;
     /// Destroys and frees the object.

@@ -20,8 +20,9 @@ public:
     ///    `storage.buffer`, which is owned and comes from `malloc`.
     /// 2. The buffer holds `capacity` + 8 bytes, the text and its NUL among them.
     struct Store {
-        std::int32_t capacity = 0;
-        std::int32_t length = 0;
+        std::int32_t capacity = 0;  ///< Bytes of the owned buffer less 8; 0 for none.
+        std::int32_t length = 0;    ///< Bytes of the text, its NUL not among them.
+        /// Which of the two holds the text is what `capacity` says.
         union {
             char text[8];
             char* buffer;
@@ -42,8 +43,11 @@ public:
         /// Makes the store the empty string without freeing anything.
         void setEmpty();
 
+        /// The text, wherever it is.
+        ///@{
         char* begin() { return capacity > 0 ? storage.buffer : storage.text; }
         char const* begin() const { return capacity > 0 ? storage.buffer : storage.text; }
+        ///@}
     };
 
     /// Selects the formatting constructor.
@@ -59,17 +63,24 @@ public:
     String(char const* s, int start, int count) noexcept;
     /// The printf-style formatting of the arguments.
     String(Formatted, char const* format, ...) __attribute__((format(printf, 3, 4)));
+    /// A copy in a buffer of its own.
     String(String const& other);
+    /// Takes the text over; `other` becomes the empty string.
     String(String&& other) noexcept;
+    /// Replaces the text by a copy, which may be one of a part of it; null gives the empty string.
+    ///@{
     String& operator=(String const& other);
     String& operator=(char const* s);
+    ///@}
     /// Exchanges the two texts; `other` frees the former one when it is destroyed.
     String& operator=(String&& other) noexcept;
     ~String() = default;
 
+    /// Bytes of the text, its NUL not among them.
     int length() const { return store.length; }
     /// Bytes of the buffer less 8; 0 while the text is inline.
     int capacity() const { return store.capacity; }
+    /// The text with its NUL, never null; good until the string changes or is destroyed.
     char const* c_str() const { return store.begin(); }
     /// The characters, a NUL among them included.
     std::string_view view() const { return {c_str(), static_cast<std::size_t>(length())}; }
@@ -78,8 +89,11 @@ public:
         return position >= 0 && position < store.length ? store.begin()[position] : '\0';
     }
 
+    /// Appends a text, which may be a part of this one; null appends nothing.
+    ///@{
     String& operator+=(String const& other);
     String& operator+=(char const* s);
+    ///@}
     /// Replaces the text by `s`, which is not in this string, in the buffer that is there if it has
     /// room.
     void assign(std::string_view s);
@@ -92,10 +106,13 @@ public:
     String& concat(char const* s, int n);
     /// What every appending operation rests on. `s` may lie inside this string.
     void internalConcat(char const* s, int n);
+    /// Appends the printf-style formatting of the arguments.
     String& concatf(char const* format, ...) __attribute__((format(printf, 2, 3)));
     /// Replace the text by the printf-style formatting of the arguments.
+    ///@{
     String& format(char const* format, ...) __attribute__((format(printf, 2, 3)));
     String& vformat(char const* format, va_list arguments) __attribute__((format(printf, 2, 0)));
+    ///@}
     /// Inserts `s` before the character at `position`, which is first brought into [0, length].
     String& insert(int position, String const& s);
     /// Removes the characters from `from` up to but not including `to`; the range is first brought
@@ -115,8 +132,10 @@ public:
     /// `s` repeated `n` times.
     static String repeat(String const& s, unsigned n);
     /// Index of the first `c` (at or after `from`), -1 when there is none.
+    ///@{
     int indexOf(char c) const { return indexOf(c, 0); }
     int indexOf(char c, int from) const;
+    ///@}
     /// The characters from `from` up to but not including `to`, which counts as the length where
     /// it is greater; empty when the range is empty, reversed or begins outside the text.
     String substring(int from, int to) const;

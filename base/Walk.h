@@ -17,6 +17,8 @@
 /// exception passes through to the caller as it would through a function.
 class [[nodiscard]] Walk {
 public:
+    // What the language asks of a coroutine.
+    /// @cond
     struct promise_type;  // NOLINT(readability-identifier-naming): the language's name
     using Handle = std::coroutine_handle<promise_type>;
 
@@ -36,16 +38,21 @@ public:
         void return_void() {}
         void unhandled_exception() { failure = std::current_exception(); }
     };
+    /// @endcond
 
     /// A call that has returned already.
     Walk() = default;
+    /// Whether there is nothing left to await.
     bool hasReturned() const { return !call; }
+    /// Takes the call over; `other` has returned already.
     Walk(Walk&& other) noexcept : call(std::exchange(other.call, nullptr)) {}
     Walk& operator=(Walk&&) = delete;
+    /// Destroys the call, also one that never ran to its end.
     ~Walk() {
         if (call) call.destroy();
     }
 
+    /// Carries a call and all that it awaits through to the end, and passes its exception on.
     static void run(Walk const& outermost) {
         Handle running = outermost.call;
         if (!running) return;
@@ -55,6 +62,7 @@ public:
     }
 
     // What `co_await` asks of an operand.
+    /// @cond
     bool await_ready() const noexcept { return !call; }
     void await_suspend(Handle caller) const noexcept {
         promise_type& promise = call.promise();
@@ -65,6 +73,7 @@ public:
     void await_resume() const {
         if (call && call.promise().failure) std::rethrow_exception(call.promise().failure);
     }
+    /// @endcond
 
 private:
     explicit Walk(Handle made) : call(made) {}

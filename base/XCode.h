@@ -16,9 +16,10 @@ class GALLEY_EXPORT XCode {
     using SafeBool = void (_BoolTester::*)() const;
 
 public:
+    /// What a code with a message owns.
     struct Record {
-        std::uint32_t value;
-        String message;
+        std::uint32_t value;  ///< Not shifted.
+        String message;       ///< May be empty.
     };
 
     /// Odd: an inline code, its value shifted left by one, plus 1, in 32 bits. Even: the address
@@ -29,10 +30,13 @@ public:
     XCode() : XCode(0) {}
     /// An inline code without message: 0 is success, -1 the generic failure.
     explicit XCode(int value) : word((static_cast<std::uint32_t>(value) << 1) | 1) {}
+    /// A copy with a message of its own.
     XCode(XCode const& other);
     /// Takes the word over; `other` becomes the plain success.
     XCode(XCode&& other) noexcept : word(other.word) { other.word = s_success; }
+    /// Copies the value and the message.
     XCode& operator=(XCode const& other);
+    /// Takes the word over and frees the message that was held; `other` becomes the plain success.
     XCode& operator=(XCode&& other) noexcept {
         if (this == &other) return *this;
         releaseRecord();
@@ -41,7 +45,9 @@ public:
     }
     ~XCode() { releaseRecord(); }
 
+    /// True for every value but 0.
     bool isErr() const { return getValue() != 0; }
+    /// The value in 31 bits: 0 for success, 0x7FFFFFFF for the generic failure.
     std::uint32_t getValue() const {
         return isInline() ? static_cast<std::uint32_t>(word) >> 1 : record()->value;
     }

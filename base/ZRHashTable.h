@@ -19,18 +19,19 @@
 template <class K, class V, class Hash, class Compare>
 class ZRHashTable {
 public:
+    /// An entry, owned by the table, or a sentinel, whose key and value say nothing.
     struct Node {
-        Node* next = this;
-        Node* prev = this;
-        Node* bucketPrev = this;
-        Node* bucketNext = this;
-        K key;
-        V value;
+        Node* next = this;        ///< Among all entries: the one added before this one.
+        Node* prev = this;        ///< Among all entries: the one added after this one.
+        Node* bucketPrev = this;  ///< In the chain: the one added before this one.
+        Node* bucketNext = this;  ///< In the chain: the one added after this one.
+        K key;                    ///< Not to be changed.
+        V value;                  ///< As it was set last.
     };
 
-    unsigned bucketCount = 16;
-    unsigned count = 0;
-    Node head;
+    unsigned bucketCount = 16;  ///< Never changes.
+    unsigned count = 0;         ///< Entries, those with equal keys included.
+    Node head;                  ///< The sentinel of the list of all entries.
     /// Shared by all tables without entries, and never written to, until the first entry.
     Node** buckets = s_noBuckets;
     /// Not told by their address, since a program and a library may have an `s_noBuckets` each.

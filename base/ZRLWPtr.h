@@ -10,11 +10,15 @@
 template <class T>
 class ZRLWPtr {
 public:
+    /// What is pointed to; null for nothing.
     T* object = nullptr;
 
     ZRLWPtr() = default;
+    /// Points to nothing.
     ZRLWPtr(std::nullptr_t) {}  // NOLINT(google-explicit-constructor): the null pointer
+    /// Shares the object with a reference of its own.
     ZRLWPtr(ZRLWPtr const& other) : object(other.object) { addRefIfAny(); }
+    /// Takes the reference over; `other` points to nothing.
     ZRLWPtr(ZRLWPtr&& other) noexcept : object(std::exchange(other.object, nullptr)) {}
     /// Shares the object of a pointer to a derived class.
     template <class Derived>
@@ -39,14 +43,17 @@ public:
         if (object != nullptr) object->release();
     }
 
+    /// Shares the object of `other`, then releases the former one.
     ZRLWPtr& operator=(ZRLWPtr const& other) {
         if (this != &other) setObj(other.object);
         return *this;
     }
+    /// Takes the reference of `other` over, then releases the former one.
     ZRLWPtr& operator=(ZRLWPtr&& other) noexcept {
         if (this != &other) replace(std::exchange(other.object, nullptr));
         return *this;
     }
+    /// Adopts the construction reference, then releases the former object.
     ZRLWPtr& operator=(ZR::MovePtr<T> const& other) {
         setObjDontAddRef(other.object);
         return *this;
@@ -64,8 +71,12 @@ public:
         if (p != object) replace(p);
     }
 
+    /// The object, which must be there.
+    ///@{
     T& operator*() const { return *object; }
     T* operator->() const { return object; }
+    ///@}
+    /// Whether there is an object.
     explicit operator bool() const { return object != nullptr; }
 
 private:

@@ -9,5 +9,6 @@ public:
     virtual ~ZRLock() = default;
     /// Success once the lock is held; a failure means that it is not.
     virtual XCode lock() = 0;
+    /// Gives back a lock that is held.
     virtual void unlock() = 0;
 };

@@ -19,13 +19,15 @@
 template <class T>
 class ZRVector {
 public:
-    T* data = nullptr;
-    unsigned count = 0;
-    unsigned capacity = 0;
-    unsigned growBy = 2;
+    T* data = nullptr;      ///< Slot 0; null without storage.
+    unsigned count = 0;     ///< Elements.
+    unsigned capacity = 0;  ///< Slots that may be used without growing.
+    unsigned growBy = 2;    ///< Of the capacity; above 0.
 
     ZRVector() = default;
+    /// Copies the elements, not the growth step.
     ZRVector(ZRVector const& other) { *this = other; }
+    /// Takes elements and storage over; `other` is left empty.
     ZRVector(ZRVector&& other) noexcept { exchange(other); }
     ~ZRVector() { freeStorage(); }
 
@@ -38,6 +40,7 @@ public:
         count = other.count;
         return *this;
     }
+    /// Exchanges elements and storage, not the growth steps.
     ZRVector& operator=(ZRVector&& other) noexcept {
         exchange(other);
         return *this;
@@ -54,8 +57,11 @@ public:
     /// Element `i`, unchecked.
     T const& operator[](unsigned i) const { return data[i]; }
 
+    /// The first element, and what is behind the last one.
+    ///@{
     T const* begin() const { return data; }
     T const* end() const { return data + count; }
+    ///@}
 
     /// Makes `capacity` the smallest multiple of `growBy` greater than `n`, unless it is greater
     /// than `n` already. True on success.
@@ -67,15 +73,19 @@ public:
         return true;
     }
 
+    /// Puts `v` behind the last element. It may be an element of this vector.
+    ///@{
     void add(T const& v) { add(T(v)); }
     void add(T&& v) {
         T taken = std::move(v);
         growToHold(count);
         data[count++] = std::move(taken);
     }
+    ///@}
 
     /// Puts `v` before element `i`; at or past the end it becomes element `i`, and slots in
     /// between become elements as they are. `v` may be an element of this vector.
+    ///@{
     void insert(unsigned i, T const& v) { insert(i, T(v)); }
     void insert(unsigned i, T&& v) {
         T taken = std::move(v);
@@ -85,6 +95,7 @@ public:
         for (unsigned slot = formerCount; slot > i; --slot) data[slot] = std::move(data[slot - 1]);
         data[i] = std::move(taken);
     }
+    ///@}
 
     /// Removes element `i`, keeping the order of the others; past the end nothing happens.
     void removeAt(unsigned i) {

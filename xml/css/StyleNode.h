@@ -19,10 +19,12 @@ public:
     /// Property name to value, both as written; a property occurs at most once.
     ZRStringHashTable<String> declarations;
 
+    /// A rule without declarations.
     explicit StyleNode(String const& selectorText)
         : ZR::RefCounted(nullptr), selector(selectorText) {}
     ~StyleNode() override = default;
 
+    /// May be called on any thread that holds a reference, as `release` may.
     void addRef() override { std::atomic_ref(refCount).fetch_add(1, std::memory_order_relaxed); }
     bool tryRelease() override {
         // Whoever destroys the rule comes behind all that others did with it.

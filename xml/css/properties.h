@@ -9,9 +9,10 @@ namespace CLI::XML {
 
 /// The name of a style property, ready to be looked up.
 struct StyleProperty {
-    std::string_view name;
-    std::uint32_t hash;
+    std::string_view name;  ///< As sheets and attributes write it.
+    std::uint32_t hash;     ///< What `StringHash` makes of the name.
 
+    /// `text` must outlive the property.
     constexpr explicit StyleProperty(std::string_view text)
         : name(text), hash(StringHash()(text)) {}
 };
@@ -19,6 +20,8 @@ struct StyleProperty {
 /// The style properties that have an effect.
 namespace Property {
 
+/// Of the same name as the constant, in the spelling of the sheets.
+///@{
 inline constexpr StyleProperty s_margin("margin");
 inline constexpr StyleProperty s_marginLeft("margin-left");
 inline constexpr StyleProperty s_marginRight("margin-right");
@@ -45,6 +48,7 @@ inline constexpr StyleProperty s_borderCornerStyle("border-corner-style");
 inline constexpr StyleProperty s_color("color");
 inline constexpr StyleProperty s_fontStyle("font-style");
 inline constexpr StyleProperty s_display("display");
+///@}
 
 }  // namespace Property
 

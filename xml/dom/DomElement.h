@@ -16,12 +16,14 @@ class GALLEY_EXPORT DomElement final : public DomNode {
 public:
     /// The tag name as written.
     String name;
+    /// Name to value, in document order.
     ZRStringHashTable<String> attributes;
     /// In document order.
     ZRVector<ZRLWPtr<DomNode>> children;
     /// The one rule that applies, or null.
     ZRLWPtr<StyleNode> styleNode;
 
+    /// An element without attributes, children or rule.
     DomElement(String const& tag, Display elementDisplay)
         : DomNode(Element, elementDisplay), name(tag) {}
     ~DomElement() override;
@@ -38,6 +40,7 @@ public:
 };
 
 /// `node` as an element; null for null and for a text node.
+///@{
 inline DomElement const* asElement(DomNode const* node) {
     bool const isElement = node != nullptr && node->kind == DomNode::Element;
     return isElement ? static_cast<DomElement const*>(node) : nullptr;
@@ -47,6 +50,7 @@ inline DomElement* asElement(DomNode* node) {
     bool const isElement = node != nullptr && node->kind == DomNode::Element;
     return isElement ? static_cast<DomElement*>(node) : nullptr;
 }
+///@}
 
 /// Whether a node has any style property.
 inline bool hasStyle(DomNode const* node) {

@@ -12,13 +12,14 @@ namespace CLI::XML {
 /// downwards only.
 class GALLEY_EXPORT DomNode : public ZR::RefCounted {
 public:
+    /// Which of the two derived classes a node is of.
     enum Kind : std::int32_t { Text, Element };
 
     /// How a node takes part in layout.
     enum Display : std::int32_t { Block, Inline, Table, TableRow, TableCell, None };
 
-    Kind kind;
-    Display display;
+    Kind kind;        ///< Never changes.
+    Display display;  ///< Inline for every text.
 
     /// What names the node in messages and dumps: an element's name, or a text in single quotes.
     virtual String toString() const = 0;
@@ -27,6 +28,7 @@ public:
     virtual String dump(unsigned indent) const = 0;
 
 protected:
+    /// A node without a lock.
     DomNode(Kind nodeKind, Display nodeDisplay)
         : ZR::RefCounted(nullptr), kind(nodeKind), display(nodeDisplay) {}
 };

@@ -12,8 +12,10 @@ namespace CLI::XML {
 /// One word of running text, with the space that followed it.
 class GALLEY_EXPORT DomText final : public DomNode {
 public:
+    /// The word, its references decoded.
     String text;
 
+    /// `word` with the space that followed it, if one did.
     explicit DomText(String word) : DomNode(Text, Inline), text(std::move(word)) {}
     ~DomText() override = default;
 

@@ -8,6 +8,7 @@ namespace CLI::XML {
 /// Stacks blocks, tables and line boxes downwards, and breaks the lines that are too wide for it.
 class GALLEY_EXPORT BlockBox : public Box {
 public:
+    /// The box of an element that is displayed as a block.
     explicit BlockBox(DomNode* rendered) : BlockBox(rendered, Block) {}
     BlockBox(BlockBox const& other) = default;
     ~BlockBox() override = default;
@@ -20,6 +21,7 @@ public:
     Walk layOut(Dimensions const& containing, LayoutPass pass) override;
 
 protected:
+    /// For a derived class, with the kind that it is.
     BlockBox(DomNode* rendered, Type boxType) : Box(rendered, boxType) {}
 
 private:

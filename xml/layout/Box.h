@@ -39,10 +39,11 @@ struct LayoutPass {
 /// of a class of the caller's own are called as any virtual operation is.
 class GALLEY_EXPORT Box : public ZR::RefCounted {
 public:
+    /// The class of the library that a box is of, or derives from.
     enum Type : std::uint8_t { Block, Line, Inline, Table, Row, Cell };
 
     // What is small comes first, behind the reference count: a box is two cache lines large.
-    Type type;
+    Type type;  ///< Never changes.
     /// Known from the last layout: another one with the same `containing` would change nothing.
     /// Only read by a pass that is laid out `again`, since the tree may change between operations.
     bool isSettled : 1 = false;
@@ -69,6 +70,8 @@ public:
     /// Where a run begins in the text of `node`, in bytes.
     std::int32_t runBegin = 0;
 
+    /// A box without children, with the edges that the style of `rendered` gives it; the node is
+    /// null for a line box only.
     Box(DomNode* rendered, Type boxType);
     /// A box for the same node, with the same edges; geometry and children are not copied.
     Box(Box const& other);

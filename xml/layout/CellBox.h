@@ -16,12 +16,15 @@ public:
     /// What the cell's column imposes on it. Set by table layout only.
     Dimensions columnDimensions;
 
+    /// The box of an element that is displayed as a table cell.
     explicit CellBox(DomNode* rendered) : InlineBox(rendered, Cell) {}
+    /// As any box is copied: what its column imposes is not.
     CellBox(CellBox const& other) : InlineBox(other) {}
     ~CellBox() override = default;
 
     ZRLWPtr<Box> clone() override;
 
+    /// Whether a column imposes its width.
     bool isConstrained() const { return columnDimensions.content.width != s_unconstrainedWidth; }
 };
 

@@ -9,20 +9,20 @@ namespace CLI::XML {
 /// A rectangle in character cells: columns to the right, rows downwards. The origin is the top
 /// left cell of the content box of the parent of the box that the rectangle belongs to.
 struct Rect {
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-    std::int32_t width = 0;
-    std::int32_t height = 0;
+    std::int32_t x = 0;       ///< Column of the left edge.
+    std::int32_t y = 0;       ///< Row of the upper edge.
+    std::int32_t width = 0;   ///< In columns.
+    std::int32_t height = 0;  ///< In rows.
 
     bool operator==(Rect const&) const = default;
 };
 
 /// A size in cells for each side of a box. May be negative.
 struct EdgeSizes {
-    std::int32_t left = 0;
-    std::int32_t right = 0;
-    std::int32_t top = 0;
-    std::int32_t bottom = 0;
+    std::int32_t left = 0;    ///< In columns.
+    std::int32_t right = 0;   ///< In columns.
+    std::int32_t top = 0;     ///< In rows.
+    std::int32_t bottom = 0;  ///< In rows.
 
     bool operator==(EdgeSizes const&) const = default;
 };
@@ -41,10 +41,10 @@ struct EdgeSizes {
 ///     | +--------------------+ |
 ///     +------------------------+
 struct Dimensions {
-    Rect content;
-    EdgeSizes padding;
-    EdgeSizes border;
-    EdgeSizes margin;
+    Rect content;       ///< The content box.
+    EdgeSizes padding;  ///< Around the content box.
+    EdgeSizes border;   ///< Around the padding.
+    EdgeSizes margin;   ///< Around the border.
 
     /// Padding, border and margin of each side together.
     EdgeSizes edges() const {

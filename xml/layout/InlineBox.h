@@ -11,6 +11,7 @@ namespace CLI::XML {
 /// A word, or the part of an inline element that stands on one line.
 class GALLEY_EXPORT InlineBox : public Box {
 public:
+    /// The box of a word, or of an element that is displayed inline.
     explicit InlineBox(DomNode* rendered) : InlineBox(rendered, Inline) {}
     InlineBox(InlineBox const& other) = default;
     ~InlineBox() override = default;
@@ -27,6 +28,7 @@ public:
     void drawTo(Canvas& canvas, Canvas::Attributes const& attributes) override;
 
 protected:
+    /// For a derived class, with the kind that it is.
     InlineBox(DomNode* rendered, Type boxType) : Box(rendered, boxType) {}
 };
 

@@ -9,6 +9,7 @@ namespace CLI::XML {
 /// node and no edges.
 class GALLEY_EXPORT LineBox : public Box {
 public:
+    /// An empty line.
     LineBox() : LineBox(nullptr, Line) {}
     LineBox(LineBox const& other) = default;
     ~LineBox() override = default;
@@ -21,6 +22,7 @@ public:
     ZRLWPtr<Box> split(int width) override;
 
 protected:
+    /// For a derived class, with the kind that it is.
     LineBox(DomNode* rendered, Type boxType) : Box(rendered, boxType) {}
 };
 

@@ -17,7 +17,9 @@ public:
     /// Records outlive a layout; a later one starts from them.
     ZRVector<Dimensions> columns;
 
+    /// The box of an element that is displayed as a table.
     explicit TableBox(DomNode* rendered) : BlockBox(rendered, Table) {}
+    /// As any box is copied: without column records.
     TableBox(TableBox const& other) : BlockBox(other) {}
     ~TableBox() override = default;
 
@@ -26,8 +28,10 @@ public:
     Walk layOut(Dimensions const& containing, LayoutPass pass) override;
 
     /// The row at an index below the number of children.
+    ///@{
     RowBox& operator[](unsigned i) { return static_cast<RowBox&>(*children[i]); }
     RowBox const& operator[](unsigned i) const { return static_cast<RowBox const&>(*children[i]); }
+    ///@}
 
 private:
     /// Takes what the columns of an earlier layout imposed off the cells.

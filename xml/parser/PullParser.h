@@ -19,10 +19,11 @@ class GALLEY_EXPORT PullParser {
 public:
     /// An attribute of a start tag, its value with entities replaced.
     struct Attribute {
-        String name;
-        String value;
+        String name;   ///< As written.
+        String value;  ///< Without its quotes.
     };
 
+    /// What may come next.
     enum TagType : std::int32_t {
         TAG_ERROR,            ///< nothing can be read; never answered by this parser
         TAG_END_OF_DOCUMENT,  ///< the end of the text

@@ -7,8 +7,8 @@ namespace CLI::XML {
 
 /// An entity name and the text that it stands for; a table of them ends with a pair of nulls.
 struct EntityReplacement {
-    char const* name;
-    char const* text;
+    char const* name;  ///< Without ampersand and semicolon.
+    char const* text;  ///< Ended by a NUL.
 };
 
 /// Decodes the character references of `text`: each ampersand, name and next semicolon after the

@@ -24,6 +24,7 @@ class GALLEY_EXPORT Canvas {
 public:
     /// What a cell looks like, as one 32-bit value whose top byte is 0.
     struct Attributes {
+        /// What a terminal can do to a character, one bit each.
         enum Flag : std::uint8_t {
             Bold = 0x01,
             Faint = 0x02,
@@ -36,10 +37,10 @@ public:
         /// Stands for the terminal's own colour.
         static constexpr std::uint8_t NoColor = 255;
 
-        std::uint8_t flags = 0;
-        std::uint8_t foreground = NoColor;
-        std::uint8_t background = NoColor;
-        std::uint8_t unused = 0;
+        std::uint8_t flags = 0;             ///< Any number of `Flag`.
+        std::uint8_t foreground = NoColor;  ///< A colour's number.
+        std::uint8_t background = NoColor;  ///< A colour's number.
+        std::uint8_t unused = 0;            ///< Stays 0.
 
         bool operator==(Attributes const& other) const = default;
 
@@ -55,8 +56,10 @@ public:
     struct Byte {
         /// The byte shown; 0 shows nothing.
         std::uint32_t character : 8;
+        /// Into `attributeTable`.
         std::uint32_t attributeIndex : 24;
 
+        /// A cell; of the index the lower 24 bits count.
         static Byte make(unsigned char shown, unsigned index) { return {shown, index & 0xFFFFFF}; }
     };
 
@@ -91,8 +94,10 @@ public:
     bool draw(Canvas const& source, unsigned x, unsigned y);
 
     /// `draw` at a position that may be negative.
+    ///@{
     bool drawClipped(std::string_view text, int x, int y, Attributes const& attributes);
     bool drawClipped(Canvas const& source, int x, int y);
+    ///@}
 
     /// On a page, lends the attribute table to a canvas that is to be composed onto this one, or
     /// takes it back: in between nothing is drawn here.
@@ -104,6 +109,7 @@ public:
     /// To be asked before a text of `cells` cells is made: false where the budget does not have
     /// them, and nothing of the page counts any more.
     bool mayDraw(std::int64_t cells) const;
+    /// What the page's canvases draw from; not owned, null on a canvas of no page.
     CellBudget* cellBudget() const { return budget; }
 
     /// Draws the text in `height` rows, from row `y` down.
@@ -114,6 +120,7 @@ public:
     /// where that would not be the same: where the position is negative, or cells are there
     /// already.
     bool enter(int x, int y);
+    /// Brings back the origin that was there before the last `enter`.
     void leave();
 
     /// The grid as text with escape sequences, `lineSeparator` behind every row. Every row begins

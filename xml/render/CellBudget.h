@@ -19,6 +19,7 @@ public:
         return static_cast<unsigned>(std::clamp(std::int64_t{bytes} * 100, s_least, s_most));
     }
 
+    /// A budget of that many cells.
     explicit CellBudget(unsigned cells) : limit(cells), left(cells) {}
 
     /// Whether that many cells are left. Where they are not, nothing suffices from now on.
@@ -29,9 +30,12 @@ public:
     /// Takes cells for which it suffices.
     void take(std::uint64_t cells) { left -= cells; }
 
+    /// Cells that may still be taken; 0 once one was asked for too many.
     std::uint64_t remaining() const { return isSpent ? 0 : left; }
+    /// Whether there ever was a demand for which it did not suffice.
     bool isExceeded() const { return isSpent; }
 
+    /// What there was at first.
     unsigned const limit;
 
 private:
