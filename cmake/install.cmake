@@ -38,7 +38,15 @@ if(GALLEY_BUILD_TOOL)
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
     install(FILES ${manual}/bash/galley
         DESTINATION ${share}/bash-completion/completions COMPONENT tool)
-    install(FILES ${manual}/zsh/_galley DESTINATION ${share}/zsh/site-functions COMPONENT tool)
+    # Debian's zsh looks for those of packages in a folder of their own.
+    install(CODE "
+        set(folder site-functions)
+        if(CMAKE_INSTALL_PREFIX MATCHES \"/usr$\")
+            set(folder vendor-completions)
+        endif()
+        file(INSTALL \"${manual}/zsh/_galley\"
+            DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${share}/zsh/\${folder}\")
+        " COMPONENT tool)
     install(FILES ${manual}/fish/galley.fish
         DESTINATION ${share}/fish/vendor_completions.d COMPONENT tool)
 endif()
