@@ -32,7 +32,7 @@ void Box::holdNode() {
     holdsNode = true;
 }
 
-bool Box::isForeign() const {
+bool Box::isOfForeignClass() const {
     std::type_info const& actual = typeid(*this);
     switch (type) {
         case Block:

@@ -123,12 +123,15 @@ public:
     bool isUnseen() const { return holdsNode; }
 
     /// Whether the box is of a class that derives from the six of the library.
-    bool isForeign() const;
+    bool isForeign() const { return !isUnseen() && isOfForeignClass(); }
     /// Calls the `layout` of a box of a foreign class; false for the library's own, and where that
     /// operation itself asks. In the children `pass` is one of the library's.
     bool isLaidOutByItsOwn(Dimensions const& containing, LayoutPass& pass);
     /// A layout as a call of the walk that `layout` runs.
     virtual Walk layOut(Dimensions const& containing, LayoutPass pass) = 0;
+
+private:
+    bool isOfForeignClass() const;
 };
 
 }  // namespace CLI::XML
