@@ -21,7 +21,9 @@ constexpr StatusEntry s_statuses[] = {
 };
 constexpr char const* s_statusNote =
     "A document that fails is reported, and the others are rendered all the same; the status is "
-    "that of the first failure. A sheet that fails ends the run, unless it is a --check.";
+    "that of the first failure. A sheet that fails ends the run, unless it is a --check. A pager "
+    "or "
+    "another reader of standard output that ends early is no failure.";
 
 /// Breaks `text` between words, from `start` on, into lines of at most `room` characters.
 void breakLines(std::string& text, std::size_t start, std::size_t room) {
@@ -162,6 +164,15 @@ void defineOptions(CLI::App& app, Options& options) {
             ->check(isName)
             ->excludes(output)
             ->group("Output");
+    CLI::Option* const pager =
+        app.add_flag("--pager", options.isPaged,
+                     "Show the pages in the environment's PAGER, a command of the shell (default: "
+                     "less -R), where standard output is a terminal; errors follow when it has "
+                     "ended")
+            ->option_text(" ")
+            ->excludes(output)
+            ->excludes(directory)
+            ->group("Output");
 
     app.add_flag("--check", options.isCheck,
                  "Write nothing but which documents and sheets fail, all of them")
@@ -169,6 +180,7 @@ void defineOptions(CLI::App& app, Options& options) {
         ->excludes(dump)
         ->excludes(output)
         ->excludes(directory)
+        ->excludes(pager)
         ->group("Run");
     addNumber(app, "--jobs", options.jobs,
               "Render this many documents at the same time, to the same effect (default: 1)")
