@@ -11,10 +11,12 @@
 #include "cli/pager.h"
 #include "cli/renderAll.h"
 #include "cli/report.h"
+#include "cli/watch.h"
 
 namespace {
 
 ExitStatus run(Options const& options) {
+    if (options.isWatched) return watch(options);
     if (options.isPaged && isatty(STDOUT_FILENO) == 1) return renderInPager(options);
     DirectOutput output(options.files);
     return renderAll(options, output);

@@ -37,6 +37,8 @@ constexpr char const* s_tail =
     ".SH EXAMPLES\n"
     ".TP\n.B galley \\-\\-css report.css report.xml\n"
     "shows a page.\n"
+    ".TP\n.B galley \\-\\-watch \\-\\-css report.css report.xml\n"
+    "shows it as it is being written.\n"
     ".TP\n.B galley \\-\\-css report.css \\-\\-format svg \\-\\-output report.svg report.xml\n"
     "makes a picture of it.\n"
     ".TP\n.B galley \\-\\-check \\-\\-css report.css *.xml\n"
