@@ -94,9 +94,10 @@ void Screen::enter() {
 void Screen::leave() {
     if (s_isEntered == 0) return;
     s_isEntered = 0;
-    writeNow(s_leave);
+    // In this order: what is typed once the old screen is back counts.
     tcflush(STDOUT_FILENO, TCIFLUSH);
     if (s_isKnown != 0) tcsetattr(STDOUT_FILENO, TCSANOW, &s_before);
+    writeNow(s_leave);
 }
 
 int Screen::show(std::string_view page, std::string_view errors) {
