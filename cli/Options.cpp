@@ -1,5 +1,7 @@
 #include "cli/Options.h"
 
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
@@ -21,7 +23,10 @@ constexpr StatusEntry s_statuses[] = {
 };
 constexpr char const* s_statusNote =
     "A document that fails is reported, and the others are rendered all the same; the status is "
-    "that of the first failure. A sheet that fails ends the run, unless it is a --check.";
+    "that of the first failure. A sheet that fails ends the run, unless it is a --check. A pager "
+    "or "
+    "another reader of standard output that ends early is no failure, and no signal that ends a "
+    "--watch is one.";
 
 /// Breaks `text` between words, from `start` on, into lines of at most `room` characters.
 void breakLines(std::string& text, std::size_t start, std::size_t room) {
@@ -162,13 +167,33 @@ void defineOptions(CLI::App& app, Options& options) {
             ->check(isName)
             ->excludes(output)
             ->group("Output");
+    CLI::Option* const pager =
+        app.add_flag("--pager", options.isPaged,
+                     "Show the pages in the environment's PAGER, a command of the shell (default: "
+                     "less -R), where standard output is a terminal; errors follow when it has "
+                     "ended")
+            ->option_text(" ")
+            ->excludes(output)
+            ->excludes(directory)
+            ->group("Output");
 
-    app.add_flag("--check", options.isCheck,
-                 "Write nothing but which documents and sheets fail, all of them")
+    CLI::Option* const check =
+        app.add_flag("--check", options.isCheck,
+                     "Write nothing but which documents and sheets fail, all of them")
+            ->option_text(" ")
+            ->excludes(dump)
+            ->excludes(output)
+            ->excludes(directory)
+            ->excludes(pager)
+            ->group("Run");
+    app.add_flag(
+           "--watch", options.isWatched,
+           "Render again when a document, a sheet or the width of the terminal changes, until "
+           "Ctrl-C; the last page that was right stays above the errors. Files named by "
+           "--output or --output-dir are written again")
         ->option_text(" ")
-        ->excludes(dump)
-        ->excludes(output)
-        ->excludes(directory)
+        ->excludes(check)
+        ->excludes(pager)
         ->group("Run");
     addNumber(app, "--jobs", options.jobs,
               "Render this many documents at the same time, to the same effect (default: 1)")
@@ -183,9 +208,16 @@ void settle(Options& options) {
     auto const inputs = std::count(options.sheets.begin(), options.sheets.end(), "-") +
                         std::count(options.documents.begin(), options.documents.end(), "-");
     if (inputs > 1) throw CLI::ValidationError("-", "standard input can be read only once");
+    if (options.isWatched && inputs > 0) {
+        throw CLI::ValidationError("--watch", "standard input can be read only once");
+    }
     options.isRaw = options.isRaw && options.format == Format::Ansi;
     std::string const fault = nameOutputs(options);
     if (!fault.empty()) throw CLI::ValidationError(fault);
+    if (options.isWatched && options.files.empty() && isatty(STDOUT_FILENO) != 1) {
+        throw CLI::ValidationError("--watch",
+                                   "standard output is no terminal, and no file is named");
+    }
 }
 
 /// What is said about the tool before its options.

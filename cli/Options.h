@@ -32,6 +32,10 @@ struct Options {
     bool isRaw = false;
     /// Documents and sheets are read and converted, but nothing is written.
     bool isCheck = false;
+    /// Pages go through a pager where standard output is a terminal.
+    bool isPaged = false;
+    /// What has changed is rendered again.
+    bool isWatched = false;
     /// Empty for standard output, else a file for each document.
     std::vector<std::string> files;
     /// Holds all of `files`; empty where one file was named.

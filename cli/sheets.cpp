@@ -12,16 +12,17 @@ namespace {
 
 using CLI::XML::StyleList;
 
-ExitStatus readSheet(std::string const& file, bool isRaw, StyleList& styles) {
+ExitStatus readSheet(std::string const& file, bool isRaw, StyleList& styles, Output& output) {
     String css;
     if (int const fault = readFile(file, css)) {
-        reportError(displayName(file), std::strerror(fault));
+        output.report(errorText(displayName(file), std::strerror(fault)));
         return ExitStatus::FileAtFault;
     }
     if (!isRaw) CLI::XML::replaceControls(css);
     XCode const result = CLI::XML::addSheet(styles, css);
     if (!result) {
-        reportError(displayName(file), result.getString().c_str(), css.view(), SourceKind::Sheet);
+        output.report(errorText(displayName(file), result.getString().c_str(), css.view(),
+                                SourceKind::Sheet));
         return ExitStatus::InputAtFault;
     }
     return ExitStatus::Rendered;
@@ -29,10 +30,10 @@ ExitStatus readSheet(std::string const& file, bool isRaw, StyleList& styles) {
 
 }  // namespace
 
-ExitStatus readSheets(Options const& options, StyleList& styles) {
+ExitStatus readSheets(Options const& options, StyleList& styles, Output& output) {
     ExitStatus status = ExitStatus::Rendered;
     for (std::string const& sheet : options.sheets) {
-        ExitStatus const read = readSheet(sheet, options.isRaw, styles);
+        ExitStatus const read = readSheet(sheet, options.isRaw, styles, output);
         if (status == ExitStatus::Rendered) status = read;
     }
     return status;
