@@ -4,11 +4,14 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <iostream>
 #include <memory>
 #include <utility>
 
 #include "base/String.h"
 #include "cli/outputNames.h"
+#include "cli/report.h"
+#include "cli/terminal/controls.h"
 
 namespace {
 
@@ -150,19 +153,19 @@ void defineOptions(CLI::App& app, Options& options) {
                  "Pass control characters of the document and the sheets on to the terminal; the "
                  "formats plain, html and svg never hold any")
         ->group("Output");
-    std::string const wholeOrNot = ", whole or, where the document fails, not at all";
+    std::string const wholeOrNot = "whole or, where the document fails, not at all";
     CLI::Option* const output =
         app.add_option_function<std::string>(
                "--output", [&options](std::string const& file) { options.files = {file}; },
-               "Write the page of the one document to this file" + wholeOrNot)
+               "Write the page of the one document to this file: " + wholeOrNot)
             ->option_text("FILE")
             ->check(isName)
             ->group("Output");
     CLI::Option* const directory =
         app.add_option("--output-dir", options.directory,
-                       "Write each page to a file in this directory, which is made where there is "
-                       "none, named after its document with .txt, .html or .svg" +
-                           wholeOrNot)
+                       "Write each page to a file in this directory: named after its document with "
+                       ".txt, .html or .svg, " +
+                           wholeOrNot + ". The directory is made where there is none")
             ->option_text("DIR")
             ->check(isName)
             ->excludes(output)
@@ -220,12 +223,23 @@ void settle(Options& options) {
     }
 }
 
+/// As the tool's other errors begin.
+std::string usageError(CLI::App const*, CLI::Error const& error) {
+    std::string message = error.what();
+    std::size_t const fault = message.find(": 1 required ");
+    if (fault != std::string::npos) message = message.substr(0, fault) + ": no value is given";
+    String text(message.c_str());
+    CLI::XML::replaceControls(text);
+    return errorText("galley", text.c_str()) + "Run with --help for more information.\n";
+}
+
 /// What is said about the tool before its options.
 void defineApp(CLI::App& app) {
     app.name("galley");
     app.description("Renders documents in a small XML/XHTML subset as text for a terminal.");
     app.footer(footer());
     app.formatter(std::make_shared<HelpFormatter>());
+    app.failure_message(usageError);
 }
 
 }  // namespace
@@ -238,7 +252,9 @@ std::vector<OptionEntry> describeOptions() {
     for (CLI::Option const* option : app.get_options()) {
         bool const isFlag = option->get_items_expected_max() == 0;
         bool const isOption = option->nonpositional();
+        std::vector<std::string> const& shortNames = option->get_snames();
         entries.push_back({isOption ? option->get_name() : option->get_name(true),
+                           shortNames.empty() ? "" : "-" + shortNames.front(),
                            isFlag ? "" : option->get_option_text(), option->get_description(),
                            option->get_group() == "Options" ? "" : option->get_group(),
                            option->get_expected_max() > 1});
@@ -260,7 +276,8 @@ std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& optio
         app.parse(argc, argv);
         settle(options);
     } catch (CLI::ParseError const& error) {
-        return app.exit(error) == 0 ? ExitStatus::Rendered : ExitStatus::Usage;
+        if (app.exit(error) != 0) return ExitStatus::Usage;
+        return std::cout.flush() ? ExitStatus::Rendered : ExitStatus::FileAtFault;
     }
     return std::nullopt;
 }

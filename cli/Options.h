@@ -48,6 +48,8 @@ struct Options {
 struct OptionEntry {
     /// With its dashes; "FILE" for the documents.
     std::string name;
+    /// With its dash; empty where there is none.
+    std::string shortName;
     /// What stands behind the name: "FILE", "DIR" or "N" for such a thing, else the words that may
     /// stand there with bars between them; empty for a flag.
     std::string argument;

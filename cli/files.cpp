@@ -6,6 +6,7 @@
 #include <climits>
 #include <cstdio>
 #include <memory>
+#include <new>
 
 namespace {
 
@@ -28,10 +29,10 @@ bool readAll(std::FILE* file, String& content) {
     reserveSize(file, content);
     char piece[65536];
     while (std::size_t const n = std::fread(piece, 1, sizeof piece, file)) {
-        if (!content.appendGrowing({piece, n})) {
-            errno = EFBIG;
-            return false;
-        }
+        if (content.appendGrowing({piece, n})) continue;
+        if (n <= static_cast<std::size_t>(INT_MAX - content.length())) throw std::bad_alloc();
+        errno = EFBIG;
+        return false;
     }
     return std::ferror(file) == 0;
 }

@@ -25,8 +25,9 @@ ExitStatus run(Options const& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // Writing to a pipe without a reader then fails as any writing does.
+    // Writing to a pipe without a reader, or more than is allowed, then fails as any writing does.
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     Options options;
     std::optional<ExitStatus> status = parseCommandLine(argc, argv, options);
     if (!status) {

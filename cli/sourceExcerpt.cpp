@@ -1,6 +1,8 @@
 #include "cli/sourceExcerpt.h"
 
 #include <algorithm>
+#include <clocale>
+#include <cwchar>
 
 #include "cli/terminal/controls.h"
 
@@ -8,26 +10,60 @@ using CLI::XML::characterLength;
 
 namespace {
 
-/// In characters, of the text of a line.
+/// In columns, of the text of a line.
 constexpr unsigned s_longestExcerpt = 72;
 constexpr std::size_t s_longestCharacter = 4;
 constexpr std::string_view s_cut = "...";
 /// Digits that a line number has room for.
 constexpr std::size_t s_numberWidth = 5;
 
-/// The index `count` characters behind `i`, or the end.
-std::size_t forward(std::string_view line, std::size_t i, unsigned count) {
-    for (; i < line.length() && count > 0; --count) {
-        i += std::max<std::size_t>(characterLength(line, i), 1);
+/// Bytes of the character at `i`; one where there is none in UTF-8.
+std::size_t lengthAt(std::string_view line, std::size_t i) {
+    return std::max<std::size_t>(characterLength(line, i), 1);
+}
+
+wchar_t decode(std::string_view character) {
+    auto const byteAt = [character](std::size_t i) {
+        return static_cast<unsigned char>(character[i]);
+    };
+    std::size_t const length = character.length();
+    // The lead has a bit set for each byte, and a zero.
+    unsigned code = length == 1 ? byteAt(0) : byteAt(0) & (0x7FU >> length);
+    for (std::size_t i = 1; i < length; ++i) code = code << 6 | (byteAt(i) & 0x3FU);
+    return static_cast<wchar_t>(code);
+}
+
+/// Columns that the character at `i` takes on a terminal, a tab one: none where it is shown with
+/// the one before it, two where it is wide.
+unsigned columnsAt(std::string_view line, std::size_t i) {
+    std::size_t const length = lengthAt(line, i);
+    if (length == 1) return 1;
+    // Whatever the environment says, since the text is UTF-8.
+    static locale_t const s_utf8 = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    if (s_utf8 == nullptr) return 1;
+    locale_t const former = uselocale(s_utf8);
+    int const columns = wcwidth(decode(line.substr(i, length)));
+    uselocale(former);
+    return columns < 0 ? 1 : static_cast<unsigned>(columns);
+}
+
+/// The index behind the characters from `i` on that fit into `room` columns.
+std::size_t forward(std::string_view line, std::size_t i, unsigned room) {
+    while (i < line.length() && columnsAt(line, i) <= room) {
+        room -= columnsAt(line, i);
+        i += lengthAt(line, i);
     }
     return i;
 }
 
-/// The index `count` characters before `i`, or the beginning.
-std::size_t backward(std::string_view line, std::size_t i, unsigned count) {
-    for (; i > 0 && count > 0; --count) {
+/// The index of the first of the characters before `i` that fit into `room` columns.
+std::size_t backward(std::string_view line, std::size_t i, unsigned room) {
+    while (i > 0) {
         std::size_t length = std::min(i, s_longestCharacter);
         while (length > 1 && characterLength(line, i - length) != length) --length;
+        unsigned const columns = columnsAt(line, i - length);
+        if (columns > room) break;
+        room -= columns;
         i -= length;
     }
     return i;
@@ -44,8 +80,12 @@ std::string printable(std::string_view part) {
 /// Blanks as wide as `text`, with its tabs.
 std::string padding(std::string_view text) {
     std::string blanks;
-    for (std::size_t i = 0; i < text.length(); i = forward(text, i, 1)) {
-        blanks += text[i] == '\t' ? '\t' : ' ';
+    for (std::size_t i = 0; i < text.length(); i += lengthAt(text, i)) {
+        if (text[i] == '\t') {
+            blanks += '\t';
+        } else {
+            blanks.append(columnsAt(text, i), ' ');
+        }
     }
     return blanks;
 }
@@ -63,6 +103,8 @@ std::size_t lineNumber(std::string_view source, std::size_t position) {
 }
 
 std::string sourceExcerpt(std::string_view source, std::size_t position) {
+    // At the end, the last line that there is.
+    if (position >= source.length()) position = source.find_last_not_of("\r\n") + 1;
     std::size_t const feedBefore = source.substr(0, position).rfind('\n');
     std::size_t const start = feedBefore == std::string_view::npos ? 0 : feedBefore + 1;
     std::string_view line = source.substr(start, source.find('\n', position) - start);

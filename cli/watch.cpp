@@ -59,6 +59,16 @@ int openSignals() {
     return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
+/// Stops the program, unless there is nobody who could let it go on.
+void stop() {
+    sigset_t signals = {};
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGTSTP);
+    pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
+    raise(SIGTSTP);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+}
+
 /// Keeps the last texts that were right.
 class KeptOutput final : public Output {
 public:
@@ -126,7 +136,7 @@ bool Changes::handleSignal(bool hasScreen) const {
     if (read(signals, &signal, sizeof signal) != sizeof signal) return false;
     if (signal.ssi_signo == SIGTSTP) {
         Screen::leave();
-        raise(SIGSTOP);
+        stop();
         if (hasScreen) Screen::enter();
     }
     return true;

@@ -5,13 +5,16 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <charconv>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 namespace {
 
 constexpr mode_t s_anyMode = 0666;
+constexpr mode_t s_permissions = 0777;
 
 /// Writes everything and closes the file.
 int finish(int file, std::string_view content) {
@@ -28,6 +31,32 @@ int finish(int file, std::string_view content) {
 int writeStraight(std::string const& name, std::string_view content) {
     int const file = open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, s_anyMode);
     return file < 0 ? errno : finish(file, content);
+}
+
+/// The open file that a name as /dev/stdout stands for. To open that name would begin the file
+/// anew, and to replace it would leave its other writers with a file without a name.
+std::optional<int> descriptorOf(std::string_view name) {
+    if (name == "/dev/stdout") return STDOUT_FILENO;
+    if (name == "/dev/stderr") return STDERR_FILENO;
+    for (std::string_view const folder : {"/dev/fd/", "/proc/self/fd/"}) {
+        if (name.substr(0, folder.length()) != folder) continue;
+        int descriptor = 0;
+        char const* const end = name.data() + name.length();
+        auto const read = std::from_chars(name.data() + folder.length(), end, descriptor);
+        if (read.ec == std::errc() && read.ptr == end) return descriptor;
+    }
+    return std::nullopt;
+}
+
+int writeTo(int descriptor, std::string_view content) {
+    int const file = fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
+    return file < 0 ? errno : finish(file, content);
+}
+
+/// Gives a file owner and permissions of another one. Only root may give it to somebody else.
+bool makeAlike(int file, struct stat const& other) {
+    bool const isOwned = fchown(file, other.st_uid, other.st_gid) == 0 || errno == EPERM;
+    return isOwned && fchmod(file, other.st_mode & s_permissions) == 0;
 }
 
 /// Creates a file beside `name`, since a rename stays within a file system. Sets `temporary`.
@@ -47,7 +76,7 @@ int replaceFile(std::string const& name, std::string_view content, struct stat c
     std::string temporary;
     int const file = openBeside(name, temporary);
     if (file < 0) return errno;
-    bool const isAlike = existing == nullptr || fchmod(file, existing->st_mode & 07777) == 0;
+    bool const isAlike = existing == nullptr || makeAlike(file, *existing);
     int fault = isAlike ? 0 : errno;
     int const writing = finish(file, content);
     if (fault == 0) fault = writing;
@@ -59,6 +88,7 @@ int replaceFile(std::string const& name, std::string_view content, struct stat c
 }  // namespace
 
 int writeFile(std::string const& name, std::string_view content) {
+    if (auto const descriptor = descriptorOf(name)) return writeTo(*descriptor, content);
     struct stat existing = {};
     bool const isThere = stat(name.c_str(), &existing) == 0;
     if (!isThere && lstat(name.c_str(), &existing) != 0) return replaceFile(name, content, nullptr);

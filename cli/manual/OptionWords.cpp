@@ -12,7 +12,7 @@ std::string choiceWords(OptionEntry const& entry) {
 std::string shortDescription(OptionEntry const& entry) {
     std::string const& text = entry.description;
     std::size_t const end =
-        std::min({text.find(';'), text.find(':'), text.find(" ("), text.find(", ")});
+        std::min({text.find(';'), text.find(':'), text.find(" ("), text.find(". ")});
     return text.substr(0, end);
 }
 

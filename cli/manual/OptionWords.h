@@ -8,7 +8,7 @@
 /// in particular.
 std::string choiceWords(OptionEntry const& entry);
 
-/// The first clause of a description, for where there is little room.
+/// The first main clause of a description, for where there is little room.
 std::string shortDescription(OptionEntry const& entry);
 
 /// Whether it is an option and not the documents.

@@ -7,6 +7,9 @@
 
 namespace {
 
+/// Between two specifications for zsh.
+constexpr char const* s_nextSpec = " \\\n    ";
+
 /// `text` with a backslash before each of `special`.
 std::string escape(std::string const& text, std::string const& special) {
     std::string escaped;
@@ -40,12 +43,18 @@ std::string zshAction(OptionEntry const& entry) {
     return entry.argument == "DIR" ? "_files -/" : "_files";
 }
 
-std::string zshSpec(OptionEntry const& entry) {
-    std::string const text = escape(shortDescription(entry), "[]:\\");
-    if (!isOption(entry)) return "*:document:_files";
+/// The words of a specification for each name of the option, which exclude one another.
+std::string zshSpecs(OptionEntry const& entry) {
+    std::string const text = "[" + escape(shortDescription(entry), "[]:\\") + "]";
+    if (!isOption(entry)) return quoted("*:document:_files");
+    if (!entry.shortName.empty()) {
+        std::string const names = "(" + entry.shortName + " " + entry.name + ")";
+        return quoted(names + entry.shortName + text) + s_nextSpec +
+               quoted(names + entry.name + text);
+    }
     std::string const spec = (entry.mayRepeat ? "*" : "") + entry.name;
-    if (entry.argument.empty()) return spec + "[" + text + "]";
-    return spec + "=[" + text + "]:" + entry.name.substr(2) + ":" + zshAction(entry);
+    if (entry.argument.empty()) return quoted(spec + text);
+    return quoted(spec + "=" + text + ":" + entry.name.substr(2) + ":" + zshAction(entry));
 }
 
 std::string fishArgument(OptionEntry const& entry) {
@@ -63,14 +72,20 @@ std::string makeBashCompletion() {
     std::string cases;
     for (OptionEntry const& entry : describeOptions()) {
         if (!isOption(entry)) continue;
-        names += (names.empty() ? "" : " ") + entry.name;
+        for (std::string const& name : {entry.shortName, entry.name}) {
+            if (!name.empty()) names += (names.empty() ? "" : " ") + name;
+        }
         if (!entry.argument.empty()) cases += bashCase(entry);
     }
     return "# Completions of galley for bash.\n\n"
            "_galley_offer() { mapfile -t COMPREPLY < <(compgen \"$@\" -- \"$current\"); }\n\n"
            "_galley() {\n"
-           "    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}\n"
+           "    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} i\n"
            "    COMPREPLY=()\n"
+           "    # Behind a bare \"--\" stand documents.\n"
+           "    for ((i = 1; i < COMP_CWORD; i++)); do\n"
+           "        [[ ${COMP_WORDS[i]} != -- ]] || return\n"
+           "    done\n"
            "    # bash takes \"--width=8\" for three words.\n"
            "    [[ $previous != = ]] || previous=${COMP_WORDS[COMP_CWORD - 2]}\n"
            "    if [[ $current == = ]]; then\n"
@@ -87,9 +102,9 @@ std::string makeBashCompletion() {
 }
 
 std::string makeZshCompletion() {
-    std::string script = "#compdef galley\n# Completions of galley for zsh.\n\n_arguments";
+    std::string script = "#compdef galley\n# Completions of galley for zsh.\n\n_arguments -S";
     for (OptionEntry const& entry : describeOptions()) {
-        script += " \\\n    " + quoted(zshSpec(entry));
+        script += s_nextSpec + zshSpecs(entry);
     }
     return script + "\n";
 }
@@ -98,7 +113,9 @@ std::string makeFishCompletion() {
     std::string script = "# Completions of galley for fish.\n\n";
     for (OptionEntry const& entry : describeOptions()) {
         if (!isOption(entry)) continue;
-        script += "complete -c galley -l " + entry.name.substr(2) + fishArgument(entry) + " -d " +
+        script += "complete -c galley";
+        if (!entry.shortName.empty()) script += " -s " + entry.shortName.substr(1);
+        script += " -l " + entry.name.substr(2) + fishArgument(entry) + " -d " +
                   quoted(shortDescription(entry)) + "\n";
     }
     return script;

@@ -25,8 +25,8 @@ constexpr char const* s_tail =
     ".TP\n.B COLUMNS\n"
     "Width of the page in columns where standard output is no terminal.\n"
     ".TP\n.B NO_COLOR\n"
-    "Set and not empty, it keeps escape sequences from a terminal, unless \\fB\\-\\-color\\fR or\n"
-    "\\fB\\-\\-format\\fR ask for them.\n"
+    "Set and not empty, it keeps escape sequences from a terminal, unless\n"
+    "\\fB\\-\\-color always\\fR asks for them.\n"
     ".TP\n.B PAGER\n"
     "What \\fB\\-\\-pager\\fR runs, by\n"
     ".BR sh (1).\n"
@@ -61,7 +61,8 @@ std::string italic(std::string const& text) { return "\\fI" + literal(text) + "\
 
 std::string term(OptionEntry const& entry) {
     if (!isOption(entry)) return italic(entry.name) + entry.argument;
-    std::string name = bold(entry.name);
+    std::string name = entry.shortName.empty() ? "" : bold(entry.shortName) + ", ";
+    name += bold(entry.name);
     if (entry.argument.empty()) return name;
     bool const isChoice = !choiceWords(entry).empty();
     return name + " " + (isChoice ? bold(entry.argument) : italic(entry.argument));

@@ -98,9 +98,11 @@ TEST(ErrorText, ShowsTheStartTagOfAnElementThatIsNotClosed) {
               "x:1: note: Start tag <div> is here\n"
               "    1 | <div>\n"
               "      | ^\n");
-    // The last line is an empty one.
-    EXPECT_EQ(documentError("<p>\n"),
-              "x:2: error: Missing end tag at the end\n"
+    // The last lines are empty ones.
+    EXPECT_EQ(documentError("<p>\r\n\n"),
+              "x:3: error: Missing end tag at the end\n"
+              "    1 | <p>\n"
+              "      |    ^\n"
               "x:1: note: Start tag <p> is here\n"
               "    1 | <p>\n"
               "      | ^\n");
@@ -145,7 +147,14 @@ TEST(ErrorText, ShowsLinesAsTheyCanBeShown) {
         {"a\r\n<q/>\r\n", 2, invalid, "<q/>", "^"},
         {"a\v\rb<q/>", 1, invalid, "a  b<q/>", "    ^"},
         {"\xe9\xa9\xc3" + smiley + "\t<q/>", 1, invalid, "\xe9\xa9\xc3" + smiley + "\t<q/>",
-         "    \t^"},
+         "     \t^"},
+        // A mark without width, an accent on the letter before, and a wide letter.
+        {"\xef\xbb\xbf"
+         "e\xcc\x81\xe4\xb8\xad<q/>",
+         1, invalid,
+         "\xef\xbb\xbf"
+         "e\xcc\x81\xe4\xb8\xad<q/>",
+         "   ^"},
         {std::string(68, 'a') + "<q/>", 1, invalid, std::string(68, 'a') + "<q/>",
          std::string(68, ' ') + "^"},
         {std::string(69, 'a') + "<q/>", 1, invalid, dots + std::string(68, 'a') + "<q/>",
@@ -155,7 +164,7 @@ TEST(ErrorText, ShowsLinesAsTheyCanBeShown) {
          dots + repeat("\xc3\xa9", 36) + "<q/>" + repeat("\xc3\xa9", 32) + dots,
          std::string(39, ' ') + "^"},
         {repeat(smiley, 50) + "<q/>" + repeat("\xa9", 90), 1, invalid,
-         dots + repeat(smiley, 36) + "<q/>" + repeat("\xa9", 32) + dots,
+         dots + repeat(smiley, 18) + "<q/>" + repeat("\xa9", 32) + dots,
          std::string(39, ' ') + "^"},
     };
     for (Case const& c : cases) EXPECT_EQ(documentError(c.source), text(c)) << c.source;

@@ -112,6 +112,7 @@ TEST_F(Output, HasThePagesOfAllDocumentsThatAreRight) {
         {"--check --css bad.css bad.xml one.xml", "", "bad.css bad.xml ", 1},
         {"--check --format svg one.xml two.xml", "", "", 0},
         {"one.xml two.xml >/dev/full", "", "<stdout> ", 3},
+        {"--help >/dev/full", "", "", 3},
     };
     write("bad.css", "p");
     for (Case const& c : cases) {
@@ -134,6 +135,13 @@ TEST_F(Output, GoesToFilesWholeOrNotAtAll) {
     EXPECT_EQ(read("kept"), "old");  // it was replaced, not overwritten
     EXPECT_EQ(run("--output - a.xml").out, "new\n");
     EXPECT_EQ(run("--output /dev/stdout a.xml | cat").out, "new\n");
+    // Files that others have open are not begun anew.
+    run("--output /dev/stdout a.xml >>log; echo last >>log", "", "echo first >log; ");
+    EXPECT_EQ(read("log"), "first\nnew\nlast\n");
+    run("--output /dev/fd/5 a.xml; echo last >&5; cat <unnamed >log", "",
+        "exec 5>unnamed; echo first >&5; ln unnamed other; ");
+    EXPECT_EQ(read("log"), "first\nnew\nlast\n");
+    EXPECT_EQ(run("--output /dev/fd/77 a.xml").status, 3);
     run("--output link a.xml", "", "ln -s target link; ");
     EXPECT_EQ(read("target"), "new\n");
     run("--output link", "newer");
@@ -154,9 +162,11 @@ TEST_F(Output, GoesToFilesWholeOrNotAtAll) {
         EXPECT_EQ(outcome.err, error);
         EXPECT_EQ(outcome.status, 3) << arguments;
     }
-    // The file system takes no more than one block of 512 bytes; nothing of it stays.
+    // The file system takes no more than one block of 512 bytes; nothing of it stays. It takes no
+    // profile either, where coverage is measured.
+    constexpr char const* s_limited = "trap '' XFSZ; ulimit -f 1; LLVM_PROFILE_FILE=/dev/null ";
     write("long.xml", "<p margin-left=\"2000\">x</p>");
-    Outcome const cut = run("--output page.txt long.xml", "", "trap '' XFSZ; ulimit -f 1; ");
+    Outcome const cut = run("--output page.txt long.xml", "", s_limited);
     EXPECT_EQ(cut.err, "page.txt: error: File too large\n");
     EXPECT_EQ(read("page.txt"), "new\n");
     for (auto const& entry : std::filesystem::directory_iterator(folder)) {

@@ -99,6 +99,19 @@ TEST_F(TerminalSafety, HoldsForWhateverADocumentSays) {
     }
 }
 
+TEST_F(TerminalSafety, HoldsForNamesOfFiles) {
+    std::string const name = "\x1b]0;t\x07\x9b.xml";
+    write(name.c_str(), "<q/>");
+    std::string const quoted = "'" + name + "'";
+    for (std::string const& arguments :
+         {quoted, "--css " + quoted, "--output " + quoted + " " + quoted,
+          "--output-dir o " + quoted + " ./" + quoted}) {
+        Outcome const outcome = run(arguments, "<p/>");
+        EXPECT_NE(outcome.err.find("?]0;t??."), std::string::npos) << outcome.err;
+        EXPECT_FALSE(drivesATerminal(outcome.err)) << arguments;
+    }
+}
+
 TEST_F(TerminalSafety, KeepsWhatIsNoControl) {
     struct Case {
         std::string given;
