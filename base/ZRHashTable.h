@@ -1,11 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string_view>
-#include <unordered_map>
 
-#include "base/StringHash.h"
+#include "StringHash.h"
 
 /// A chained hash table with a fixed number of buckets, for a handful of string keys. Beyond that
 /// handful an index of its own finds an entry, so that the length of the chains costs nothing.
@@ -99,8 +99,8 @@ public:
     }
 
 private:
-    /// Oldest entry by key.
-    using Index = std::unordered_map<std::string_view, Node*>;
+    /// Oldest entry by key. No document can make it slow.
+    using Index = std::map<std::string_view, Node*>;
 
     static constexpr unsigned s_handful = 64;
     static inline Node* s_noBuckets[16] = {};

@@ -12,8 +12,9 @@
 ///
 /// 1. The elements are the first `count` slots of `data`; `count` <= `capacity`.
 /// 2. Slots past `count` hold T's default value (or are unset where T has no constructor).
-/// 3. The storage holds at least `capacity` slots; it is doubled when it is outgrown, so that
-///    appending costs constant time, while `capacity` follows the growth step.
+/// 3. The storage holds at least `capacity` slots; when it is outgrown it is doubled, or if it is
+///    long grows by a quarter, so that appending costs constant time, while `capacity` follows the
+///    growth step.
 ///
 /// Where storage cannot be had the allocator's exception passes and the vector is unchanged.
 template <class T>
@@ -104,17 +105,26 @@ public:
         data[--count] = T();
     }
 
-    /// Moves the elements from `i` on to the end of `target`, another vector. Where that has no
-    /// storage and the moved part is the larger one, it gets this vector's storage, and this
-    /// vector is as if its remaining elements had been added to a new one.
+    /// Moves the elements from `i` on to the end of `target`, another vector. Where that and what
+    /// stays are the smaller part of many, `target` gets this vector's storage, and this vector is
+    /// as if its remaining elements had been added to a new one.
     void moveTailTo(unsigned i, ZRVector& target) {
         if (i >= count) return;
-        if (target.data == nullptr && i < count - i) {
-            ZRVector head;
+        unsigned const moved = count - i;
+        if (moved > s_few && target.count + i < moved && target.capacity <= moved) {
             // All that can fail comes before the first move.
+            ZRVector head;
             if (i > 0) head.enlarge(i - 1);
+            if (target.count > i) provideFront(target.count - i);
             for (unsigned slot = 0; slot < i; ++slot) head.add(std::move(data[slot]));
-            target.takeStorageFrom(i, *this);
+            ZRVector tail;
+            tail.takeStorageFrom(i, *this);
+            // Into slots of those that stayed, and before them.
+            tail.extendFront(target.count);
+            for (unsigned slot = 0; slot < target.count; ++slot) {
+                tail.data[slot] = std::move(target.data[slot]);
+            }
+            target.exchange(tail);
             exchange(head);
             return;
         }
@@ -125,6 +135,12 @@ public:
         count = i;
     }
 
+    /// Provides storage for `n` elements, above 0, where there is none, with slots before the first
+    /// for a quarter as many.
+    void reserveWithFront(unsigned n) {
+        if (data == nullptr) moveTo(slotsAbove(n), n / s_frontPart);
+    }
+
     /// Puts `n` elements, `T()` each, before the first one. Constant time, but for these, while
     /// there are slots before the first: where there are none, such are made for a quarter of the
     /// elements more.
@@ -133,7 +149,8 @@ public:
         unsigned long long const extended = 0ULL + count + n;
         unsigned const slots = slotsAbove(extended - 1);
         if (data == nullptr || skipped() < n || slots - n > allocated) {
-            moveTo(std::max(slots - n, allocated), n + static_cast<unsigned>(extended / 4));
+            moveTo(std::max(slots - n, allocated),
+                   n + static_cast<unsigned>(extended / s_frontPart));
         }
         unsigned const before = skipped();
         std::uninitialized_value_construct_n(data - n, n);
@@ -178,9 +195,9 @@ private:
     /// any length fits its capacity.
     void provide(unsigned slots) {
         if (slots < allocated) return;
-        unsigned const doubled =
-            allocated > std::numeric_limits<unsigned>::max() / 2 ? slots : allocated * 2;
-        moveTo(slots + 1 > doubled ? slots + 1 : doubled);
+        unsigned const part = allocated < s_long ? allocated : allocated / 4;
+        unsigned const spare = std::min(part, std::numeric_limits<unsigned>::max() - allocated);
+        moveTo(std::max(slots + 1, allocated + spare));
     }
 
     /// Moves the elements into new storage, with slots before them.
@@ -246,6 +263,18 @@ private:
         return reinterpret_cast<std::byte*>(data) - sizeof(unsigned);
     }
 
+    /// Provides `n` slots before the first element, and more for a part of the elements, where
+    /// there are fewer.
+    void provideFront(unsigned n) {
+        if (skipped() < n) moveTo(allocated, n + count / s_frontPart);
+    }
+
+    /// Elements that are moved one by one.
+    static constexpr unsigned s_few = 64;
+    /// Slots from which on twice as many would be too many to spare.
+    static constexpr unsigned s_long = 256;
+    /// Elements for each slot that is kept free before the first one.
+    static constexpr unsigned s_frontPart = 4;
     /// Bytes before the first slot of a storage.
     static constexpr std::size_t s_front = std::max(sizeof(unsigned), alignof(T));
     /// Slots of the storage from `data` on.

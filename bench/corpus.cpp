@@ -188,8 +188,37 @@ void nestedInlineParagraphs(Writer& to) {
     });
 }
 
+void nestedInlinesWithTails(Writer& to) {
+    to.nest("<b>", "behind it </b>", [&] { to.addWord().add(" "); });
+}
+
+void nestedStyledInlines(Writer& to) {
+    to.nest("<i color=\"red\">", "end </i>", [&] { to.addWord().add(" "); });
+}
+
+void stairs(Writer& to) {
+    to.nest("<b><p>", "</b>", [&] { to.addWord().add(" ").addWord().add("</p>"); });
+}
+
+/// No line is certain to stay too wide before all of it has been read.
+void negativeEdges(Writer& to) {
+    while (to.next()) to.addWord().add(" <b margin-left=\"-1\">").addWord().add(" </b>");
+}
+
 void blocksInInlines(Writer& to) {
     while (to.next()) to.add("<div><b><div>").addWord().add("</div></b></div>");
+}
+
+void blocksInOneInline(Writer& to) {
+    to.corpus.markup = "<b>";
+    while (to.next()) to.add("<p>").addWord().add(" ").addWord().add("</p>").addWord().add(" ");
+    to.add("</b>");
+}
+
+void inlinesInOneInline(Writer& to) {
+    to.corpus.markup = "<b>";
+    while (to.next()) to.add("<i>").addWord().add(" ").addWord().add(" </i>");
+    to.add("</b>");
 }
 
 void nestedBlocksInInlines(Writer& to) {
@@ -287,16 +316,21 @@ struct Shape {
 constexpr Shape s_shapes[] = {
     {"attributes", attributes},
     {"blocks-in-inlines", blocksInInlines},
+    {"blocks-in-one-inline", blocksInOneInline},
     {"cdata", cdata},
     {"cells", cells},
     {"comments", comments},
     {"declarations", declarations},
     {"inlines", inlines},
+    {"inlines-in-one-inline", inlinesInOneInline},
     {"line", line},
+    {"negative-edges", negativeEdges},
     {"nested-blocks", nestedBlocks},
     {"nested-blocks-in-inlines", nestedBlocksInInlines},
     {"nested-inline-paragraphs", nestedInlineParagraphs},
     {"nested-inlines", nestedInlines},
+    {"nested-inlines-with-tails", nestedInlinesWithTails},
+    {"nested-styled-inlines", nestedStyledInlines},
     {"nested-tables", nestedTables},
     {"page", page},
     {"paragraphs", paragraphs},
@@ -304,6 +338,7 @@ constexpr Shape s_shapes[] = {
     {"rules", rules},
     {"siblings", siblings},
     {"splitting", splitting},
+    {"stairs", stairs},
     {"styled", styled},
     {"table", table},
     {"tables", tables},

@@ -1,6 +1,7 @@
 #include "xml/PageBuilder.h"
 
 #include <limits>
+#include <new>
 #include <utility>
 
 #include "xml/layout/TableBox.h"
@@ -59,6 +60,7 @@ void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
     isSubtreeInline = isInline && (subtree.empty() || isSubtreeInline);
     if (!subtree.empty()) {
         Box& holder = isInline ? *parent().getOrCreateLineBox() : parent();
+        holder.hasSpecialChild = holder.hasSpecialChild || !isInline || box->dimensions.hasEdges();
         holder.children.add(box);
     }
     subtree.push_back(std::move(box));
@@ -106,7 +108,8 @@ XCode PageBuilder::finish(String& out) {
     if (!refusal) return refusal;
     finishBlock();
     moveRowsAbove(std::numeric_limits<unsigned>::max());
-    if (isTextComplete) out = std::move(text);
+    if (!isTextComplete) throw std::bad_alloc();
+    out = std::move(text);
     return refusal;
 }
 

@@ -1,4 +1,5 @@
 #include <limits>
+#include <new>
 #include <utility>
 
 #include "xml/PageBuilder.h"
@@ -47,7 +48,7 @@ XCode convertWhole(String& text, String const& xml, StyleList const& styles, uns
     rootBox->layout(pageOfWidth(width));
     Canvas page(&budget);
     rootBox->drawTo(page, Canvas::Attributes());
-    if (!page.moveRowsTo(text, std::numeric_limits<unsigned>::max())) text = String();
+    if (!page.moveRowsTo(text, std::numeric_limits<unsigned>::max())) throw std::bad_alloc();
     return result;
 }
 
@@ -66,7 +67,9 @@ XCode xmlToText(String& out, String const& xml, ZRList<ZRLWPtr<StyleNode>> const
         return testExpression(false).setStringF("Page too large: more than %u cells", budget.limit);
     }
     if (out.length() > 0) {
+        int const former = out.length();
         out += text;
+        if (out.length() - former != text.length()) throw std::bad_alloc();
     } else {
         text.shrinkToFit();
         out = std::move(text);

@@ -86,26 +86,41 @@ TEST(VectorElements, KeepTheirOrderAndLeaveEmptySlots) {
     EXPECT_EQ(vector.capacity, 4U);
 }
 
+/// `n` elements, and what `elements` says of those from `first` on.
+///@{
+ZRVector<String> numbered(unsigned n) {
+    ZRVector<String> vector;
+    for (unsigned i = 0; i < n; ++i) vector.add(std::to_string(i).c_str());
+    return vector;
+}
+
+std::string numbers(unsigned first, unsigned n) {
+    std::string text;
+    for (unsigned i = first; i < n; ++i) text += " " + std::to_string(i);
+    return text;
+}
+///@}
+
 TEST(VectorTail, MovesBehindTheElementsOfTheTarget) {
-    std::string const all = " a b c d e";
-    for (unsigned from = 0; from <= 6; ++from) {
-        for (bool const hasElement : {false, true}) {
-            SCOPED_TRACE(testing::Message() << from << hasElement);
-            ZRVector<String> source = filled({"a", "b", "c", "d", "e"});
-            ZRVector<String> target = filled({});
-            if (hasElement) target.add("x");
-            source.moveTailTo(from, target);
-            std::string const moved = from < 5 ? all.substr(2 * from) : "";
-            EXPECT_EQ(elements(target), (hasElement ? " x" : "") + moved);
-            EXPECT_EQ(elements(source) + moved, all);
-            bool const handsStorageOver = !hasElement && from < 3;
-            EXPECT_EQ(source.capacity, handsStorageOver ? (from + 1) / 2 * 2 : 6U);
-            EXPECT_EQ(target.capacity, (target.count + 1) / 2 * 2);
-            source.add("y");
-            target.insert(0, "z");
-            EXPECT_EQ(elements(source) + moved,
-                      all.substr(0, 2 * std::min(from, 5U)) + " y" + moved);
-            EXPECT_EQ(elements(target), (hasElement ? " z x" : " z") + moved);
+    for (unsigned const size : {5U, 100U}) {
+        for (unsigned const from : {0U, 1U, 2U, 4U, 5U, 6U, 90U, 100U, 101U}) {
+            for (unsigned const held : {0U, 1U, 3U}) {
+                SCOPED_TRACE(testing::Message() << size << " " << from << " " << held);
+                ZRVector<String> source = numbered(size);
+                ZRVector<String> target = numbered(held);
+                unsigned const kept = std::min(from, size);
+                unsigned const formerCapacity = source.capacity;
+                source.moveTailTo(from, target);
+                EXPECT_EQ(elements(target), numbers(0, held) + numbers(kept, size));
+                EXPECT_EQ(elements(source), numbers(0, kept));
+                bool const handsStorageOver = size == 100 && from < 7;
+                EXPECT_EQ(source.capacity, handsStorageOver ? (from + 1) / 2 * 2 : formerCapacity);
+                EXPECT_EQ(target.capacity, (target.count + 1) / 2 * 2);
+                source.add("y");
+                target.insert(0, "z");
+                EXPECT_EQ(elements(source), numbers(0, kept) + " y");
+                EXPECT_EQ(elements(target), " z" + numbers(0, held) + numbers(kept, size));
+            }
         }
     }
 }
@@ -114,7 +129,7 @@ TEST(VectorFront, TakesElementsWithOrWithoutSlotsLeftThere) {
     for (unsigned left = 0; left < 3; ++left) {
         for (unsigned n = 0; n <= 5; ++n) {
             SCOPED_TRACE(testing::Message() << left << " " << n);
-            ZRVector<String> source = filled({"a", "b", "c", "d", "e"});
+            ZRVector<String> source = numbered(100);
             ZRVector<String> vector;
             source.moveTailTo(left, vector);
             std::string const held = elements(vector);
@@ -152,14 +167,19 @@ struct Refusable {
 
 TEST(VectorTail, StaysWhereThereIsNoMemoryForTheRest) {
     ZRVector<Refusable> source;
-    for (int number = 1; number <= 5; ++number) source.add(Refusable(number));
+    for (int number = 0; number < 100; ++number) source.add(Refusable(number));
     ZRVector<Refusable> target;
+    for (int number = 0; number < 4; ++number) target.add(Refusable(number));
     Refusable::s_refused = true;
-    EXPECT_THROW(source.moveTailTo(2, target), std::bad_alloc);
+    // For what stays, and for slots before what is moved.
+    for (unsigned const from : {2U, 0U}) {
+        EXPECT_THROW(source.moveTailTo(from, target), std::bad_alloc);
+    }
     Refusable::s_refused = false;
-    ASSERT_EQ(source.count, 5U);
-    EXPECT_EQ(target.count, 0U);
-    for (unsigned i = 0; i < 5; ++i) EXPECT_EQ(source[i].value, static_cast<int>(i) + 1);
+    ASSERT_EQ(source.count, 100U);
+    ASSERT_EQ(target.count, 4U);
+    for (unsigned i = 0; i < 100; ++i) EXPECT_EQ(source[i].value, static_cast<int>(i));
+    for (unsigned i = 0; i < 4; ++i) EXPECT_EQ(target[i].value, static_cast<int>(i));
 }
 
 TEST(VectorCopy, KeepsItsOwnStepAndIsIndependent) {

@@ -109,9 +109,11 @@ void layOutStepByStep(Box& root, int width) {
 TEST(LineBreaking, GivesWhatWholeLayoutsOfEveryLineGive) {
     for (char const* const content :
          {"a bb <b>ccc <i>dd e</i> f</b> gg hhhh", "<b>aa<i>bb</i></b><i>c d</i>",
+          "aa <b>bb <i>cc <i>dd ee <b>ff</b> gg</i> hh</i> <b>ii</b> jj kk</b> <i>ll</i> mm nn",
           "a<b/><i> </i>b c", "a <b>b <p>cc dd</p> e</b> <i><p>ff <i>g h</i></p></i>i"}) {
-        for (char const* const css : {"", "b{padding:1;}", "b{margin:1;} i{margin-left:3;}",
-                                      "i{margin-left:-2;}", "b{margin-right:-3;} i{padding:-1;}"}) {
+        for (char const* const css :
+             {"", "b{padding:1;}", "b{margin:1;} i{margin-left:3;}", "i{margin-left:-2;}",
+              "b{margin-right:-3;} i{padding:-1;}", "b{padding-left:-6;}"}) {
             for (int width = -3; width <= 24; ++width) {
                 Page expected(content, css);
                 layOutStepByStep(*expected.box, width);

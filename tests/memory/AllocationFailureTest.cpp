@@ -143,8 +143,9 @@ TEST(AllocationFailure, LeavesOutputAndRulesOfAConversionAlone) {
                 EXPECT_EQ(out, "before");
                 throw;
             }
-            // Some text may be missing, and what it would have asked for.
+            // Some text may be missing, and what it would have asked for, but not all of a page.
             EXPECT_TRUE(isAnswered || out == "before");
+            EXPECT_TRUE(!isAnswered || out.length() > 6 || page == "before");
             EXPECT_EQ(out.substring(0, 6), "before");
         });
         for (ZRLWPtr<StyleNode> const& rule : sheet.rules) EXPECT_EQ(rule->refCount, 1);

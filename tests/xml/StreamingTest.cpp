@@ -44,6 +44,8 @@ TEST(Streaming, MakesThePageOfTheWholeTrees) {
         "aaa <b>longwo </b>y",
         "aaa <b>longwo y</b>",
         "k <b><i padding-left=\"3\">aa </i>bb </b>z",
+        // That edge counts no more where its element is the child of another.
+        "<b>bbb <b>aa <i padding-left=\"3\">bbb </i>a </b>aa a </b>a ",
         // Boxes without width still join a full line, and raise it.
         "aaaa bbbb <i/>&x;<b padding-top=\"1\"/>cc",
         "<b>aaa aaaa aaaaa <p>yy yy yy yy yy yy</p></b>",
@@ -91,26 +93,44 @@ TEST(Streaming, MakesThePageOfTheWholeTreesOfALongText) {
 }
 
 TEST(Streaming, MakesThePageOfTheWholeTreesOfElementsInOneAnother) {
-    static constexpr char const* s_tags[] = {"<b>", "<i>", "<em>", "<mark>",
-                                             "<i padding-left=\"1\">"};
-    for (unsigned document = 0; document < 300; ++document) {
+    static constexpr char const* s_tags[] = {"<b>",
+                                             "<i>",
+                                             "<em>",
+                                             "<mark>",
+                                             "<i padding-left=\"1\">",
+                                             "<b color=\"red\">",
+                                             "<b color=\"blue\">",
+                                             "<b color=\"red\" font-style=\"normal\">",
+                                             "<b background-color=\"red\">",
+                                             "<b margin-right=\"2\">"};
+    static constexpr unsigned s_tagCounts[] = {1, 2, 5, 10};
+    for (unsigned document = 0; document < 600; ++document) {
         std::mt19937 random(document);
         std::string markup;
         std::vector<std::string> ends;
+        auto const addWord = [&] {
+            markup += std::to_string(random() % 100000) + (random() % 4 > 0 ? " " : "");
+        };
+        auto const close = [&] {
+            markup += ends.back();
+            ends.pop_back();
+        };
         for (int i = 0; i < 60; ++i) {
             unsigned const what = random() % 8;
             if (what < 2 && !ends.empty()) {
-                markup += ends.back();
-                ends.pop_back();
+                close();
             } else if (what < 5) {
-                std::string const tag = s_tags[random() % (document % 2 == 0 ? 2 : 5)];
+                std::string const tag = s_tags[random() % s_tagCounts[document % 4]];
                 markup += tag;
                 ends.push_back("</" + tag.substr(1, tag.find_first_of(" >") - 1) + ">");
             } else {
-                markup += std::to_string(random() % 100000) + (what < 7 ? " " : "");
+                addWord();
             }
         }
-        for (; !ends.empty(); ends.pop_back()) markup += ends.back();
+        while (!ends.empty()) {
+            close();
+            if (random() % 2 == 0) addWord();
+        }
         expectSamePage(markup, "mark{color:red;}", static_cast<int>(random() % 20));
         if (testing::Test::HasFailure()) break;
     }

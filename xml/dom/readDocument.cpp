@@ -4,9 +4,9 @@
 #include <array>
 #include <cctype>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -169,7 +169,7 @@ private:
     DocumentHandler& handler;
     PullParser& parser;
     /// By selector.
-    std::unordered_map<std::string_view, ZRLWPtr<StyleNode> const*> lastRules;
+    std::map<std::string_view, ZRLWPtr<StyleNode> const*> lastRules;
     /// At most one for each name that the language knows.
     std::vector<ZRLWPtr<DomElement>> plainElements;
     TextBytes bytes;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "base/export.h"
-#include "xml/layout/Box.h"
+#include "../../base/export.h"
+#include "Box.h"
 
 namespace CLI::XML {
 

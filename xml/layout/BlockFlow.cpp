@@ -25,6 +25,10 @@ std::size_t lengthWithin(std::string_view words, std::int64_t room) {
     return words.rfind(' ', static_cast<std::size_t>(room) - 1) + 1;
 }
 
+/// Where a line need not stay too wide, how wide it is tells where a pass that ends at the break
+/// does not.
+bool breaksByWidths(Box const& line) { return line.isMeasured && line.mayShrink; }
+
 }  // namespace
 
 BlockFlow::BlockFlow(BlockBox& laidOut, Dimensions const& containing, Taker& boxTaker)
@@ -79,6 +83,7 @@ void BlockFlow::beginLine() {
 void BlockFlow::breakLine() {
     Box& line = *taker.pending.front();
     line.isSettled = false;
+    line.isMeasured = false;
     if (taker.room >= 0 || available() == s_largestWidth) return;
     // It is too wide already, so that its layout would only be done again.
     bool const areBoxesSettled = taker.hasOnlyInline || areSettled(line.children);
@@ -126,7 +131,7 @@ Walk BlockFlow::placePending(LayoutPass pass, std::size_t kept) {
     // Below the largest width only, since a sum that saturates there is never too wide.
     Placing placing = {pass, kept, available() < s_largestWidth};
     do {
-        Walk layoutOfNext = layOutNext(placing.pass);
+        Walk layoutOfNext = layOutNext(placing);
         if (!layoutOfNext.hasReturned()) return placeRemaining(placing, std::move(layoutOfNext));
     } while (takeNext(placing));
     return {};
@@ -135,13 +140,28 @@ Walk BlockFlow::placePending(LayoutPass pass, std::size_t kept) {
 /// Goes on where the layout of the next box has calls of its own.
 Walk BlockFlow::placeRemaining(Placing placing, Walk layoutOfNext) {
     co_await layoutOfNext;
-    while (takeNext(placing)) co_await layOutNext(placing.pass);
+    while (takeNext(placing)) co_await layOutNext(placing);
 }
 
-Walk BlockFlow::layOutNext(LayoutPass const& pass) const {
+Walk BlockFlow::layOutNext(Placing& placing) {
+    // What was broken off need not be laid out to be broken again.
+    Box const& whole = *taker.pending.back();
+    if (placing.pass.again && breaksByWidths(whole) && isTooWide(whole)) breakNext(placing);
     Box& next = *taker.pending.back();
     stack.place(next.dimensions);
-    return next.layOut(block.dimensions, pass);
+    return next.layOut(block.dimensions, placing.pass);
+}
+
+/// Breaks the next box, of which the part that fits comes next then. False where it is not broken.
+bool BlockFlow::breakNext(Placing& placing) {
+    Box& next = *taker.pending.back();
+    bool const byWidths = breaksByWidths(next);
+    ZRLWPtr<Box> rest = byWidths ? splitMeasured(next, available()) : next.split(available());
+    if (!rest) return false;
+    if (taker.pending.size() == 1) ++taker.breaks;
+    placing.pass = passAfterBreak(placing.staysTooWide && !byWidths);
+    taker.pending.insert(taker.pending.end() - 1, std::move(rest));
+    return true;
 }
 
 /// Gives the next box its place, or breaks it. Returns whether a box is to be laid out after that.
@@ -150,14 +170,8 @@ bool BlockFlow::takeNext(Placing& placing) {
     if (!placing.pass.isLimited) {
         placing.staysTooWide = placing.staysTooWide && !next.mayShrink && next.isSettled;
     }
-    bool const isTooWide = next.dimensions.marginBox().width > available();
-    if (ZRLWPtr<Box> rest = isTooWide ? next.split(available()) : nullptr) {
-        if (taker.pending.size() == 1) ++taker.breaks;
-        placing.pass = passAfterBreak(placing.staysTooWide);
-        // The same box again, now with less content.
-        taker.pending.insert(taker.pending.end() - 1, std::move(rest));
-        return true;
-    }
+    // The same box again, now with less content.
+    if (isTooWide(next) && breakNext(placing)) return true;
     if (taker.pending.size() <= placing.kept) return false;
     stack.add(next.dimensions);
     block.isSettled = block.isSettled && next.isSettled;

@@ -88,7 +88,9 @@ private:
     LayoutPass passAfterBreak(bool isLimited) const;
     Walk placePending(LayoutPass pass, std::size_t kept);
     Walk placeRemaining(Placing placing, Walk layoutOfNext);
-    Walk layOutNext(LayoutPass const& pass) const;
+    bool isTooWide(Box const& box) const { return box.dimensions.marginBox().width > available(); }
+    Walk layOutNext(Placing& placing);
+    bool breakNext(Placing& placing);
     bool takeNext(Placing& placing);
     void findRoom();
 

@@ -11,7 +11,8 @@
 namespace CLI::XML {
 
 Box::Box(DomNode* rendered, Type boxType) : ZR::RefCounted(nullptr), type(boxType), node(rendered) {
-    initEdges();
+    // Most boxes are words, and most elements have no style.
+    if (hasStyle(node)) initEdges();
 }
 
 Box::Box(Box const& other) : Box(other.node, other.type) {
@@ -56,6 +57,7 @@ bool Box::isLaidOutByItsOwn(Dimensions const& containing, LayoutPass& pass) {
     if (isAsked || !isForeign()) return false;
     layout(containing);
     isSettled = false;
+    isMeasured = false;
     return true;
 }
 
@@ -67,8 +69,6 @@ ZRLWPtr<Box> Box::split(int) { return {}; }
 
 void Box::initEdges() {
     dimensions.padding = dimensions.border = dimensions.margin = EdgeSizes();
-    // Most boxes are words, and most elements have no style.
-    if (!hasStyle(node)) return;
     auto const cells = [this](StyleProperty const& side, StyleProperty const& allSides) {
         String const* const value = findStyle(node, side, allSides);
         return value != nullptr ? value->toInteger() : 0;

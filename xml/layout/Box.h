@@ -1,15 +1,15 @@
 #pragma once
 
-#include "base/RefCounted.h"
-#include "base/String.h"
-#include "base/Walk.h"
-#include "base/XCode.h"
-#include "base/ZRLWPtr.h"
-#include "base/ZRVector.h"
-#include "base/export.h"
-#include "xml/dom/DomNode.h"
-#include "xml/layout/Dimensions.h"
-#include "xml/render/Canvas.h"
+#include "../../base/RefCounted.h"
+#include "../../base/String.h"
+#include "../../base/Walk.h"
+#include "../../base/XCode.h"
+#include "../../base/ZRLWPtr.h"
+#include "../../base/ZRVector.h"
+#include "../../base/export.h"
+#include "../dom/DomNode.h"
+#include "../render/Canvas.h"
+#include "Dimensions.h"
 
 namespace CLI::XML {
 
@@ -50,11 +50,17 @@ public:
     /// Known from the last layout: a box on this line, or in this inline element, takes up less
     /// room than its content, so that a line that is too wide need not stay so.
     bool mayShrink : 1 = false;
+    /// The content is as wide as a layout would make it, and only inline boxes that are measured,
+    /// too, are in it. Like `isSettled` only read by a pass that is laid out `again`.
+    bool isMeasured : 1 = false;
     /// Known from the last layout: this is a block, or an inline box with one somewhere in it.
     bool holdsBlock : 1 = false;
     /// Stands for a run of words, as many bytes of the text of `node` as the content is wide: a
     /// line may be broken behind every space in it, as it may between two boxes.
     bool isRun : 1 = false;
+    /// Of a box that only the conversion knows: a child has edges, or is neither a word nor an
+    /// inline element.
+    bool hasSpecialChild : 1 = false;
 
 private:
     bool holdsNode : 1 = false;
@@ -69,6 +75,9 @@ public:
     ZRVector<ZRLWPtr<Box>> children;
     /// Where a run begins in the text of `node`, in bytes.
     std::int32_t runBegin = 0;
+    /// Of an inline element that has been laid out: no block among its children is wider, in
+    /// columns with its edges.
+    std::int32_t widestBlock = 0;
 
     /// A box without children, with the edges that the style of `rendered` gives it; the node is
     /// null for a line box only.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "base/export.h"
-#include "xml/layout/InlineBox.h"
+#include "../../base/export.h"
+#include "InlineBox.h"
 
 namespace CLI::XML {
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "base/saturate.h"
+#include "../../base/saturate.h"
 
 namespace CLI::XML {
 
@@ -65,6 +65,7 @@ struct Dimensions {
     }
     /// The border box grown by the margin.
     Rect marginBox() const {
+        if (!hasEdges()) return content;
         Rect const inner = borderBox();
         return {saturate(std::int64_t{inner.x} - margin.left),
                 saturate(std::int64_t{inner.y} - margin.top),
@@ -72,9 +73,14 @@ struct Dimensions {
                 sum(inner.height, margin.top, margin.bottom)};
     }
 
+    /// Most boxes have none, which is cheap to see.
+    bool hasEdges() const { return (bitsOf(padding) | bitsOf(border) | bitsOf(margin)) != 0; }
+
     bool operator==(Dimensions const&) const = default;
 
 private:
+    static std::int32_t bitsOf(EdgeSizes const& e) { return e.left | e.right | e.top | e.bottom; }
+
     static std::int32_t sum(std::int64_t a, std::int64_t b, std::int64_t c) {
         return saturate(a + b + c);
     }

@@ -3,8 +3,8 @@
 #include <string_view>
 #include <typeinfo>
 
-#include "base/export.h"
-#include "xml/layout/Box.h"
+#include "../../base/export.h"
+#include "Box.h"
 
 namespace CLI::XML {
 
@@ -43,5 +43,12 @@ std::string_view shownText(Box const& box);
 /// Lays out a box without children: a word takes a column a byte and one row, anything else
 /// nothing.
 void sizeLeaf(Box& box);
+
+/// Places the children of an inline element, which have been laid out, side by side and sizes it
+/// around them.
+void placeLaidOut(Box& box);
+
+/// `split` of a line or an inline element that is measured: so is what it returns.
+ZRLWPtr<Box> splitMeasured(Box& box, int width);
 
 }  // namespace CLI::XML

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "base/export.h"
-#include "xml/layout/CellBox.h"
-#include "xml/layout/LineBox.h"
+#include "../../base/export.h"
+#include "CellBox.h"
+#include "LineBox.h"
 
 namespace CLI::XML {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "base/export.h"
-#include "xml/layout/BlockBox.h"
-#include "xml/layout/RowBox.h"
+#include "../../base/export.h"
+#include "BlockBox.h"
+#include "RowBox.h"
 
 namespace CLI::XML {
 

@@ -1,5 +1,7 @@
 // How the boxes of a line, and those of an inline element on it, stand side by side.
 
+#include <algorithm>
+
 #include "xml/dom/DomText.h"
 #include "xml/layout/InlineBox.h"
 #include "xml/layout/LineBox.h"
@@ -20,16 +22,18 @@ template <class Gap>
 class InlineLayout {
 public:
     InlineLayout(Box& laidOut, LayoutPass asked)
-        : box(laidOut), pass(asked), row(laidOut.dimensions) {
-        // A block keeps the breaks that it got at any width behind the boxes before it.
-        if (box.type != Box::Line && box.holdsBlock) pass.isLimited = false;
-    }
+        : box(laidOut),
+          pass(asked),
+          row(laidOut.dimensions),
+          widestBlock(asked.isLimited ? laidOut.widestBlock : 0) {}
 
     bool isDone() const { return isFull || next == box.children.count; }
 
-    /// The layout of the child that was placed, where it has none yet.
+    /// The layout of the child that was placed.
     Walk layOut(Box& child) const {
-        return pass.isMeasured ? Walk() : child.layOut(box.dimensions, pass);
+        LayoutPass passOfChild = pass;
+        passOfChild.isLimited = pass.isLimited && mayEnd();
+        return child.layOut(box.dimensions, passOfChild);
     }
 
     /// Places the words that come next.
@@ -51,34 +55,55 @@ public:
     }
 
     void takeLaidOut(Box const& child) {
+        areAllMeasured = areAllMeasured && child.isMeasured && isWidthModerate();
         row.add(child.dimensions);
         areAllSettled = areAllSettled && child.isSettled;
         holdsBlock = holdsBlock || child.holdsBlock;
         mayShrink = mayShrink || child.mayShrink || takesLessThanItsContent(child.dimensions);
+        if (child.type == Box::Block) {
+            widestBlock = std::max(widestBlock, child.dimensions.marginBox().width);
+        }
         take(child);
+    }
+
+    /// Places all children, which have been laid out.
+    void placeLaidOut() {
+        for (placeWords(); !isDone(); placeWords()) takeLaidOut(place());
+        finish();
     }
 
     void finish() {
         if (box.children.count == 0) sizeLeaf(box);
-        box.holdsBlock = holdsBlock;
-        box.isSettled = areAllSettled && next == box.children.count;
+        bool const isComplete = next == box.children.count;
+        box.holdsBlock = holdsBlock || (!isComplete && box.holdsBlock);
+        box.isSettled = areAllSettled && isComplete;
+        box.isMeasured = areAllMeasured && isComplete && isWidthModerate();
         box.mayShrink = mayShrink;
+        box.widestBlock = widestBlock;
     }
 
 private:
+    /// A block is offered what the boxes before it take. It keeps the breaks that it got at any
+    /// width, but where that is as much as each block asks for the rest stays as it is.
+    bool mayEnd() const { return box.dimensions.content.width >= widestBlock; }
+
+    bool isWidthModerate() const { return isModerate(box.dimensions.content.width); }
+
     void take(Box const& child) {
         ++next;
         if (!pass.isLimited) return;
         pass.room -= child.dimensions.content.width;
-        isFull = pass.room < 0;
+        isFull = pass.room < 0 && mayEnd();
     }
 
     Box& box;
     LayoutPass pass;
     RightwardRow row;
+    std::int32_t widestBlock;
     unsigned next = 0;
     bool holdsBlock = false;
     bool areAllSettled = true;
+    bool areAllMeasured = true;
     bool mayShrink = false;
     bool isFull = false;
 };
@@ -101,6 +126,10 @@ Walk layoutRightwards(Box& box, Dimensions const& containing, LayoutPass pass) {
     if (box.isLaidOutByItsOwn(containing, pass)) return {};
     if (pass.again && box.isSettled) return {};
     InlineLayout<Gap> layout(box, pass);
+    if (pass.isMeasured) {
+        layout.placeLaidOut();
+        return {};
+    }
     layout.placeWords();
     if (!layout.isDone()) return layoutChildren(layout);
     layout.finish();
@@ -118,13 +147,17 @@ std::string_view shownText(Box const& box) {
 }
 
 void sizeLeaf(Box& box) {
-    auto const length = static_cast<std::int32_t>(shownText(box).length());
-    box.dimensions.content.width = length;
-    box.dimensions.content.height = length > 0 ? 1 : 0;
+    Rect& content = box.dimensions.content;
+    // A run has its width from what it shows.
+    if (!box.isRun) content.width = static_cast<std::int32_t>(shownText(box).length());
+    content.height = content.width > 0 ? 1 : 0;
     box.isSettled = true;
+    box.isMeasured = true;
     box.mayShrink = false;
     box.holdsBlock = false;
 }
+
+void placeLaidOut(Box& box) { InlineLayout<UncoveredMargin>(box, {}).placeLaidOut(); }
 
 Walk LineBox::layOut(Dimensions const& containing, LayoutPass pass) {
     return layoutRightwards<LargerMargin>(*this, containing, pass);

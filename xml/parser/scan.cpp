@@ -35,6 +35,8 @@ bool peekCharacter(String const& text, int position, String const& set) {
 }
 
 bool peekString(String const& text, int position, char const* s) {
+    // The first byte mostly tells.
+    if (*s != '\0' && position < text.length() && text.c_str()[position] != *s) return false;
     std::size_t const length = std::strlen(s);
     return position <= text.length() &&
            length <= static_cast<std::size_t>(text.length() - position) &&

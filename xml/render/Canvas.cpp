@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 #include <new>
+#include <utility>
 
 #include "base/saturate.h"
 #include "xml/render/cellBlocks.h"
@@ -14,20 +15,19 @@ namespace {
 /// A page keeps so many new rows as one, as long as they stay alike.
 constexpr std::uint64_t s_tall = 256;
 
-/// Cells of a row that is not copied where it need not be.
-constexpr unsigned s_wide = 1024;
-
 constexpr std::int64_t s_largestOrigin = std::numeric_limits<std::int32_t>::max();
 
 }  // namespace
 
 /// Makes the row, or as many that are alike, at least `width` cells long; the cells from its former
 /// end up to `filled` become fillers, those behind them are for the caller to set.
-void Canvas::lengthen(ZRVector<Byte>& row, std::uint64_t width, unsigned filled, unsigned times) {
+void Canvas::lengthen(Row& row, std::uint64_t width, unsigned filled, unsigned times) {
     if (width > std::numeric_limits<unsigned>::max()) throw std::bad_array_new_length();
     unsigned const formerWidth = row.count;
     auto const end = static_cast<unsigned>(width);
     if (end <= formerWidth) return;
+    widest = std::max(widest, end);
+    if (isOverlay) row.reserveWithFront(end);
     // As many slots as cells added one by one would take.
     row.enlarge(end - 1);
     row.count = end;
@@ -65,25 +65,22 @@ unsigned Canvas::rowsAt(unsigned index) const {
 
 /// The entry that begins with row `y`, or ends before it. A run that reaches over it is cut in two.
 unsigned Canvas::cutAt(std::uint64_t y) {
-    std::uint64_t before = 0;
-    for (std::size_t i = 0; i < runs.size(); ++i) {
-        Run& run = runs[i];
-        std::uint64_t const start = movedRows + run.index + before;
-        if (y <= start) break;
-        if (y > start + run.more) {
-            before += run.more;
-            continue;
-        }
+    // From below, where most is drawn.
+    std::uint64_t before = repeatedRows;
+    for (std::size_t i = runs.size(); i-- > 0; before -= runs[i].more) {
+        Run const run = runs[i];
+        std::uint64_t const start = movedRows + run.index + before - run.more;
+        if (y > start + run.more) break;
+        if (y <= start) continue;
         auto const upper = static_cast<unsigned>(y - start);
-        auto const lower = run.more + 1 - upper;
-        unsigned const index = run.index;
-        rows.insert(index, rows[index]);
+        rows.insert(run.index, rows[run.index]);
         for (std::size_t later = i + 1; later < runs.size(); ++later) ++runs[later].index;
         --repeatedRows;
-        run.more = upper - 1;
-        runs.insert(runs.begin() + static_cast<std::ptrdiff_t>(i) + 1, {index + 1, lower - 1});
+        runs[i].more = upper - 1;
+        runs.insert(runs.begin() + static_cast<std::ptrdiff_t>(i) + 1,
+                    {run.index + 1, run.more - upper});
         std::erase_if(runs, [](Run const& r) { return r.more == 0; });
-        return index + 1;
+        return run.index + 1;
     }
     return static_cast<unsigned>(y - movedRows - before);
 }
@@ -136,7 +133,7 @@ bool Canvas::mayDrawAt(std::uint64_t top, std::uint64_t last, unsigned column,
     std::uint64_t cost = costOfRow(last) + drawn;
     std::uint64_t const existing = std::max(top, std::min(last + 1, endOfRows()));
     visitRows(std::max(top, std::uint64_t{movedRows}), existing,
-              [&](ZRVector<Byte> const& row, unsigned times) {
+              [&](Row const& row, unsigned times) {
                   unsigned const width = std::max(row.count, originColumn());
                   cost += std::uint64_t{column - std::min(column, width)} * times;
               });
@@ -150,7 +147,7 @@ std::uint64_t Canvas::costOfRow(std::uint64_t y) {
     std::uint64_t cost = y < existing ? 0 : y + 1 - existing;
     visitUntouched(y, [&](Frame const& frame, std::uint64_t first, std::uint64_t end) {
         std::uint64_t const existingEnd = std::max(first, std::min(end, existing));
-        visitRows(first, existingEnd, [&](ZRVector<Byte> const& row, unsigned times) {
+        visitRows(first, existingEnd, [&](Row const& row, unsigned times) {
             cost += std::uint64_t{frame.left - std::min(frame.left, row.count)} * times;
         });
         if (existingEnd < end) cost += (end - existingEnd) * frame.left;
@@ -162,9 +159,8 @@ void Canvas::touchNewRow(std::uint64_t y) {
     if (y < movedRows) throw std::bad_array_new_length();
     if (y >= endOfRows()) bringIntoUse(y + 1);
     visitUntouched(y, [this](Frame& frame, std::uint64_t first, std::uint64_t end) {
-        visitRows(first, end, [&](ZRVector<Byte>& row, unsigned times) {
-            lengthen(row, frame.left, frame.left, times);
-        });
+        visitRows(first, end,
+                  [&](Row& row, unsigned times) { lengthen(row, frame.left, frame.left, times); });
         frame.end = std::max(frame.end, static_cast<unsigned>(end));
     });
 }
@@ -178,17 +174,16 @@ bool Canvas::enter(int x, int y) {
     std::int64_t const top = std::int64_t{originRow()} + y;
     if (x < 0 || y < 0 || std::max(left, top) > s_largestOrigin) return false;
     auto const end = static_cast<std::int64_t>(endOfRows());
-    bool const isBehindLastRow =
-        top + 1 == end && top >= movedRows && rows.data[rows.count - 1].count <= left;
-    if (top < end && !isBehindLastRow) return false;
+    if (top < end && left < widest) return false;
     auto const row = static_cast<unsigned>(top);
-    frames.push_back({static_cast<unsigned>(left), row, row});
+    frames.push_back({static_cast<unsigned>(left), row, row, std::exchange(widest, 0)});
     return true;
 }
 
 void Canvas::leave() {
     Frame const inner = frames.back();
     frames.pop_back();
+    widest = std::max(widest, inner.widestAround);
     bool const wasTouched = inner.end > inner.top;
     if (wasTouched && !frames.empty()) {
         frames.back().end = std::max(frames.back().end, inner.end);
@@ -197,7 +192,7 @@ void Canvas::leave() {
 
 unsigned Canvas::getWidth() const {
     unsigned width = 0;
-    for (ZRVector<Byte> const& row : rows) width = std::max(width, row.count);
+    for (Row const& row : rows) width = std::max(width, row.count);
     return width;
 }
 
@@ -249,7 +244,7 @@ bool Canvas::drawDown(std::string_view text, int x, int y, int height,
     if (budget != nullptr && !mayDrawAt(top, last, filled, drawn)) return false;
     std::uint64_t const formerlyMade = cellsMade;
     unsigned const index = getOrStoreAttribute(attributes);
-    auto const drawIn = [&](ZRVector<Byte>& row, unsigned times) {
+    auto const drawIn = [&](Row& row, unsigned times) {
         if (shown.empty()) return;
         std::size_t const rowEnd = column + shown.length();
         if (rowEnd > row.count) lengthen(row, rowEnd, column, times);
@@ -267,43 +262,93 @@ bool Canvas::drawDown(std::string_view text, int x, int y, int height,
     return true;
 }
 
-/// Calls `lay` with the rows that rows of `source` lie on, and how they do. Returns whether there
-/// is a cell that does.
+/// Calls `lay` for the rows that rows of `source` lie on: with what such a row becomes, with the
+/// row as it is, which may be the same object, and with how they lie. Returns whether there is a
+/// cell that is laid.
 template <class Lay>
 bool Canvas::visitComposed(Canvas const& source, int x, int y, Lay const& lay) {
     auto const clippedColumns = static_cast<unsigned>(x < 0 ? -std::int64_t{x} : 0);
     std::uint64_t skippedRows = static_cast<std::uint64_t>(y < 0 ? -std::int64_t{y} : 0);
     unsigned const column = originColumn() + static_cast<unsigned>(std::max(x, 0));
-    std::uint64_t top = std::uint64_t{originRow()} + static_cast<unsigned>(std::max(y, 0));
+    std::uint64_t const top = std::uint64_t{originRow()} + static_cast<unsigned>(std::max(y, 0));
     if (source.endOfRows() <= skippedRows) return false;
     std::uint64_t const last = top + (source.endOfRows() - skippedRows) - 1;
     if (budget != nullptr && !mayDrawAt(top, last, column, 0)) return false;
     std::uint64_t const formerlyMade = cellsMade;
+    if (!isTouched(last)) touchNewRow(last);
+    unsigned const first = cutAt(top);
+    Entries cut(first, cutAt(last + 1));
+    bool const isCut = !runs.empty() || !source.runs.empty();
+    unsigned target = first;
+    // Of the target's entry, rows that nothing has been laid on.
+    unsigned bare = rowsAt(target);
     bool drawn = false;
     for (unsigned r = 0; r < source.rows.count; ++r) {
         std::uint64_t const all = source.rowsAt(r);
         std::uint64_t const skipped = std::min(all, skippedRows);
         skippedRows -= skipped;
-        if (skipped == all) continue;
         unsigned const width = source.rows[r].count;
         unsigned const length = width - std::min(clippedColumns, width);
-        std::uint64_t const end = top + (all - skipped);
-        touchRow(end - 1);
-        visitRows(top, end, [&](ZRVector<Byte>& row, unsigned times) {
-            lay(row, Overlap{r, times == end - top, times, clippedColumns, length, column});
-        });
-        top = end;
-        drawn = drawn || length > 0;
+        drawn = drawn || (length > 0 && skipped < all);
+        for (auto more = static_cast<unsigned>(all - skipped); more > 0;) {
+            if (bare == 0) bare = rowsAt(++target);
+            unsigned const times = std::min(more, bare);
+            more -= times;
+            bare -= times;
+            Row& below = rows.data[target];
+            Overlap const overlap{r, more == 0, times, clippedColumns, length, column};
+            if (!isCut) {
+                lay(below, below, overlap);
+                continue;
+            }
+            Row row;
+            if (bare > 0) {
+                lay(row, below, overlap);
+            } else {
+                // The last of the rows that are alike need not be a copy.
+                row = std::move(below);
+                lay(row, row, overlap);
+            }
+            cut.add(std::move(row), times);
+        }
     }
+    if (isCut) replaceEntries(cut);
     if (budget != nullptr) budget->take(cellsMade - formerlyMade);
     return drawn;
+}
+
+void Canvas::Entries::add(Row&& row, unsigned times) {
+    if (times > 1) runs.push_back({first + static_cast<unsigned>(rows.size()), times - 1});
+    rows.push_back(std::move(row));
+}
+
+/// Puts the entries in place of those that stand for the same rows.
+void Canvas::replaceEntries(Entries& entries) {
+    ZRVector<Row> behind;
+    rows.moveTailTo(entries.end, behind);
+    ZRVector<Row> replaced;
+    rows.moveTailTo(entries.first, replaced);
+    for (Row& row : entries.rows) rows.add(std::move(row));
+    unsigned const end = rows.count;
+    for (unsigned i = 0; i < behind.count; ++i) rows.add(std::move(behind.data[i]));
+
+    std::vector<Run> const former = std::exchange(runs, std::move(entries.runs));
+    auto const isBefore = [&](Run const& run) { return run.index < entries.first; };
+    auto const split = std::find_if_not(former.begin(), former.end(), isBefore);
+    runs.insert(runs.begin(), former.begin(), split);
+    for (Run const& run : former) {
+        if (run.index >= entries.end) runs.push_back({run.index - entries.end + end, run.more});
+    }
+    repeatedRows += entries.end - entries.first;
+    repeatedRows -= end - entries.first;
 }
 
 bool Canvas::drawClipped(Canvas const& source, int x, int y) {
     unsigned sourceIndex = 0;
     unsigned mappedIndex = 0;
-    return visitComposed(source, x, y, [&](ZRVector<Byte>& row, Overlap const& overlap) {
+    return visitComposed(source, x, y, [&](Row& row, Row const& below, Overlap const& overlap) {
         unsigned const column = overlap.column;
+        if (&row != &below) row = below;
         lengthen(row, std::uint64_t{column} + overlap.length, column, overlap.rows);
         for (unsigned i = 0; i < overlap.length; ++i) {
             Byte const cell = source.rows[overlap.index][overlap.first + i];
@@ -321,28 +366,30 @@ void Canvas::compose(Canvas& inner, int x, int y) {
         drawClipped(inner, x, y);
         return;
     }
-    visitComposed(inner, x, y, [&](ZRVector<Byte>& row, Overlap const& overlap) {
-        ZRVector<Byte>& source = inner.rows.data[overlap.index];
+    visitComposed(inner, x, y, [&](Row& row, Row const& below, Overlap const& overlap) {
+        Row& source = inner.rows.data[overlap.index];
         unsigned const length = overlap.length;
-        if (length >= s_wide && row.count <= length && overlap.isOnlyOne) {
-            takeRow(row, source, overlap);
+        if (below.count <= length && overlap.isLast) {
+            row = takenRow(source, below, overlap);
             return;
         }
+        if (&row != &below) row = below;
         lengthen(row, std::uint64_t{overlap.column} + length, overlap.column, overlap.rows);
         if (length > 0) std::copy_n(source.data + overlap.first, length, row.data + overlap.column);
     });
 }
 
 /// Lays a row over a shorter one by taking it and laying the shorter one under it.
-void Canvas::takeRow(ZRVector<Byte>& row, ZRVector<Byte>& source, Overlap const& overlap) {
-    ZRVector<Byte> taken;
+Canvas::Row Canvas::takenRow(Row& source, Row const& below, Overlap const& overlap) {
+    Row taken;
     source.moveTailTo(overlap.first, taken);
     taken.extendFront(overlap.column);
-    unsigned const kept = std::min(row.count, overlap.column);
-    if (kept > 0) std::copy_n(row.data, kept, taken.data);
+    unsigned const kept = std::min(below.count, overlap.column);
+    if (kept > 0) std::copy_n(below.data, kept, taken.data);
     std::fill(taken.data + kept, taken.data + overlap.column, Byte::make(' ', 0));
+    widest = std::max(widest, taken.count);
     cellsMade += std::uint64_t{overlap.column - kept} * overlap.rows;
-    row = std::move(taken);
+    return taken;
 }
 
 void Canvas::exchangeAttributes(Canvas& inner) {

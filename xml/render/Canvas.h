@@ -4,10 +4,10 @@
 #include <string_view>
 #include <vector>
 
-#include "base/String.h"
-#include "base/ZRVector.h"
-#include "base/export.h"
-#include "xml/render/CellBudget.h"
+#include "../../base/String.h"
+#include "../../base/ZRVector.h"
+#include "../../base/export.h"
+#include "CellBudget.h"
 
 namespace CLI::XML {
 
@@ -71,10 +71,16 @@ public:
     /// Top row first. On a canvas of a page one entry may stand for many rows that are alike.
     ZRVector<ZRVector<Byte>> rows;
 
+    /// What becomes of a canvas: a page, or a part of one that is composed onto it.
+    enum Use : std::uint8_t { Page, Overlay };
+
     Canvas() : Canvas(nullptr) {}
     /// A canvas of a page: a text whose cells the budget does not have is not drawn. The budget
     /// outlives the canvas; null for none.
-    explicit Canvas(CellBudget* ofPage) : budget(ofPage) { attributeTable.add(Attributes()); }
+    explicit Canvas(CellBudget* ofPage, Use use = Page)
+        : budget(ofPage), isOverlay(use == Overlay && ofPage != nullptr) {
+        attributeTable.add(Attributes());
+    }
     Canvas(Canvas const&) = delete;
     Canvas& operator=(Canvas const&) = delete;
     ~Canvas() = default;
@@ -117,8 +123,8 @@ public:
 
     /// Moves the origin to (x, y), so that what is drawn until `leave` is drawn as if onto a canvas
     /// of its own that is then composed onto this one there. Returns false, with nothing changed,
-    /// where that would not be the same: where the position is negative, or cells are there
-    /// already.
+    /// where that might not be the same: where the position is negative, or a row from the last
+    /// origin down already has cells right of the position.
     bool enter(int x, int y);
     /// Brings back the origin that was there before the last `enter`.
     void leave();
@@ -135,11 +141,15 @@ public:
     unsigned originRow() const { return frames.empty() ? 0 : frames.back().top; }
 
 private:
+    using Row = ZRVector<Byte>;
+
     /// An origin that was entered. The rows from `top` up to `end` are at least `left` cells long.
     struct Frame {
         unsigned left;
         unsigned top;
         unsigned end;
+        /// `widest` of the origin around.
+        unsigned widestAround;
     };
 
     /// An entry of `rows` that stands for more than one row.
@@ -148,11 +158,23 @@ private:
         unsigned more;
     };
 
+    /// What entries from `first` up to `end` are replaced by.
+    struct Entries {
+        Entries(unsigned replacedFirst, unsigned replacedEnd)
+            : first(replacedFirst), end(replacedEnd) {}
+        void add(Row&& row, unsigned times);
+
+        unsigned first;
+        unsigned end;
+        std::vector<Row> rows;
+        std::vector<Run> runs;
+    };
+
     /// Where a row of a canvas lies on one or more that are alike.
     struct Overlap {
-        /// The source's entry, and whether it lies on `rows` rows here and nowhere else.
+        /// The source's entry, and whether it lies on no rows behind these.
         unsigned index;
-        bool isOnlyOne;
+        bool isLast;
         unsigned rows;
         /// In the source, and how many cells from there on.
         unsigned first;
@@ -170,35 +192,40 @@ private:
         return !frames.empty() && y >= movedRows && y < frames.back().end;
     }
     /// Row `y`, which exists from now on, with all rows above it as long as the origins ask for.
-    ZRVector<Byte>& touchRow(std::uint64_t y) {
+    Row& touchRow(std::uint64_t y) {
         if (!isTouched(y)) touchNewRow(y);
         return runs.empty() ? rows.data[y - movedRows] : loneRow(y);
     }
     void touchNewRow(std::uint64_t y);
     template <class Lay>
     bool visitComposed(Canvas const& source, int x, int y, Lay const& lay);
-    void takeRow(ZRVector<Byte>& row, ZRVector<Byte>& source, Overlap const& overlap);
+    void replaceEntries(Entries& entries);
+    Row takenRow(Row& source, Row const& below, Overlap const& overlap);
     template <class Visit>
     void visitUntouched(std::uint64_t y, Visit const& visit);
     template <class Visit>
     void visitRows(std::uint64_t first, std::uint64_t end, Visit const& visit);
-    ZRVector<Byte>& loneRow(std::uint64_t y);
+    Row& loneRow(std::uint64_t y);
     unsigned cutAt(std::uint64_t y);
     unsigned rowsAt(unsigned index) const;
     void bringIntoUse(std::uint64_t end);
-    void lengthen(ZRVector<Byte>& row, std::uint64_t width, unsigned filled, unsigned times = 1);
+    void lengthen(Row& row, std::uint64_t width, unsigned filled, unsigned times = 1);
     bool mayDrawAt(std::uint64_t top, std::uint64_t last, unsigned column, std::uint64_t drawn);
     std::uint64_t costOfRow(std::uint64_t y);
     template <class Sink>
-    void writeRow(ZRVector<Byte> const& row, unsigned times, Sink const& sink) const;
+    void writeRow(Row const& row, unsigned times, Sink const& sink) const;
 
     CellBudget* budget;
+    /// Its rows will be handed over, with fillers before them.
+    bool isOverlay;
     /// Rows, and cells that only fill the way to others, so far.
     std::uint64_t cellsMade = 0;
     /// What `getOrStoreAttribute` returned last.
     unsigned lastIndex = 0;
     /// Innermost last.
     std::vector<Frame> frames;
+    /// No row from the origin down is longer than this, or than the origin is far to the right.
+    unsigned widest = 0;
     /// In the order of their entries.
     std::vector<Run> runs;
     /// All rows that runs stand for, but one each.
@@ -206,7 +233,7 @@ private:
     /// Rows that were moved out; `rows` begins behind them.
     unsigned movedRows = 0;
     /// Empty rows with storage.
-    std::vector<ZRVector<Byte>> spareRows;
+    std::vector<Row> spareRows;
 };
 
 static_assert(sizeof(Canvas::Attributes) == 4 && sizeof(Canvas::Byte) == 4);

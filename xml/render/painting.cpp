@@ -166,7 +166,7 @@ BoxPainting::BoxPainting(Box& painted, Canvas& ofParent, Canvas::Attributes cons
     Rect const& area = box->dimensions.content;
     isDirect = !isBeneathMissing && target->enter(area.x, area.y);
     if (isDirect) return;
-    own = std::make_unique<Canvas>(target->cellBudget());
+    own = std::make_unique<Canvas>(target->cellBudget(), Canvas::Overlay);
     target->exchangeAttributes(*own);
 }
 
