@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/export.h"
+#include "export.h"
 
 class ZRLock;
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "base/export.h"
+#include "export.h"
 
 /// A byte string with a 7-character inline buffer. One byte is one character and one terminal
 /// cell; there is no encoding awareness. The text is always NUL-terminated in its buffer, but the

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "base/String.h"
+#include "String.h"
 
 /// A 32-bit hash over the bytes of a string: for each byte, h becomes h ^ byte ^ (h << 5).
 struct StringHash {

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <utility>
 
-#include "base/String.h"
-#include "base/export.h"
+#include "String.h"
+#include "export.h"
 
 /// A result code in one word. Value 0 is success and converts to true; every other value is a
 /// failure, which may carry a message. The plain success and the generic failure (value

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "base/MovePtr.h"
+#include "MovePtr.h"
 
 /// A counting pointer to a `ZR::RefCounted` object: a non-null `object` owns exactly one
 /// reference.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "base/XCode.h"
-#include "base/export.h"
+#include "XCode.h"
+#include "export.h"
 
 /// A lock that a shared object can be guarded by.
 class GALLEY_EXPORT ZRLock {

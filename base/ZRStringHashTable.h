@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/ZRHashTable.h"
+#include "ZRHashTable.h"
 
 /// A hash table with string keys.
 template <class V>

@@ -25,8 +25,17 @@ install(FILES ${PROJECT_BINARY_DIR}/galley-config.cmake
               cmake/galley-embed.h.in
     DESTINATION ${package_dir} COMPONENT development)
 
-# The file finds its prefix from where it stands, so that a tree can be moved.
-file(RELATIVE_PATH GALLEY_PREFIX_FROM_PC /${pc_dir} /)
+# The file finds its prefix from where it stands, so that a tree can be moved, unless the folders are
+# given whole.
+file(RELATIVE_PATH prefix_from_pc /${pc_dir} /)
+set(GALLEY_PC_PREFIX "\${pcfiledir}/${prefix_from_pc}")
+set(GALLEY_PC_LIBDIR "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
+set(GALLEY_PC_INCLUDEDIR "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
+if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR} OR IS_ABSOLUTE ${CMAKE_INSTALL_INCLUDEDIR})
+    set(GALLEY_PC_PREFIX ${CMAKE_INSTALL_PREFIX})
+    set(GALLEY_PC_LIBDIR ${CMAKE_INSTALL_FULL_LIBDIR})
+    set(GALLEY_PC_INCLUDEDIR ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+endif()
 configure_file(cmake/galley.pc.in galley.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/galley.pc DESTINATION ${pc_dir} COMPONENT development)
 

@@ -2,11 +2,11 @@
 
 #include <atomic>
 
-#include "base/RefCounted.h"
-#include "base/ZRLWPtr.h"
-#include "base/ZRList.h"
-#include "base/ZRStringHashTable.h"
-#include "base/export.h"
+#include "../../base/RefCounted.h"
+#include "../../base/ZRLWPtr.h"
+#include "../../base/ZRList.h"
+#include "../../base/ZRStringHashTable.h"
+#include "../../base/export.h"
 
 namespace CLI::XML {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "base/String.h"
-#include "base/XCode.h"
-#include "base/export.h"
-#include "xml/css/properties.h"
+#include "../../base/String.h"
+#include "../../base/XCode.h"
+#include "../../base/export.h"
+#include "properties.h"
 
 namespace CLI::XML {
 

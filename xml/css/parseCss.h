@@ -1,8 +1,8 @@
 #pragma once
 
-#include "base/XCode.h"
-#include "base/export.h"
-#include "xml/css/StyleNode.h"
+#include "../../base/XCode.h"
+#include "../../base/export.h"
+#include "StyleNode.h"
 
 namespace CLI::XML {
 

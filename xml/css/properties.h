@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "base/StringHash.h"
+#include "../../base/StringHash.h"
 
 namespace CLI::XML {
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "base/XCode.h"
-#include "base/ZRLWPtr.h"
-#include "base/ZRStringHashTable.h"
-#include "base/ZRVector.h"
-#include "base/export.h"
-#include "xml/css/StyleNode.h"
-#include "xml/dom/DomNode.h"
+#include "../../base/XCode.h"
+#include "../../base/ZRLWPtr.h"
+#include "../../base/ZRStringHashTable.h"
+#include "../../base/ZRVector.h"
+#include "../../base/export.h"
+#include "../css/StyleNode.h"
+#include "DomNode.h"
 
 namespace CLI::XML {
 

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "base/RefCounted.h"
-#include "base/String.h"
-#include "base/export.h"
+#include "../../base/RefCounted.h"
+#include "../../base/String.h"
+#include "../../base/export.h"
 
 namespace CLI::XML {
 

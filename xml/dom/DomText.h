@@ -3,9 +3,9 @@
 #include <string_view>
 #include <utility>
 
-#include "base/ZRLWPtr.h"
-#include "base/export.h"
-#include "xml/dom/DomNode.h"
+#include "../../base/ZRLWPtr.h"
+#include "../../base/export.h"
+#include "DomNode.h"
 
 namespace CLI::XML {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "base/XCode.h"
-#include "base/export.h"
-#include "xml/css/StyleNode.h"
-#include "xml/dom/DomElement.h"
-#include "xml/parser/PullParser.h"
+#include "../../base/XCode.h"
+#include "../../base/export.h"
+#include "../css/StyleNode.h"
+#include "../parser/PullParser.h"
+#include "DomElement.h"
 
 namespace CLI::XML {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "base/export.h"
-#include "xml/dom/DomElement.h"
+#include "../../base/export.h"
+#include "DomElement.h"
 
 namespace CLI::XML {
 

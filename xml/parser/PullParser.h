@@ -2,11 +2,11 @@
 
 #include <cstdint>
 
-#include "base/String.h"
-#include "base/XCode.h"
-#include "base/ZRVector.h"
-#include "base/export.h"
-#include "xml/parser/references.h"
+#include "../../base/String.h"
+#include "../../base/XCode.h"
+#include "../../base/ZRVector.h"
+#include "../../base/export.h"
+#include "references.h"
 
 namespace CLI::XML {
 

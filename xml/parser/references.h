@@ -1,7 +1,7 @@
 #pragma once
 
-#include "base/String.h"
-#include "base/export.h"
+#include "../../base/String.h"
+#include "../../base/export.h"
 
 namespace CLI::XML {
 

@@ -1,0 +1,1 @@
+#error "This is a header of the program around galley."
