@@ -157,7 +157,8 @@ void defineOptions(CLI::App& app, Options& options) {
     CLI::Option* const output =
         app.add_option_function<std::string>(
                "--output", [&options](std::string const& file) { options.files = {file}; },
-               "Write the page of the one document to this file: " + wholeOrNot)
+               "Write the page of the one document to this file: " + wholeOrNot +
+                   "; \"-\" is standard output")
             ->option_text("FILE")
             ->check(isName)
             ->group("Output");

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <optional>
 #include <string>
 
@@ -16,7 +17,8 @@ namespace {
 
 std::string pagerCommand() {
     char const* const command = std::getenv("PAGER");
-    return command != nullptr && *command != '\0' ? command : "less -R";
+    bool const isGiven = command != nullptr && command[std::strspn(command, " \t\n")] != '\0';
+    return isGiven ? command : "less -R";
 }
 
 /// Texts go to a pager that is started for the first of them, and straight to standard output where

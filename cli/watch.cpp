@@ -69,6 +69,12 @@ void stop() {
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
 }
 
+/// Whether there is something in it, or it is no regular file.
+bool isWhole(std::string const& file) {
+    struct stat status = {};
+    return stat(file.c_str(), &status) == 0 && (!S_ISREG(status.st_mode) || status.st_size > 0);
+}
+
 /// Keeps the last texts that were right.
 class KeptOutput final : public Output {
 public:
@@ -99,6 +105,7 @@ class Changes {
 public:
     explicit Changes(Options const& options) : inputs(options.documents), signals(openSignals()) {
         inputs.insert(inputs.end(), options.sheets.begin(), options.sheets.end());
+        noteWhole();
     }
     Changes(Changes const&) = delete;
     Changes& operator=(Changes const&) = delete;
@@ -113,9 +120,12 @@ public:
 private:
     bool handleSignal(bool hasScreen) const;
     void settle();
-    bool areWhole() const;
+    void noteWhole();
+    bool isBeingSaved() const;
 
     std::vector<std::string> inputs;
+    /// Of each, whether it was when changes settled last. What was missing then need not be now.
+    std::vector<bool> wereWhole;
     FileWatch files;
     int signals;
 };
@@ -144,23 +154,27 @@ bool Changes::handleSignal(bool hasScreen) const {
 
 void Changes::settle() {
     auto const end = std::chrono::steady_clock::now() + s_patience;
-    for (;;) {
+    for (bool isQuiet = false; !isQuiet;) {
         auto const left =
             std::chrono::duration_cast<milliseconds>(end - std::chrono::steady_clock::now());
-        milliseconds const most = areWhole() ? std::min(s_quiet, left) : left;
+        milliseconds const most = isBeingSaved() ? left : std::min(s_quiet, left);
         pollfd source = {files.descriptor(), POLLIN, 0};
-        bool const isQuiet =
-            most.count() <= 0 || poll(&source, 1, static_cast<int>(most.count())) == 0;
-        if (isQuiet) return;
-        files.readChanges();
+        isQuiet = most.count() <= 0 || poll(&source, 1, static_cast<int>(most.count())) == 0;
+        if (!isQuiet) files.readChanges();
     }
+    noteWhole();
 }
 
-bool Changes::areWhole() const {
-    return std::all_of(inputs.begin(), inputs.end(), [](std::string const& file) {
-        struct stat status = {};
-        return stat(file.c_str(), &status) == 0 && status.st_size > 0;
-    });
+void Changes::noteWhole() {
+    wereWhole.resize(inputs.size());
+    std::transform(inputs.begin(), inputs.end(), wereWhole.begin(), isWhole);
+}
+
+bool Changes::isBeingSaved() const {
+    for (std::size_t i = 0; i < inputs.size(); ++i) {
+        if (wereWhole[i] && !isWhole(inputs[i])) return true;
+    }
+    return false;
 }
 
 /// Renders into files, or to the screen.

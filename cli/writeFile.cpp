@@ -16,14 +16,18 @@ namespace {
 constexpr mode_t s_anyMode = 0666;
 constexpr mode_t s_permissions = 0777;
 
-/// Writes everything and closes the file.
-int finish(int file, std::string_view content) {
-    int fault = 0;
-    while (fault == 0 && !content.empty()) {
+int writeAll(int file, std::string_view content) {
+    while (!content.empty()) {
         ssize_t const written = write(file, content.data(), content.length());
         if (written >= 0) content.remove_prefix(static_cast<std::size_t>(written));
-        if (written < 0 && errno != EINTR) fault = errno;
+        if (written < 0 && errno != EINTR) return errno;
     }
+    return 0;
+}
+
+/// Writes everything and closes the file.
+int finish(int file, std::string_view content) {
+    int const fault = writeAll(file, content);
     bool const isClosed = close(file) == 0;
     return fault == 0 && !isClosed ? errno : fault;
 }
@@ -59,27 +63,50 @@ bool makeAlike(int file, struct stat const& other) {
     return isOwned && fchmod(file, other.st_mode & s_permissions) == 0;
 }
 
-/// Creates a file beside `name`, since a rename stays within a file system. Sets `temporary`.
-int openBeside(std::string const& name, std::string& temporary) {
-    std::string const start =
-        name.substr(0, name.find_last_of('/') + 1) + ".galley-" + std::to_string(getpid()) + "-";
+/// Calls `create` with names that are not used otherwise in `folder`, until there was no such file.
+/// Returns what it did, and sets `name`.
+template <class Create>
+int createNew(std::string const& folder, std::string& name, Create const& create) {
     for (unsigned i = 0;; ++i) {
-        temporary = start + std::to_string(i);
-        int const file =
-            open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, s_anyMode);
-        if (file >= 0 || errno != EEXIST) return file;
+        name = folder + ".galley-" + std::to_string(getpid()) + "-" + std::to_string(i);
+        int const result = create(name.c_str());
+        if (result >= 0 || errno != EEXIST) return result;
     }
+}
+
+/// A file that has no name until it is whole: whatever ends the program, nothing of it stays. Fails
+/// where the file system has no such files, or there is no way to give them a name.
+int openUnnamed(std::string const& folder) {
+    if (access("/proc/self/fd", X_OK) != 0) return -1;
+    int const flags = O_WRONLY | O_TMPFILE | O_CLOEXEC;
+    return open(folder.empty() ? "." : folder.c_str(), flags, s_anyMode);
 }
 
 /// `existing` is what stands there now, if anything.
 int replaceFile(std::string const& name, std::string_view content, struct stat const* existing) {
+    // A rename stays within a file system.
+    std::string const folder = name.substr(0, name.find_last_of('/') + 1);
     std::string temporary;
-    int const file = openBeside(name, temporary);
+    int file = openUnnamed(folder);
+    bool const isUnnamed = file >= 0;
+    if (!isUnnamed) {
+        file = createNew(folder, temporary, [](char const* newName) {
+            return open(newName, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, s_anyMode);
+        });
+    }
     if (file < 0) return errno;
-    bool const isAlike = existing == nullptr || makeAlike(file, *existing);
-    int fault = isAlike ? 0 : errno;
-    int const writing = finish(file, content);
-    if (fault == 0) fault = writing;
+
+    int fault = existing == nullptr || makeAlike(file, *existing) ? 0 : errno;
+    if (fault == 0) fault = writeAll(file, content);
+    if (fault == 0 && isUnnamed) {
+        std::string const itself = "/proc/self/fd/" + std::to_string(file);
+        int const result = createNew(folder, temporary, [&](char const* newName) {
+            return linkat(AT_FDCWD, itself.c_str(), AT_FDCWD, newName, AT_SYMLINK_FOLLOW);
+        });
+        if (result != 0) fault = errno;
+    }
+    int const closing = finish(file, {});
+    if (fault == 0) fault = closing;
     if (fault == 0 && std::rename(temporary.c_str(), name.c_str()) != 0) fault = errno;
     if (fault != 0) unlink(temporary.c_str());
     return fault;
