@@ -53,18 +53,21 @@ bool takeSequence(std::string_view& text) {
     return true;
 }
 
+/// Ends rows where a line feed may stand in one, as part of a border.
+constexpr char const* s_rowEnd = "\x1e";
+
 /// Without escape bytes in the input, every sequence is the library's, and a row ends as it began.
-void requireOwnSequences(std::string_view page) {
+void requireOwnSequences(std::string_view rows) {
     bool isDefault = true;
-    while (!page.empty()) {
-        if (page.front() == '\x1b') {
-            isDefault = page.starts_with("\x1b[0m");
-            require(takeSequence(page), "only the library's escape sequences are on the page");
-            isDefault = isDefault && !page.starts_with("\x1b");
+    while (!rows.empty()) {
+        if (rows.front() == '\x1b') {
+            isDefault = rows.starts_with("\x1b[0m");
+            require(takeSequence(rows), "only the library's escape sequences are on the page");
+            isDefault = isDefault && !rows.starts_with("\x1b");
             continue;
         }
-        require(page.front() != '\n' || isDefault, "a row ends in the default attributes");
-        page.remove_prefix(1);
+        require(rows.front() != *s_rowEnd || isDefault, "a row ends in the default attributes");
+        rows.remove_prefix(1);
     }
 }
 
@@ -102,7 +105,7 @@ bool addLetters(DomNode const& node, bool isWithinLine, std::string& letters) {
 }
 
 /// The page by the public operations one after the other, which must be `page`.
-void requireSamePage(DomElement& root, unsigned width, std::string_view page) {
+void requireSamePage(DomElement& root, unsigned width, std::string_view page, bool isOwn) {
     ZRLWPtr<Box> const box = ZR::MovePtr<Box>(new BlockBox(&root));
     requireMessage(box->createChildren());
     Dimensions containing;
@@ -116,6 +119,11 @@ void requireSamePage(DomElement& root, unsigned width, std::string_view page) {
     String const drawn = canvas.dump("\n");
     require(budget.isExceeded() || drawn.view() == page,
             "the stages make the page of a conversion");
+    if (isOwn) requireOwnSequences(canvas.dump(s_rowEnd).view());
+}
+
+bool holds(Input const& input, char byte) {
+    return input.markup.indexOf(byte) >= 0 || input.sheet.indexOf(byte) >= 0;
 }
 
 void convert(Input const& input) {
@@ -141,13 +149,12 @@ void convert(Input const& input) {
     constexpr std::size_t s_largestPage = 100'000;
     constexpr int s_largestMarkup = 20'000;
     if (page.size() > s_largestPage || input.markup.length() > s_largestMarkup) return;
-    bool const hasEscapes = input.markup.indexOf('\x1b') >= 0 || input.sheet.indexOf('\x1b') >= 0;
-    if (!hasEscapes) requireOwnSequences(page);
+    bool const hasEscapes = holds(input, '\x1b');
 
     PullParser parser(input.markup);
     ZRLWPtr<DomElement> root;
     require(buildDomTree(root, true, parser, rules), "a conversion reads as the builder does");
-    requireSamePage(*root, input.width, page);
+    requireSamePage(*root, input.width, page, !hasEscapes && !holds(input, *s_rowEnd));
 
     std::string letters;
     bool const isPlain = rules.count == 0 && !hasEscapes && input.markup.indexOf('\0') < 0;

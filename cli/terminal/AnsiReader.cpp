@@ -6,13 +6,6 @@ namespace CLI::XML {
 
 namespace {
 
-/// The bytes of the sequence "\x1b[NUMBERm" at the beginning of `text`; 0 where there is none.
-std::size_t sequenceLength(std::string_view text) {
-    if (!text.starts_with("\x1b[")) return 0;
-    std::size_t const end = text.find_first_not_of("0123456789", 2);
-    return end != std::string_view::npos && text[end] == 'm' ? end + 1 : 0;
-}
-
 void apply(unsigned code, Look& look) {
     unsigned const color = code % 10;
     if (code == 0) look = {};
@@ -22,6 +15,12 @@ void apply(unsigned code, Look& look) {
 }
 
 }  // namespace
+
+std::size_t sequenceLength(std::string_view text) {
+    if (!text.starts_with("\x1b[")) return 0;
+    std::size_t const end = text.find_first_not_of("0123456789", 2);
+    return end != std::string_view::npos && text[end] == 'm' ? end + 1 : 0;
+}
 
 void AnsiReader::readSequences() {
     while (std::size_t const length = sequenceLength(page)) {

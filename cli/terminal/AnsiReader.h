@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <string_view>
 
 namespace CLI::XML {
@@ -20,6 +20,9 @@ struct Look {
     bool has(Attribute attribute) const { return (attributes >> attribute & 1U) != 0; }
     bool operator==(Look const&) const = default;
 };
+
+/// The bytes of the sequence "\x1b[NUMBERm" at the beginning of `text`; 0 where there is none.
+std::size_t sequenceLength(std::string_view text);
 
 /// Reads a page as the library makes it, run by run.
 class AnsiReader {
