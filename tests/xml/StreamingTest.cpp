@@ -68,6 +68,9 @@ TEST(Streaming, MakesThePageOfTheWholeTrees) {
         "<div padding-top=\"2147483637\" border-top-width=\"5\" padding-left=\"2\"/>",
         ("<p>a</p><p>b</p><p>c</p><div padding-left=\"2\" padding-top=\"2147483637\" "
          "border-top-width=\"11\"/>"),
+        // Rows in which only the border of a table stands are filled up to what is drawn below.
+        ("<table border-left-width=\"1\" padding-left=\"3\"><tr><td padding-top=\"2\"/></tr>"
+         "<tr><td>a</td></tr><tr><td padding-top=\"2\"/></tr></table>b"),
         "<b>a<tr/></b></p>",
         "<td>a</td><b",
         // Nothing of a page that could not be painted is painted before the failure.
@@ -180,7 +183,7 @@ private:
             }
             rows += "</tr>";
         }
-        return "<table>" + rows + "</table>";
+        return "<table" + attributes() + ">" + rows + "</table>";
     }
 
     std::string attributes() {

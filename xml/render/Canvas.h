@@ -134,6 +134,7 @@ public:
     String dump(String const& lineSeparator) const;
     /// Appends the rows above row `y` to `text` in the same form, each ended by a line feed, and
     /// forgets them: for a page of which nothing is drawn there any more. Rows keep their numbers.
+    /// Those from the last origin down in which nothing has been drawn since it was entered stay.
     /// False where there is no memory for all of the text, which is then without a part.
     bool moveRowsTo(String& text, unsigned y);
 

@@ -94,7 +94,9 @@ String Canvas::dump(String const& lineSeparator) const {
 }
 
 bool Canvas::moveRowsTo(String& text, unsigned y) {
-    std::uint64_t const end = std::min(std::uint64_t{y}, endOfRows());
+    std::uint64_t end = std::min(std::uint64_t{y}, endOfRows());
+    // Rows that were drawn in around the origin only get fillers once something is drawn below.
+    if (!frames.empty()) end = std::min(end, std::uint64_t{frames.back().end});
     if (end <= movedRows) return true;
     unsigned const moved = runs.empty() ? static_cast<unsigned>(end - movedRows) : cutAt(end);
     bool isComplete = true;
