@@ -75,6 +75,7 @@ void PageBuilder::endElement() {
     } else {
         ZRLWPtr<Box> box = std::move(subtree.back());
         subtree.pop_back();
+        if (box->type == Box::Cell) static_cast<CellBox&>(*box).takeRun();
         if (subtree.empty()) addSubtree(std::move(box));
     }
 }
@@ -154,8 +155,10 @@ void PageBuilder::take(ZRLWPtr<Box> box) {
     if (box->type == Box::Table) {
         BoxPainting painting(*box, canvas, innermost->painting.attributes(), BoxPainting::Complete);
         bool const isOnPage = innermost->paintsOnPage && painting.paintsDirectly();
-        // Row by row, so that of a long table few rows of cells are kept.
-        for (ZRLWPtr<Box> const& row : box->children) {
+        // Row by row, so that of a long table few rows of cells are kept, and each row is let go
+        // while it is at hand.
+        for (unsigned i = 0; i < box->children.count; ++i) {
+            ZRLWPtr<Box> const row = std::move(box->children[i]);
             row->drawTo(painting.canvas(), painting.attributes());
             Rect const& area = row->dimensions.content;
             if (isOnPage) releaseRows(std::int64_t{area.y} + area.height);

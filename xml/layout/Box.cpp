@@ -68,26 +68,22 @@ void Box::layout(Dimensions const& containing) {
 ZRLWPtr<Box> Box::split(int) { return {}; }
 
 void Box::initEdges() {
-    dimensions.padding = dimensions.border = dimensions.margin = EdgeSizes();
-    auto const cells = [this](StyleProperty const& side, StyleProperty const& allSides) {
-        String const* const value = findStyle(node, side, allSides);
-        return value != nullptr ? value->toInteger() : 0;
+    auto const cells = [this](StyleProperty const& property, std::int32_t fallback) {
+        String const* const value = findStyle(node, property);
+        return value != nullptr ? value->toInteger() : fallback;
     };
-    EdgeSizes& margin = dimensions.margin;
-    margin.left = cells(Property::s_marginLeft, Property::s_margin);
-    margin.right = cells(Property::s_marginRight, Property::s_margin);
-    margin.top = cells(Property::s_marginTop, Property::s_margin);
-    margin.bottom = cells(Property::s_marginBottom, Property::s_margin);
-    EdgeSizes& border = dimensions.border;
-    border.left = cells(Property::s_borderLeftWidth, Property::s_borderWidth);
-    border.right = cells(Property::s_borderRightWidth, Property::s_borderWidth);
-    border.top = cells(Property::s_borderTopWidth, Property::s_borderWidth);
-    border.bottom = cells(Property::s_borderBottomWidth, Property::s_borderWidth);
-    EdgeSizes& padding = dimensions.padding;
-    padding.left = cells(Property::s_paddingLeft, Property::s_padding);
-    padding.right = cells(Property::s_paddingRight, Property::s_padding);
-    padding.top = cells(Property::s_paddingTop, Property::s_padding);
-    padding.bottom = cells(Property::s_paddingBottom, Property::s_padding);
+    std::int32_t const margin = cells(Property::s_margin, 0);
+    dimensions.margin = {
+        cells(Property::s_marginLeft, margin), cells(Property::s_marginRight, margin),
+        cells(Property::s_marginTop, margin), cells(Property::s_marginBottom, margin)};
+    std::int32_t const border = cells(Property::s_borderWidth, 0);
+    dimensions.border = {
+        cells(Property::s_borderLeftWidth, border), cells(Property::s_borderRightWidth, border),
+        cells(Property::s_borderTopWidth, border), cells(Property::s_borderBottomWidth, border)};
+    std::int32_t const padding = cells(Property::s_padding, 0);
+    dimensions.padding = {
+        cells(Property::s_paddingLeft, padding), cells(Property::s_paddingRight, padding),
+        cells(Property::s_paddingTop, padding), cells(Property::s_paddingBottom, padding)};
 }
 
 }  // namespace CLI::XML

@@ -6,7 +6,7 @@
 #include "base/saturate.h"
 #include "xml/css/getNodeStyle.h"
 #include "xml/dom/DomElement.h"
-#include "xml/layout/InlineBox.h"
+#include "xml/layout/CellBox.h"
 #include "xml/render/BoxPainting.h"
 
 namespace CLI::XML {
@@ -107,7 +107,15 @@ void drawLeaf(Box const& box, Canvas& canvas, Attributes const& attributes) {
     canvas.drawClipped(shownText(box), content.x, content.y, attributes);
 }
 
-bool isEmptyCell(Box const& box) { return box.children.count == 0 && box.type == Box::Cell; }
+/// The words of a cell that took them from its only run.
+std::string_view runOf(Box const& box) {
+    return box.type == Box::Cell && box.isUnseen() ? static_cast<CellBox const&>(box).run()
+                                                   : std::string_view();
+}
+
+bool isEmptyCell(Box const& box) {
+    return box.type == Box::Cell && box.children.count == 0 && runOf(box).empty();
+}
 
 /// Draws the children without children from `first` on. Returns the index of the next one that is
 /// not.
@@ -142,6 +150,8 @@ Walk drawChildren(BoxPainting painting, unsigned next) {
 
 Walk drawTree(Box& box, Canvas& canvas, Attributes const& inherited) {
     BoxPainting painting(box, canvas, inherited, BoxPainting::Complete);
+    std::string_view const run = runOf(box);
+    if (!run.empty()) painting.canvas().drawClipped(run, 0, 0, painting.attributes());
     unsigned const next = drawLeaves(painting, 0);
     if (next < box.children.count) return drawChildren(std::move(painting), next);
     painting.finish();
