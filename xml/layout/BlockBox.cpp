@@ -18,9 +18,9 @@ struct Collector final : BlockFlow::Taker {
 
 Walk BlockBox::layOut(Dimensions const& containing, LayoutPass pass) {
     if (isLaidOutByItsOwn(containing, pass)) co_return;
-    bool const isSameWidth = containing.content.width == containingWidth;
+    bool const isSameWidth = containing.content.width == decisiveWidth;
     if (pass.again && isSettled && isSameWidth) co_return;
-    containingWidth = containing.content.width;
+    decisiveWidth = containing.content.width;
     Collector collector;
     BlockFlow flow(*this, containing, collector);
     for (unsigned i = 0; i < children.count; ++i) {

@@ -23,10 +23,6 @@ public:
 protected:
     /// For a derived class, with the kind that it is.
     BlockBox(DomNode* rendered, Type boxType) : Box(rendered, boxType) {}
-
-private:
-    /// What the last layout was offered.
-    std::int32_t containingWidth = 0;
 };
 
 }  // namespace CLI::XML

@@ -75,9 +75,9 @@ public:
     ZRVector<ZRLWPtr<Box>> children;
     /// Where a run begins in the text of `node`, in bytes.
     std::int32_t runBegin = 0;
-    /// Of an inline element that has been laid out: no block among its children is wider, in
-    /// columns with its edges.
-    std::int32_t widestBlock = 0;
+    /// Known from the last layout, in columns. Of a block, the width that it was offered; of an
+    /// inline element, a width that no block among its children exceeds with its edges.
+    std::int32_t decisiveWidth = 0;
 
     /// A box without children, with the edges that the style of `rendered` gives it; the node is
     /// null for a line box only.

@@ -25,7 +25,7 @@ public:
         : box(laidOut),
           pass(asked),
           row(laidOut.dimensions),
-          widestBlock(asked.isLimited ? laidOut.widestBlock : 0) {}
+          widestBlock(asked.isLimited ? laidOut.decisiveWidth : 0) {}
 
     bool isDone() const { return isFull || next == box.children.count; }
 
@@ -79,7 +79,7 @@ public:
         box.isSettled = areAllSettled && isComplete;
         box.isMeasured = areAllMeasured && isComplete && isWidthModerate();
         box.mayShrink = mayShrink;
-        box.widestBlock = widestBlock;
+        box.decisiveWidth = widestBlock;
     }
 
 private:

@@ -191,7 +191,7 @@ ZRLWPtr<Box> wrap(Rest& rest, Box& box) {
     clone->children = std::move(rest.boxes);
     clone->hasSpecialChild = rest.isSpecial;
     clone->holdsBlock = box.holdsBlock;
-    clone->widestBlock = box.widestBlock;
+    clone->decisiveWidth = box.decisiveWidth;
     if (rest.isMeasured && isModerate(rest.width)) {
         clone->isMeasured = true;
         clone->mayShrink = box.mayShrink;

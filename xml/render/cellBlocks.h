@@ -44,11 +44,14 @@ inline bool readBlock(Canvas::Byte const* cells, unsigned attributeIndex, char* 
     std::memcpy(block, cells, sizeof block);
     std::uint32_t const look = bitsOf(Canvas::Byte::make(0, attributeIndex));
     std::uint32_t difference = 0;
-    for (std::uint32_t const cell : block) difference |= cell ^ look;
+    std::uint32_t borrowed = 0;
+    for (std::uint32_t const cell : block) {
+        difference |= cell ^ look;
+        borrowed |= (cell & 0xFF) - 1;
+    }
     for (std::size_t i = 0; i < s_cellsInBlock; ++i) shown[i] = static_cast<char>(block[i]);
-    unsigned empty = 0;
-    for (std::size_t i = 0; i < s_cellsInBlock; ++i) empty |= shown[i] == '\0' ? 1U : 0U;
-    return difference <= 0xFF && empty == 0;
+    // Only from 0 has the highest bit been borrowed.
+    return difference <= 0xFF && borrowed <= 0xFF;
 }
 
 }  // namespace CLI::XML
