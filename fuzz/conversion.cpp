@@ -84,8 +84,22 @@ std::string lettersOf(std::string_view page) {
     return letters;
 }
 
+/// Whether a row has fewer cells than one above it: a column that it makes wider may then reach
+/// over the next one.
+bool hasShorterRow(DomElement const& table) {
+    unsigned longest = 0;
+    for (ZRLWPtr<DomNode> const& child : table.children) {
+        DomElement const* const row = asElement(child.object);
+        unsigned const cells = row != nullptr ? row->children.count : 0;
+        if (cells < longest) return true;
+        longest = cells;
+    }
+    return false;
+}
+
 /// Adds the letters below `node` in document order. False where the order of a page may be another:
-/// below attributes, and where a block stands within an inline element or a cell.
+/// below attributes, where a block stands within an inline element or a cell, and in a table with a
+/// row that is shorter than one above it.
 bool addLetters(DomNode const& node, bool isWithinLine, std::string& letters) {
     DomElement const* const element = asElement(&node);
     if (element == nullptr) {
@@ -98,6 +112,7 @@ bool addLetters(DomNode const& node, bool isWithinLine, std::string& letters) {
     bool const isOnLine =
         element->display == DomNode::Inline || element->display == DomNode::TableCell;
     if (isWithinLine && element->display != DomNode::Inline) return false;
+    if (element->display == DomNode::Table && hasShorterRow(*element)) return false;
     for (ZRLWPtr<DomNode> const& child : element->children) {
         if (!addLetters(*child, isOnLine, letters)) return false;
     }
