@@ -11,7 +11,6 @@
 #include "base/String.h"
 #include "cli/outputNames.h"
 #include "cli/report.h"
-#include "cli/terminal/controls.h"
 
 namespace {
 
@@ -110,12 +109,14 @@ void defineOptions(CLI::App& app, Options& options) {
     app.set_version_flag("--version", "galley " GALLEY_VERSION);
     app.add_option("FILE", options.documents,
                    "The documents, in the order of their pages; \"-\" or nothing is standard input")
-        ->option_text("...");
+        ->option_text("...")
+        ->check(isName);
 
     app.add_option("--css", options.sheets,
                    "A style sheet; any number of them, their rules in the order given")
         ->option_text("FILE")
         ->allow_extra_args(false)
+        ->check(isName)
         ->group("Page");
     addNumber(app, "--width", options.width,
               "Width of the page in columns (default: that of the terminal on standard output, "
@@ -224,14 +225,35 @@ void settle(Options& options) {
     }
 }
 
+/// Of "--output= FILE" the parser would take FILE for the value, and it would be overwritten.
+void refuseEmptyValues(CLI::App const& app, int argc, char** argv) {
+    for (int i = 1; i < argc && std::string_view(argv[i]) != "--"; ++i) {
+        std::string_view const argument = argv[i];
+        bool const isEmpty =
+            argument.starts_with("--") && argument.find('=') + 1 == argument.length();
+        if (!isEmpty) continue;
+        std::string const name(argument.substr(0, argument.length() - 1));
+        CLI::Option const* const option = app.get_option_no_throw(name);
+        if (option != nullptr && option->get_items_expected_max() > 0) {
+            throw CLI::ArgumentMismatch(name + ": no value is given");
+        }
+    }
+}
+
 /// As the tool's other errors begin.
 std::string usageError(CLI::App const*, CLI::Error const& error) {
+    struct Wording {
+        char const* theirs;
+        char const* ours;
+    };
+    constexpr Wording wordings[] = {{": 1 required ", ": no value is given"},
+                                    {": At Most 1 required ", ": given more than once"}};
     std::string message = error.what();
-    std::size_t const fault = message.find(": 1 required ");
-    if (fault != std::string::npos) message = message.substr(0, fault) + ": no value is given";
-    String text(message.c_str());
-    CLI::XML::replaceControls(text);
-    return errorText("galley", text.c_str()) + "Run with --help for more information.\n";
+    for (auto const& [theirs, ours] : wordings) {
+        std::size_t const fault = message.find(theirs);
+        if (fault != std::string::npos) message = message.substr(0, fault) + ours;
+    }
+    return errorText("galley", message) + "Run with --help for more information.\n";
 }
 
 /// What is said about the tool before its options.
@@ -274,6 +296,7 @@ std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& optio
     try {
         defineApp(app);
         defineOptions(app, options);
+        refuseEmptyValues(app, argc, argv);
         app.parse(argc, argv);
         settle(options);
     } catch (CLI::ParseError const& error) {

@@ -1,7 +1,10 @@
 // The box tree as indented text, with the geometry that layout left.
 
+#include <cstdio>
 #include <iterator>
+#include <string>
 
+#include "base/append.h"
 #include "xml/dom/DomNode.h"
 #include "xml/layout/Box.h"
 
@@ -13,6 +16,9 @@ namespace {
 constexpr char const* s_labels[] = {
     "block:  ", "line:   ", "inline: ", "table:  ", "row:    ", "cell:   "};
 
+/// Bytes of four numbers of up to 11 characters, what stands around them, and the end.
+constexpr std::size_t s_longestGeometry = 64;
+
 char const* labelOf(Box::Type type) {
     auto const index = static_cast<unsigned>(type);
     return index < std::size(s_labels) ? s_labels[index] : "???:    ";
@@ -20,15 +26,15 @@ char const* labelOf(Box::Type type) {
 
 Walk dumpTree(Box const& box, unsigned indent, String& out) {
     Rect const& content = box.dimensions.content;
-    String line = String::repeat(" ", indent);
-    line += labelOf(box.type);
-    line += box.node != nullptr ? box.node->toString() : String("(anonymous)");
-    line += ": ";
-    line.concatf("(%d, %d, %d, %d)\n", content.x, content.y, content.width, content.height);
-    out.appendGrowing(line.view());
+    String const name = box.node != nullptr ? box.node->toString() : String::s_empty;
+    char geometry[s_longestGeometry];
+    std::snprintf(geometry, sizeof geometry, ": (%d, %d, %d, %d)\n", content.x, content.y,
+                  content.width, content.height);
+    append(out, std::string(indent, ' '), labelOf(box.type),
+           box.node != nullptr ? name.view() : "(anonymous)", geometry);
     for (ZRLWPtr<Box> const& child : box.children) {
         if (child->isForeign()) {
-            out.appendGrowing(child->dump(indent + 2).view());
+            append(out, child->dump(indent + 2).view());
         } else {
             co_await dumpTree(*child, indent + 2, out);
         }

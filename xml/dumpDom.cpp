@@ -1,6 +1,9 @@
 // The document tree as indented text.
 
+#include <string>
+
 #include "base/Walk.h"
+#include "base/append.h"
 #include "xml/dom/DomElement.h"
 #include "xml/dom/DomText.h"
 
@@ -10,17 +13,14 @@ namespace {
 
 Walk dumpTree(DomNode const& node, unsigned indent, String& out) {
     DomElement const* const element = asElement(&node);
-    String line = String::repeat(" ", indent);
+    std::string const margin(indent, ' ');
     if (element == nullptr) {
-        line += "'";
-        line += static_cast<DomText const&>(node).text.c_str();
-        line += "'\n";
-    } else {
-        line += element->name.c_str();
-        line += ":\n";
+        // A NUL byte ends a text, as in all that is formatted.
+        char const* const text = static_cast<DomText const&>(node).text.c_str();
+        append(out, margin, "'", text, "'\n");
+        co_return;
     }
-    out.appendGrowing(line.view());
-    if (element == nullptr) co_return;
+    append(out, margin, element->name.c_str(), ":\n");
     for (ZRLWPtr<DomNode> const& child : element->children) {
         co_await dumpTree(*child, indent + 2, out);
     }

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "cli/terminal/append.h"
+#include "base/append.h"
 #include "cli/terminal/controls.h"
 
 using CLI::XML::append;

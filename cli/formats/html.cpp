@@ -1,7 +1,7 @@
+#include "base/append.h"
 #include "cli/formats/characters.h"
 #include "cli/formats/formats.h"
 #include "cli/formats/style.h"
-#include "cli/terminal/append.h"
 
 using CLI::XML::AnsiReader;
 using CLI::XML::append;

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "base/append.h"
 #include "cli/terminal/AnsiReader.h"
-#include "cli/terminal/append.h"
 
 void CLI::XML::makePlain(String& page) {
     if (page.indexOf('\x1b') < 0) return;

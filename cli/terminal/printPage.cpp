@@ -2,8 +2,8 @@
 
 #include <new>
 
+#include "base/append.h"
 #include "cli/terminal/addSheet.h"
-#include "cli/terminal/append.h"
 #include "cli/terminal/controls.h"
 #include "cli/terminal/plain.h"
 #include "cli/terminal/terminal.h"

@@ -11,6 +11,13 @@ TEST_F(Tool, ReadsAFileOrStandardInput) {
     EXPECT_EQ(run("-", "<p>piped</p>").out, "piped\n");
 }
 
+TEST_F(Tool, SkipsTheMarkThatEditorsPutBeforeUtf8) {
+    std::string const mark = "\xef\xbb\xbf";
+    write("page.xml", mark + "<p>a</p>" + mark);
+    write("sheet.css", mark + "p { padding-left: 2; }");
+    EXPECT_EQ(run("--css sheet.css page.xml").out, "  a\n" + mark + "\n");
+}
+
 TEST_F(Tool, JoinsTheRulesOfAllSheetsInTheirOrder) {
     write("one.css", "p { padding-left: 1; } b { padding-left: 3; }");
     write("two.css", "p { padding-left: 2; }");
@@ -75,6 +82,11 @@ TEST_F(Tool, SaysWhichFileAndLineIsAtFault) {
         {"--css absent.css", "", 3, "absent.css: error: No such file or directory\n"},
         {"\"$(printf 'a\\033b')\"", "", 3, "a?b: error: No such file or directory\n"},
         {".", "", 3, ".: error: Is a directory\n"},
+        {"\"$(printf 'a\\nb\\tc')\"", "", 3, "a?b?c: error: No such file or directory\n"},
+        {"", "<p\f/>", 1,
+         "<stdin>:1: error: Invalid tag: <p?>\n"
+         "    1 | <p />\n"
+         "      | ^\n"},
         {">/dev/full", "<p>x</p>", 3, "<stdout>: error: No space left on device\n"},
     };
     for (Case const& c : cases) {
@@ -95,6 +107,7 @@ TEST_F(Tool, SaysWhereMemoryEnds) {
 }
 
 TEST_F(Tool, RefusesWhatItDoesNotKnow) {
+    write("page.xml", "page");
     for (char const* arguments : {"--nonsense",
                                   "--width x",
                                   "--width -1",
@@ -121,6 +134,11 @@ TEST_F(Tool, RefusesWhatItDoesNotKnow) {
                                   "--watch --pager a.xml",
                                   "--pager --output-dir b",
                                   "--output ''",
+                                  "--output= page.xml",
+                                  "page.xml --css= --raw",
+                                  "--color= always",
+                                  "--css '' page.xml",
+                                  "'' page.xml",
                                   "--output a --output-dir b",
                                   "--output a b.xml c.xml",
                                   "--output-dir d a/x.xml b/x.htm",
@@ -130,9 +148,13 @@ TEST_F(Tool, RefusesWhatItDoesNotKnow) {
         EXPECT_EQ(outcome.out, "") << arguments;
         EXPECT_TRUE(outcome.err.starts_with("galley: error: ")) << outcome.err;
     }
-    EXPECT_EQ(run("--width=").err,
-              "galley: error: --width: no value is given\n"
-              "Run with --help for more information.\n");
+    std::string const more = "\nRun with --help for more information.\n";
+    EXPECT_EQ(run("--width=").err, "galley: error: --width: no value is given" + more);
+    EXPECT_EQ(run("--width 1 --width 2").err,
+              "galley: error: --width: given more than once" + more);
+    EXPECT_EQ(run("\"$(printf -- '--a\\nb')\"").err,
+              "galley: error: The following argument was not expected: --a?b" + more);
+    EXPECT_EQ(read("page.xml"), "page");
     EXPECT_EQ(run("--help").status, 0);
     EXPECT_EQ(run("--version").out.rfind("galley ", 0), 0U);
 }

@@ -5,8 +5,7 @@
 #include <new>
 #include <string>
 
-#include "tests/support/document.h"
-#include "xml/layout/BlockBox.h"
+#include "tests/support/boxes.h"
 #include "xml/xml.h"
 
 namespace {
@@ -208,6 +207,15 @@ TEST(AllocationFailure, LeavesTreesThatCanBeReleasedWithoutMemory) {
         });
         for (ZRLWPtr<StyleNode> const& rule : sheet.rules) EXPECT_EQ(rule->refCount, 1);
     }
+}
+
+TEST(AllocationFailure, NeverLeavesADumpInPieces) {
+    Page page("<div>Hi <b>you</b></div><table><tr><td>a</td></tr></table>");
+    page.layOut(80);
+    String const tree = page.root->dump(20);
+    String const boxes = page.box->dump(20);
+    failEachAllocation("dump", [&] { EXPECT_EQ(page.root->dump(20), tree); });
+    failEachAllocation("dump", [&] { EXPECT_EQ(page.box->dump(20), boxes); });
 }
 
 TEST(AllocationFailure, LeavesAStringAsItWas) {

@@ -24,7 +24,7 @@ public:
     /// What names the node in messages and dumps: an element's name, or a text in single quotes.
     virtual String toString() const = 0;
     /// The subtree as text, one line a node: this one behind `indent` spaces, each level of the
-    /// tree two deeper.
+    /// tree two deeper. Throws std::bad_alloc where it would be 2 GiB or more.
     virtual String dump(unsigned indent) const = 0;
 
 protected:

@@ -115,7 +115,7 @@ public:
     /// Applies colour and font style for the content.
     virtual void applyContentAttributes(Canvas::Attributes& attributes);
     /// The subtree as text, one line a box: this one behind `indent` spaces, each level of the
-    /// tree two deeper.
+    /// tree two deeper. Throws std::bad_alloc where it would be 2 GiB or more.
     virtual String dump(unsigned indent) const;
 
     /// The value of a style property of the box's own element, or `defaultValue`.

@@ -1,6 +1,6 @@
 #include "xml/layout/Words.h"
 
-#include <new>
+#include "base/append.h"
 
 namespace CLI::XML {
 
@@ -73,7 +73,7 @@ void Words::addRun(Boxes& boxes, std::string_view words) {
         run->isRun = true;
         run->runBegin = text->text.length();
     }
-    if (!text->text.appendGrowing(words)) throw std::bad_alloc();
+    append(text->text, words);
     run->dimensions.content.width += static_cast<std::int32_t>(words.length());
     sizeLeaf(*run);
 }
