@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace {
@@ -31,9 +32,13 @@ pid_t spawnShell(std::string command, int input, sigset_t const& defaults) {
     return isStarted ? process : -1;
 }
 
-/// What a shell says of a command that it cannot run, or does not find.
-bool isShellFailure(int status) {
-    return WIFEXITED(status) && (WEXITSTATUS(status) == 126 || WEXITSTATUS(status) == 127);
+/// Of a shell: the command failed, or it could not run it, find it or make sense of it.
+bool hasFailed(int status) { return WIFEXITED(status) && WEXITSTATUS(status) != 0; }
+
+/// A further end of a pipe, to see what is left in it; -1 where there is no way to have one.
+int openReadEnd(int sink) {
+    std::string const name = "/proc/self/fd/" + std::to_string(sink);
+    return open(name.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
 }
 
 }  // namespace
@@ -81,12 +86,19 @@ bool PagerProcess::send(std::string_view text) {
 
 bool PagerProcess::finish() {
     if (process < 0) return hasRun;
+    int const source = openReadEnd(sink);
     // Without an end it would wait for more.
     close(sink);
     sink = -1;
     int status = 0;
     while (waitpid(process, &status, 0) < 0 && errno == EINTR) continue;
     process = -1;
-    hasRun = hasRead() || !isShellFailure(status);
+    // A pager that was quit may fail, too, but has read something.
+    auto left = static_cast<int>(std::min(sent, capacity));
+    if (source >= 0) {
+        ioctl(source, FIONREAD, &left);
+        close(source);
+    }
+    hasRun = static_cast<std::size_t>(left) < sent || !hasFailed(status);
     return hasRun;
 }

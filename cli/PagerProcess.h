@@ -39,8 +39,8 @@ public:
     bool send(std::string_view text);
     /// Whether more was sent than waits in the pipe.
     bool hasRead() const { return sent > capacity; }
-    /// Ends the text and waits for the pager. Returns false where the shell did not find it or
-    /// could not run it, or there was no shell; later calls return the same.
+    /// Ends the text and waits for the pager. Returns false where it failed and has read nothing,
+    /// or there was no shell to run it; later calls return the same.
     bool finish();
 
 private:

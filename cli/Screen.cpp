@@ -9,6 +9,7 @@
 #include <csignal>
 #include <utility>
 
+#include "cli/columns.h"
 #include "cli/files.h"
 
 namespace {
@@ -50,20 +51,33 @@ std::vector<std::string> splitRows(std::string_view text) {
     return rows;
 }
 
+/// The index behind what fits into `width` columns of a row from `i` on. Sequences take none.
+std::size_t endOfRow(std::string_view row, std::size_t i, std::size_t width) {
+    while (i < row.length()) {
+        if (row[i] == '\x1b') {
+            i = std::min(row.find('m', i), row.length() - 1) + 1;
+            continue;
+        }
+        std::size_t const columns = columnsAt(row, i);
+        if (columns > width) break;
+        width -= columns;
+        i += lengthAt(row, i);
+    }
+    return i;
+}
+
 /// Goes on in a further row where a character finds no room.
 std::vector<std::string> breakRows(std::string_view text, std::size_t width) {
     std::vector<std::string> broken;
     for (std::string const& row : splitRows(text)) {
-        broken.emplace_back();
-        std::size_t length = 0;
-        for (char const byte : row) {
-            bool const beginsCharacter = (static_cast<unsigned char>(byte) & 0xC0U) != 0x80;
-            if (beginsCharacter && length++ == width) {
-                broken.emplace_back();
-                length = 1;
-            }
-            broken.back() += byte;
-        }
+        std::size_t start = 0;
+        do {
+            // One that is wider than the screen has a row, too.
+            std::size_t const end = std::max(endOfRow(row, start, width),
+                                             start + (row.empty() ? 0 : lengthAt(row, start)));
+            broken.push_back(row.substr(start, end - start));
+            start = end;
+        } while (start < row.length());
     }
     return broken;
 }
@@ -83,7 +97,7 @@ std::size_t firstChange(std::vector<std::string> const& a, std::vector<std::stri
 }  // namespace
 
 void Screen::enter() {
-    s_isKnown = tcgetattr(STDOUT_FILENO, &s_before) == 0 ? 1 : 0;
+    if (s_isEntered == 0) s_isKnown = tcgetattr(STDOUT_FILENO, &s_before) == 0 ? 1 : 0;
     s_isEntered = 1;
     termios silent = s_before;
     silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
@@ -126,7 +140,9 @@ int Screen::show(std::string_view page, std::string_view errors) {
 
     std::string text(s_home);
     for (std::size_t i = 0; i < shown.size(); ++i) {
-        text.append(i == 0 ? "" : "\r\n").append(s_clearRow).append(shown[i]);
+        // The terminal would show the end of a row that is too long in its last column.
+        std::size_t const length = endOfRow(shown[i], 0, columns);
+        text.append(i == 0 ? "" : "\r\n").append(s_clearRow).append(shown[i], 0, length);
     }
     if (shown.size() < size.ws_row) text.append(shown.empty() ? "" : "\r\n").append(s_clearBelow);
     return writeOutput(text);

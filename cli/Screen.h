@@ -13,7 +13,8 @@ public:
     Screen& operator=(Screen const&) = delete;
     ~Screen() { leave(); }
 
-    /// What the terminal shows stays as it is, underneath.
+    /// What the terminal shows stays as it is, underneath. Once more, it makes up for what others
+    /// did to the terminal meanwhile.
     static void enter();
     /// Brings that back, the cursor and the echo of keys; what was typed meanwhile is dropped. Does
     /// nothing the second time. The handler of a signal may call it.

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <optional>
 
-#include "base/String.h"
+#include "base/append.h"
 #include "cli/locateError.h"
 #include "cli/sourceExcerpt.h"
 #include "cli/terminal/controls.h"
@@ -29,11 +29,22 @@ Message parseMessage(std::string_view message) {
     return {message.substr(number, end - number), message.substr(end + 2)};
 }
 
+/// Leaves nothing in a text that would drive a terminal or end the line.
+std::string inOneLine(std::string_view text) {
+    String line;
+    CLI::XML::append(line, text);
+    CLI::XML::replaceControls(line);
+    std::string shown(line.view());
+    auto const isControl = [](char c) { return c >= '\t' && c <= '\r'; };
+    std::replace_if(shown.begin(), shown.end(), isControl, '?');
+    return shown;
+}
+
 /// The first line of what is said about a place of a file.
 std::string heading(std::string const& file, std::string_view line, std::string_view words) {
     std::string text = file;
     if (!line.empty()) text.append(":").append(line);
-    return text.append(": ").append(words) + '\n';
+    return text.append(": ").append(inOneLine(words)) + '\n';
 }
 
 std::string lineText(std::string_view source, std::size_t position) {
@@ -43,10 +54,7 @@ std::string lineText(std::string_view source, std::size_t position) {
 }  // namespace
 
 std::string displayName(std::string const& file) {
-    if (file == "-") return "<stdin>";
-    String name(file.c_str());
-    CLI::XML::replaceControls(name);
-    return name.c_str();
+    return file == "-" ? "<stdin>" : inOneLine(file);
 }
 
 std::string errorText(std::string const& file, std::string const& message, std::string_view source,

@@ -3,7 +3,8 @@
 #include <string>
 #include <string_view>
 
-/// How messages name a file: "-" is "<stdin>", and control characters are question marks.
+/// How messages name a file: "-" is "<stdin>", and control characters, line feeds and tabs
+/// included, are question marks.
 std::string displayName(std::string const& file);
 
 /// What a message of the library is about.
@@ -14,7 +15,8 @@ enum class SourceKind { Document, Sheet };
 /// to be follows as "FILE:LINE: note: ...". Where no place is known it is the first line alone,
 /// with LINE only where the message has one.
 ///
-/// `file` is a name for display; `source` is what the library was given, empty where the message
+/// `file` is a name for display, and control characters of `message` become question marks, too;
+/// `source` is what the library was given, empty where the message
 /// is not about a source.
 std::string errorText(std::string const& file, std::string const& message,
                       std::string_view source = {}, SourceKind kind = SourceKind::Document);

@@ -1,9 +1,8 @@
 #include "cli/sourceExcerpt.h"
 
 #include <algorithm>
-#include <clocale>
-#include <cwchar>
 
+#include "cli/columns.h"
 #include "cli/terminal/controls.h"
 
 using CLI::XML::characterLength;
@@ -16,36 +15,6 @@ constexpr std::size_t s_longestCharacter = 4;
 constexpr std::string_view s_cut = "...";
 /// Digits that a line number has room for.
 constexpr std::size_t s_numberWidth = 5;
-
-/// Bytes of the character at `i`; one where there is none in UTF-8.
-std::size_t lengthAt(std::string_view line, std::size_t i) {
-    return std::max<std::size_t>(characterLength(line, i), 1);
-}
-
-wchar_t decode(std::string_view character) {
-    auto const byteAt = [character](std::size_t i) {
-        return static_cast<unsigned char>(character[i]);
-    };
-    std::size_t const length = character.length();
-    // The lead has a bit set for each byte, and a zero.
-    unsigned code = length == 1 ? byteAt(0) : byteAt(0) & (0x7FU >> length);
-    for (std::size_t i = 1; i < length; ++i) code = code << 6 | (byteAt(i) & 0x3FU);
-    return static_cast<wchar_t>(code);
-}
-
-/// Columns that the character at `i` takes on a terminal, a tab one: none where it is shown with
-/// the one before it, two where it is wide.
-unsigned columnsAt(std::string_view line, std::size_t i) {
-    std::size_t const length = lengthAt(line, i);
-    if (length == 1) return 1;
-    // Whatever the environment says, since the text is UTF-8.
-    static locale_t const s_utf8 = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-    if (s_utf8 == nullptr) return 1;
-    locale_t const former = uselocale(s_utf8);
-    int const columns = wcwidth(decode(line.substr(i, length)));
-    uselocale(former);
-    return columns < 0 ? 1 : static_cast<unsigned>(columns);
-}
 
 /// The index behind the characters from `i` on that fit into `room` columns.
 std::size_t forward(std::string_view line, std::size_t i, unsigned room) {

@@ -55,6 +55,7 @@ int openSignals() {
     sigemptyset(&signals);
     sigaddset(&signals, SIGWINCH);
     sigaddset(&signals, SIGTSTP);
+    sigaddset(&signals, SIGCONT);
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
     return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
@@ -147,8 +148,9 @@ bool Changes::handleSignal(bool hasScreen) const {
     if (signal.ssi_signo == SIGTSTP) {
         Screen::leave();
         stop();
-        if (hasScreen) Screen::enter();
     }
+    // Something else may have stopped it, and the terminal is not as it was left.
+    if (hasScreen && signal.ssi_signo != SIGWINCH) Screen::enter();
     return true;
 }
 

@@ -31,7 +31,8 @@ std::string bashCase(OptionEntry const& entry) {
     std::string const words = choiceWords(entry);
     std::string action = "return";  // the default: files
     if (entry.argument == "N") action = "compopt +o default 2>/dev/null; return";
-    if (entry.argument == "DIR") action = "_galley_offer -d; return";
+    if (entry.argument == "DIR")
+        action = "compopt -o filenames 2>/dev/null; _galley_offer -d; return";
     if (!words.empty()) action = "_galley_offer -W " + quoted(words) + "; return";
     return "        " + entry.name + ") " + action + " ;;\n";
 }
@@ -98,7 +99,7 @@ std::string makeBashCompletion() {
            quoted(names) +
            "\n"
            "}\n\n"
-           "complete -o default -o filenames -F _galley galley\n";
+           "complete -o default -F _galley galley\n";
 }
 
 std::string makeZshCompletion() {

@@ -37,6 +37,10 @@ TEST_F(Pager, ShowsWhatATerminalWouldAndTheErrorsBehindIt) {
         {"kill -INT $$; cat", "bold.xml", 0, "", ""},
         {"galley-nosuch", "--color never bold.xml bad.xml bold.xml", 1,
          "x y z \r\nab\r\nx y z \r\nab\r\n", "galley: error: Cannot run the pager 'galley-nosuch'"},
+        {"cat (", "--color never bold.xml", 0, "x y z \r\nab\r\n",
+         "galley: error: Cannot run the pager 'cat ('"},
+        {"cat; exit 2", "--color never bold.xml", 0, "x y z \r\nab\r\n", ""},
+        {"a\tb\nc", "--color never bold.xml", 0, "x y z \r\nab\r\n", "'a?b?c'"},
         {"/dev/null", "--color never bold.xml", 0, "x y z \r\nab\r\n", "Cannot run the pager"},
     };
     for (Case const& c : cases) {
