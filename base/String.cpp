@@ -158,15 +158,17 @@ bool String::reserve(int length) {
     return true;
 }
 
-bool String::appendGrowing(std::string_view s) {
+bool String::growFor(std::size_t n) {
     auto const longest = static_cast<std::size_t>(s_longestText);
     auto const former = static_cast<std::size_t>(length());
-    if (s.length() > longest - former) return false;
-    std::size_t const needed = former + s.length();
-    if (!hasRoomFor(static_cast<int>(needed)) &&
-        !reserve(static_cast<int>(std::min(std::max(needed, former * 2), longest)))) {
-        return false;
-    }
+    if (n > longest - former) return false;
+    std::size_t const needed = former + n;
+    return hasRoomFor(static_cast<int>(needed)) ||
+           reserve(static_cast<int>(std::min(std::max(needed, former * 2), longest)));
+}
+
+bool String::appendGrowing(std::string_view s) {
+    if (!growFor(s.length())) return false;
     concat(s.data(), static_cast<int>(s.length()));
     return true;
 }

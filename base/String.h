@@ -122,9 +122,12 @@ public:
     /// False, with nothing changed, when there is no memory for it.
     bool reserve(int length);
 
-    /// Appends `s`, which is not in this string, to a text that is built piece by piece: where the
-    /// buffer must grow it at least doubles, so that the pieces together cost linear time. False,
-    /// with nothing changed, where there is no memory for it.
+    /// Makes room for `n` characters behind a text that is built piece by piece: where the buffer
+    /// must grow it at least doubles, so that the pieces together cost linear time. False, with
+    /// nothing changed, when there is no memory for it.
+    bool growFor(std::size_t n);
+    /// Appends `s`, which is not in this string, to such a text. False, with nothing changed, when
+    /// there is no memory for it.
     bool appendGrowing(std::string_view s);
     /// Gives back what the buffer holds beyond that of a fresh copy of the text.
     void shrinkToFit();

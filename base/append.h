@@ -7,11 +7,12 @@
 
 namespace CLI::XML {
 
-/// Appends `pieces` to a text that is built piece by piece.
+/// Appends `pieces`, which are not in `text`, to a text that is built piece by piece, or throws
+/// std::bad_alloc and leaves it as it was.
 template <class... Pieces>
 void append(String& text, Pieces const&... pieces) {
-    bool const isComplete = (text.appendGrowing(pieces) && ...);
-    if (!isComplete) throw std::bad_alloc();
+    if (!text.growFor((std::string_view(pieces).length() + ...))) throw std::bad_alloc();
+    (text.appendGrowing(pieces), ...);
 }
 
 }  // namespace CLI::XML
