@@ -12,7 +12,10 @@ namespace CLI::XML {
 template <class... Pieces>
 void append(String& text, Pieces const&... pieces) {
     if (!text.growFor((std::string_view(pieces).length() + ...))) throw std::bad_alloc();
-    (text.appendGrowing(pieces), ...);
+    auto const add = [&text](std::string_view piece) {
+        text.concat(piece.data(), static_cast<int>(piece.length()));
+    };
+    (add(pieces), ...);
 }
 
 }  // namespace CLI::XML
