@@ -151,8 +151,9 @@ void defineOptions(CLI::App& app, Options& options) {
             ->excludes(format)
             ->group("Output");
     app.add_flag("--raw", options.isRaw,
-                 "Pass control characters of the document and the sheets on to the terminal; the "
-                 "formats plain, html and svg never hold any")
+                 "Pass control characters of the document and the sheets on to the terminal; "
+                 "without it, and in other formats than ansi, all but white space are question "
+                 "marks")
         ->group("Output");
     std::string const wholeOrNot = "whole or, where the document fails, not at all";
     CLI::Option* const output =

@@ -32,8 +32,11 @@ pid_t spawnShell(std::string command, int input, sigset_t const& defaults) {
     return isStarted ? process : -1;
 }
 
-/// Of a shell: the command failed, or it could not run it, find it or make sense of it.
-bool hasFailed(int status) { return WIFEXITED(status) && WEXITSTATUS(status) != 0; }
+/// Of a shell: the command failed, or it could not run it, find it or make sense of it. Ctrl-C is
+/// no failure.
+bool hasFailed(int status) {
+    return WIFEXITED(status) ? WEXITSTATUS(status) != 0 : WTERMSIG(status) != SIGINT;
+}
 
 /// A further end of a pipe, to see what is left in it; -1 where there is no way to have one.
 int openReadEnd(int sink) {
