@@ -4,6 +4,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <iostream>
 #include <memory>
 #include <utility>
@@ -302,7 +304,9 @@ std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& optio
         settle(options);
     } catch (CLI::ParseError const& error) {
         if (app.exit(error) != 0) return ExitStatus::Usage;
-        return std::cout.flush() ? ExitStatus::Rendered : ExitStatus::FileAtFault;
+        if (std::cout.flush()) return ExitStatus::Rendered;
+        reportError("<stdout>", std::strerror(errno));
+        return ExitStatus::FileAtFault;
     }
     return std::nullopt;
 }

@@ -24,6 +24,9 @@ constexpr std::string_view s_clearRow = "\x1b[0m\x1b[2K";
 constexpr std::string_view s_clearBelow = "\x1b[0m\x1b[J";
 constexpr std::string_view s_inverse = "\x1b[7m";
 
+/// Columns between the stops of tabs.
+constexpr std::size_t s_tab = 8;
+
 /// What `leave` goes back to.
 termios s_before = {};
 volatile std::sig_atomic_t s_isKnown = 0;
@@ -51,16 +54,17 @@ std::vector<std::string> splitRows(std::string_view text) {
     return rows;
 }
 
-/// The index behind what fits into `width` columns of a row from `i` on. Sequences take none.
+/// The index behind what fits into `width` columns of a row from `i` on. Sequences take none, and a
+/// tab what is left up to the next stop.
 std::size_t endOfRow(std::string_view row, std::size_t i, std::size_t width) {
+    std::size_t column = 0;
     while (i < row.length()) {
         if (row[i] == '\x1b') {
             i = std::min(row.find('m', i), row.length() - 1) + 1;
             continue;
         }
-        std::size_t const columns = columnsAt(row, i);
-        if (columns > width) break;
-        width -= columns;
+        column += row[i] == '\t' ? s_tab - column % s_tab : columnsAt(row, i);
+        if (column > width) break;
         i += lengthAt(row, i);
     }
     return i;

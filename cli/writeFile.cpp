@@ -121,6 +121,8 @@ int writeFile(std::string const& name, std::string_view content) {
     if (!isThere && lstat(name.c_str(), &existing) != 0) return replaceFile(name, content, nullptr);
     // A link to what is not there yet is no regular file either.
     if (!S_ISREG(existing.st_mode)) return writeStraight(name, content);
+    // To replace it takes a directory that may be written, but it is asked for, too.
+    if (access(name.c_str(), W_OK) != 0) return errno;
     std::error_code fault;
     std::string const target = std::filesystem::canonical(name, fault);
     return fault ? fault.value() : replaceFile(target, content, &existing);

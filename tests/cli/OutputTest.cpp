@@ -112,7 +112,7 @@ TEST_F(Output, HasThePagesOfAllDocumentsThatAreRight) {
         {"--check --css bad.css bad.xml one.xml", "", "bad.css bad.xml ", 1},
         {"--check --format svg one.xml two.xml", "", "", 0},
         {"one.xml two.xml >/dev/full", "", "<stdout> ", 3},
-        {"--help >/dev/full", "", "", 3},
+        {"--help >/dev/full", "", "<stdout> ", 3},
     };
     write("bad.css", "p");
     for (Case const& c : cases) {

@@ -73,17 +73,24 @@ TEST_F(Surroundings, AreToldApartWhereTheyFail) {
     }
 }
 
-TEST_F(Surroundings, HaveFilesThatOthersMayNotRead) {
+TEST_F(Surroundings, HaveFilesThatOthersMayNotReadOrWrite) {
+    write("page.xml", "<p>a</p>");
+    write("kept.txt", "old");
     write("secret.xml", "<p>a</p>");
     std::filesystem::permissions(folder / "secret.xml", std::filesystem::perms::none);
+    std::filesystem::permissions(folder / "kept.txt", std::filesystem::perms::owner_read);
     std::filesystem::permissions(folder, std::filesystem::perms::all);
     // Permissions do not hold for root. Somebody else can write no profile of coverage.
     std::string const somebody =
         geteuid() == 0 ? "LLVM_PROFILE_FILE=/dev/null setpriv --reuid=65534 --clear-groups " : "";
-    Outcome const outcome = run("secret.xml", "", "", somebody + GALLEY_TOOL);
-    EXPECT_EQ(outcome.status, 3);
-    EXPECT_EQ(outcome.out, "");
-    EXPECT_EQ(outcome.err, "secret.xml: error: Permission denied\n");
+    Outcome const unread = run("secret.xml", "", "", somebody + GALLEY_TOOL);
+    EXPECT_EQ(unread.status, 3);
+    EXPECT_EQ(unread.out, "");
+    EXPECT_EQ(unread.err, "secret.xml: error: Permission denied\n");
+    Outcome const unwritten = run("--output kept.txt page.xml", "", "", somebody + GALLEY_TOOL);
+    EXPECT_EQ(unwritten.status, 3);
+    EXPECT_EQ(unwritten.err, "kept.txt: error: Permission denied\n");
+    EXPECT_EQ(read("kept.txt"), "old");
 }
 
 }  // namespace
