@@ -30,7 +30,7 @@ Format effectiveFormat(Options const& options) {
 /// The trees that a conversion makes on its way, as text.
 XCode dumpTree(String& out, String const& document, StyleList const& styles, Manner const& manner) {
     ZRLWPtr<CLI::XML::DomElement> root;
-    CLI::XML::PullParser parser(document);
+    CLI::XML::PullParser parser = CLI::XML::PullParser::withoutCopy(document);
     XCode result = CLI::XML::buildDomTree(root, true, parser, styles);
     if (!result) return result;
     if (manner.product == Product::DocumentTree) {

@@ -104,6 +104,9 @@ TEST_F(Tool, SaysWhereMemoryEnds) {
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.out, "");
     EXPECT_EQ(outcome.err, "<stdin>: error: Out of memory\n");
+    // There is room for one document of that size.
+    std::string const large = "<!--" + std::string(60000000, 'x') + "--><b/>";
+    EXPECT_EQ(run("--dump dom", large, "ulimit -v 100000; ").out, "html:\n  b:\n");
 }
 
 TEST_F(Tool, RefusesWhatItDoesNotKnow) {
