@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Between two specifications for zsh.
+/// Between two arguments for zsh.
 constexpr char const* s_nextSpec = " \\\n    ";
 
 /// `text` with a backslash before each of `special`.
@@ -44,7 +44,7 @@ std::string zshAction(OptionEntry const& entry) {
     return entry.argument == "DIR" ? "_files -/" : "_files";
 }
 
-/// The words of a specification for each name of the option, which exclude one another.
+/// An argument for each name of the option, which exclude one another.
 std::string zshSpecs(OptionEntry const& entry) {
     std::string const text = "[" + escape(shortDescription(entry), "[]:\\") + "]";
     if (!isOption(entry)) return quoted("*:document:_files");
