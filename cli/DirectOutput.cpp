@@ -13,7 +13,7 @@ ExitStatus DirectOutput::write(std::size_t i, std::string_view text) {
     if (fault == 0) return ExitStatus::Rendered;
     isWanted = !files.empty();
     if (fault == EPIPE) return ExitStatus::Rendered;
-    report(errorText(files.empty() ? "<stdout>" : displayName(files[i]), std::strerror(fault)));
+    report(errorText(files.empty() ? "<stdout>" : files[i], std::strerror(fault)));
     return ExitStatus::FileAtFault;
 }
 

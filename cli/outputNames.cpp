@@ -6,8 +6,6 @@
 #include <set>
 #include <utility>
 
-#include "cli/report.h"
-
 namespace {
 
 std::string nameInDirectory(std::string const& document, Options const& options) {
@@ -66,10 +64,10 @@ std::string nameOutputs(Options& options) {
             options.files.push_back(nameInDirectory(document, options));
         }
         std::string const twice = firstDuplicate(options.files);
-        if (!twice.empty()) return "--output-dir: two documents for " + displayName(twice);
+        if (!twice.empty()) return "--output-dir: two documents for " + twice;
     } else if (hasMany) {
         return "--output: several documents need --output-dir";
     }
     std::string const overwritten = firstOverwritten(options);
-    return overwritten.empty() ? "" : "'" + displayName(overwritten) + "' is also read";
+    return overwritten.empty() ? "" : "'" + overwritten + "' is also read";
 }

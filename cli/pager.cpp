@@ -67,7 +67,7 @@ ExitStatus PagerOutput::waitForPager() {
     isStraight = !pager->finish();
     isOver = !isStraight;
     if (isOver) return ExitStatus::Rendered;
-    straight.report(errorText("galley", "Cannot run the pager '" + displayName(command) + "'"));
+    straight.report(errorText("galley", "Cannot run the pager '" + command + "'"));
     return straight.write(0, unread);
 }
 

@@ -65,7 +65,7 @@ void applyFormat(String& page, Format format) {
 
 Rendering failure(ExitStatus status, std::string const& document, char const* message,
                   std::string_view source = {}) {
-    return {status, {}, errorText(displayName(document), message, source)};
+    return {status, {}, errorText(inputName(document), message, source)};
 }
 
 Rendering tryToRender(std::string const& file, StyleList const& styles, Manner const& manner) {

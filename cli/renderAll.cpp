@@ -14,7 +14,7 @@ ExitStatus makeDirectory(std::string const& directory, Output& output) {
     std::error_code fault;
     if (!directory.empty()) std::filesystem::create_directories(directory, fault);
     if (!fault) return ExitStatus::Rendered;
-    output.report(errorText(displayName(directory), std::strerror(fault.value())));
+    output.report(errorText(directory, std::strerror(fault.value())));
     return ExitStatus::FileAtFault;
 }
 

@@ -42,7 +42,7 @@ std::string inOneLine(std::string_view text) {
 
 /// The first line of what is said about a place of a file.
 std::string heading(std::string const& file, std::string_view line, std::string_view words) {
-    std::string text = file;
+    std::string text = inOneLine(file);
     if (!line.empty()) text.append(":").append(line);
     return text.append(": ").append(inOneLine(words)) + '\n';
 }
@@ -53,9 +53,7 @@ std::string lineText(std::string_view source, std::size_t position) {
 
 }  // namespace
 
-std::string displayName(std::string const& file) {
-    return file == "-" ? "<stdin>" : inOneLine(file);
-}
+std::string inputName(std::string const& file) { return file == "-" ? "<stdin>" : file; }
 
 std::string errorText(std::string const& file, std::string const& message, std::string_view source,
                       SourceKind kind) {

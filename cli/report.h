@@ -3,9 +3,8 @@
 #include <string>
 #include <string_view>
 
-/// How messages name a file: "-" is "<stdin>", and control characters, line feeds and tabs
-/// included, are question marks.
-std::string displayName(std::string const& file);
+/// How messages name what is read: "-" is "<stdin>".
+std::string inputName(std::string const& file);
 
 /// What a message of the library is about.
 enum class SourceKind { Document, Sheet };
@@ -15,9 +14,8 @@ enum class SourceKind { Document, Sheet };
 /// to be follows as "FILE:LINE: note: ...". Where no place is known it is the first line alone,
 /// with LINE only where the message has one.
 ///
-/// `file` is a name for display, and control characters of `message` become question marks, too;
-/// `source` is what the library was given, empty where the message
-/// is not about a source.
+/// Control characters of `file` and `message`, line feeds and tabs included, become question marks.
+/// `source` is what the library was given, empty where the message is not about a source.
 std::string errorText(std::string const& file, std::string const& message,
                       std::string_view source = {}, SourceKind kind = SourceKind::Document);
 

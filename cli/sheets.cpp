@@ -15,14 +15,14 @@ using CLI::XML::StyleList;
 ExitStatus readSheet(std::string const& file, bool isRaw, StyleList& styles, Output& output) {
     String css;
     if (int const fault = readFile(file, css)) {
-        output.report(errorText(displayName(file), std::strerror(fault)));
+        output.report(errorText(inputName(file), std::strerror(fault)));
         return ExitStatus::FileAtFault;
     }
     if (!isRaw) CLI::XML::replaceControls(css);
     XCode const result = CLI::XML::addSheet(styles, css);
     if (!result) {
-        output.report(errorText(displayName(file), result.getString().c_str(), css.view(),
-                                SourceKind::Sheet));
+        output.report(
+            errorText(inputName(file), result.getString().c_str(), css.view(), SourceKind::Sheet));
         return ExitStatus::InputAtFault;
     }
     return ExitStatus::Rendered;

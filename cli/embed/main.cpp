@@ -35,14 +35,14 @@ struct Input {
 template <class Convert>
 ExitStatus check(Input& input, SourceKind kind, Convert const& convert) {
     if (int const fault = readFile(input.name, input.bytes)) {
-        reportError(displayName(input.name), std::strerror(fault));
+        reportError(inputName(input.name), std::strerror(fault));
         return ExitStatus::FileAtFault;
     }
     String text = input.bytes;
     CLI::XML::replaceControls(text);
     XCode const result = convert(text);
     if (result) return ExitStatus::Rendered;
-    reportError(displayName(input.name), result.getString().c_str(), text.view(), kind);
+    reportError(inputName(input.name), result.getString().c_str(), text.view(), kind);
     return ExitStatus::InputAtFault;
 }
 
@@ -72,7 +72,7 @@ ExitStatus embed(std::string const& output, std::string const& function, Input d
                    [](Input const& sheet) { return sheet.bytes.view(); });
     int const fault = writeFile(output, sourceText(function, document.bytes.view(), rules));
     if (fault == 0) return ExitStatus::Rendered;
-    reportError(displayName(output), std::strerror(fault));
+    reportError(output, std::strerror(fault));
     return ExitStatus::FileAtFault;
 }
 

@@ -39,6 +39,7 @@ TEST_F(Pager, ShowsWhatATerminalWouldAndTheErrorsBehindIt) {
          "x y z \r\nab\r\nx y z \r\nab\r\n", "galley: error: Cannot run the pager 'galley-nosuch'"},
         {"cat (", "--color never bold.xml", 0, "x y z \r\nab\r\n",
          "galley: error: Cannot run the pager 'cat ('"},
+        {"-", "--color never bold.xml", 0, "x y z \r\nab\r\n", "Cannot run the pager '-'"},
         {"kill -SEGV $$", "--color never bold.xml", 0, "x y z \r\nab\r\n", "Cannot run the pager"},
         {"cat; exit 2", "--color never bold.xml", 0, "x y z \r\nab\r\n", ""},
         {"a\tb\nc", "--color never bold.xml", 0, "x y z \r\nab\r\n", "'a?b?c'"},
