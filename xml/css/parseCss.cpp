@@ -1,16 +1,12 @@
 #include "xml/css/parseCss.h"
 
-#include "xml/parser/scan.h"
+#include "xml/css/sheetBytes.h"
 
 namespace CLI::XML {
 
 namespace {
 
-// The sets differ from the markup's: a vertical tab is white space here.
-constexpr ByteSet s_whitespace(" \t\v\r\n");
-constexpr ByteSet s_endOfSelector(" \t\v\r\n{");
-constexpr ByteSet s_endOfProperty(" \t\v\r\n:}");
-constexpr ByteSet s_endOfValue(" \t\v\r\n;");
+using namespace SheetBytes;
 
 /// Reads one style sheet.
 class SheetReader {

@@ -2,22 +2,9 @@
 
 #include "base/releaseTree.h"
 #include "xml/css/properties.h"
+#include "xml/dom/displayKeywords.h"
 
 namespace CLI::XML {
-
-namespace {
-
-struct DisplayKeyword {
-    std::string_view keyword;
-    DomNode::Display display;
-};
-
-constexpr DisplayKeyword s_displayKeywords[] = {
-    {"inline", DomNode::Inline},      {"block", DomNode::Block},          {"table", DomNode::Table},
-    {"table-row", DomNode::TableRow}, {"table-cell", DomNode::TableCell}, {"none", DomNode::None},
-};
-
-}  // namespace
 
 DomElement::~DomElement() {
     releaseTree(*this, [](DomNode* child) { return asElement(child); });
@@ -32,10 +19,7 @@ XCode DomElement::setAttributes(ZRStringHashTable<String> const& source) {
     }
     constexpr StyleProperty property = Property::s_display;
     String const* const value = attributes.find(property.name, property.hash);
-    if (value == nullptr) return XCode();
-    for (DisplayKeyword const& candidate : s_displayKeywords) {
-        if (value->view() == candidate.keyword) display = candidate.display;
-    }
+    if (value != nullptr) display = displayOr(display, value->view());
     return XCode();
 }
 

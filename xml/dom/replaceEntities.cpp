@@ -1,16 +1,8 @@
 #include "xml/dom/replaceEntities.h"
 
-#include "xml/parser/references.h"
+#include "xml/dom/textEntities.h"
 
 namespace CLI::XML {
-
-namespace {
-
-constexpr EntityReplacement s_textEntities[] = {
-    {"nbsp", " "}, {"amp", "&"}, {"lt", "<"}, {"gt", ">"}, {nullptr, nullptr},
-};
-
-}  // namespace
 
 String replaceEntities(String const& text) { return decodeReferences(text, s_textEntities); }
 

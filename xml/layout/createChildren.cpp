@@ -34,8 +34,12 @@ constexpr ChildRules s_childRules[] = {
 /// What stands for a text in a message.
 constexpr char const* s_text = "text";
 
-MakeBox ruleFor(Box const& parent, DomNode::Display childDisplay) {
-    auto const type = static_cast<std::size_t>(parent.type);
+/// The type of the box for an element, by its display kind.
+constexpr Box::Type s_types[DomNode::None] = {Box::Block, Box::Inline, Box::Table, Box::Row,
+                                              Box::Cell};
+
+MakeBox ruleFor(Box::Type parent, DomNode::Display childDisplay) {
+    auto const type = static_cast<std::size_t>(parent);
     auto const display = static_cast<std::size_t>(childDisplay);
     bool const isKnown = type < std::size(s_childRules) && display < DomNode::None;
     return isKnown ? s_childRules[type][display] : nullptr;
@@ -67,7 +71,7 @@ Walk createBoxes(Box& box, XCode& result) {
 }  // namespace
 
 ZRLWPtr<Box> makeChild(Box const& parent, DomNode& child, XCode& result) {
-    MakeBox const make = ruleFor(parent, child.display);
+    MakeBox const make = ruleFor(parent.type, child.display);
     if (make != nullptr) return make(&child);
     DomElement const* const element = asElement(&child);
     result = refuse(element != nullptr ? element->name.c_str() : s_text, parent);
@@ -75,7 +79,11 @@ ZRLWPtr<Box> makeChild(Box const& parent, DomNode& child, XCode& result) {
 }
 
 XCode checkText(Box const& parent) {
-    return ruleFor(parent, DomNode::Inline) != nullptr ? XCode() : refuse(s_text, parent);
+    return ruleFor(parent.type, DomNode::Inline) != nullptr ? XCode() : refuse(s_text, parent);
+}
+
+bool mayHold(DomNode::Display parent, DomNode::Display child) {
+    return ruleFor(s_types[parent], child) != nullptr;
 }
 
 XCode Box::createChildren() {

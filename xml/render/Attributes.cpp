@@ -3,21 +3,11 @@
 #include <iterator>
 
 #include "xml/render/Canvas.h"
+#include "xml/render/colorNames.h"
 
 namespace CLI::XML {
 
 namespace {
-
-struct ColorName {
-    std::string_view name;
-    std::uint8_t number;
-};
-
-/// The colours of SGR 30 to 37, by the names that style sheets use for them.
-constexpr ColorName s_colorNames[] = {
-    {"black", 0}, {"red", 1},      {"green", 2}, {"yellow", 3},
-    {"blue", 4},  {"mangenta", 5}, {"cyan", 6},  {"white", 7},
-};
 
 struct FlagEscape {
     std::uint8_t flag;

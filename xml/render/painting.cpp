@@ -8,6 +8,7 @@
 #include "xml/dom/DomElement.h"
 #include "xml/layout/CellBox.h"
 #include "xml/render/BoxPainting.h"
+#include "xml/render/fontStyles.h"
 
 namespace CLI::XML {
 
@@ -15,20 +16,7 @@ namespace {
 
 using Attributes = Canvas::Attributes;
 
-/// What a value of "font-style" does to the flags.
-struct FontStyle {
-    std::string_view value;
-    bool keepsFlags;
-    std::uint8_t added;
-};
-
-constexpr FontStyle s_fontStyles[] = {
-    {"normal", false, 0},
-    {"bold", false, Attributes::Bold},
-    {"italic", true, Attributes::Faint},
-    {"oblique", true, Attributes::Faint},
-    {"mark", true, Attributes::Blink},
-};
+/// What any other value does.
 constexpr FontStyle s_unknownFontStyle = {"", false, 0};
 
 /// The flag that an inline element's name adds.
