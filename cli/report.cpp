@@ -5,9 +5,9 @@
 #include <optional>
 
 #include "base/append.h"
-#include "cli/locateError.h"
 #include "cli/sourceExcerpt.h"
 #include "cli/terminal/controls.h"
+#include "galley/check/locateError.h"
 
 namespace {
 
@@ -59,8 +59,9 @@ std::string errorText(std::string const& file, std::string const& message, std::
                       SourceKind kind) {
     auto const [line, words] = parseMessage(message);
     std::string const error = "error: " + std::string(words);
-    auto const locate = kind == SourceKind::Document ? locateInDocument : locateInSheet;
-    std::optional<ErrorPlace> place;
+    auto const locate =
+        kind == SourceKind::Document ? galley::locateInDocument : galley::locateInSheet;
+    std::optional<galley::Finding> place;
     if (!source.empty()) place = locate(source, message);
     if (!place) return heading(file, line, error);
 

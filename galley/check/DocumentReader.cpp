@@ -1,132 +1,147 @@
+#include "galley/check/DocumentReader.h"
+
 #include <algorithm>
 #include <cctype>
-#include <new>
-#include <vector>
+#include <utility>
 
-#include "cli/BoxPath.h"
-#include "cli/locateError.h"
-#include "xml/dom/createDomElement.h"
+#include "base/append.h"
+#include "xml/css/properties.h"
+#include "xml/dom/displayKeywords.h"
+#include "xml/dom/readDocument.h"
+#include "xml/dom/vocabulary.h"
+#include "xml/layout/makeChild.h"
+
+namespace galley {
 
 namespace {
 
+using CLI::XML::DomNode;
 using CLI::XML::PullParser;
 
-constexpr std::string_view s_refusal = "Cannot layout ";
-/// Length of "]]>".
-constexpr std::size_t s_cdataEnd = 3;
+constexpr std::string_view s_cdataStart = "<![CDATA[";
+constexpr std::string_view s_cdataEnd = "]]>";
 
-/// One more reading of a document, up to the first failure of the kind that is looked for.
-class DocumentSearch {
-public:
-    /// `markup` is what the parser reads, `document` the same bytes.
-    DocumentSearch(std::string_view document, String const& markup, bool isRefusal)
-        : source(document), parser(PullParser::withoutCopy(markup)) {
-        if (isRefusal) boxes.emplace();
-    }
-
-    /// Success at the end of the document, otherwise the library's message; then `place` is set.
-    XCode run() {
-        for (;;) {
-            start = static_cast<std::size_t>(parser.position);
-            PullParser::TagType const next = parser.getNextTag();
-            bool const isEnd = next == PullParser::TAG_END_OF_DOCUMENT;
-            // An end tag that closes nothing ends the document too.
-            if (open.empty() && (isEnd || next == PullParser::TAG_END)) return XCode();
-            XCode result = isEnd ? failAtEnd() : read(next);
-            if (!result) return result;
-        }
-    }
-
-    ErrorPlace place;
-
-private:
-    XCode read(PullParser::TagType next) {
-        switch (next) {
-            case PullParser::TAG_START:
-                return startElement();
-            case PullParser::TAG_END:
-                return endElement();
-            case PullParser::TAG_CONTENT:
-                return addContent();
-            case PullParser::TAG_COMMENT:
-                return syntax(parser.skipCommentTag());
-            default:
-                return syntax(parser.skipOtherTag());
-        }
-    }
-
-    XCode startElement() {
-        XCode result = syntax(parser.readStartTag());
-        if (!result) return result;
-        place.position = start;
-        if (!CLI::XML::createDomElement(parser.name)) {
-            return testExpression(false).setStringF("Invalid tag: <%s>", parser.name.c_str());
-        }
-        open.push_back({start, source.substr(start + 1, parser.name.view().length())});
-        return boxes ? boxes->startElement(parser) : XCode();
-    }
-
-    XCode endElement() {
-        XCode result = syntax(parser.readEndTag());
-        if (!result) return result;
-        if (parser.name.view() != open.back().name) {
-            place = {start, open.back()};
-            return testExpression(false).setStringF("End tag </%s> does not match start tag <%s>",
-                                                    parser.name.c_str(),
-                                                    std::string(open.back().name).c_str());
-        }
-        open.pop_back();
-        if (boxes) boxes->endElement();
-        return XCode();
-    }
-
-    XCode addContent() {
-        XCode result = syntax(parser.readContent());
-        if (!result || !boxes) return result;
-        std::string_view const content = parser.content.view();
-        bool const isCdata = source[start] == '<';
-        auto const end = static_cast<std::size_t>(parser.position) - (isCdata ? s_cdataEnd : 0);
-        auto const isSpace = [](unsigned char c) { return std::isspace(c) != 0; };
-        auto const word = std::find_if_not(content.begin(), content.end(), isSpace);
-        // A NUL byte ends the words of a content.
-        if (word == content.end() || *word == '\0') return result;
-        place.position = end - static_cast<std::size_t>(content.end() - word);
-        return boxes->addText();
-    }
-
-    XCode failAtEnd() {
-        place = {start, open.back()};
-        return testExpression(false).setStringF("Line %d: Missing end tag at the end", parser.line);
-    }
-
-    XCode syntax(XCode result) {
-        if (!result) {
-            place.position = static_cast<std::size_t>(parser.position);
-            result.setString(parser.errorMessage);
-        }
-        return result;
-    }
-
-    std::string_view source;
-    PullParser parser;
-    /// Where the last event began.
-    std::size_t start = 0;
-    std::vector<UnclosedElement> open;
-    /// Only where a box refused a child: that happens to a document without other faults.
-    std::optional<BoxPath> boxes;
-};
+Finding makeError(std::string message, std::size_t position) {
+    return {Finding::Kind::Error, std::move(message), position, std::nullopt};
+}
 
 }  // namespace
 
-std::optional<ErrorPlace> locateInDocument(std::string_view document, std::string const& message) {
-    try {
-        String markup;
-        markup.assign(document);
-        DocumentSearch search(document, markup, message.starts_with(s_refusal));
-        XCode const result = search.run();
-        bool const isFound = !result && result.getString() == message.c_str();
-        return isFound ? std::optional(search.place) : std::nullopt;
-    } catch (std::bad_alloc const&) {
-        return std::nullopt;
+DocumentReader::DocumentReader(std::string_view document)
+    : source(document),
+      parser(PullParser::withoutCopy(markup)),
+      rootElement(CLI::XML::createRootElement()) {
+    CLI::XML::append(markup, document);
+    root.tag.name = rootElement->name.view();
+    root.display = rootElement->display;
+}
+
+DocumentReader::Event DocumentReader::next() {
+    error.reset();
+    if (hasStopped) return Event::EndOfDocument;
+    start = position();
+    PullParser::TagType const next = parser.getNextTag();
+    if (next != PullParser::TAG_END_OF_DOCUMENT && (!open.empty() || next != PullParser::TAG_END)) {
+        return read(next);
+    }
+    hasStopped = true;
+    if (open.empty()) return Event::EndOfDocument;
+    return stop("Missing end tag at the end", start, open.back().tag);
+}
+
+DocumentReader::Event DocumentReader::read(PullParser::TagType next) {
+    switch (next) {
+        case PullParser::TAG_START:
+            return startElement();
+        case PullParser::TAG_END:
+            return endElement();
+        case PullParser::TAG_CONTENT:
+            return readText();
+        case PullParser::TAG_COMMENT:
+            return syntax(parser.skipCommentTag(), Event::Other);
+        default:
+            return syntax(parser.skipOtherTag(), Event::Other);
     }
 }
+
+DocumentReader::Event DocumentReader::startElement() {
+    Event const event = syntax(parser.readStartTag(), Event::StartOfElement);
+    if (hasStopped) return event;
+    std::string_view const name = source.substr(start + 1, parser.name.view().length());
+    auto const* const entry = CLI::XML::findInVocabulary(name);
+    element = {{start, name}, DomNode::Block, entry != nullptr, parent().isHidden};
+    if (entry != nullptr) {
+        element.display = displayWithAttributes(entry->display);
+        element.isHidden = element.isHidden || element.display == DomNode::None;
+        if (!element.isHidden) checkParent(element.display, name, start);
+    } else {
+        error = makeError("Invalid tag: <" + std::string(name) + ">", start);
+    }
+    open.push_back(element);
+    return event;
+}
+
+DocumentReader::Event DocumentReader::endElement() {
+    Event const event = syntax(parser.readEndTag(), Event::EndOfElement);
+    if (hasStopped) return event;
+    element = open.back();
+    if (parser.name.view() != element.tag.name) {
+        return stop("End tag </" + std::string(parser.name.view()) +
+                        "> does not match start tag <" + std::string(element.tag.name) + ">",
+                    start, element.tag);
+    }
+    open.pop_back();
+    return event;
+}
+
+DocumentReader::Event DocumentReader::readText() {
+    Event const event = syntax(parser.readContent(), Event::Text);
+    if (hasStopped) return event;
+    text = source.substr(start, position() - start);
+    if (text.starts_with(s_cdataStart)) {
+        text.remove_prefix(s_cdataStart.length());
+        text.remove_suffix(s_cdataEnd.length());
+    }
+    auto const isSpace = [](unsigned char c) { return std::isspace(c) != 0; };
+    auto const* const word = std::find_if_not(text.begin(), text.end(), isSpace);
+    // A NUL byte ends the words.
+    if (word != text.end() && *word != '\0' && !parent().isHidden) {
+        checkParent(DomNode::Inline, "text", static_cast<std::size_t>(word - source.begin()));
+    }
+    return event;
+}
+
+DocumentReader::Event DocumentReader::syntax(XCode const& result, Event event) {
+    if (result) return event;
+    // Behind the line and ": ".
+    std::string_view const message = parser.errorMessage.view();
+    return stop(std::string(message.substr(message.find(' ') + 1)), position(), std::nullopt);
+}
+
+DocumentReader::Event DocumentReader::stop(std::string message, std::size_t place,
+                                           std::optional<UnclosedElement> unclosed) {
+    hasStopped = true;
+    error = makeError(std::move(message), place);
+    error->unclosed = unclosed;
+    return Event::EndOfDocument;
+}
+
+DomNode::Display DocumentReader::displayWithAttributes(DomNode::Display display) const {
+    // Of several the last one counts.
+    for (unsigned i = parser.attributes.count; i-- > 0;) {
+        PullParser::Attribute const& attribute = parser.attributes.data[i];
+        if (attribute.name.view() == CLI::XML::Property::s_display.name) {
+            return CLI::XML::displayOr(display, attribute.value.view());
+        }
+    }
+    return display;
+}
+
+void DocumentReader::checkParent(DomNode::Display child, std::string_view name, std::size_t place) {
+    if (!parent().isKnown || CLI::XML::mayHold(parent().display, child)) return;
+    error = makeError(
+        "Cannot layout '" + std::string(name) + "' within '" + std::string(parent().tag.name) + "'",
+        place);
+}
+
+}  // namespace galley

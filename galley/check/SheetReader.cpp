@@ -1,72 +1,71 @@
-#include "cli/locateError.h"
-#include "xml/parser/scan.h"
+#include "galley/check/SheetReader.h"
 
-namespace {
+#include <algorithm>
 
-using CLI::XML::ByteSet;
+#include "xml/css/sheetBytes.h"
 
-// What ends a token in a sheet.
-constexpr ByteSet s_whitespace(" \t\v\r\n");
-constexpr ByteSet s_endOfSelector(" \t\v\r\n{");
-constexpr ByteSet s_endOfProperty(" \t\v\r\n:}");
-constexpr ByteSet s_endOfValue(" \t\v\r\n;");
+namespace galley {
 
-/// One more reading of a sheet, up to what is not expected there.
-class SheetSearch {
-public:
-    explicit SheetSearch(String const& css) : text(css) {}
+using namespace CLI::XML::SheetBytes;
 
-    /// False where something else is expected at `position`, on `line`.
-    bool run() {
+SheetReader::Event SheetReader::next() {
+    if (hasFailed) {
+        hasFailed = false;
+        position = std::min(source.find('}', position), source.length() - 1) + 1;
         skipWhitespace();
-        while (position < text.length()) {
-            if (!readRule()) return false;
-        }
-        return true;
     }
-
-    int position = 0;
-    int line = 1;
-    char const* expected = "";
-
-private:
-    bool readRule() {
-        if (!readToken(s_endOfSelector, "'{'") || !consume('{', "'{'")) return false;
-        while (readToken(s_endOfProperty, "'}'")) {
-            bool const isDeclaration =
-                consume(':', "':'") && readToken(s_endOfValue, "value") && consume(';', "';'");
-            if (!isDeclaration) return false;
-        }
-        return consume('}', "'}'");
-    }
-
-    bool readToken(ByteSet const& stopSet, char const* what) {
-        expected = what;
-        bool const isThere = !CLI::XML::takeUntil(text, position, line, stopSet).empty();
-        skipWhitespace();
-        return isThere;
-    }
-
-    bool consume(char c, char const* what) {
-        expected = what;
-        if (!CLI::XML::parseCharacter(text, position, c)) return false;
-        skipWhitespace();
-        return true;
-    }
-
-    void skipWhitespace() { CLI::XML::skipCharacters(text, position, line, s_whitespace); }
-
-    String const& text;
-};
-
-}  // namespace
-
-std::optional<ErrorPlace> locateInSheet(std::string_view sheet, std::string const& message) {
-    String css;
-    css.assign(sheet);
-    SheetSearch search(css);
-    if (search.run()) return std::nullopt;
-    String const found(String::formatted, "Line %d: Expecting %s", search.line, search.expected);
-    if (!(found == message.c_str())) return std::nullopt;
-    return ErrorPlace{static_cast<std::size_t>(search.position), std::nullopt};
+    if (isInRule) return readDeclaration();
+    return position < source.length() ? readSelector() : Event::EndOfSheet;
 }
+
+Finding SheetReader::error() const {
+    return {Finding::Kind::Error, std::string("Expecting ") + expected, position, std::nullopt};
+}
+
+SheetReader::Event SheetReader::readSelector() {
+    if (!readToken(selector, s_endOfSelector, "'{'") || !consume('{', "'{'")) return fail();
+    isInRule = true;
+    return Event::Selector;
+}
+
+SheetReader::Event SheetReader::readDeclaration() {
+    if (readToken(property, s_endOfProperty, "'}'")) {
+        bool const isWhole =
+            consume(':', "':'") && readToken(value, s_endOfValue, "value") && consume(';', "';'");
+        return isWhole ? Event::Declaration : fail();
+    }
+    if (!consume('}', "'}'")) return fail();
+    isInRule = false;
+    return Event::EndOfRule;
+}
+
+bool SheetReader::readToken(std::string_view& token, CLI::XML::ByteSet const& stopSet,
+                            char const* what) {
+    std::size_t const start = position;
+    while (position < source.length() && !stopSet.contains(source[position])) ++position;
+    token = source.substr(start, position - start);
+    expected = what;
+    if (token.empty()) return false;
+    skipWhitespace();
+    return true;
+}
+
+bool SheetReader::consume(char c, char const* what) {
+    expected = what;
+    if (position >= source.length() || source[position] != c) return false;
+    ++position;
+    skipWhitespace();
+    return true;
+}
+
+void SheetReader::skipWhitespace() {
+    while (position < source.length() && s_whitespace.contains(source[position])) ++position;
+}
+
+SheetReader::Event SheetReader::fail() {
+    isInRule = false;
+    hasFailed = true;
+    return Event::Error;
+}
+
+}  // namespace galley

@@ -1,29 +1,12 @@
 #include <algorithm>
 #include <cctype>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <random>
 
-#include "cli/locateError.h"
 #include "cli/report.h"
+#include "galley/check/locateError.h"
+#include "tests/support/sources.h"
 #include "tests/support/text.h"
-#include "xml/xml.h"
 
 namespace {
-
-/// The library's message for a document, empty where it renders it.
-std::string documentMessage(std::string const& document) {
-    String page;
-    String const markup(document.data(), 0, static_cast<int>(document.length()));
-    return CLI::XML::xmlToText(page, markup, {}, 80).getString().c_str();
-}
-
-std::string sheetMessage(std::string const& sheet) {
-    CLI::XML::StyleList rules;
-    String const css(sheet.data(), 0, static_cast<int>(sheet.length()));
-    return CLI::XML::parseCss(rules, css).getString().c_str();
-}
 
 std::string documentError(std::string const& document) {
     return errorText("x", documentMessage(document), document);
@@ -203,7 +186,8 @@ void check(std::string const& source, std::string const& message, SourceKind kin
     std::string const prefix = std::to_string(line) + ": " + words;
     EXPECT_TRUE(message == words || message == prefix || message == "Line " + prefix) << error;
 
-    auto const locate = kind == SourceKind::Document ? locateInDocument : locateInSheet;
+    auto const locate =
+        kind == SourceKind::Document ? galley::locateInDocument : galley::locateInSheet;
     auto const place = locate(source, message);
     ASSERT_TRUE(place) << message;
     EXPECT_EQ(line, 1 + std::count(source.begin(),
@@ -219,30 +203,16 @@ void check(std::string const& source, std::string const& message, SourceKind kin
 }
 
 TEST(ErrorText, HoldsForMutationsOfTheExamples) {
-    namespace fs = std::filesystem;
-    constexpr std::string_view s_pieces[] = {"<",    ">",    "</",   "/>",   "\"",        "=",
-                                             " ",    "\n",   "{",    "}",    ":",         ";",
-                                             "<td>", "</p>", "<q>",  "<tr>", "<![CDATA[", "]]>",
-                                             "<!--", "-->",  "\r\n", "\xc3", "\t",        "x"};
     std::mt19937 random(1);
-    auto const below = [&random](std::size_t n) { return random() % n; };
     int failures = 0;
-    for (auto const& entry : fs::recursive_directory_iterator(GALLEY_SOURCE_DIR "/examples")) {
-        bool const isSheet = entry.path().extension() == ".css";
-        if (!isSheet && entry.path().extension() != ".xml") continue;
-        std::ifstream file(entry.path(), std::ios::binary);
-        std::string const example{std::istreambuf_iterator<char>(file), {}};
+    for (Source const& example : exampleSources()) {
         for (int i = 0; i < 150; ++i) {
-            std::string mutant = example;
-            for (std::size_t n = 1 + below(2); n > 0; --n) {
-                mutant.replace(below(mutant.length()), below(4),
-                               s_pieces[below(std::size(s_pieces))]);
-            }
-            std::string const message = isSheet ? sheetMessage(mutant) : documentMessage(mutant);
+            Source const source = mutant(example, random);
+            std::string const message = source.message();
             if (message.empty()) continue;
             ++failures;
-            check(mutant, message, isSheet ? SourceKind::Sheet : SourceKind::Document);
-            if (testing::Test::HasFailure()) FAIL() << mutant;
+            check(source.text, message, source.isSheet ? SourceKind::Sheet : SourceKind::Document);
+            if (testing::Test::HasFailure()) FAIL() << source.text;
         }
     }
     EXPECT_GT(failures, 300);

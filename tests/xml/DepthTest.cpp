@@ -1,32 +1,13 @@
 // Documents are as deep as they like, on threads with little stack.
 
-#include <pthread.h>
-
-#include <functional>
-
 #include "tests/support/boxes.h"
+#include "tests/support/smallStack.h"
 #include "xml/xml.h"
 
 namespace CLI::XML {
 namespace {
 
 constexpr int s_levels = 100000;
-
-void* call(void* function) {
-    (*static_cast<std::function<void()>*>(function))();
-    return nullptr;
-}
-
-/// Runs `function` on a thread of its own with a stack of 256 KiB.
-void runOnSmallStack(std::function<void()> function) {
-    pthread_attr_t attributes;
-    pthread_attr_init(&attributes);
-    ASSERT_EQ(pthread_attr_setstacksize(&attributes, 256 * 1024), 0);
-    pthread_t thread{};
-    ASSERT_EQ(pthread_create(&thread, &attributes, call, &function), 0);
-    pthread_join(thread, nullptr);
-    pthread_attr_destroy(&attributes);
-}
 
 struct Nesting {
     char const* name;

@@ -1,0 +1,60 @@
+#include "galley/check/declarations.h"
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+
+#include "galley/check/suggest.h"
+#include "galley/check/values.h"
+#include "galley/check/wording.h"
+
+namespace galley {
+
+namespace {
+
+namespace Property = CLI::XML::Property;
+
+std::string_view nameOf(Property::Entry const& entry) { return entry.property.name; }
+
+void checkOne(Declaration const& declaration, bool isOfRule, Findings& findings) {
+    auto const [name, value, namePosition, valuePosition] = declaration;
+    auto const* const entry = std::find_if(
+        std::begin(Property::s_all), std::end(Property::s_all),
+        [&declaration](Property::Entry const& e) { return nameOf(e) == declaration.name; });
+    if (entry == std::end(Property::s_all)) {
+        std::string_view const suggestion = suggest(name, Property::s_all, nameOf);
+        std::string const verdict = suggestion.empty() ? " has no effect" : " is no property";
+        warn(findings, namePosition, quoted(name) + verdict + didYouMean(suggestion, ""));
+    } else if (isOfRule && entry->value == Property::Value::Display) {
+        warn(findings, namePosition,
+             quoted(name) + " has no effect in a sheet, only as an attribute");
+    } else {
+        std::string const warning = warningAbout(entry->value, value);
+        if (!warning.empty()) warn(findings, valuePosition, warning);
+    }
+}
+
+/// Of several declarations of the same property the last one counts.
+void checkAll(std::vector<Declaration> const& declarations, bool isOfRule, Findings& findings) {
+    std::set<std::string_view> later;
+    for (auto next = declarations.rbegin(); next != declarations.rend(); ++next) {
+        if (later.insert(next->name).second) {
+            checkOne(*next, isOfRule, findings);
+        } else {
+            warn(findings, next->namePosition,
+                 "a later " + quoted(next->name) + " replaces this one");
+        }
+    }
+}
+
+}  // namespace
+
+void checkAttributes(std::vector<Declaration> const& attributes, Findings& findings) {
+    checkAll(attributes, false, findings);
+}
+
+void checkRule(std::vector<Declaration> const& declarations, Findings& findings) {
+    checkAll(declarations, true, findings);
+}
+
+}  // namespace galley
