@@ -16,6 +16,9 @@
 
 namespace {
 
+using galley::Color;
+using galley::Format;
+
 /// Of --help, in columns.
 constexpr std::size_t s_helpWidth = 80;
 
@@ -132,16 +135,16 @@ void defineOptions(CLI::App& app, Options& options) {
     CLI::Option* const format =
         addChoice<Format>(
             app, "--format", options.format,
-            {{"ansi", Format::Ansi},
-             {"plain", Format::Plain},
-             {"html", Format::Html},
-             {"svg", Format::Svg}},
+            {{"ansi", Format::ansi},
+             {"plain", Format::plain},
+             {"html", Format::html},
+             {"svg", Format::svg}},
             "How pages are written: text with escape sequences (the default), bare text, a <pre> "
             "element, or a picture of a terminal")
             ->group("Output");
     addChoice<Color>(
         app, "--color", options.color,
-        {{"auto", Color::Auto}, {"always", Color::Always}, {"never", Color::Never}},
+        {{"auto", Color::automatic}, {"always", Color::always}, {"never", Color::never}},
         "Whether the format ansi has its escape sequences; auto, the default, keeps them where "
         "standard output is a terminal, no file is named and NO_COLOR is unset or empty")
         ->group("Output");
@@ -219,7 +222,7 @@ void settle(Options& options) {
     if (options.isWatched && inputs > 0) {
         throw CLI::ValidationError("--watch", "standard input can be read only once");
     }
-    options.isRaw = options.isRaw && options.format == Format::Ansi;
+    options.isRaw = options.isRaw && options.format == Format::ansi;
     std::string const fault = nameOutputs(options);
     if (!fault.empty()) throw CLI::ValidationError(fault);
     if (options.isWatched && options.files.empty() && isatty(STDOUT_FILENO) != 1) {

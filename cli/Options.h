@@ -5,12 +5,7 @@
 #include <vector>
 
 #include "cli/ExitStatus.h"
-
-/// When a page goes out with its escape sequences.
-enum class Color { Auto, Always, Never };
-
-/// How a page is written down.
-enum class Format { Ansi, Plain, Html, Svg };
+#include "galley/galley.h"
 
 /// What a document is turned into.
 enum class Product { Page, DocumentTree, BoxTree };
@@ -26,12 +21,14 @@ struct Options {
     /// In columns.
     std::optional<unsigned> maxWidth;
     Product product = Product::Page;
-    Format format = Format::Ansi;
-    Color color = Color::Auto;
+    galley::Format format = galley::Format::ansi;
+    galley::Color color = galley::Color::automatic;
     /// Control characters of the document and the sheets reach the terminal.
     bool isRaw = false;
     /// Documents and sheets are read and converted, but nothing is written.
     bool isCheck = false;
+    /// Of a check, warnings are faults, too.
+    bool isStrict = false;
     /// Pages go through a pager where standard output is a terminal.
     bool isPaged = false;
     /// What has changed is rendered again.

@@ -9,8 +9,8 @@
 #include <csignal>
 #include <utility>
 
-#include "cli/columns.h"
 #include "cli/files.h"
+#include "galley/terminal/columns.h"
 
 namespace {
 

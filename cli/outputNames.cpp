@@ -8,13 +8,15 @@
 
 namespace {
 
+using galley::Format;
+
 std::string nameInDirectory(std::string const& document, Options const& options) {
     std::string const name =
         document == "-" ? "stdin" : document.substr(document.find_last_of('/') + 1);
     std::size_t const dot = name.find_last_of('.');
     bool const hasExtension = dot != std::string::npos && dot > 0;
-    char const* const extension = options.format == Format::Html  ? ".html"
-                                  : options.format == Format::Svg ? ".svg"
+    char const* const extension = options.format == Format::html  ? ".html"
+                                  : options.format == Format::svg ? ".svg"
                                                                   : ".txt";
     return options.directory + "/" + (hasExtension ? name.substr(0, dot) : name) + extension;
 }
@@ -56,7 +58,7 @@ std::string firstOverwritten(Options const& options) {
 std::string nameOutputs(Options& options) {
     bool const hasMany = options.documents.size() > 1;
     if (options.files.empty() && options.directory.empty()) {
-        bool const isOneFile = options.format == Format::Svg && !options.isCheck;
+        bool const isOneFile = options.format == galley::Format::svg && !options.isCheck;
         return hasMany && isOneFile ? "--format: several pictures need --output-dir" : "";
     }
     if (!options.directory.empty()) {

@@ -5,17 +5,17 @@
 #include "base/String.h"
 #include "cli/ExitStatus.h"
 #include "cli/Options.h"
-#include "xml/css/StyleNode.h"
+#include "galley/galley.h"
 
 /// How documents are rendered: what the options say, and the surroundings where they say nothing.
 struct Manner {
-    /// In columns.
-    unsigned width;
     Product product;
-    /// Of pages.
-    Format format;
-    /// Control characters of documents stay.
-    bool isRaw;
+    /// Documents are checked, and make no text.
+    bool isCheck;
+    /// Of a check: warnings are faults, too.
+    bool isStrict;
+    /// Settled, but for the name of the document.
+    galley::Options page;
 
     explicit Manner(Options const& options);
 };
@@ -25,11 +25,10 @@ struct Rendering {
     ExitStatus status = ExitStatus::Rendered;
     /// Empty where it failed.
     String text;
-    /// For standard error; empty unless it failed.
+    /// For standard error: why it failed, or what its check found.
     std::string error;
 };
 
 /// Reads and renders a document, "-" from standard input. Writes nothing, and throws nothing for
-/// lack of memory. Any number of threads may do so with the same rules.
-Rendering render(std::string const& document, CLI::XML::StyleList const& styles,
-                 Manner const& manner);
+/// lack of memory. Any number of threads may do so with the same sheet.
+Rendering render(std::string const& document, galley::Sheet const& sheet, Manner const& manner);

@@ -18,19 +18,16 @@ ExitStatus makeDirectory(std::string const& directory, Output& output) {
     return ExitStatus::FileAtFault;
 }
 
-ExitStatus renderDocuments(Options const& options, CLI::XML::StyleList const& styles,
-                           Output& output) {
+ExitStatus renderDocuments(Options const& options, galley::Sheet const& sheet, Output& output) {
     Manner const manner(options);
     ExitStatus status = ExitStatus::Rendered;
     std::size_t i = 0;
-    auto const make = [&](std::size_t n) { return render(options.documents[n], styles, manner); };
+    auto const make = [&](std::size_t n) { return render(options.documents[n], sheet, manner); };
     auto const take = [&](Rendering const& rendering) {
         ExitStatus result = rendering.status;
-        if (result != ExitStatus::Rendered) {
-            output.report(rendering.error);
-        } else if (!options.isCheck) {
-            result = output.write(i, rendering.text.view());
-        }
+        if (!rendering.error.empty()) output.report(rendering.error);
+        bool const isMade = result == ExitStatus::Rendered && !options.isCheck;
+        if (isMade) result = output.write(i, rendering.text.view());
         ++i;
         if (status == ExitStatus::Rendered) status = result;
         return output.isOpen();
@@ -42,10 +39,10 @@ ExitStatus renderDocuments(Options const& options, CLI::XML::StyleList const& st
 }  // namespace
 
 ExitStatus renderAll(Options const& options, Output& output) {
-    CLI::XML::StyleList styles;
-    ExitStatus status = readSheets(options, styles, output);
+    galley::Sheet sheet;
+    ExitStatus status = readSheets(options, sheet, output);
     if (status == ExitStatus::Rendered) status = makeDirectory(options.directory, output);
     if (status != ExitStatus::Rendered && !options.isCheck) return status;
-    ExitStatus const rendered = renderDocuments(options, styles, output);
+    ExitStatus const rendered = renderDocuments(options, sheet, output);
     return status == ExitStatus::Rendered ? rendered : status;
 }

@@ -1,39 +1,33 @@
 #include "cli/sheets.h"
 
 #include <cstring>
-#include <new>
 
 #include "cli/files.h"
 #include "cli/report.h"
-#include "cli/terminal/addSheet.h"
-#include "cli/terminal/controls.h"
 
 namespace {
 
-using CLI::XML::StyleList;
-
-ExitStatus readSheet(std::string const& file, bool isRaw, StyleList& styles, Output& output) {
+ExitStatus readSheet(std::string const& file, Options const& options, galley::Sheet& sheet,
+                     Output& output) {
     String css;
     if (int const fault = readFile(file, css)) {
         output.report(errorText(inputName(file), std::strerror(fault)));
         return ExitStatus::FileAtFault;
     }
-    if (!isRaw) CLI::XML::replaceControls(css);
-    XCode const result = CLI::XML::addSheet(styles, css);
-    if (!result) {
-        output.report(
-            errorText(inputName(file), result.getString().c_str(), css.view(), SourceKind::Sheet));
-        return ExitStatus::InputAtFault;
-    }
-    return ExitStatus::Rendered;
+    auto const added = galley::Sheet::parse(css.view(), inputName(file));
+    if (added) sheet += *added;
+    auto const found =
+        options.isCheck ? galley::checkSheet(css.view(), inputName(file)) : added.errors();
+    if (!found.empty()) output.report(textOf(found));
+    return statusOf(found, options.isStrict);
 }
 
 }  // namespace
 
-ExitStatus readSheets(Options const& options, StyleList& styles, Output& output) {
+ExitStatus readSheets(Options const& options, galley::Sheet& sheet, Output& output) {
     ExitStatus status = ExitStatus::Rendered;
-    for (std::string const& sheet : options.sheets) {
-        ExitStatus const read = readSheet(sheet, options.isRaw, styles, output);
+    for (std::string const& file : options.sheets) {
+        ExitStatus const read = readSheet(file, options, sheet, output);
         if (status == ExitStatus::Rendered) status = read;
     }
     return status;

@@ -78,5 +78,5 @@ function(galley_embed)
     target_sources(${arg_TARGET} PRIVATE ${source})
     target_compile_options(${arg_TARGET} PRIVATE
         "$<$<COMPILE_LANGUAGE:CXX>:SHELL:-iquote \"${folder}\">")
-    target_link_libraries(${arg_TARGET} PRIVATE galley::terminal)
+    target_link_libraries(${arg_TARGET} PRIVATE galley::galley)
 endfunction()

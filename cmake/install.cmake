@@ -7,13 +7,13 @@ include(CMakePackageConfigHelpers)
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/galley)
 set(pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-install(TARGETS galley EXPORT galley-targets
+install(TARGETS galley galley-c EXPORT galley-targets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+install(TARGETS galley-xml EXPORT galley-targets
     FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/galley COMPONENT development)
-install(TARGETS galley-terminal galley-embed EXPORT galley-targets
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
-    RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/galley COMPONENT development
-    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/galley COMPONENT development)
+install(TARGETS galley-embed EXPORT galley-targets
+    RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/galley COMPONENT development)
 install(EXPORT galley-targets NAMESPACE galley:: DESTINATION ${package_dir} COMPONENT development)
 
 configure_package_config_file(cmake/galley-config.cmake.in galley-config.cmake
@@ -36,8 +36,11 @@ if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR} OR IS_ABSOLUTE ${CMAKE_INSTALL_INCLUDEDIR
     set(GALLEY_PC_LIBDIR ${CMAKE_INSTALL_FULL_LIBDIR})
     set(GALLEY_PC_INCLUDEDIR ${CMAKE_INSTALL_FULL_INCLUDEDIR})
 endif()
-configure_file(cmake/galley.pc.in galley.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/galley.pc DESTINATION ${pc_dir} COMPONENT development)
+foreach(package galley galley-xml galley-c)
+    configure_file(cmake/${package}.pc.in ${package}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${package}.pc
+        DESTINATION ${pc_dir} COMPONENT development)
+endforeach()
 
 if(GALLEY_BUILD_TOOL)
     install(TARGETS galley-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)

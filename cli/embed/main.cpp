@@ -2,12 +2,10 @@
 // does, and writes the source of a function that prints the page. Where there is a fault it says so
 // as a compiler would, and leaves no output. Only galley_embed in cmake/ calls it.
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <new>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -15,62 +13,55 @@
 #include "cli/embed/sourceText.h"
 #include "cli/files.h"
 #include "cli/report.h"
-#include "cli/terminal/addSheet.h"
-#include "cli/terminal/controls.h"
 #include "cli/writeFile.h"
-#include "xml/xml.h"
+#include "galley/checkMarkup.h"
+#include "galley/galley.h"
 
 namespace {
 
-/// Any would do: a page that fails, fails at every width, or is larger than any terminal.
-constexpr unsigned s_width = 80;
-
-/// The name of a file and what is in it.
-struct Input {
-    std::string name;
-    String bytes;
-};
-
-/// Reads a file and has its text converted, without control characters, as for printing.
-template <class Convert>
-ExitStatus check(Input& input, SourceKind kind, Convert const& convert) {
-    if (int const fault = readFile(input.name, input.bytes)) {
+/// Reads a file and prints what `checkText` finds in its text.
+template <class Check>
+ExitStatus check(Input& input, Check const& checkText) {
+    String content;
+    if (int const fault = readFile(input.name, content)) {
         reportError(inputName(input.name), std::strerror(fault));
         return ExitStatus::FileAtFault;
     }
-    String text = input.bytes;
-    CLI::XML::replaceControls(text);
-    XCode const result = convert(text);
-    if (result) return ExitStatus::Rendered;
-    reportError(inputName(input.name), result.getString().c_str(), text.view(), kind);
-    return ExitStatus::InputAtFault;
+    input.text = content.view();
+    std::vector<galley::Diagnostic> const found = checkText(content);
+    std::fputs(textOf(found).c_str(), stderr);
+    return statusOf(found, false);
 }
 
 /// Reads and checks all inputs and returns the status of the first failure.
 ExitStatus checkAll(Input& document, std::vector<Input>& sheets) {
-    CLI::XML::StyleList styles;
+    galley::Sheet sheet;
     ExitStatus status = ExitStatus::Rendered;
-    for (Input& sheet : sheets) {
-        ExitStatus const checked = check(sheet, SourceKind::Sheet, [&](String const& css) {
-            return CLI::XML::addSheet(styles, css);
-        });
-        if (status == ExitStatus::Rendered) status = checked;
+    auto const keepFirst = [&status](ExitStatus next) {
+        if (status == ExitStatus::Rendered) status = next;
+    };
+    for (Input& input : sheets) {
+        keepFirst(check(input, [&](String const& css) {
+            std::string const name = inputName(input.name);
+            if (auto const added = galley::Sheet::parse(css.view(), name)) sheet += *added;
+            return galley::checkSheet(css.view(), name);
+        }));
     }
-    ExitStatus const checked = check(document, SourceKind::Document, [&](String const& xml) {
-        String page;
-        return CLI::XML::xmlToText(page, xml, styles, s_width);
-    });
-    return status == ExitStatus::Rendered ? checked : status;
+    keepFirst(check(document, [&](String& markup) {
+        galley::Options options;
+        options.name = inputName(document.name);
+        // Any would do: a page that fails, fails at every width, or is larger than any terminal.
+        options.width = 80;
+        return galley::checkMarkup(markup, sheet, options);
+    }));
+    return status;
 }
 
 ExitStatus embed(std::string const& output, std::string const& function, Input document,
                  std::vector<Input> sheets) {
     ExitStatus const status = checkAll(document, sheets);
     if (status != ExitStatus::Rendered) return status;
-    std::vector<std::string_view> rules(sheets.size());
-    std::transform(sheets.begin(), sheets.end(), rules.begin(),
-                   [](Input const& sheet) { return sheet.bytes.view(); });
-    int const fault = writeFile(output, sourceText(function, document.bytes.view(), rules));
+    int const fault = writeFile(output, sourceText(function, document, sheets));
     if (fault == 0) return ExitStatus::Rendered;
     reportError(output, std::strerror(fault));
     return ExitStatus::FileAtFault;

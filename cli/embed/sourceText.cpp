@@ -35,15 +35,19 @@ std::string literal(std::string_view bytes) {
 
 }  // namespace
 
-std::string sourceText(std::string const& function, std::string_view document,
-                       std::vector<std::string_view> const& sheets) {
-    std::string text =
-        "// Made by galley_embed.\n#include \"" + function +
-        ".h\"\n\n#include <string_view>\n\n#include \"cli/terminal/printPage.h\"\n\nbool " +
-        function +
-        "(std::FILE* out) {\n    using namespace std::literals;\n"
-        "    return CLI::XML::printPage(out,\n" +
-        literal(document) + ",\n        {";
-    for (std::string_view const sheet : sheets) text += "\n" + literal(sheet) + ",";
-    return text + "});\n}\n";
+std::string sourceText(std::string const& function, Input const& document,
+                       std::vector<Input> const& sheets) {
+    std::string text = "// Made by galley_embed.\n#include \"" + function +
+                       ".h\"\n\n#include <string_view>\n\ngalley::Result<void> " + function +
+                       "(std::FILE* out, galley::Options options) {\n"
+                       "    using namespace std::literals;\n"
+                       "    galley::Sheet all;\n";
+    for (Input const& sheet : sheets) {
+        text += "    if (auto const sheet = galley::Sheet::parse(\n" + literal(sheet.text) + ",\n" +
+                literal(sheet.name) +
+                ")) {\n        all += *sheet;\n    } else {\n        return sheet;\n    }\n";
+    }
+    return text + "    options.name =\n" + literal(document.name) +
+           ";\n    return galley::print(\n" + literal(document.text) +
+           ",\n        all, options, out);\n}\n";
 }

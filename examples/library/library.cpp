@@ -1,12 +1,17 @@
-#include <cstdio>
+#include <galley/galley.h>
 
-#include "xml/xml.h"
+#include <cstdio>
+#include <string>
 
 int main() {
-    CLI::XML::StyleList styles;
-    String page;
-    XCode result = CLI::XML::parseCss(styles, "p { border-width: 1; padding-left: 2; }");
-    if (result) result = CLI::XML::xmlToText(page, "<p>Hello, terminal</p>", styles, 80);
-    std::fputs(result ? page.c_str() : result.getString().c_str(), stdout);
-    return result ? 0 : 1;
+    auto const sheet = galley::Sheet::parse(
+        "h1 { color: green; font-style: bold; margin-bottom: 1; } td { margin-right: 3; }");
+    std::string rows;
+    for (std::string const name : {"photos & films", "mail <2026>"}) {
+        rows += "<tr><td>" + galley::escape(name) + "</td><td>saved</td></tr>";
+    }
+    auto const printed =
+        galley::print("<h1>Hello, terminal</h1><table>" + rows + "</table>", sheet.value());
+    if (!printed) std::fputs(printed.error().text().c_str(), stderr);
+    return printed ? 0 : 1;
 }

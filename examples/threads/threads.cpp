@@ -1,32 +1,27 @@
-// Renders a page at several widths at once. The style sheet is parsed once, for all threads.
+// Renders a page at several widths at once. The sheet is parsed once, for all threads.
+
+#include <galley/galley.h>
 
 #include <cstdio>
 #include <string>
 #include <thread>
 #include <vector>
 
-#include "xml/xml.h"
-
 int main() {
-    using namespace CLI::XML;
-    StyleList styles;
-    XCode const parsed = parseCss(styles, "p { border-width: 1; border-style: .; }");
-    if (!parsed) {
-        std::fputs(parsed.getString().c_str(), stderr);
-        return 1;
+    auto const sheet = galley::Sheet::parse("p { border-width: 1; border-style: .; }");
+    constexpr unsigned widths[] = {12, 20, 48};
+    std::vector<std::string> pages(std::size(widths));
+    std::vector<std::thread> threads;
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        threads.emplace_back([&, i] {
+            galley::Options options;
+            options.width = widths[i];
+            pages[i] = galley::render("<p>The same words, broken where the line ends.</p>",
+                                      sheet.value(), options)
+                           .value();
+        });
     }
-    constexpr unsigned s_widths[] = {12, 20, 48};
-    constexpr std::size_t s_pages = std::size(s_widths);
-    String pages[s_pages];
-    {
-        std::vector<std::jthread> threads;
-        for (std::size_t i = 0; i < s_pages; ++i) {
-            threads.emplace_back([&, i] {
-                String const markup("<p>The same words, broken where the line ends.</p>");
-                xmlToText(pages[i], markup, styles, s_widths[i]);
-            });
-        }
-    }
-    for (String const& page : pages) std::fputs(page.c_str(), stdout);
+    for (std::thread& thread : threads) thread.join();
+    for (std::string const& page : pages) std::fputs(page.c_str(), stdout);
     return 0;
 }

@@ -1,10 +1,10 @@
-#include "cli/formats/formats.h"
+#include "galley/formats/formats.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "cli/terminal/plain.h"
+#include "galley/formats/plain.h"
 
 namespace {
 

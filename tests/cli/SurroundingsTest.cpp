@@ -26,7 +26,7 @@ TEST_F(Surroundings, NeedNotReadAllThatIsPrinted) {
         {"long.xml bad.xml", 0, ""},
         {"long.xml --output /dev/stdout", 0, ""},
         {"long.xml --format svg", 0, ""},
-        {"bad.xml long.xml", 1, "bad.xml:1: error: Invalid tag: <q>\n    1 | <q/>\n      | ^\n"},
+        {"bad.xml long.xml", 1, "bad.xml:1:1: error: Invalid tag: <q>\n    1 | <q/>\n      | ^\n"},
     };
     for (auto const& [arguments, status, error] : cases) {
         Outcome const outcome = run(std::string(arguments) + " 2>errors; echo $? >status) | :", "",

@@ -63,19 +63,19 @@ TEST_F(Tool, SaysWhichFileAndLineIsAtFault) {
     };
     Case const cases[] = {
         {"", "<p>\n< b>", 1,
-         "<stdin>:2: error: Expecting element type\n"
+         "<stdin>:2:2: error: Expecting element type\n"
          "    2 | < b>\n"
          "      |  ^\n"},
         {"page.xml", "", 1,
-         "page.xml:2: error: Invalid tag: <q>\n"
+         "page.xml:2:1: error: Invalid tag: <q>\n"
          "    2 | <q/></p>\n"
          "      | ^\n"},
         {"--css good.css --css bad.css", "<q/>", 1,
-         "bad.css:2: error: Expecting ':'\n"
+         "bad.css:2:8: error: Expecting ':'\n"
          "    2 |  color red; }\n"
          "      |        ^\n"},
         {"--dump boxes", "<td/>", 1,
-         "<stdin>:1: error: Cannot layout 'td' within 'html'\n"
+         "<stdin>:1:1: error: Cannot layout 'td' within 'html'\n"
          "    1 | <td/>\n"
          "      | ^\n"},
         {"absent.xml", "", 3, "absent.xml: error: No such file or directory\n"},
@@ -84,7 +84,7 @@ TEST_F(Tool, SaysWhichFileAndLineIsAtFault) {
         {".", "", 3, ".: error: Is a directory\n"},
         {"\"$(printf 'a\\nb\\tc')\"", "", 3, "a?b?c: error: No such file or directory\n"},
         {"", "<p\f/>", 1,
-         "<stdin>:1: error: Invalid tag: <p?>\n"
+         "<stdin>:1:1: error: Invalid tag: <p?>\n"
          "    1 | <p />\n"
          "      | ^\n"},
         {">/dev/full", "<p>x</p>", 3, "<stdout>: error: No space left on device\n"},

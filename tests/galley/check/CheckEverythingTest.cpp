@@ -8,7 +8,7 @@ namespace galley {
 namespace {
 
 Findings check(Source const& source) {
-    Findings findings = source.isSheet ? checkSheet(source.text) : checkDocument(source.text);
+    Findings findings = source.isSheet ? findInSheet(source.text) : findInDocument(source.text);
     checkInvariants(source, findings);
     return findings;
 }
@@ -102,10 +102,10 @@ TEST(CheckEverything, GoesAsDeepAsADocument) {
         return std::string(String::repeat(tag, 1000000).view());
     };
     runOnSmallStack([&] {
-        EXPECT_EQ(checkDocument(repeated("<p>") + repeated("</p>")).size(), 0U);
-        EXPECT_EQ(checkDocument(repeated("<b margin=\"1\">") + repeated("</b>")).size(), 0U);
-        EXPECT_EQ(checkDocument(repeated("<u>")).size(), 1000001U);
-        EXPECT_EQ(checkDocument(repeated("<table>")).size(), 1000000U);
+        EXPECT_EQ(findInDocument(repeated("<p>") + repeated("</p>")).size(), 0U);
+        EXPECT_EQ(findInDocument(repeated("<b margin=\"1\">") + repeated("</b>")).size(), 0U);
+        EXPECT_EQ(findInDocument(repeated("<u>")).size(), 1000001U);
+        EXPECT_EQ(findInDocument(repeated("<table>")).size(), 1000000U);
     });
 }
 
@@ -113,17 +113,17 @@ TEST(CheckEverything, TakesManyOfEverything) {
     auto const many = [](char const* piece) {
         return std::string(String::repeat(piece, 50000).view());
     };
-    EXPECT_EQ(checkSheet(many("p{color:red;}")).size(), 49999U);
-    EXPECT_EQ(checkSheet("p{" + many("color:red;") + "}").size(), 49999U);
-    EXPECT_EQ(checkSheet(many("p")).size(), 1U);
-    EXPECT_EQ(checkSheet(many("{}")).size(), 50000U);
-    EXPECT_EQ(checkSheet(many("P{")).size(), 2U);
-    EXPECT_EQ(checkDocument("<p " + many("a=\"\"") + "/>").size(), 50000U);
-    EXPECT_EQ(checkDocument("<p a=\"" + many("&;") + "\"/>").size(), 50001U);
-    EXPECT_EQ(checkDocument(many("&")).size(), 0U);
-    EXPECT_EQ(checkDocument(many("<b>a</b> ")).size(), 49999U);
-    EXPECT_EQ(checkDocument("</p>" + many("<!---->")).size(), 0U);
-    EXPECT_EQ(checkDocument("</p>" + many("<!-- ")).size(), 0U);
+    EXPECT_EQ(findInSheet(many("p{color:red;}")).size(), 49999U);
+    EXPECT_EQ(findInSheet("p{" + many("color:red;") + "}").size(), 49999U);
+    EXPECT_EQ(findInSheet(many("p")).size(), 1U);
+    EXPECT_EQ(findInSheet(many("{}")).size(), 50000U);
+    EXPECT_EQ(findInSheet(many("P{")).size(), 2U);
+    EXPECT_EQ(findInDocument("<p " + many("a=\"\"") + "/>").size(), 50000U);
+    EXPECT_EQ(findInDocument("<p a=\"" + many("&;") + "\"/>").size(), 50001U);
+    EXPECT_EQ(findInDocument(many("&")).size(), 0U);
+    EXPECT_EQ(findInDocument(many("<b>a</b> ")).size(), 49999U);
+    EXPECT_EQ(findInDocument("</p>" + many("<!---->")).size(), 0U);
+    EXPECT_EQ(findInDocument("</p>" + many("<!-- ")).size(), 0U);
 }
 
 }  // namespace

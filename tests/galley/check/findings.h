@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include "galley/check/check.h"
+#include "galley/check/find.h"
 #include "tests/support/sources.h"
 
 namespace galley {
@@ -64,7 +64,7 @@ inline void checkInvariants(Source const& source, Findings const& findings) {
 /// The findings about a source, one a line: "LINE:COLUMN warning: MESSAGE".
 inline std::string report(Source const& source, CLI::XML::StyleList const& rules = {}) {
     Findings const findings =
-        source.isSheet ? checkSheet(source.text) : checkDocument(source.text, rules);
+        source.isSheet ? findInSheet(source.text) : findInDocument(source.text, rules);
     checkInvariants(source, findings);
     std::string text;
     for (Finding const& finding : findings) {

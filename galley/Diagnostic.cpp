@@ -1,0 +1,37 @@
+#include <algorithm>
+
+#include "base/append.h"
+#include "galley/galley.h"
+#include "galley/terminal/controls.h"
+
+namespace galley {
+
+namespace {
+
+constexpr char const* s_severities[] = {"error: ", "warning: ", "note: "};
+
+/// Leaves nothing in a text that would drive a terminal or end the line.
+std::string inOneLine(std::string_view text) {
+    String line;
+    CLI::XML::append(line, text);
+    CLI::XML::replaceControls(line);
+    std::string shown(line.view());
+    auto const isControl = [](char c) { return c >= '\t' && c <= '\r'; };
+    std::replace_if(shown.begin(), shown.end(), isControl, '?');
+    return shown;
+}
+
+}  // namespace
+
+std::string Diagnostic::text() const {
+    std::string all = inOneLine(ownSource);
+    for (unsigned const number : {ownLine, ownColumn}) {
+        if (number > 0) all.append(":").append(std::to_string(number));
+    }
+    all.append(": ").append(s_severities[static_cast<unsigned>(ownSeverity)]);
+    all.append(inOneLine(ownMessage)).append("\n").append(ownExcerpt);
+    for (Diagnostic const& note : ownNotes) all += note.text();
+    return all;
+}
+
+}  // namespace galley

@@ -1,0 +1,70 @@
+#include "base/append.h"
+#include "galley/SheetAccess.h"
+#include "galley/check/find.h"
+#include "galley/diagnose.h"
+#include "galley/failure.h"
+#include "galley/terminal/controls.h"
+#include "xml/css/parseCss.h"
+
+namespace galley {
+
+namespace {
+
+using CLI::XML::StyleList;
+
+void addRules(StyleList& rules, StyleList const& others) {
+    for (auto const& rule : others) rules.add(rule);
+}
+
+}  // namespace
+
+Result<Sheet> Sheet::parse(std::string_view css, std::string_view name, Dialect) {
+    return guarded(name, [&]() -> Result<Sheet> {
+        auto made = std::make_shared<Rules>();
+        String text;
+        CLI::XML::append(text, css);
+        bool const hasControls = CLI::XML::replaceControls(text);
+        if (!CLI::XML::parseCss(made->shown, text)) {
+            Findings findings = findInSheet(text.view());
+            std::erase_if(findings,
+                          [](Finding const& f) { return f.kind != Finding::Kind::Error; });
+            return Result<Sheet>(diagnose(findings, {name, text.view()}));
+        }
+        if (hasControls) {
+            text.assign(css);
+            CLI::XML::parseCss(made->raw, text);
+        } else {
+            addRules(made->raw, made->shown);
+        }
+        made->texts.push_back({std::string(name), std::string(css)});
+        Sheet sheet;
+        sheet.rules = std::move(made);
+        return sheet;
+    });
+}
+
+Sheet& Sheet::operator+=(Sheet const& other) {
+    if (!other.rules) return *this;
+    if (!rules) return *this = other;
+    auto joined = std::make_shared<Rules>();
+    for (Rules const* part : {rules.get(), other.rules.get()}) {
+        addRules(joined->shown, part->shown);
+        addRules(joined->raw, part->raw);
+        joined->texts.insert(joined->texts.end(), part->texts.begin(), part->texts.end());
+    }
+    rules = std::move(joined);
+    return *this;
+}
+
+StyleList const& SheetAccess::rules(Sheet const& sheet, bool isRaw) {
+    static StyleList const s_none;
+    if (!sheet.rules) return s_none;
+    return isRaw ? sheet.rules->raw : sheet.rules->shown;
+}
+
+std::vector<Sheet::Rules::Text> const& SheetAccess::texts(Sheet const& sheet) {
+    static std::vector<Sheet::Rules::Text> const s_none;
+    return sheet.rules ? sheet.rules->texts : s_none;
+}
+
+}  // namespace galley

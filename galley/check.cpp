@@ -1,0 +1,72 @@
+#include <algorithm>
+
+#include "base/append.h"
+#include "galley/SheetAccess.h"
+#include "galley/check/find.h"
+#include "galley/checkMarkup.h"
+#include "galley/convert.h"
+#include "galley/page.h"
+#include "xml/xml.h"
+
+namespace galley {
+
+namespace {
+
+String withoutControls(std::string_view source) {
+    String text;
+    CLI::XML::append(text, source);
+    CLI::XML::replaceControls(text);
+    return text;
+}
+
+/// What `work` returns; where memory ends, the error that says so.
+template <class Work>
+std::vector<Diagnostic> guardedList(std::string_view name, Work const& work) {
+    try {
+        return work();
+    } catch (std::bad_alloc const&) {
+        return failure(name, "Out of memory");
+    }
+}
+
+void add(std::vector<Diagnostic>& all, std::vector<Diagnostic> const& more) {
+    all.insert(all.end(), more.begin(), more.end());
+}
+
+}  // namespace
+
+std::vector<Diagnostic> checkMarkup(String& markup, Sheet const& sheet, Options const& options) {
+    CLI::XML::replaceControls(markup);
+    CLI::XML::StyleList const& rules = SheetAccess::rules(sheet, false);
+    Source const source{options.name, markup.view()};
+    std::vector<Diagnostic> all = diagnose(findInDocument(source.text, rules), source);
+    auto const isError = [](Diagnostic const& d) { return d.severity() == Severity::error; };
+    if (std::any_of(all.begin(), all.end(), isError)) return all;
+    // Whether the page is too large shows only when it is made.
+    String page;
+    auto const made = convert(page, markup, options, [&](String const& cleaned) {
+        return CLI::XML::xmlToText(page, cleaned, rules, options.width);
+    });
+    add(all, made.errors());
+    return all;
+}
+
+std::vector<Diagnostic> check(std::string_view markup, Sheet const& sheet, Options const& options) {
+    return guardedList(options.name, [&] {
+        std::vector<Diagnostic> all;
+        for (auto const& [name, css] : SheetAccess::texts(sheet)) add(all, checkSheet(css, name));
+        String text;
+        CLI::XML::append(text, markup);
+        add(all, checkMarkup(text, sheet, settle(options, stdout)));
+        return all;
+    });
+}
+
+std::vector<Diagnostic> checkSheet(std::string_view css, std::string_view name, Dialect) {
+    return guardedList(name, [&] {
+        String const text = withoutControls(css);
+        return diagnose(findInSheet(text.view()), {name, text.view()});
+    });
+}
+
+}  // namespace galley

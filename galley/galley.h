@@ -1,0 +1,214 @@
+#pragma once
+
+/// Galley turns a document, styled by sheets, into a page of text for a terminal: blocks, wrapped
+/// words, tables, borders, colours.
+///
+///     auto const sheet = galley::Sheet::parse("h1 { color: green; font-style: bold; }");
+///     if (sheet) galley::print("<h1>Hello, terminal</h1>", *sheet);
+///
+/// Nothing but `value()` throws: what fails is said by a `Result`, lack of memory too. There is no
+/// global state, and any number of threads may do all of this at once.
+
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace [[gnu::visibility("default")]] galley {
+
+/// The language of documents and sheets. There will be a second one, and it will be the default.
+enum class Dialect { core };
+
+/// When the format `ansi` has its escape sequences; without them it is `plain`.
+enum class Color {
+    automatic,  ///< where they go to a terminal, unless NO_COLOR is set in the environment
+    always,
+    never,
+};
+
+/// How a page is written.
+enum class Format {
+    ansi,   ///< text with escape sequences for colours and other attributes
+    plain,  ///< bare text, without blanks at the ends of rows
+    html,   ///< a <pre> element, or a whole document
+    svg,    ///< a picture of a terminal
+};
+
+/// The colours of `html` and `svg`.
+enum class Theme {
+    automatic,  ///< in html what the reader prefers, in svg dark
+    light,
+    dark,
+};
+
+/// How a document becomes a page.
+struct Options {
+    /// In columns; 0 for the width of the terminal that the page goes to, which is standard output
+    /// unless a file is given; where that is none, of COLUMNS in the environment, else 80.
+    unsigned width = 0;
+    Color color = Color::automatic;
+    Format format = Format::ansi;
+    Theme theme = Theme::automatic;
+    /// Whether `html` is a whole document, with `name` as its title.
+    bool standalone = false;
+    /// Whether control characters of the document and the sheets reach the terminal, in the format
+    /// `ansi`. Otherwise all but white space become question marks.
+    bool raw = false;
+    Dialect dialect = Dialect::core;
+    /// What errors and warnings call the document.
+    std::string name = "<document>";
+};
+
+enum class Severity { error, warning, note };
+
+/// What is said about a source: a document, a sheet, or a file.
+class Diagnostic {
+public:
+    Diagnostic(Severity severity, std::string message, std::string source, unsigned line = 0,
+               unsigned column = 0, std::string excerpt = {})
+        : ownSeverity(severity),
+          ownLine(line),
+          ownColumn(column),
+          ownMessage(std::move(message)),
+          ownSource(std::move(source)),
+          ownExcerpt(std::move(excerpt)) {}
+
+    Severity severity() const { return ownSeverity; }
+    /// In words, without the place.
+    std::string const& message() const { return ownMessage; }
+    /// The name of the source, as it was given.
+    std::string const& source() const { return ownSource; }
+    /// From 1; 0 where the message is about no place in the source.
+    unsigned line() const { return ownLine; }
+    /// In characters, from 1; 0 where the message is about no place in the source.
+    unsigned column() const { return ownColumn; }
+    /// The line of the source behind its number, and below it a caret under the place, each ended
+    /// by "\n"; empty where there is no place. A long line is cut.
+    std::string const& excerpt() const { return ownExcerpt; }
+    /// Other places that it is about, such as the start tag of an element that is not closed.
+    std::vector<Diagnostic> const& notes() const { return ownNotes; }
+    void addNote(Diagnostic note) { ownNotes.push_back(std::move(note)); }
+    /// All of it in lines as a compiler prints them: "SOURCE:LINE:COLUMN: error: MESSAGE", the
+    /// excerpt, the notes. Control characters become question marks.
+    std::string text() const;
+
+private:
+    Severity ownSeverity;
+    unsigned ownLine;
+    unsigned ownColumn;
+    std::string ownMessage;
+    std::string ownSource;
+    std::string ownExcerpt;
+    std::vector<Diagnostic> ownNotes;
+};
+
+/// What `value()` of a failure throws; `what()` is the text of its first error.
+class Failure : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A value of type T, or why there is none.
+template <class T>
+class Result;
+
+/// Success, or why there is none.
+template <>
+class Result<void> {
+public:
+    /// Success.
+    Result() = default;
+    /// A failure, for at least one error.
+    explicit Result(std::vector<Diagnostic> errors) : faults(std::move(errors)) {}
+
+    explicit operator bool() const noexcept { return faults.empty(); }
+    /// The first error. Only of a failure.
+    Diagnostic const& error() const { return faults.front(); }
+    /// All of them, in the order of the source; none of a success.
+    std::vector<Diagnostic> const& errors() const { return faults; }
+    /// Throws `Failure` unless it is a success.
+    void value() const {
+        if (!*this) throw Failure(error().text());
+    }
+
+private:
+    std::vector<Diagnostic> faults;
+};
+
+template <class T>
+class [[nodiscard]] Result : public Result<void> {
+public:
+    Result(T made) : held(std::move(made)) {}
+    using Result<void>::Result;
+
+    /// The value. Only of a success.
+    ///@{
+    T& operator*() & { return *held; }
+    T const& operator*() const& { return *held; }
+    T&& operator*() && { return *std::move(held); }
+    T* operator->() { return &*held; }
+    T const* operator->() const { return &*held; }
+    ///@}
+    /// The value; throws `Failure` where there is none.
+    ///@{
+    T& value() & { return Result<void>::value(), *held; }
+    T const& value() const& { return Result<void>::value(), *held; }
+    T&& value() && { return Result<void>::value(), *std::move(held); }
+    ///@}
+
+private:
+    std::optional<T> held;
+};
+
+/// Style rules. A value that is cheap to copy; any number of threads may copy and use one sheet.
+class Sheet {
+public:
+    /// Without rules.
+    Sheet() = default;
+    /// Reads the text of a sheet. Of a text that is at fault all errors are told; `name` is what
+    /// they call it.
+    static Result<Sheet> parse(std::string_view css, std::string_view name = "<sheet>",
+                               Dialect dialect = Dialect::core);
+
+    /// Adds the rules of another sheet behind its own.
+    Sheet& operator+=(Sheet const& other);
+    friend Sheet operator+(Sheet sheet, Sheet const& other) { return sheet += other; }
+
+private:
+    struct Rules;
+    friend struct SheetAccess;
+
+    /// Null for none.
+    std::shared_ptr<Rules const> rules;
+};
+
+/// The page of a document: lines of text, each ended by "\n", or what `options.format` says.
+Result<std::string> render(std::string_view markup, Sheet const& sheet = {},
+                           Options const& options = {});
+
+/// Writes the page of a document to `out`, whose terminal, if it is one, counts for width and
+/// colours. A failure without a place is one of writing, after which a part may have been written.
+Result<void> print(std::string_view markup, Sheet const& sheet = {}, Options const& options = {},
+                   std::FILE* out = stdout);
+
+/// All that is wrong with a document, and what it and its sheet have without effect: warnings of
+/// the sheet, then errors and warnings of the document, in the order of the source.
+std::vector<Diagnostic> check(std::string_view markup, Sheet const& sheet = {},
+                              Options const& options = {});
+
+/// The same of the text of a sheet, which may be at fault.
+std::vector<Diagnostic> checkSheet(std::string_view css, std::string_view name = "<sheet>",
+                                   Dialect dialect = Dialect::core);
+
+/// `text` as the content of an element, where it stands for itself.
+std::string escape(std::string_view text);
+
+/// `text` as the value of an attribute, between its quotation marks. The two differ since content
+/// has no reference for a quotation mark, and a value cannot do without.
+std::string escapeAttribute(std::string_view text);
+
+}  // namespace gnu::visibility("default")]]galley

@@ -1,0 +1,54 @@
+#include "galley/page.h"
+
+#include "galley/SheetAccess.h"
+#include "galley/convert.h"
+#include "galley/formats/formats.h"
+#include "galley/formats/plain.h"
+#include "galley/terminal/terminal.h"
+#include "xml/xml.h"
+
+namespace galley {
+
+namespace {
+
+void applyFormat(String& page, Options const& options) {
+    switch (options.format) {
+        case Format::ansi:
+            break;
+        case Format::plain:
+            CLI::XML::makePlain(page);
+            break;
+        case Format::html:
+            makeHtml(page);
+            break;
+        case Format::svg:
+            makeSvg(page);
+            break;
+    }
+}
+
+}  // namespace
+
+Options settle(Options options, std::FILE* out) {
+    if (options.width == 0) options.width = CLI::XML::terminalWidth(out);
+    if (options.color == Color::automatic) {
+        options.color = CLI::XML::isColorWelcome(out) ? Color::always : Color::never;
+    }
+    bool const isAnsi = options.format == Format::ansi;
+    if (isAnsi && options.color == Color::never) options.format = Format::plain;
+    options.raw = options.raw && isAnsi;
+    return options;
+}
+
+Result<void> makePage(String& page, String& markup, Sheet const& sheet, Options const& options) {
+    return guarded(options.name, [&]() -> Result<void> {
+        auto made = convert(page, markup, options, [&](String const& cleaned) {
+            CLI::XML::StyleList const& rules = SheetAccess::rules(sheet, options.raw);
+            return CLI::XML::xmlToText(page, cleaned, rules, options.width);
+        });
+        if (made) applyFormat(page, options);
+        return made;
+    });
+}
+
+}  // namespace galley
