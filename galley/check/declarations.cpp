@@ -37,12 +37,13 @@ void checkOne(Declaration const& declaration, bool isOfRule, Findings& findings)
 /// Of several declarations of the same property the last one counts.
 void checkAll(std::vector<Declaration> const& declarations, bool isOfRule, Findings& findings) {
     std::set<std::string_view> later;
-    for (auto next = declarations.rbegin(); next != declarations.rend(); ++next) {
-        if (later.insert(next->name).second) {
-            checkOne(*next, isOfRule, findings);
+    for (std::size_t i = declarations.size(); i-- > 0;) {
+        Declaration const& declaration = declarations[i];
+        if (later.insert(declaration.name).second) {
+            checkOne(declaration, isOfRule, findings);
         } else {
-            warn(findings, next->namePosition,
-                 "a later " + quoted(next->name) + " replaces this one");
+            warn(findings, declaration.namePosition,
+                 "a later " + quoted(declaration.name) + " replaces this one");
         }
     }
 }

@@ -12,7 +12,7 @@ bool isSame(char one, char other) { return lower(one) == lower(other); }
 
 }  // namespace
 
-bool isWithinEdits(std::string_view word, std::string_view other, unsigned edits) {
+bool isWithinEdits(std::string_view word, std::string_view other, std::size_t edits) {
     auto const same = std::mismatch(word.begin(), word.end(), other.begin(), other.end(), isSame);
     word.remove_prefix(static_cast<std::size_t>(same.first - word.begin()));
     other.remove_prefix(static_cast<std::size_t>(same.second - other.begin()));

@@ -61,8 +61,8 @@ enum class Value : std::uint8_t {
 
 /// A property and what its values say.
 struct Entry {
-    StyleProperty property;  ///< Its name.
-    Value value;             ///< Of each value.
+    StyleProperty property;      ///< Its name.
+    Value value = Value::Cells;  ///< Of each value.
 };
 
 /// All of them.
