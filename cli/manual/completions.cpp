@@ -46,7 +46,7 @@ std::string zshAction(OptionEntry const& entry) {
 
 /// An argument for each name of the option, which exclude one another.
 std::string zshSpecs(OptionEntry const& entry) {
-    std::string const text = "[" + escape(shortDescription(entry), "[]:\\") + "]";
+    std::string const text = '[' + escape(shortDescription(entry), "[]:\\") + ']';
     if (!isOption(entry)) return quoted("*:document:_files");
     if (!entry.shortName.empty()) {
         std::string const names = "(" + entry.shortName + " " + entry.name + ")";
