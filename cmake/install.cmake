@@ -7,8 +7,19 @@ include(CMakePackageConfigHelpers)
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/galley)
 set(pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-install(TARGETS galley galley-c EXPORT galley-targets
+set(libraries galley)
+set(pc_packages galley galley-xml)
+if(BUILD_SHARED_LIBS)
+    list(APPEND libraries galley-c)
+    list(APPEND pc_packages galley-c)
+endif()
+
+# For who wants to install and not to test.
+add_custom_target(galley_installed DEPENDS ${libraries} galley-embed)
+
+install(TARGETS ${libraries} EXPORT galley-targets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
     FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 install(TARGETS galley-xml EXPORT galley-targets
     FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/galley COMPONENT development)
@@ -36,18 +47,21 @@ if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR} OR IS_ABSOLUTE ${CMAKE_INSTALL_INCLUDEDIR
     set(GALLEY_PC_LIBDIR ${CMAKE_INSTALL_FULL_LIBDIR})
     set(GALLEY_PC_INCLUDEDIR ${CMAKE_INSTALL_FULL_INCLUDEDIR})
 endif()
-foreach(package galley galley-xml galley-c)
+foreach(package ${pc_packages})
     configure_file(cmake/${package}.pc.in ${package}.pc @ONLY)
     install(FILES ${PROJECT_BINARY_DIR}/${package}.pc
         DESTINATION ${pc_dir} COMPONENT development)
 endforeach()
 
 if(GALLEY_BUILD_TOOL)
+    add_dependencies(galley_installed galley-cli galley_manual_pages)
     install(TARGETS galley-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
     set(manual ${PROJECT_BINARY_DIR}/manual)
     set(share ${CMAKE_INSTALL_DATADIR})
     install(FILES ${manual}/man/galley.1
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+    install(FILES docs/galley.7
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man7 COMPONENT tool)
     install(FILES ${manual}/bash/galley
         DESTINATION ${share}/bash-completion/completions COMPONENT tool)
     # Debian's zsh looks for those of packages in a folder of their own.
@@ -63,4 +77,4 @@ if(GALLEY_BUILD_TOOL)
         DESTINATION ${share}/fish/vendor_completions.d COMPONENT tool)
 endif()
 
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright COMPONENT library)
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright COMPONENT tool)

@@ -31,8 +31,9 @@ as_root() {
     fi
 }
 
-# Installs what printing a page needs and brings build/release/galley up to date. A tree that is
-# configured here leaves the tests out, so that it needs no test framework.
+# Installs what printing a page needs and brings build/release/galley up to date, with all that
+# `cmake --install` would install. A tree that is configured here leaves the tests out, so that it
+# needs no test framework.
 build_tool() {
     [[ -z ${GALLEY-} ]] || return 0
     mkdir -p "$root/build"
@@ -44,7 +45,7 @@ build_tool() {
             printf 'building galley, about a minute\n' >&2
             quietly tool.log cmake --preset release -DGALLEY_BUILD_TESTS=OFF
         fi
-        quietly tool.log cmake --build --preset release --target galley-cli
+        quietly tool.log cmake --build --preset release --target galley_installed
     ) 9>"$root/build/lock"
 }
 

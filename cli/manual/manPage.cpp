@@ -42,7 +42,10 @@ constexpr char const* s_tail =
     ".TP\n.B galley \\-\\-css report.css \\-\\-format svg \\-\\-output report.svg report.xml\n"
     "makes a picture of it.\n"
     ".TP\n.B galley \\-\\-check \\-\\-css report.css *.xml\n"
-    "says which documents fail, and where.\n";
+    "says which documents fail, and where.\n"
+    ".SH SEE ALSO\n"
+    ".BR galley (7),\n"
+    "on what documents and sheets have in them.\n";
 
 /// `text` as it is, whatever requests it looks like.
 std::string literal(std::string const& text) {
