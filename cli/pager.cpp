@@ -75,7 +75,7 @@ ExitStatus PagerOutput::waitForPager() {
 
 ExitStatus renderInPager(Options const& options) {
     // Before there are threads, which may not read the environment meanwhile.
-    setenv("LESS", "R", 0);
+    setenv("LESS", "FRX", 0);
     PagerOutput output(options);
     ExitStatus const rendered = renderAll(options, output);
     ExitStatus const shown = output.finish();

@@ -7,5 +7,6 @@
 /// waits for that to end. Errors follow on standard error, where its screen does not hide them.
 /// Quitting it early is no failure. Pages go straight to standard output where it cannot be run.
 ///
-/// Without LESS in the environment, `less` is told by it to pass escape sequences on.
+/// Without LESS in the environment, `less` is told by it to pass escape sequences on, and to leave
+/// a page that fits on the screen, and end.
 ExitStatus renderInPager(Options const& options);

@@ -33,7 +33,7 @@ TEST_F(Pager, ShowsWhatATerminalWouldAndTheErrorsBehindIt) {
         {"cat", "--color never bold.xml <&-", 0, "x y z \r\nab\r\n", ""},
         {"true", "long.xml", 0, "", ""},
         {"echo started", "bad.xml absent.xml", 1, "", "bad.xml:1"},
-        {"echo LESS=$LESS", "bold.xml", 0, "LESS=R\r\n", ""},
+        {"echo LESS=$LESS", "bold.xml", 0, "LESS=FRX\r\n", ""},
         {"kill -INT $$; cat", "bold.xml", 0, "", ""},
         {"galley-nosuch", "--color never bold.xml bad.xml bold.xml", 1,
          "x y z \r\nab\r\nx y z \r\nab\r\n", "galley: error: Cannot run the pager 'galley-nosuch'"},
@@ -58,6 +58,13 @@ TEST_F(Pager, ShowsWhatATerminalWouldAndTheErrorsBehindIt) {
             EXPECT_EQ(outcome.err.empty(), *c.error == '\0') << c.pager << outcome.err;
         }
     }
+}
+
+TEST_F(Pager, LeavesTheLessOfTheEnvironmentAsItIs) {
+    Terminal terminal;
+    run(std::string("--pager >") + ttyname(terminal.terminal), "x",
+        "export LESS=i PAGER='echo $LESS'; ");
+    EXPECT_EQ(terminal.seen(), "i\r\n");
 }
 
 TEST_F(Pager, IsNotAskedWithoutATerminal) {
