@@ -1,32 +1,87 @@
 #include "cli/outputNames.h"
 
+#include <strings.h>
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <map>
 #include <set>
+#include <string_view>
+#include <system_error>
 #include <utility>
 
 namespace {
 
 using galley::Format;
+using std::filesystem::path;
 
-std::string nameInDirectory(std::string const& document, Options const& options) {
-    std::string const name =
-        document == "-" ? "stdin" : document.substr(document.find_last_of('/') + 1);
-    std::size_t const dot = name.find_last_of('.');
-    bool const hasExtension = dot != std::string::npos && dot > 0;
-    char const* const extension = options.format == Format::html  ? ".html"
-                                  : options.format == Format::svg ? ".svg"
-                                                                  : ".txt";
-    return options.directory + "/" + (hasExtension ? name.substr(0, dot) : name) + extension;
+/// The last part of a name.
+std::string_view withoutFolders(std::string_view name) {
+    return name.substr(name.find_last_of('/') + 1);
 }
 
-/// The first name that is there twice; empty where all differ.
-std::string firstDuplicate(std::vector<std::string> const& names) {
-    std::set<std::string> seen;
-    auto const found = std::find_if(names.begin(), names.end(),
-                                    [&](auto const& name) { return !seen.insert(name).second; });
-    return found != names.end() ? *found : "";
+/// Of the last dot in a name without folders, unless the name begins with it; else its length.
+std::size_t extensionStart(std::string_view name) {
+    std::size_t const dot = name.find_last_of('.');
+    return dot == std::string_view::npos || dot == 0 ? name.length() : dot;
+}
+
+std::string pageName(std::string const& document, Format format) {
+    std::string_view const name = document == "-" ? "stdin" : withoutFolders(document);
+    char const* const extension = format == Format::html  ? ".html"
+                                  : format == Format::svg ? ".svg"
+                                                          : ".txt";
+    return std::string(name.substr(0, extensionStart(name))) + extension;
+}
+
+/// Where a document is, by names alone: absolute, without "." and "..". Standard input is here.
+path folderOf(std::string const& document) {
+    std::error_code ignored;
+    return ("/" / std::filesystem::current_path(ignored) / document)
+        .lexically_normal()
+        .parent_path();
+}
+
+path commonFolder(path const& a, path const& b) {
+    path common;
+    auto const end = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first;
+    for (auto part = a.begin(); part != end; ++part) common /= *part;
+    return common;
+}
+
+/// A name for the page of each document: below the folder that all documents whose pages have that
+/// name are in, the way to this one.
+std::vector<path> namesInDirectory(std::vector<std::string> const& documents, Format format) {
+    std::map<std::string, path> folders;
+    for (std::string const& document : documents) {
+        path const folder = folderOf(document);
+        auto const [shared, isFirst] = folders.emplace(pageName(document, format), folder);
+        if (!isFirst) shared->second = commonFolder(shared->second, folder);
+    }
+    std::vector<path> names;
+    for (std::string const& document : documents) {
+        std::string const name = pageName(document, format);
+        path const way = folderOf(document).lexically_relative(folders[name]);
+        names.push_back((way / name).lexically_normal());
+    }
+    return names;
+}
+
+/// What makes it impossible that all of `names` are files; empty where nothing does.
+std::string firstCollision(std::string const& directory, std::vector<path> const& names) {
+    std::set<path> files;
+    for (path const& name : names) {
+        if (!files.insert(name).second)
+            return "two documents for " + directory + "/" + name.string();
+    }
+    for (path const& name : names) {
+        for (path way = name.parent_path(); !way.empty(); way = way.parent_path()) {
+            if (files.count(way) > 0)
+                return directory + "/" + way.string() + " would be a page and a folder";
+        }
+    }
+    return "";
 }
 
 /// Device and number of a regular file.
@@ -55,6 +110,17 @@ std::string firstOverwritten(Options const& options) {
 
 }  // namespace
 
+Format formatOf(std::string const& file) {
+    constexpr std::pair<char const*, Format> s_extensions[] = {
+        {".html", Format::html}, {".htm", Format::Html}, {".svg", Format::svg}};
+    std::string const name(withoutFolders(file));
+    char const* const extension = name.c_str() + extensionStart(name);
+    for (auto const& [known, format] : s_extensions) {
+        if (strcasecmp(extension, known) == 0) return format;
+    }
+    return Format::Ansi;
+}
+
 std::string nameOutputs(Options& options) {
     bool const hasMany = options.documents.size() > 1;
     if (options.files.empty() && options.directory.empty()) {
@@ -62,11 +128,12 @@ std::string nameOutputs(Options& options) {
         return hasMany && isOneFile ? "--format: several pictures need --output-dir" : "";
     }
     if (!options.directory.empty()) {
-        for (std::string const& document : options.documents) {
-            options.files.push_back(nameInDirectory(document, options));
+        std::vector<path> const names = namesInDirectory(options.documents, options.format);
+        std::string const collision = firstCollision(options.directory, names);
+        if (!collision.empty()) return "--output-dir: " + collision;
+        for (path const& name : names) {
+            options.files.push_back(options.directory + "/" + name.string());
         }
-        std::string const twice = firstDuplicate(options.files);
-        if (!twice.empty()) return "--output-dir: two documents for " + twice;
     } else if (hasMany) {
         return "--output: several documents need --output-dir";
     }

@@ -2,6 +2,9 @@
 
 #include <cstring>
 #include <filesystem>
+#include <set>
+#include <string>
+#include <system_error>
 
 #include "cli/render.h"
 #include "cli/renderInOrder.h"
@@ -10,12 +13,21 @@
 
 namespace {
 
-ExitStatus makeDirectory(std::string const& directory, Output& output) {
-    std::error_code fault;
-    if (!directory.empty()) std::filesystem::create_directories(directory, fault);
-    if (!fault) return ExitStatus::Rendered;
-    output.report(errorText(directory, std::strerror(fault.value())));
-    return ExitStatus::FileAtFault;
+/// Makes the directories that hold the files, unless a single file was named.
+ExitStatus makeDirectories(Options const& options, Output& output) {
+    if (options.directory.empty()) return ExitStatus::Rendered;
+    std::set<std::string> folders;
+    for (std::string const& file : options.files) {
+        folders.insert(file.substr(0, file.find_last_of('/')));
+    }
+    for (std::string const& folder : folders) {
+        std::error_code fault;
+        std::filesystem::create_directories(folder, fault);
+        if (!fault) continue;
+        output.report(errorText(folder, std::strerror(fault.value())));
+        return ExitStatus::FileAtFault;
+    }
+    return ExitStatus::Rendered;
 }
 
 ExitStatus renderDocuments(Options const& options, galley::Sheet const& sheet, Output& output) {
@@ -41,7 +53,7 @@ ExitStatus renderDocuments(Options const& options, galley::Sheet const& sheet, O
 ExitStatus renderAll(Options const& options, Output& output) {
     galley::Sheet sheet;
     ExitStatus status = readSheets(options, sheet, output);
-    if (status == ExitStatus::Rendered) status = makeDirectory(options.directory, output);
+    if (status == ExitStatus::Rendered) status = makeDirectories(options, output);
     if (status != ExitStatus::Rendered && !options.isCheck) return status;
     ExitStatus const rendered = renderDocuments(options, sheet, output);
     return status == ExitStatus::Rendered ? rendered : status;
