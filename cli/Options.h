@@ -23,11 +23,12 @@ struct Options {
     Product product = Product::Page;
     galley::Format format = galley::Format::ansi;
     galley::Color color = galley::Color::automatic;
+    galley::Theme theme = galley::Theme::automatic;
     /// Control characters of the document and the sheets reach the terminal.
     bool isRaw = false;
     /// Documents and sheets are read and converted, but nothing is written.
     bool isCheck = false;
-    /// Of a check, warnings are faults, too.
+    /// With `isCheck`: a warning fails as an error does.
     bool isStrict = false;
     /// Pages go through a pager where standard output is a terminal.
     bool isPaged = false;
@@ -40,33 +41,6 @@ struct Options {
     /// Documents that are rendered at the same time.
     unsigned jobs = 1;
 };
-
-/// An option of the command line, or the documents, as `--help` and the manual tell of it.
-struct OptionEntry {
-    /// With its dashes; "FILE" for the documents.
-    std::string name;
-    /// With its dash; empty where there is none.
-    std::string shortName;
-    /// What stands behind the name: "FILE", "DIR" or "N" for such a thing, else the words that may
-    /// stand there with bars between them; empty for a flag.
-    std::string argument;
-    std::string description;
-    /// The heading that it stands under; empty for those that are in every program.
-    std::string group;
-    bool mayRepeat;
-};
-
-/// What one value of the exit status means.
-struct StatusEntry {
-    ExitStatus status;
-    char const* meaning;
-};
-
-/// All options, in the order of `--help`.
-std::vector<OptionEntry> describeOptions();
-std::vector<StatusEntry> describeStatuses();
-/// What the table of statuses leaves open.
-char const* statusNote();
 
 /// Reads the command line into `options`. A status means that the tool is done: help or version
 /// was printed, or the usage error was.

@@ -29,14 +29,13 @@ int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     Options options;
-    std::optional<ExitStatus> status = parseCommandLine(argc, argv, options);
-    if (!status) {
-        try {
-            status = run(options);
-        } catch (std::bad_alloc const&) {
-            reportError("galley", "Out of memory");
-            status = ExitStatus::InputAtFault;
-        }
+    std::optional<ExitStatus> status;
+    try {
+        status = parseCommandLine(argc, argv, options);
+        if (!status) status = run(options);
+    } catch (std::bad_alloc const&) {
+        reportError("galley", "Out of memory");
+        status = ExitStatus::InputAtFault;
     }
     return static_cast<int>(*status);
 }

@@ -110,15 +110,15 @@ std::string firstOverwritten(Options const& options) {
 
 }  // namespace
 
-Format formatOf(std::string const& file) {
+galley::Format formatOf(std::string const& file) {
     constexpr std::pair<char const*, Format> s_extensions[] = {
-        {".html", Format::html}, {".htm", Format::Html}, {".svg", Format::svg}};
+        {".html", Format::html}, {".htm", Format::html}, {".svg", Format::svg}};
     std::string const name(withoutFolders(file));
     char const* const extension = name.c_str() + extensionStart(name);
     for (auto const& [known, format] : s_extensions) {
         if (strcasecmp(extension, known) == 0) return format;
     }
-    return Format::Ansi;
+    return Format::ansi;
 }
 
 std::string nameOutputs(Options& options) {

@@ -5,7 +5,7 @@
 #include "cli/Options.h"
 
 /// The format that the extension of a name asks for, in upper or lower case: html, svg, else ansi.
-Format formatOf(std::string const& file);
+galley::Format formatOf(std::string const& file);
 
 /// Completes `files` of `options` with the names in its directory. Returns what is wrong with where
 /// the pages are to go, or an empty text.

@@ -17,3 +17,8 @@ std::string shortDescription(OptionEntry const& entry) {
 }
 
 bool isOption(OptionEntry const& entry) { return entry.name.compare(0, 2, "--") == 0; }
+
+std::vector<std::string> optionNames(OptionEntry const& entry) {
+    if (entry.shortName.empty()) return {entry.name};
+    return {entry.shortName, entry.name};
+}

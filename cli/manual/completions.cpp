@@ -27,14 +27,23 @@ std::string quoted(std::string const& text) {
     return word + "'";
 }
 
+/// The names with `separator` between them.
+std::string joinedNames(OptionEntry const& entry, std::string const& separator) {
+    std::string names;
+    for (std::string const& name : optionNames(entry)) {
+        names += (names.empty() ? "" : separator) + name;
+    }
+    return names;
+}
+
 std::string bashCase(OptionEntry const& entry) {
     std::string const words = choiceWords(entry);
-    std::string action = "return";  // the default: files
-    if (entry.argument == "N") action = "compopt +o default 2>/dev/null; return";
-    if (entry.argument == "DIR")
-        action = "compopt -o filenames 2>/dev/null; _galley_offer -d; return";
-    if (!words.empty()) action = "_galley_offer -W " + quoted(words) + "; return";
-    return "        " + entry.name + ") " + action + " ;;\n";
+    // Of files bash knows more by default, but not behind a short name in the same word.
+    std::string action = "[[ -z $before ]] || _galley_offer -f";
+    if (entry.argument == "N") action = "compopt +o default 2>/dev/null";
+    if (entry.argument == "DIR") action = "compopt -o filenames 2>/dev/null; _galley_offer -d";
+    if (!words.empty()) action = "_galley_offer -W " + quoted(words);
+    return "        " + joinedNames(entry, " | ") + ") " + action + "; return ;;\n";
 }
 
 std::string zshAction(OptionEntry const& entry) {
@@ -44,18 +53,23 @@ std::string zshAction(OptionEntry const& entry) {
     return entry.argument == "DIR" ? "_files -/" : "_files";
 }
 
-/// An argument for each name of the option, which exclude one another.
+/// An argument for each name of the option, which exclude one another unless it may be repeated. A
+/// value stands behind the short name or in the same word, and behind the long one with or without
+/// a "=".
 std::string zshSpecs(OptionEntry const& entry) {
-    std::string const text = '[' + escape(shortDescription(entry), "[]:\\") + ']';
     if (!isOption(entry)) return quoted("*:document:_files");
-    if (!entry.shortName.empty()) {
-        std::string const names = "(" + entry.shortName + " " + entry.name + ")";
-        return quoted(names + entry.shortName + text) + s_nextSpec +
-               quoted(names + entry.name + text);
+    std::string const text = "[" + escape(shortDescription(entry), "[]:\\") + "]";
+    std::string before = entry.shortName.empty() ? "" : "(" + joinedNames(entry, " ") + ")";
+    if (entry.mayRepeat) before = "*";
+    std::string specs;
+    for (std::string const& name : optionNames(entry)) {
+        std::string spec = before + name;
+        if (!entry.argument.empty()) spec += name == entry.name ? "=" : "+";
+        spec += text;
+        if (!entry.argument.empty()) spec += ":" + entry.name.substr(2) + ":" + zshAction(entry);
+        specs += (specs.empty() ? "" : s_nextSpec) + quoted(spec);
     }
-    std::string const spec = (entry.mayRepeat ? "*" : "") + entry.name;
-    if (entry.argument.empty()) return quoted(spec + text);
-    return quoted(spec + "=" + text + ":" + entry.name.substr(2) + ":" + zshAction(entry));
+    return specs;
 }
 
 std::string fishArgument(OptionEntry const& entry) {
@@ -71,17 +85,21 @@ std::string fishArgument(OptionEntry const& entry) {
 std::string makeBashCompletion() {
     std::string names;
     std::string cases;
+    std::string letters;
     for (OptionEntry const& entry : describeOptions()) {
         if (!isOption(entry)) continue;
-        for (std::string const& name : {entry.shortName, entry.name}) {
-            if (!name.empty()) names += (names.empty() ? "" : " ") + name;
-        }
-        if (!entry.argument.empty()) cases += bashCase(entry);
+        names += (names.empty() ? "" : " ") + joinedNames(entry, " ");
+        if (entry.argument.empty()) continue;
+        cases += bashCase(entry);
+        if (!entry.shortName.empty()) letters += entry.shortName[1];
     }
     return "# Completions of galley for bash.\n\n"
-           "_galley_offer() { mapfile -t COMPREPLY < <(compgen \"$@\" -- \"$current\"); }\n\n"
+           "_galley_offer() {\n"
+           "    mapfile -t COMPREPLY < <(compgen -P \"$before\" \"$@\" -- \"$current\")\n"
+           "}\n\n"
            "_galley() {\n"
-           "    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} i\n"
+           "    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}\n"
+           "    local before= i\n"
            "    COMPREPLY=()\n"
            "    # Behind a bare \"--\" stand documents.\n"
            "    for ((i = 1; i < COMP_CWORD; i++)); do\n"
@@ -91,6 +109,12 @@ std::string makeBashCompletion() {
            "    [[ $previous != = ]] || previous=${COMP_WORDS[COMP_CWORD - 2]}\n"
            "    if [[ $current == = ]]; then\n"
            "        previous=${COMP_WORDS[COMP_CWORD - 1]} current=\n"
+           "    fi\n"
+           "    # A short name may have its value in the same word.\n"
+           "    if [[ $current == -[" +
+           letters +
+           "]?* ]]; then\n"
+           "        before=${current:0:2} previous=${current:0:2} current=${current:2}\n"
            "    fi\n"
            "    case $previous in\n" +
            cases +
@@ -103,7 +127,7 @@ std::string makeBashCompletion() {
 }
 
 std::string makeZshCompletion() {
-    std::string script = "#compdef galley\n# Completions of galley for zsh.\n\n_arguments -S";
+    std::string script = "#compdef galley\n# Completions of galley for zsh.\n\n_arguments -s -S";
     for (OptionEntry const& entry : describeOptions()) {
         script += s_nextSpec + zshSpecs(entry);
     }

@@ -8,19 +8,7 @@
 
 namespace {
 
-constexpr char const* s_head =
-    ".SH NAME\n"
-    "galley \\- render a small XML/XHTML subset as text for a terminal\n"
-    ".SH SYNOPSIS\n"
-    ".B galley\n"
-    "[\\fIOPTION\\fR]... [\\fIFILE\\fR]...\n"
-    ".SH DESCRIPTION\n"
-    "Each document is laid out in columns as blocks, lines of words and tables, styled by its\n"
-    "attributes and by the sheets, and its page is printed.\n"
-    "A document is a run of elements and words; a sheet is a list of rules, each a tag name and\n"
-    "declarations in braces.\n";
-
-constexpr char const* s_tail =
+constexpr char const* s_environment =
     ".SH ENVIRONMENT\n"
     ".TP\n.B COLUMNS\n"
     "Width of the page in columns where standard output is no terminal.\n"
@@ -32,17 +20,14 @@ constexpr char const* s_tail =
     ".BR sh (1).\n"
     ".TP\n.B LESS\n"
     "Options of\n"
-    ".BR less (1);\n"
-    "\\fB\\-\\-pager\\fR sets it to R where it is unset, so that escape sequences take effect.\n"
-    ".SH EXAMPLES\n"
-    ".TP\n.B galley \\-\\-css report.css report.xml\n"
-    "shows a page.\n"
-    ".TP\n.B galley \\-\\-watch \\-\\-css report.css report.xml\n"
-    "shows it as it is being written.\n"
-    ".TP\n.B galley \\-\\-css report.css \\-\\-format svg \\-\\-output report.svg report.xml\n"
-    "makes a picture of it.\n"
-    ".TP\n.B galley \\-\\-check \\-\\-css report.css *.xml\n"
-    "says which documents fail, and where.\n"
+    ".BR less (1).\n"
+    "Where it is unset, \\fB\\-\\-pager\\fR sets it to FRX: escape sequences take effect (R), and "
+    "a\n"
+    "page that fits on the screen is left there without a wait for a key (F, X). Where it is set, "
+    "it\n"
+    "stays as it is.\n";
+
+constexpr char const* s_seeAlso =
     ".SH SEE ALSO\n"
     ".BR galley (7),\n"
     "on what documents and sheets have in them.\n";
@@ -91,9 +76,30 @@ std::string statuses() {
     return text + ".PP\n" + literal(statusNote()) + "\n";
 }
 
+std::string examples() {
+    std::string text = ".SH EXAMPLES\n";
+    for (ExampleEntry const& example : describeExamples()) {
+        text += ".TP\n" + bold(example.command) + "\n" + literal(example.effect) + ".\n";
+    }
+    return text;
+}
+
+std::string head() {
+    return ".TH GALLEY 1 \"\" \"galley " GALLEY_VERSION
+           "\" \"User Commands\"\n"
+           ".SH NAME\n"
+           "galley \\- " +
+           literal(toolSummary()) +
+           "\n"
+           ".SH SYNOPSIS\n"
+           ".B galley\n"
+           "[\\fIOPTION\\fR]... [\\fIFILE\\fR]...\n"
+           ".SH DESCRIPTION\n" +
+           literal(toolDescription()) + "\n";
+}
+
 }  // namespace
 
 std::string makeManPage() {
-    return ".TH GALLEY 1 \"\" \"galley " GALLEY_VERSION "\" \"User Commands\"\n" +
-           std::string(s_head) + options() + statuses() + s_tail;
+    return head() + options() + statuses() + s_environment + examples() + s_seeAlso;
 }

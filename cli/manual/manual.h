@@ -2,7 +2,7 @@
 
 #include <string>
 
-// Each makes one text of what `describeOptions` and `describeStatuses` tell.
+// Each makes one text of what cli/describe.h tells.
 
 /// The manual page, for man(7).
 std::string makeManPage();

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <set>
 #include <string>
 
 #include "tests/support/Terminal.h"
@@ -113,6 +114,8 @@ TEST_F(Output, HasThePagesOfAllDocumentsThatAreRight) {
         {"--check --format svg one.xml two.xml", "", "", 0},
         {"one.xml two.xml >/dev/full", "", "<stdout> ", 3},
         {"--help >/dev/full", "", "<stdout> ", 3},
+        {"--version >/dev/full", "", "<stdout> ", 3},
+        {"--help >&-", "", "<stdout> ", 3},
     };
     write("bad.css", "p");
     for (Case const& c : cases) {
@@ -207,6 +210,99 @@ TEST_F(Output, NamesFilesInADirectoryAfterTheirDocuments) {
     run("--output-dir out --format svg a.xml b.tar.xml");
     EXPECT_EQ(read("out/a.html").rfind("<pre ", 0), 0U);
     EXPECT_EQ(read("out/b.tar.svg").rfind("<svg ", 0), 0U);
+}
+
+TEST_F(Output, HasTheFormatThatTheNameOfItsFileAsksFor) {
+    write("a.xml", "<b>x</b>");
+    struct Case {
+        char const* arguments;
+        char const* file;
+        char const* start;
+    };
+    constexpr Case cases[] = {
+        {"-o p.svg", "p.svg", "<svg "},
+        {"-o p.HTML", "p.HTML", "<pre "},
+        {"-o p.x.Htm", "p.x.Htm", "<pre "},
+        {"-o ./p.svg --raw --theme dark", "p.svg", "<svg "},
+        {"-o p.svg -f html", "p.svg", "<pre "},
+        {"-f plain -o p.svg", "p.svg", "x\n"},
+        {"-f ansi --color always -o p.svg", "p.svg", "\x1b["},
+        {"--dump dom -o p.svg", "p.svg", "html:\n"},
+        {"-o p.txt", "p.txt", "x\n"},
+        {"-o svg", "svg", "x\n"},
+        {"-o .svg", ".svg", "x\n"},
+        {"-o p.svgx", "p.svgx", "x\n"},
+        {"-o d.svg/p", "d.svg/p", "x\n"},
+    };
+    std::filesystem::create_directory(folder / "d.svg");
+    for (Case const& c : cases) {
+        EXPECT_EQ(run(std::string("a.xml ") + c.arguments).status, 0) << c.arguments;
+        EXPECT_TRUE(read(c.file).starts_with(c.start)) << c.arguments << read(c.file);
+    }
+}
+
+/// All files below a folder, in order, each with a blank behind it.
+std::string filesBelow(std::filesystem::path const& top) {
+    std::set<std::string> names;
+    if (!std::filesystem::exists(top)) return "";
+    for (auto const& entry : std::filesystem::recursive_directory_iterator(top)) {
+        if (!entry.is_directory()) names.insert(entry.path().lexically_relative(top).string());
+    }
+    std::string all;
+    for (std::string const& name : names) all += name + " ";
+    return all;
+}
+
+TEST_F(Output, KeepsTheFoldersOfDocumentsThatWouldHaveOnePage) {
+    for (char const* name : {"a", "b", "b/a", "in", "a.txt", "a/x/y"}) {
+        std::filesystem::create_directories(folder / name);
+    }
+    for (char const* name : {"a/p.xml", "b/p.xml", "b/a/p.xml", "p.xml", "b/p.md", "b/q.xml",
+                             "in/p.xml", "a.txt/p.xml", "a.xml", "a/x/y/p.xml", "a/stdin.xml"}) {
+        write(name, std::string("<p>") + name + "</p>");
+    }
+    std::filesystem::create_directory_symlink("a", folder / "link");
+    std::string const here = folder.filename();
+    struct Case {
+        std::string documents;
+        std::string files;
+    };
+    Case const cases[] = {
+        {"a/p.xml b/q.xml", "p.txt q.txt "},
+        {"a/p.xml b/p.xml", "a/p.txt b/p.txt "},
+        {"a/p.xml b/p.xml b/q.xml", "a/p.txt b/p.txt q.txt "},
+        {"a/p.xml b/p.md", "a/p.txt b/p.txt "},
+        {"p.xml a/p.xml", "a/p.txt p.txt "},
+        {"b/p.xml b/a/p.xml", "a/p.txt p.txt "},
+        {"a/x/y/p.xml a/p.xml", "p.txt x/y/p.txt "},
+        {"./a//p.xml a/../b/./p.xml", "a/p.txt b/p.txt "},
+        {"../" + here + "/a/p.xml \"$PWD/b/p.xml\"", "a/p.txt b/p.txt "},
+        {"../../../../../../../../.." + folder.string() + "/a/p.xml b/p.xml", "a/p.txt b/p.txt "},
+        {"link/p.xml a/p.xml", "a/p.txt link/p.txt "},
+        {"- a/stdin.xml", "a/stdin.txt stdin.txt "},
+        {"a/p.xml p.xml; cd in; galley --output-dir ../out p.xml ../a/p.xml",
+         "a/p.txt in/p.txt p.txt "},
+        {"a/p.xml a/p.xml", ""},
+        {"a/p.xml ./b/../a/p.xml b/p.xml", ""},
+        {"b/p.xml b/p.md", ""},
+        {"a.xml b/p.xml a.txt/p.xml", ""},
+    };
+    for (Case const& c : cases) {
+        Outcome const outcome = run("--output-dir out " + c.documents, "piped",
+                                    "galley() { " GALLEY_TOOL " \"$@\"; }; ");
+        EXPECT_EQ(filesBelow(folder / "out"), c.files) << c.documents << outcome.err;
+        EXPECT_EQ(outcome.status, c.files.empty() ? 2 : 0) << c.documents << outcome.err;
+        std::filesystem::remove_all(folder / "out");
+    }
+    EXPECT_EQ(run("--output-dir out b/p.xml b/p.md").err,
+              "galley: error: --output-dir: two documents for out/p.txt\n"
+              "Run with --help for more information.\n");
+    EXPECT_EQ(run("--output-dir out a.xml b/p.xml a.txt/p.xml").err,
+              "galley: error: --output-dir: out/a.txt would be a page and a folder\n"
+              "Run with --help for more information.\n");
+    run("--output-dir out --format html b/p.xml a/p.xml");
+    EXPECT_NE(read("out/a/p.html").find("a/p.xml"), std::string::npos);
+    EXPECT_NE(read("out/b/p.html").find("b/p.xml"), std::string::npos);
 }
 
 TEST_F(Output, NeverReplacesWhatIsRead) {

@@ -1,6 +1,11 @@
 #include "tests/support/tool.h"
 
+#include <unistd.h>
+
+#include <algorithm>
 #include <string>
+
+#include "tests/support/Terminal.h"
 
 namespace {
 
@@ -33,7 +38,7 @@ TEST_F(Tool, BreaksLinesAtTheWidthAskedForElseAt80) {
     for (int i = 0; i < 40; ++i) words += "abc ";
     std::string const row(4 * 20, ' ');
     EXPECT_EQ(run("--width 8", "a b c d e").out, "a b c d \ne\n");
-    EXPECT_EQ(run("--width 0", "a b").out, "a \nb\n");
+    EXPECT_EQ(run("--width 1", "a b").out, "a \nb\n");
     EXPECT_EQ(run("", words).out.find('\n'), row.size());
     EXPECT_EQ(run("--width 99999999999", words).out.find('\n'), words.size());
 }
@@ -119,6 +124,25 @@ TEST_F(Tool, RefusesWhatItDoesNotKnow) {
                                   "--css - -",
                                   "--width 0x3",
                                   "--width ''",
+                                  "--width 0",
+                                  "--max-width 00",
+                                  "-w x",
+                                  "-w",
+                                  "-w 1 --width 2",
+                                  "-o '' page.xml",
+                                  "-o= page.xml",
+                                  "-s= page.xml",
+                                  "-s '' page.xml",
+                                  "-p -o a",
+                                  "-f pdf",
+                                  "-fpdf",
+                                  "-o a b.xml c.xml",
+                                  "--strict",
+                                  "--strict --watch --output a page.xml",
+                                  "--theme blue -f svg",
+                                  "--theme dark",
+                                  "--theme light --output a.txt",
+                                  "--theme light --dump dom --output a.svg",
                                   "--max-width -1",
                                   "--color red",
                                   "--format pdf",
@@ -144,7 +168,7 @@ TEST_F(Tool, RefusesWhatItDoesNotKnow) {
                                   "'' page.xml",
                                   "--output a --output-dir b",
                                   "--output a b.xml c.xml",
-                                  "--output-dir d a/x.xml b/x.htm",
+                                  "--output-dir d a/x.xml a/x.htm",
                                   "--format svg a.xml b.xml"}) {
         Outcome const outcome = run(arguments);
         EXPECT_EQ(outcome.status, 2) << arguments;
@@ -155,11 +179,101 @@ TEST_F(Tool, RefusesWhatItDoesNotKnow) {
     EXPECT_EQ(run("--width=").err, "galley: error: --width: no value is given" + more);
     EXPECT_EQ(run("--width 1 --width 2").err,
               "galley: error: --width: given more than once" + more);
+    EXPECT_EQ(run("-w0").err, "galley: error: --width: '0' is not positive" + more);
+    EXPECT_EQ(run("-s").err, "galley: error: --css: no value is given" + more);
+    EXPECT_EQ(run("-o= page.xml").err, "galley: error: -o: no value is given" + more);
     EXPECT_EQ(run("\"$(printf -- '--a\\nb')\"").err,
               "galley: error: The following argument was not expected: --a?b" + more);
     EXPECT_EQ(read("page.xml"), "page");
-    EXPECT_EQ(run("--help").status, 0);
-    EXPECT_EQ(run("--version").out.rfind("galley ", 0), 0U);
+}
+
+TEST_F(Tool, TakesShortNamesWithTheirValuesBehindThemOrInTheSameWord) {
+    write("page.css", "p { padding-left: 2; }");
+    struct Case {
+        char const* arguments;
+        char const* out;
+    };
+    constexpr Case cases[] = {
+        {"-w 4", "a b \nc d\n"},
+        {"-w4 -p", "a b \nc d\n"},
+        {"-s page.css -spage.css", "  a b c d\n"},
+        {"-pfplain", "a b c d\n"},
+        {"-pw 4", "a b \nc d\n"},
+        {"--check --strict", ""},
+        {"-o page.txt; cat page.txt", "a b c d\n"},
+        {"-opage.txt -pagename; cat page.txt", "a b c d\n"},
+    };
+    for (Case const& c : cases) {
+        EXPECT_EQ(run(c.arguments, "<p>a b c d</p>").out, c.out) << c.arguments;
+    }
+    EXPECT_TRUE(run("-f svg", "x").out.starts_with("<svg "));
+    EXPECT_EQ(run("-fsvg --theme light", "x").status, 0);
+}
+
+std::size_t longestRow(std::string const& page) {
+    std::size_t longest = 0;
+    for (std::size_t start = 0; start < page.length();) {
+        std::size_t const end = page.find('\n', start);
+        longest = std::max(longest, end - start);
+        start = end + 1;
+    }
+    return longest;
+}
+
+/// Of the page of --help: the row that begins with `start`, and the one behind it.
+std::string rowsAt(std::string const& page, std::string const& start) {
+    std::size_t const row = page.find("\n" + start) + 1;
+    std::size_t const end = page.find('\n', page.find('\n', row) + 1);
+    return page.substr(row, end - row);
+}
+
+TEST_F(Tool, PrintsItsHelpAsAPageOfTheWidthThereIs) {
+    struct Case {
+        char const* columns;
+        std::size_t longest;
+        char const* start;
+        char const* rows;
+    };
+    constexpr Case cases[] = {
+        {"50", 50, "  -w,", "  -w, --width N\n        Width of the page in columns (default: "},
+        {"80", 80, "  -w,",
+         "  -w, --width N           Width of the page in columns (default: that of the \n"
+         "                          terminal on standard output, else of the "},
+        {"80", 80, "  -f,",
+         "  -f, --format ansi|plain|html|svg\n"
+         "                          How pages are written: text with escape sequences "},
+        {"80", 80, "  1 ",
+         "  1   a document or a sheet is at fault, or memory ran out\n  2   usage"},
+        {"3000", 100, "      --max-width",
+         "      --max-width N       The most that the width may be.\n"},
+    };
+    for (Case const& c : cases) {
+        Outcome const outcome =
+            run("--help", "", std::string("export COLUMNS=") + c.columns + "; ");
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(rowsAt(outcome.out, c.start), c.rows) << c.columns;
+        EXPECT_EQ(longestRow(outcome.out), c.longest) << c.columns;
+        EXPECT_NE(outcome.out.find("<pre>"), std::string::npos) << c.columns;
+        EXPECT_EQ(outcome.out.find('\x1b'), std::string::npos) << c.columns;
+    }
+    EXPECT_TRUE(run("--version").out.starts_with("galley "));
+}
+
+TEST_F(Tool, ColorsItsHelpOnATerminalThatWelcomesIt) {
+    struct Case {
+        char const* before;
+        char const* start;
+    };
+    constexpr Case cases[] = {
+        {"", "\x1b[0m\x1b[1mgalley \x1b[0m\r\n"},
+        {"export NO_COLOR=1; ", "galley \r\n- \r\n"},
+    };
+    for (Case const& c : cases) {
+        Terminal terminal;
+        ASSERT_TRUE(terminal.isOpen);
+        run(std::string("--help >") + ttyname(terminal.terminal), "", c.before);
+        EXPECT_TRUE(terminal.seen().starts_with(c.start)) << c.before;
+    }
 }
 
 }  // namespace
