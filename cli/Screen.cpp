@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "cli/files.h"
-#include "galley/terminal/columns.h"
+#include "cli/rows.h"
 
 namespace {
 
@@ -24,8 +24,7 @@ constexpr std::string_view s_clearRow = "\x1b[0m\x1b[2K";
 constexpr std::string_view s_clearBelow = "\x1b[0m\x1b[J";
 constexpr std::string_view s_inverse = "\x1b[7m";
 
-/// Columns between the stops of tabs.
-constexpr std::size_t s_tab = 8;
+constexpr std::string_view s_keys = " (arrows scroll, q quits)";
 
 /// What `leave` goes back to.
 termios s_before = {};
@@ -44,53 +43,33 @@ winsize terminalSize() {
     return size;
 }
 
-std::vector<std::string> splitRows(std::string_view text) {
-    std::vector<std::string> rows;
-    while (!text.empty()) {
-        std::size_t const end = std::min(text.find('\n'), text.length());
-        rows.emplace_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.length()));
-    }
-    return rows;
-}
-
-/// The index behind what fits into `width` columns of a row from `i` on. Sequences take none, and a
-/// tab what is left up to the next stop.
-std::size_t endOfRow(std::string_view row, std::size_t i, std::size_t width) {
-    std::size_t column = 0;
-    while (i < row.length()) {
-        if (row[i] == '\x1b') {
-            i = std::min(row.find('m', i), row.length() - 1) + 1;
-            continue;
-        }
-        column += row[i] == '\t' ? s_tab - column % s_tab : columnsAt(row, i);
-        if (column > width) break;
-        i += lengthAt(row, i);
-    }
-    return i;
-}
-
-/// Goes on in a further row where a character finds no room.
-std::vector<std::string> breakRows(std::string_view text, std::size_t width) {
-    std::vector<std::string> broken;
-    for (std::string const& row : splitRows(text)) {
-        std::size_t start = 0;
-        do {
-            // One that is wider than the screen has a row, too.
-            std::size_t const end = std::max(endOfRow(row, start, width),
-                                             start + (row.empty() ? 0 : lengthAt(row, start)));
-            broken.push_back(row.substr(start, end - start));
-            start = end;
-        } while (start < row.length());
-    }
-    return broken;
-}
-
 /// Which of `count` rows stands at the top of the screen, which has `room` for some: `top` as long
 /// as that shows the row `change`. No room is left empty that rows above could take.
-std::size_t scroll(std::size_t top, std::size_t change, std::size_t room, std::size_t count) {
+std::size_t topAround(std::size_t change, std::size_t top, std::size_t room, std::size_t count) {
     if (change < top || change >= top + room) top = change - std::min(change, room / 3);
     return std::min(top, count - std::min(count, room));
+}
+
+/// The same after a key.
+std::size_t topAfter(Key key, std::size_t top, std::size_t room, std::size_t count) {
+    std::size_t const last = count - std::min(count, room);
+    switch (key) {
+        case Key::Up:
+            return top - std::min<std::size_t>(top, 1);
+        case Key::Down:
+            return std::min(top + 1, last);
+        case Key::PageUp:
+            return top - std::min(top, room);
+        case Key::PageDown:
+            return std::min(top + room, last);
+        case Key::Home:
+            return 0;
+        case Key::End:
+            return last;
+        case Key::Quit:
+            break;
+    }
+    return top;
 }
 
 std::size_t firstChange(std::vector<std::string> const& a, std::vector<std::string> const& b) {
@@ -104,7 +83,10 @@ void Screen::enter() {
     if (s_isEntered == 0) s_isKnown = tcgetattr(STDOUT_FILENO, &s_before) == 0 ? 1 : 0;
     s_isEntered = 1;
     termios silent = s_before;
-    silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+    silent.c_lflag &= ~static_cast<tcflag_t>(ECHO | ICANON);
+    // With one byte as the least, whoever else reads the terminal meanwhile finds no end of it.
+    silent.c_cc[VMIN] = 1;
+    silent.c_cc[VTIME] = 0;
     if (s_isKnown != 0) tcsetattr(STDOUT_FILENO, TCSANOW, &silent);
     writeNow(s_enter);
 }
@@ -118,28 +100,48 @@ void Screen::leave() {
     writeNow(s_leave);
 }
 
-int Screen::show(std::string_view page, std::string_view errors) {
-    winsize const size = terminalSize();
+int Screen::show(std::string_view page, std::string_view errorText) {
     std::vector<std::string> const former = std::exchange(rows, splitRows(page));
-    std::vector<std::string> below = breakRows(errors, size.ws_col);
-    // An error that is too long for all of the screen leaves a row to the page.
-    std::size_t const most = size.ws_row - (rows.empty() ? 0U : 1U);
-    below.resize(std::min(below.size(), most));
-    std::size_t room = size.ws_row - below.size();
-    bool const isCut = rows.size() > room && room > 1;
-    if (isCut) --room;
-
+    errors = errorText;
+    std::size_t const formerColumns = columns;
+    measure();
     // Another width moves all rows, which says nothing about where the change is.
-    bool const isComparable = !former.empty() && columns == size.ws_col && former != rows;
-    top = scroll(top, isComparable ? firstChange(former, rows) : top, room, rows.size());
+    bool const isComparable = !former.empty() && columns == formerColumns && former != rows;
+    top = topAround(isComparable ? firstChange(former, rows) : top, top, room, rows.size());
+    return draw();
+}
+
+int Screen::scroll(std::vector<Key> const& keys) {
+    measure();
+    top = topAround(top, top, room, rows.size());
+    for (Key const key : keys) top = topAfter(key, top, room, rows.size());
+    return draw();
+}
+
+void Screen::measure() {
+    winsize const size = terminalSize();
     columns = size.ws_col;
+    height = size.ws_row;
+    below = breakRows(errors, columns);
+    // An error that is too long for all of the screen leaves a row to the page.
+    below.resize(std::min(below.size(), height - (rows.empty() ? 0 : 1)));
+    room = height - below.size();
+    isCut = rows.size() > room && room > 1;
+    if (isCut) --room;
+}
+
+std::string Screen::position(std::size_t end) const {
+    std::string text = "rows " + std::to_string(top + 1) + " to " + std::to_string(end) + " of " +
+                       std::to_string(rows.size());
+    if (keyboard.descriptor() >= 0 && text.length() + s_keys.length() <= columns) text += s_keys;
+    return std::string(s_inverse) + text;
+}
+
+int Screen::draw() const {
     std::size_t const end = std::min(top + room, rows.size());
     std::vector<std::string> shown(rows.begin() + static_cast<std::ptrdiff_t>(top),
                                    rows.begin() + static_cast<std::ptrdiff_t>(end));
-    if (isCut) {
-        shown.push_back(std::string(s_inverse) + "rows " + std::to_string(top + 1) + " to " +
-                        std::to_string(end) + " of " + std::to_string(rows.size()));
-    }
+    if (isCut) shown.push_back(position(end));
     shown.insert(shown.end(), below.begin(), below.end());
 
     std::string text(s_home);
@@ -148,6 +150,6 @@ int Screen::show(std::string_view page, std::string_view errors) {
         std::size_t const length = endOfRow(shown[i], 0, columns);
         text.append(i == 0 ? "" : "\r\n").append(s_clearRow).append(shown[i], 0, length);
     }
-    if (shown.size() < size.ws_row) text.append(shown.empty() ? "" : "\r\n").append(s_clearBelow);
+    if (shown.size() < height) text.append(shown.empty() ? "" : "\r\n").append(s_clearBelow);
     return writeOutput(text);
 }
