@@ -84,6 +84,8 @@ public:
     char const* c_str() const { return store.begin(); }
     /// The characters, a NUL among them included.
     std::string_view view() const { return {c_str(), static_cast<std::size_t>(length())}; }
+    /// The characters, to be changed where they are; good as long as `c_str()`.
+    char* data() { return store.begin(); }
     /// The byte at `position`; NUL outside of [0, length).
     char operator[](int position) const {
         return position >= 0 && position < store.length ? store.begin()[position] : '\0';

@@ -4,8 +4,8 @@
 
 namespace CLI::XML {
 
-/// Leaves of a page as the library makes it the text without escape sequences, byte for byte.
-/// Throws std::bad_alloc where there is no memory for that.
+/// Leaves of a page as the library makes it the text without escape sequences and without the
+/// blanks at the ends of rows, all other bytes as they are.
 void makePlain(String& page);
 
 }  // namespace CLI::XML

@@ -11,7 +11,7 @@ namespace {
 std::string plain(std::string const& page) {
     String text(page.c_str(), 0, static_cast<int>(page.length()));
     CLI::XML::makePlain(text);
-    return text.c_str();
+    return std::string(text.view());
 }
 
 /// What stands between the tags of the whole.
@@ -42,13 +42,28 @@ std::string row(int number, std::string const& text) {
            "</text>\n";
 }
 
-TEST(Formats, PlainIsThePageWithoutItsSequencesAlone) {
-    EXPECT_EQ(plain(""), "");
-    EXPECT_EQ(plain("a  \n\n"), "a  \n\n");
-    EXPECT_EQ(plain("\x1b[0m\x1b[1m\x1b[31mx\x1b[0m y\n\x1b[0m\x1b[7m z\x1b[0m\n"), "x y\n z\n");
-    // No sequences of the library.
-    EXPECT_EQ(plain("\x1b[0ma\x1b\x1b[2J\x1b[1;2m\x1b[3\n\x1b["),
-              "a\x1b\x1b[2J\x1b[1;2m\x1b[3\n\x1b[");
+TEST(Formats, PlainIsThePageWithoutSequencesAndBlanksAtTheEndsOfRows) {
+    struct Case {
+        std::string page;
+        std::string plain;
+    };
+    Case const cases[] = {
+        {"", ""},
+        {"a\n\nb\n", "a\n\nb\n"},
+        {"a  \n   \n  b c \n\n", "a\n\n  b c\n\n"},
+        {"\x1b[0m\x1b[1m\x1b[31mx\x1b[0m y\n\x1b[0m\x1b[7m z\x1b[0m\n", "x y\n z\n"},
+        // Blanks of several looks end a row, or stand within it.
+        {"a \x1b[0m\x1b[41m  \x1b[0m \n\x1b[0m\x1b[41m  \x1b[0m\n", "a\n\n"},
+        {"a \x1b[0m\x1b[41m  \x1b[0mb\n", "a   b\n"},
+        // Only blanks are.
+        {"a\t\nb\xa0\nc\r\nd \x01\n", "a\t\nb\xa0\nc\r\nd \x01\n"},
+        {std::string("a\0 \n", 4), std::string("a\0\n", 3)},
+        // Without an end of the row.
+        {"a\nb  ", "a\nb"},
+        // No sequences of the library.
+        {"\x1b[0ma\x1b\x1b[2J \x1b[1;2m\x1b[3\n\x1b[", "a\x1b\x1b[2J \x1b[1;2m\x1b[3\n\x1b["},
+    };
+    for (auto const& [page, expected] : cases) EXPECT_EQ(plain(page), expected);
 }
 
 TEST(Formats, EveryAttributeAndColorHasItsCss) {
