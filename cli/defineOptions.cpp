@@ -71,7 +71,7 @@ void defineForm(CLI::App& app, Options& options) {
                        {"html", galley::Format::html},
                        {"svg", galley::Format::svg}},
                       "How pages are written: text with escape sequences (the default), bare text, "
-                      "a <pre> element, or a picture of a terminal");
+                      "HTML (a <pre> element; in a file a document), or a picture of a terminal");
     addChoice<galley::Theme>(app, "--theme", options.theme,
                      {{"light", galley::Theme::light}, {"dark", galley::Theme::dark}},
                      "Colours of the formats html and svg; without it html follows the reader's "

@@ -103,7 +103,7 @@ std::string examples() {
 
 }  // namespace
 
-unsigned helpWidth() { return std::min(CLI::XML::terminalWidth(stdout), s_mostReadable); }
+unsigned helpWidth() { return std::min(galley::terminalWidth(stdout), s_mostReadable); }
 
 std::string helpDocument(unsigned width) {
     return "<h1>galley - " + galley::escape(toolSummary()) + "</h1>" + "<h2>Usage</h2><p>" +

@@ -28,9 +28,9 @@ std::size_t endOfRow(std::string_view row, std::size_t i, std::size_t width) {
             i = std::min(row.find('m', i), row.length() - 1) + 1;
             continue;
         }
-        column += row[i] == '\t' ? s_tab - column % s_tab : columnsAt(row, i);
+        column += row[i] == '\t' ? s_tab - column % s_tab : galley::columnsAt(row, i);
         if (column > width) break;
-        i += lengthAt(row, i);
+        i += galley::lengthAt(row, i);
     }
     return i;
 }
@@ -42,7 +42,7 @@ std::vector<std::string> breakRows(std::string_view text, std::size_t width) {
         do {
             // One that is wider than the screen has a row, too.
             std::size_t const end = std::max(endOfRow(row, start, width),
-                                             start + (row.empty() ? 0 : lengthAt(row, start)));
+                                             start + (row.empty() ? 0 : galley::lengthAt(row, start)));
             broken.push_back(row.substr(start, end - start));
             start = end;
         } while (start < row.length());

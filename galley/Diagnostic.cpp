@@ -14,7 +14,7 @@ constexpr char const* s_severities[] = {"error: ", "warning: ", "note: "};
 std::string inOneLine(std::string_view text) {
     String line;
     CLI::XML::append(line, text);
-    CLI::XML::replaceControls(line);
+    replaceControls(line);
     std::string shown(line.view());
     auto const isControl = [](char c) { return c >= '\t' && c <= '\r'; };
     std::replace_if(shown.begin(), shown.end(), isControl, '?');

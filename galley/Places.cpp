@@ -9,7 +9,6 @@ namespace galley {
 
 namespace {
 
-using CLI::XML::characterLength;
 
 /// In columns, of the text of a line.
 constexpr unsigned s_longestExcerpt = 72;

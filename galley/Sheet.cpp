@@ -23,7 +23,7 @@ Result<Sheet> Sheet::parse(std::string_view css, std::string_view name, Dialect)
         auto made = std::make_shared<Rules>();
         String text;
         CLI::XML::append(text, css);
-        bool const hasControls = CLI::XML::replaceControls(text);
+        bool const hasControls = replaceControls(text);
         if (!CLI::XML::parseCss(made->shown, text)) {
             Findings findings = findInSheet(text.view());
             std::erase_if(findings,

@@ -15,7 +15,7 @@ namespace {
 String withoutControls(std::string_view source) {
     String text;
     CLI::XML::append(text, source);
-    CLI::XML::replaceControls(text);
+    replaceControls(text);
     return text;
 }
 
@@ -36,7 +36,7 @@ void add(std::vector<Diagnostic>& all, std::vector<Diagnostic> const& more) {
 }  // namespace
 
 std::vector<Diagnostic> checkMarkup(String& markup, Sheet const& sheet, Options const& options) {
-    CLI::XML::replaceControls(markup);
+    replaceControls(markup);
     CLI::XML::StyleList const& rules = SheetAccess::rules(sheet, false);
     Source const source{options.name, markup.view()};
     std::vector<Diagnostic> all = diagnose(findInDocument(source.text, rules), source);

@@ -15,13 +15,13 @@ namespace galley {
 template <class Work>
 Result<void> convert(String& text, String& markup, Options const& options, Work const& work) {
     return guarded(options.name, [&]() -> Result<void> {
-        if (!options.raw) CLI::XML::replaceControls(markup);
+        if (!options.raw) replaceControls(markup);
         XCode const result = work(markup);
         if (!result) {
             Source const source{options.name, markup.view()};
             return Result<void>({diagnose(result.getString().view(), source)});
         }
-        if (!options.raw) CLI::XML::repairCharacters(text);
+        if (!options.raw) repairCharacters(text);
         return {};
     });
 }

@@ -53,7 +53,7 @@ struct Options {
     Color color = Color::automatic;
     Format format = Format::ansi;
     Theme theme = Theme::automatic;
-    /// Whether `html` is a whole document, with `name` as its title.
+    /// Whether `html` is a whole document, with `name`, without folders, as its title.
     bool standalone = false;
     /// Whether control characters of the document and the sheets reach the terminal, in the format
     /// `ansi`. Otherwise all but white space become question marks.

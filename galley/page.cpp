@@ -11,18 +11,23 @@ namespace galley {
 
 namespace {
 
+/// Without folders.
+std::string_view titleOf(std::string_view name) {
+    return name.substr(name.find_last_of('/') + 1);
+}
+
 void applyFormat(String& page, Options const& options) {
     switch (options.format) {
         case Format::ansi:
             break;
         case Format::plain:
-            CLI::XML::makePlain(page);
+            makePlain(page);
             break;
         case Format::html:
-            makeHtml(page);
+            makeHtml(page, {options.theme, options.standalone, titleOf(options.name)});
             break;
         case Format::svg:
-            makeSvg(page);
+            makeSvg(page, options.theme);
             break;
     }
 }
@@ -30,9 +35,9 @@ void applyFormat(String& page, Options const& options) {
 }  // namespace
 
 Options settle(Options options, std::FILE* out) {
-    if (options.width == 0) options.width = CLI::XML::terminalWidth(out);
+    if (options.width == 0) options.width = terminalWidth(out);
     if (options.color == Color::automatic) {
-        options.color = CLI::XML::isColorWelcome(out) ? Color::always : Color::never;
+        options.color = isColorWelcome(out) ? Color::always : Color::never;
     }
     bool const isAnsi = options.format == Format::ansi;
     if (isAnsi && options.color == Color::never) options.format = Format::plain;

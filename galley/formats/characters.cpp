@@ -6,8 +6,9 @@
 #include "base/append.h"
 #include "galley/terminal/controls.h"
 
+namespace galley {
+
 using CLI::XML::append;
-using CLI::XML::characterLength;
 
 namespace {
 
@@ -67,3 +68,5 @@ void appendEscaped(String& out, std::string_view text) {
     }
     append(out, text.substr(done));
 }
+
+}  // namespace galley

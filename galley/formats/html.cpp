@@ -1,42 +1,53 @@
 #include "base/append.h"
 #include "galley/formats/characters.h"
 #include "galley/formats/formats.h"
-#include "galley/formats/style.h"
+#include "galley/formats/htmlStyle.h"
 
-using CLI::XML::AnsiReader;
+namespace galley {
+
 using CLI::XML::append;
-using CLI::XML::Look;
 
 namespace {
 
-/// What differs from the element around the run.
-std::string runCss(Look const& look) {
-    CellColors const colors = cellColors(look);
-    CellColors const usual = cellColors({});
-    std::string css;
-    if (colors.text != usual.text) css += "color:" + colors.text + ";";
-    if (colors.ground != usual.ground) css += "background:" + colors.ground + ";";
-    return css + attributeCss(look);
+void appendHead(String& html, std::string_view page, HtmlOptions const& options) {
+    append(html,
+           "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\"/>\n"
+           "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"/>\n<title>");
+    appendEscaped(html, options.title);
+    append(html, "</title>\n<style>\n");
+    appendRules(html, page, options);
+    append(html, "</style>\n</head>\n<body>\n");
 }
 
 void appendRun(String& html, AnsiReader::Run const& run) {
-    std::string const css = runCss(run.look);
-    if (!css.empty()) append(html, "<span style=\"", css, "\">");
+    std::string const name = run.text.empty() ? "" : lookClass(run.look);
+    if (!name.empty()) append(html, "<span class=\"", name, "\">");
     appendEscaped(html, run.text);
-    if (!css.empty()) append(html, "</span>");
+    if (!name.empty()) append(html, "</span>");
     if (run.endsRow) append(html, "\n");
+}
+
+void appendElement(String& html, std::string_view page, HtmlOptions const& options) {
+    // The line feed at once behind the start tag belongs to the tag.
+    append(html, "<pre class=\"", pageClass(options.theme), "\">\n");
+    if (!options.isDocument) {
+        append(html, "<style>\n");
+        appendRules(html, page, options);
+        append(html, "</style>");
+    }
+    AnsiReader reader(page);
+    for (AnsiReader::Run run; reader.next(run);) appendRun(html, run);
+    append(html, "</pre>\n");
 }
 
 }  // namespace
 
-void makeHtml(String& page) {
-    CellColors const usual = cellColors({});
+void makeHtml(String& page, HtmlOptions const& options) {
     String html;
-    // The line feed at once behind the start tag belongs to the tag.
-    append(html, "<pre style=\"color:", usual.text, ";background:", usual.ground,
-           ";padding:1em;font-family:monospace;line-height:1.2\">\n", blinkElement(page.view()));
-    AnsiReader reader(page.view());
-    for (AnsiReader::Run run; reader.next(run);) appendRun(html, run);
-    append(html, "</pre>\n");
+    if (options.isDocument) appendHead(html, page.view(), options);
+    appendElement(html, page.view(), options);
+    if (options.isDocument) append(html, "</body>\n</html>\n");
     page = std::move(html);
 }
+
+}  // namespace galley

@@ -7,6 +7,8 @@
 
 #include "galley/terminal/AnsiReader.h"
 
+namespace galley {
+
 namespace {
 
 /// Moves the text of a row to `out`, which is not behind it. Returns the end of what is there.
@@ -16,7 +18,7 @@ char* moveText(char* out, std::string_view row) {
         out += length;
     };
     for (std::size_t escape = 0; (escape = row.find('\x1b')) != std::string_view::npos;) {
-        std::size_t const length = CLI::XML::sequenceLength(row.substr(escape));
+        std::size_t const length = sequenceLength(row.substr(escape));
         // An escape byte that begins no sequence is text.
         move(length > 0 ? escape : escape + 1);
         row.remove_prefix(escape + std::max<std::size_t>(length, 1));
@@ -27,7 +29,7 @@ char* moveText(char* out, std::string_view row) {
 
 }  // namespace
 
-void CLI::XML::makePlain(String& page) {
+void makePlain(String& page) {
     char* out = page.data();
     for (std::string_view rest = page.view(); !rest.empty();) {
         std::string_view const row = rest.substr(0, rest.find('\n'));
@@ -41,3 +43,5 @@ void CLI::XML::makePlain(String& page) {
     }
     page.deleteRegion(static_cast<int>(out - page.data()), page.length());
 }
+
+}  // namespace galley

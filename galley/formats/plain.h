@@ -2,10 +2,10 @@
 
 #include "base/String.h"
 
-namespace CLI::XML {
+namespace galley {
 
 /// Leaves of a page as the library makes it the text without escape sequences and without the
 /// blanks at the ends of rows, all other bytes as they are.
 void makePlain(String& page);
 
-}  // namespace CLI::XML
+}  // namespace galley

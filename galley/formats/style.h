@@ -5,16 +5,16 @@
 
 #include "galley/terminal/AnsiReader.h"
 
-/// The colours of a cell as a terminal would choose them, as "#rrggbb".
-struct CellColors {
-    std::string text;
-    std::string ground;
-};
+namespace galley {
 
-CellColors cellColors(CLI::XML::Look const& look);
+/// The CSS value for fonts whose characters are all one cell wide.
+constexpr std::string_view s_fontFamily =
+    "ui-monospace,Menlo,Consolas,'DejaVu Sans Mono',monospace";
 
 /// CSS declarations, each ended by a semicolon, for what colours do not show.
-std::string attributeCss(CLI::XML::Look const& look);
+std::string attributeCss(Look const& look);
 
-/// The element that `attributeCss` needs beside it where something in `page` blinks; else empty.
-std::string_view blinkElement(std::string_view page);
+/// The rule that `attributeCss` needs beside it where something in `page` blinks; else empty.
+std::string_view blinkRule(std::string_view page);
+
+}  // namespace galley

@@ -3,9 +3,11 @@
 #include "base/append.h"
 #include "galley/formats/characters.h"
 #include "galley/formats/formats.h"
+#include "galley/formats/palette.h"
 #include "galley/formats/style.h"
 
-using CLI::XML::AnsiReader;
+namespace galley {
+
 using CLI::XML::append;
 
 // A cell is 9 pixels wide and 18 high, as the glyphs of most fixed pitch fonts are three fifths as
@@ -48,15 +50,18 @@ Size pageSize(std::string_view page) {
 /// Draws runs one after the other.
 class Picture {
 public:
-    Picture(String& target, std::string_view page) : svg(target) {
+    Picture(String& target, std::string_view page, Theme colors)
+        : svg(target), theme(colors), usual(cellColors({}, colors)) {
         auto const [columns, rows] = pageSize(page);
         std::string const width = std::to_string(columns * s_cellWidth + 2 * s_margin);
         std::string const height = std::to_string(rows * s_cellHeight + 2 * s_margin);
         append(svg, "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"", width, "\" height=\"",
                height, "\" viewBox=\"", s_start, " ", s_start, " ", width, " ", height,
-               "\" font-family=\"ui-monospace,Menlo,Consolas,'DejaVu Sans Mono',monospace\"",
-               " font-size=\"", s_fontSize, "\" fill=\"", usual.text, "\">\n", blinkElement(page),
-               "<rect x=\"", s_start, "\" y=\"", s_start, "\" width=\"", width, "\" height=\"",
+               "\" font-family=\"", s_fontFamily, "\" font-size=\"", s_fontSize, "\" fill=\"",
+               usual.text, "\">\n");
+        std::string_view const rule = blinkRule(page);
+        if (!rule.empty()) append(svg, "<style>", rule, "</style>");
+        append(svg, "<rect x=\"", s_start, "\" y=\"", s_start, "\" width=\"", width, "\" height=\"",
                height, "\" fill=\"", usual.ground, "\"/>\n");
     }
 
@@ -70,7 +75,7 @@ public:
 
 private:
     void drawGround(AnsiReader::Run const& run) {
-        std::string const ground = cellColors(run.look).ground;
+        std::string const ground = cellColors(run.look, theme).ground;
         if (ground == usual.ground) return;
         append(svg, "<rect x=\"", pixels(column, s_cellWidth), "\" y=\"", pixels(row, s_cellHeight),
                "\" width=\"", pixels(countCharacters(run.text), s_cellWidth), "\" height=\"",
@@ -79,7 +84,7 @@ private:
     }
 
     void drawText(AnsiReader::Run const& run) {
-        std::string const color = cellColors(run.look).text;
+        std::string const color = cellColors(run.look, theme).text;
         std::string attributes;
         if (color != usual.text) attributes += " fill=\"" + color + "\"";
         std::string const css = attributeCss(run.look);
@@ -126,18 +131,21 @@ private:
     String& svg;
     /// Of the row that is being drawn.
     String words;
-    CellColors const usual = cellColors({});
+    Theme const theme;
+    CellColors const usual;
     std::size_t column = 0;
     std::size_t row = 0;
 };
 
 }  // namespace
 
-void makeSvg(String& page) {
+void makeSvg(String& page, Theme theme) {
     String svg;
-    Picture picture(svg, page.view());
+    Picture picture(svg, page.view(), theme);
     AnsiReader reader(page.view());
     for (AnsiReader::Run run; reader.next(run);) picture.draw(run);
     picture.end();
     page = std::move(svg);
 }
+
+}  // namespace galley

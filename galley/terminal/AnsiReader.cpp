@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace CLI::XML {
+namespace galley {
 
 namespace {
 
@@ -51,4 +51,4 @@ bool AnsiReader::next(Run& run) {
     return true;
 }
 
-}  // namespace CLI::XML
+}  // namespace galley

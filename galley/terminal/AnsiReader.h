@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace CLI::XML {
+namespace galley {
 
 /// How a cell looks.
 struct Look {
@@ -49,4 +49,4 @@ private:
     Look look;
 };
 
-}  // namespace CLI::XML
+}  // namespace galley

@@ -6,7 +6,7 @@
 
 #include "galley/terminal/controls.h"
 
-using CLI::XML::characterLength;
+namespace galley {
 
 namespace {
 
@@ -38,3 +38,5 @@ unsigned columnsAt(std::string_view text, std::size_t i) {
     uselocale(former);
     return columns < 0 ? 1 : static_cast<unsigned>(columns);
 }
+
+}  // namespace galley

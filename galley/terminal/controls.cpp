@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace CLI::XML {
+namespace galley {
 
 namespace {
 
@@ -104,4 +104,4 @@ bool replaceControls(String& text) { return replace<Controls::Any>(text); }
 
 void repairCharacters(String& page) { replace<Controls::None>(page); }
 
-}  // namespace CLI::XML
+}  // namespace galley

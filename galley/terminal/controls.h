@@ -5,7 +5,7 @@
 
 #include "base/String.h"
 
-namespace CLI::XML {
+namespace galley {
 
 /// Bytes of the well-formed UTF-8 character at `i` that begins with a byte from 0x80 on; 0 where
 /// there is none.
@@ -21,4 +21,4 @@ bool replaceControls(String& text);
 /// painting cuts characters apart and puts bytes of two of them together.
 void repairCharacters(String& page);
 
-}  // namespace CLI::XML
+}  // namespace galley

@@ -8,7 +8,7 @@
 
 #include "base/String.h"
 
-namespace CLI::XML {
+namespace galley {
 
 namespace {
 
@@ -34,4 +34,4 @@ bool isColorWelcome(std::FILE* out) {
     return isatty(fileno(out)) == 1 && variable("NO_COLOR").empty();
 }
 
-}  // namespace CLI::XML
+}  // namespace galley

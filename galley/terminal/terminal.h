@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-namespace CLI::XML {
+namespace galley {
 
 /// Columns of the terminal that `out` goes to; where it goes elsewhere, the environment's COLUMNS
 /// if that is a positive number, else 80.
@@ -11,4 +11,4 @@ unsigned terminalWidth(std::FILE* out);
 /// Whether `out` goes to a terminal whose user has nothing against colours.
 bool isColorWelcome(std::FILE* out);
 
-}  // namespace CLI::XML
+}  // namespace galley

@@ -209,7 +209,15 @@ TEST_F(Output, NamesFilesInADirectoryAfterTheirDocuments) {
     }
     run("--output-dir out --format html a.xml");
     run("--output-dir out --format svg a.xml b.tar.xml");
-    EXPECT_EQ(read("out/a.html").rfind("<pre ", 0), 0U);
+    run("--output-dir out --format html -", "d");
+    for (auto const& [file, title] :
+         {std::pair{"out/a.html", "a.xml"}, {"out/stdin.html", "stdin"}}) {
+        std::string const page = read(file);
+        EXPECT_EQ(page.rfind("<!DOCTYPE html>\n", 0), 0U);
+        EXPECT_NE(page.find("<title>" + std::string(title) + "</title>"), std::string::npos)
+            << page;
+    }
+    EXPECT_EQ(run("--format html --output - a.xml").out.rfind("<pre ", 0), 0U);
     EXPECT_EQ(read("out/b.tar.svg").rfind("<svg ", 0), 0U);
 }
 

@@ -71,7 +71,7 @@ TEST(Library, RendersAsTheOptionsSay) {
     options.name = "folder/page.xml";
     std::string const document = *galley::render("x", {}, options);
     EXPECT_THAT(document, StartsWith("<!DOCTYPE html>"));
-    EXPECT_THAT(document, HasSubstr("<title>folder/page.xml</title>"));
+    EXPECT_THAT(document, HasSubstr("<title>page.xml</title>"));
 }
 
 TEST(Library, PrintsWhatSuitsTheFile) {

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "galley/galley.h"
+#include "galley/terminal/AnsiReader.h"
+
+namespace galley {
+
+/// The colours of a cell as a terminal would choose them, as "#rrggbb".
+struct CellColors {
+    std::string text;
+    std::string ground;
+};
+
+/// Automatic is dark.
+CellColors cellColors(Look const& look, Theme theme);
+
+}  // namespace galley
