@@ -65,20 +65,24 @@ void definePage(CLI::App& app, Options& options) {
 }
 
 void defineForm(CLI::App& app, Options& options) {
-    addChoice<galley::Format>(app, "-f,--format", options.format,
-                      {{"ansi", galley::Format::ansi},
-                       {"plain", galley::Format::plain},
-                       {"html", galley::Format::html},
-                       {"svg", galley::Format::svg}},
-                      "How pages are written: text with escape sequences (the default), bare text, "
-                      "HTML (a <pre> element; in a file a document), or a picture of a terminal");
-    addChoice<galley::Theme>(app, "--theme", options.theme,
-                     {{"light", galley::Theme::light}, {"dark", galley::Theme::dark}},
-                     "Colours of the formats html and svg; without it html follows the reader's "
-                     "preference and svg is dark");
+    addChoice<galley::Format>(
+        app, "-f,--format", options.format,
+        {{"ansi", galley::Format::ansi},
+         {"plain", galley::Format::plain},
+         {"html", galley::Format::html},
+         {"svg", galley::Format::svg}},
+        "How pages are written: text with escape sequences (the default), bare text, "
+        "HTML (a <pre> element; in a file a document), or a picture of a terminal");
+    addChoice<galley::Theme>(
+        app, "--theme", options.theme,
+        {{"light", galley::Theme::light}, {"dark", galley::Theme::dark}},
+        "Colours of the formats html and svg; without it html follows the reader's "
+        "preference and svg is dark");
     addChoice<galley::Color>(
         app, "--color", options.color,
-        {{"auto", galley::Color::automatic}, {"always", galley::Color::always}, {"never", galley::Color::never}},
+        {{"auto", galley::Color::automatic},
+         {"always", galley::Color::always},
+         {"never", galley::Color::never}},
         "Whether the format ansi has its escape sequences; auto, the default, keeps them where "
         "standard output is a terminal, no file is named and NO_COLOR is unset or empty");
     addChoice<Product>(app, "--dump", options.product,

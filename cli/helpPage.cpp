@@ -76,7 +76,8 @@ std::string options(unsigned column) {
     std::string markup;
     std::string group;
     for (OptionEntry const& option : describeOptions()) {
-        if (option.group != group) markup += "</div><h2>" + galley::escape(option.group) + "</h2><div>";
+        if (option.group != group)
+            markup += "</div><h2>" + galley::escape(option.group) + "</h2><div>";
         group = option.group;
         markup += entry(term(option), option.description + ".", column);
     }

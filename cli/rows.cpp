@@ -41,8 +41,9 @@ std::vector<std::string> breakRows(std::string_view text, std::size_t width) {
         std::size_t start = 0;
         do {
             // One that is wider than the screen has a row, too.
-            std::size_t const end = std::max(endOfRow(row, start, width),
-                                             start + (row.empty() ? 0 : galley::lengthAt(row, start)));
+            std::size_t const end =
+                std::max(endOfRow(row, start, width),
+                         start + (row.empty() ? 0 : galley::lengthAt(row, start)));
             broken.push_back(row.substr(start, end - start));
             start = end;
         } while (start < row.length());

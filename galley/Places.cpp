@@ -9,7 +9,6 @@ namespace galley {
 
 namespace {
 
-
 /// In columns, of the text of a line.
 constexpr unsigned s_longestExcerpt = 72;
 constexpr std::size_t s_longestCharacter = 4;

@@ -12,9 +12,7 @@ namespace galley {
 namespace {
 
 /// Without folders.
-std::string_view titleOf(std::string_view name) {
-    return name.substr(name.find_last_of('/') + 1);
-}
+std::string_view titleOf(std::string_view name) { return name.substr(name.find_last_of('/') + 1); }
 
 void applyFormat(String& page, Options const& options) {
     switch (options.format) {

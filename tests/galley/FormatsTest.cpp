@@ -10,11 +10,12 @@
 #include "galley/formats/palette.h"
 #include "galley/formats/plain.h"
 
+namespace galley {
 namespace {
 
 std::string plain(std::string const& page) {
     String text(page.c_str(), 0, static_cast<int>(page.length()));
-    galley::makePlain(text);
+    makePlain(text);
     return std::string(text.view());
 }
 
@@ -260,3 +261,4 @@ TEST(Formats, APictureIsDarkUnlessItIsAskedToBeLight) {
 }
 
 }  // namespace
+}  // namespace galley
