@@ -86,6 +86,7 @@ TEST(CheckDocument, WarnsAboutReferencesThatDisappear) {
          "1:2 warning: '&D,dull;' disappears; write '&amp;' for an ampersand\n"
          "1:14 warning: '&;' disappears; write '&amp;' for an ampersand\n",
          "Ring <![CDATA[&;]]>"},
+        {"x&a&b;y", "1:2 warning: '&a&b;' disappears; write '&amp;' for an ampersand\n", "xy"},
         {"<p border-style=\"a & b;\">a</p>",
          "1:20 warning: '& b;' disappears; write '&amp;' for an ampersand\n"},
         // No semicolon is in the same word.
@@ -112,6 +113,11 @@ TEST(CheckDocument, WarnsAboutSpaceBetweenTagsThatIsLost) {
         {"<p display=\"inline\">a</p> c", joined("1:26", "'a' and 'c'"), "ac"},
         {"<table><tr><td><b>a</b> c</td></tr></table>", joined("1:24", "'a' and 'c'")},
         {"<b>R&amp;D</b> c", joined("1:15", "'R&amp;D' and 'c'"), "<b>R&amp;D</b>c"},
+        {"<b>a</b> <i>&x;</i>c",
+         joined("1:9", "'a' and 'c'") +
+             "1:13 warning: '&x;' is no reference in text and disappears; write the character "
+             "itself\n",
+         "<b>a</b>c"},
         {"<b margin-top=\"1\">a</b> c", joined("1:24", "'a' and 'c'")},
         {"<b>a<i/></b> c", joined("1:13", "'a' and 'c'"), "<b>a</b>c"},
     });

@@ -98,14 +98,14 @@ TEST(CheckEverything, AgreesWithTheLibraryOnWhatIsCutOff) {
 }
 
 TEST(CheckEverything, GoesAsDeepAsADocument) {
-    auto const repeated = [](char const* tag) {
-        return std::string(String::repeat(tag, 1000000).view());
+    auto const levels = [](char const* tag, unsigned number) {
+        return std::string(String::repeat(tag, number).view());
     };
     runOnSmallStack([&] {
-        EXPECT_EQ(findInDocument(repeated("<p>") + repeated("</p>")).size(), 0U);
-        EXPECT_EQ(findInDocument(repeated("<b margin=\"1\">") + repeated("</b>")).size(), 0U);
-        EXPECT_EQ(findInDocument(repeated("<u>")).size(), 1000001U);
-        EXPECT_EQ(findInDocument(repeated("<table>")).size(), 1000000U);
+        EXPECT_EQ(findInDocument(levels("<b>", 1000000) + levels("</b>", 1000000)).size(), 0U);
+        EXPECT_EQ(findInDocument(levels("<p margin=\"1\">", 100000)).size(), 1U);
+        EXPECT_EQ(findInDocument(levels("<u>", 100000)).size(), 100001U);
+        EXPECT_EQ(findInDocument(levels("<table>", 100000)).size(), 100000U);
     });
 }
 
