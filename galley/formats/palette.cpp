@@ -27,9 +27,9 @@ constexpr Palette s_dark = {
     {0x000000, 0xF14C4C, 0x23D18B, 0xE5E510, 0x3B8EEA, 0xD670D6, 0x29B8DB, 0xFFFFFF, 0xD4D4D4},
     3};
 
-/// Each colour on the page has a contrast of 4.5 to 1 with it even where it is faint, as WCAG 2
-/// asks of text; thus white is a grey there. Colours that bright grounds go by would be too light
-/// for that, and these too dark for black text on them or light text with them.
+/// Chosen so that text on the page, faint or not, has the contrast of 4.5 to 1 that WCAG 2 asks
+/// for; that makes a grey of white. Grounds are brighter, so that black text can be read on them,
+/// too, and so is text on them, which may stand on black.
 constexpr Palette s_light = {
     0xFFFFFF,
     {0x000000, 0xB3261E, 0x00660F, 0x6B4E00, 0x0451A5, 0x9C159C, 0x005F6B, 0x545454, 0x1E1E1E},
