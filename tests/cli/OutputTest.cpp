@@ -211,7 +211,7 @@ TEST_F(Output, NamesFilesInADirectoryAfterTheirDocuments) {
     run("--output-dir out --format svg a.xml b.tar.xml");
     run("--output-dir out --format html -", "d");
     for (auto const& [file, title] :
-         {std::pair{"out/a.html", "a.xml"}, {"out/stdin.html", "stdin"}}) {
+         {std::pair{"out/a.html", "a.xml"}, {"out/stdin.html", "&lt;stdin&gt;"}}) {
         std::string const page = read(file);
         EXPECT_EQ(page.rfind("<!DOCTYPE html>\n", 0), 0U);
         EXPECT_NE(page.find("<title>" + std::string(title) + "</title>"), std::string::npos)
@@ -230,10 +230,10 @@ TEST_F(Output, HasTheFormatThatTheNameOfItsFileAsksFor) {
     };
     constexpr Case cases[] = {
         {"-o p.svg", "p.svg", "<svg "},
-        {"-o p.HTML", "p.HTML", "<pre "},
-        {"-o p.x.Htm", "p.x.Htm", "<pre "},
+        {"-o p.HTML", "p.HTML", "<!DOCTYPE html>"},
+        {"-o p.x.Htm", "p.x.Htm", "<!DOCTYPE html>"},
         {"-o ./p.svg --raw --theme dark", "p.svg", "<svg "},
-        {"-o p.svg -f html", "p.svg", "<pre "},
+        {"-o p.svg -f html", "p.svg", "<!DOCTYPE html>"},
         {"-f plain -o p.svg", "p.svg", "x\n"},
         {"-f ansi --color always -o p.svg", "p.svg", "\x1b["},
         {"--dump dom -o p.svg", "p.svg", "html:\n"},
