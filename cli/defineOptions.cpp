@@ -125,7 +125,8 @@ void defineDestination(CLI::App& app, Options& options) {
 void defineRun(CLI::App& app, Options& options) {
     CLI::Option* const check =
         app.add_flag("--check", options.isCheck,
-                     "Write nothing but which documents and sheets fail, all of them")
+                     "Write no page but all that is wrong with documents and sheets, and warn of what has no "
+                     "effect in them")
             ->excludes("--dump")
             ->excludes("--output")
             ->excludes("--output-dir")

@@ -53,6 +53,6 @@ std::vector<ExampleEntry> describeExamples() {
         {"galley -s report.css report.xml", "shows a page"},
         {"galley --watch -s report.css report.xml", "shows it as it is being written"},
         {"galley -s report.css -o report.svg report.xml", "makes a picture of it"},
-        {"galley --check -s report.css *.xml", "says which documents fail, and where"},
+        {"galley --check -s report.css *.xml", "says what is wrong with documents, and where"},
     };
 }

@@ -85,6 +85,8 @@ galley::Options optionsOf(galley_options const* given) {
     return options;
 }
 
+char const* nameOf(char const* sheet) { return sheet != nullptr ? sheet : "<sheet>"; }
+
 galley::Sheet sheetOf(galley_sheet const* sheet) {
     return sheet != nullptr ? sheet->sheet : galley::Sheet();
 }
@@ -101,8 +103,7 @@ int galley_sheet_add(galley_sheet* sheet, char const* css, std::size_t length, c
                      int /*dialect*/, galley_report** report) {
     tell(report, {});
     return orElse(0, [&] {
-        auto const added =
-            galley::Sheet::parse(view(css, length), name != nullptr ? name : "<sheet>");
+        auto const added = galley::Sheet::parse(view(css, length), nameOf(name));
         tell(report, added.errors());
         if (added) sheet->sheet += *added;
         return added ? 1 : 0;
@@ -129,6 +130,12 @@ galley_report* galley_check(char const* markup, std::size_t length, galley_sheet
     return orElse<galley_report*>(nullptr, [&] {
         return makeReport(galley::check(view(markup, length), sheetOf(sheet), optionsOf(options)));
     });
+}
+
+galley_report* galley_check_sheet(char const* css, std::size_t length, char const* name,
+                                  int /*dialect*/) {
+    return orElse<galley_report*>(
+        nullptr, [&] { return makeReport(galley::checkSheet(view(css, length), nameOf(name))); });
 }
 
 char* galley_escape(char const* text, std::size_t length) {

@@ -26,23 +26,23 @@ enum class Dialect { core };
 /// When the format `ansi` has its escape sequences; without them it is `plain`.
 enum class Color {
     automatic,  ///< where they go to a terminal, unless NO_COLOR is set in the environment
-    always,
-    never,
+    always,     ///< wherever they go
+    never,      ///< nowhere
 };
 
 /// How a page is written.
 enum class Format {
     ansi,   ///< text with escape sequences for colours and other attributes
     plain,  ///< bare text, without blanks at the ends of rows
-    html,   ///< a <pre> element, or a whole document
+    html,   ///< an element that may stand in any document, or a whole document
     svg,    ///< a picture of a terminal
 };
 
 /// The colours of `html` and `svg`.
 enum class Theme {
     automatic,  ///< in html what the reader prefers, in svg dark
-    light,
-    dark,
+    light,      ///< dark text on a light ground
+    dark,       ///< light text on a dark ground
 };
 
 /// How a document becomes a page.
@@ -50,24 +50,26 @@ struct Options {
     /// In columns; 0 for the width of the terminal that the page goes to, which is standard output
     /// unless a file is given; where that is none, of COLUMNS in the environment, else 80.
     unsigned width = 0;
-    Color color = Color::automatic;
-    Format format = Format::ansi;
-    Theme theme = Theme::automatic;
+    Color color = Color::automatic;  ///< Of the format `ansi`.
+    Format format = Format::ansi;    ///< How the page is written.
+    Theme theme = Theme::automatic;  ///< Of `html` and `svg`.
     /// Whether `html` is a whole document, with `name`, without folders, as its title.
     bool standalone = false;
     /// Whether control characters of the document and the sheets reach the terminal, in the format
     /// `ansi`. Otherwise all but white space become question marks.
     bool raw = false;
-    Dialect dialect = Dialect::core;
+    Dialect dialect = Dialect::core;  ///< Of the document.
     /// What errors and warnings call the document.
     std::string name = "<document>";
 };
 
+/// How bad it is: a page cannot be made, something has no effect, or belongs to another message.
 enum class Severity { error, warning, note };
 
 /// What is said about a source: a document, a sheet, or a file.
 class Diagnostic {
 public:
+    /// What the functions below return; `notes` are added later.
     Diagnostic(Severity severity, std::string message, std::string source, unsigned line = 0,
                unsigned column = 0, std::string excerpt = {})
         : ownSeverity(severity),
@@ -77,6 +79,7 @@ public:
           ownSource(std::move(source)),
           ownExcerpt(std::move(excerpt)) {}
 
+    /// How bad it is.
     Severity severity() const { return ownSeverity; }
     /// In words, without the place.
     std::string const& message() const { return ownMessage; }
@@ -91,6 +94,7 @@ public:
     std::string const& excerpt() const { return ownExcerpt; }
     /// Other places that it is about, such as the start tag of an element that is not closed.
     std::vector<Diagnostic> const& notes() const { return ownNotes; }
+    /// Adds one.
     void addNote(Diagnostic note) { ownNotes.push_back(std::move(note)); }
     /// All of it in lines as a compiler prints them: "SOURCE:LINE:COLUMN: error: MESSAGE", the
     /// excerpt, the notes. Control characters become question marks.
@@ -125,6 +129,7 @@ public:
     /// A failure, for at least one error.
     explicit Result(std::vector<Diagnostic> errors) : faults(std::move(errors)) {}
 
+    /// Whether it is a success.
     explicit operator bool() const noexcept { return faults.empty(); }
     /// The first error. Only of a failure.
     Diagnostic const& error() const { return faults.front(); }
@@ -142,6 +147,7 @@ private:
 template <class T>
 class [[nodiscard]] Result : public Result<void> {
 public:
+    /// A success.
     Result(T made) : held(std::move(made)) {}
     using Result<void>::Result;
 
@@ -176,6 +182,7 @@ public:
 
     /// Adds the rules of another sheet behind its own.
     Sheet& operator+=(Sheet const& other);
+    /// The rules of both, in this order.
     friend Sheet operator+(Sheet sheet, Sheet const& other) { return sheet += other; }
 
 private:

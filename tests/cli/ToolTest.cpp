@@ -234,7 +234,7 @@ TEST_F(Tool, PrintsItsHelpAsAPageOfTheWidthThereIs) {
         char const* rows;
     };
     constexpr Case cases[] = {
-        {"50", 49, "  -w,", "  -w, --width N\n        Width of the page in columns (default:"},
+        {"50", 50, "  -w,", "  -w, --width N\n        Width of the page in columns (default:"},
         {"80", 79, "  -w,",
          "  -w, --width N           Width of the page in columns (default: that of the\n"
          "                          terminal on standard output, else of the"},

@@ -93,6 +93,9 @@ TEST(CInterface, ReportsAllThatItFinds) {
     EXPECT_STREQ(galley_report_source(report.report, 1), "<document>");
     EXPECT_EQ(galley_report_line(report.report, 1), 2U);
     EXPECT_EQ(galley_report_column(report.report, 1), 1U);
+    Report ofSheet;
+    ofSheet.report = galley_check_sheet("P {}", 4, "s.css", 0);
+    EXPECT_EQ(ofSheet.headings().substr(0, 19), "s.css:1:1: warning:");
     Report clean;
     clean.report = galley_check("x", 1, nullptr, nullptr);
     EXPECT_NE(clean.report, nullptr);
