@@ -3,42 +3,119 @@
 #include <algorithm>
 #include <string_view>
 
+#include "xml/css/properties.h"
+#include "xml/parser/PullParser.h"
+#include "xml/parser/scan.h"
+
 namespace CLI::XML {
 
 namespace {
 
-constexpr std::size_t s_modestDigits = 4;
+/// The most cells of an edge that is not large.
+constexpr int s_modest = 9999;
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr std::string_view s_edges[] = {
+    Property::s_margin.name,          Property::s_marginLeft.name,
+    Property::s_marginRight.name,     Property::s_marginTop.name,
+    Property::s_marginBottom.name,    Property::s_borderWidth.name,
+    Property::s_borderLeftWidth.name, Property::s_borderRightWidth.name,
+    Property::s_borderTopWidth.name,  Property::s_borderBottomWidth.name,
+    Property::s_padding.name,         Property::s_paddingLeft.name,
+    Property::s_paddingRight.name,    Property::s_paddingTop.name,
+    Property::s_paddingBottom.name,
+};
 
-/// Whether `text`, up to a quotation mark, may be an extreme number. It may where it is written
-/// with references, which may stand for anything.
-bool mayBeExtreme(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
-    bool const isNegative = !text.empty() && text.front() == '-';
-    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
-    auto const* const end = std::find_if_not(text.begin(), text.end(), isDigit);
-    bool const hasReference = end != text.end() && *end == '&';
-    return isNegative || hasReference ||
-           static_cast<std::size_t>(end - text.begin()) > s_modestDigits;
+bool isEdge(std::string_view property) {
+    return std::find(std::begin(s_edges), std::end(s_edges), property) != std::end(s_edges);
+}
+
+bool isKnownReference(std::string_view name) {
+    EntityReplacement const* known = PullParser::s_specialReplacement;
+    while (known->name != nullptr && known->name != name) ++known;
+    return known->name != nullptr;
+}
+
+/// The characters of an attribute's value, decoded as far as a number needs it: an unknown
+/// reference is nothing, any other one ends a number, as does the ampersand that it begins with.
+class ValueReader {
+public:
+    explicit ValueReader(std::string_view value) : rest(value) { skipUnknownReferences(); }
+
+    /// NUL at the end.
+    char next() const { return rest.empty() ? '\0' : rest.front(); }
+    void advance() {
+        rest.remove_prefix(1);
+        skipUnknownReferences();
+    }
+
+private:
+    void skipUnknownReferences() {
+        while (next() == '&') {
+            std::size_t const semicolon = rest.find(';');
+            if (semicolon == std::string_view::npos) return;
+            if (isKnownReference(rest.substr(1, semicolon - 1))) return;
+            rest.remove_prefix(semicolon + 1);
+        }
+    }
+
+    std::string_view rest;
+};
+
+/// Whether `String::toInteger` makes a negative or a large number of the value, whether that is
+/// decoded before or not. Nothing is allocated, which might fail.
+bool isExtreme(std::string_view value) {
+    ValueReader reader(value);
+    while (reader.next() == ' ' || (reader.next() >= '\t' && reader.next() <= '\r')) {
+        reader.advance();
+    }
+    bool const isNegative = reader.next() == '-';
+    if (isNegative || reader.next() == '+') reader.advance();
+    int const most = isNegative ? 0 : s_modest;
+    int cells = 0;
+    for (; reader.next() >= '0' && reader.next() <= '9' && cells <= most; reader.advance()) {
+        cells = cells * 10 + (reader.next() - '0');
+    }
+    return cells > most;
+}
+
+/// The name of an attribute, or what stands there of a text, that ends before `end`.
+std::string_view nameBefore(std::string_view markup, std::size_t end) {
+    std::size_t start = end;
+    while (start > 0 && !s_endOfName.contains(markup[start - 1])) --start;
+    return markup.substr(start, end - start);
+}
+
+bool hasExtremeEdge(std::string_view markup) {
+    // Any quotation mark may begin a value, since some stand in texts and comments: the one that
+    // ends a value is looked at again.
+    for (std::size_t quote = markup.find('"'); quote != std::string_view::npos;) {
+        std::size_t const end = markup.find('"', quote + 1);
+        bool const beginsValue = quote > 0 && markup[quote - 1] == '=';
+        // Few values are extreme, and a name takes longer to find.
+        if (beginsValue && isExtreme(markup.substr(quote + 1, end - quote - 1)) &&
+            isEdge(nameBefore(markup, quote - 1))) {
+            return true;
+        }
+        quote = end;
+    }
+    return false;
+}
+
+bool hasExtremeEdge(StyleNode const& rule) {
+    auto const& head = rule.declarations.head;
+    for (auto const* entry = head.prev; entry != &head; entry = entry->prev) {
+        if (isEdge(entry->key.view()) && isExtreme(entry->value.view())) return true;
+    }
+    return false;
 }
 
 }  // namespace
 
 bool mayHaveExtremeEdges(String const& xml, StyleList const& styles) {
-    std::string_view const markup = xml.view();
-    for (std::size_t quote = markup.find('"'); quote != std::string_view::npos;
-         quote = markup.find('"', quote + 1)) {
-        bool const beginsValue = quote > 0 && markup[quote - 1] == '=';
-        if (beginsValue && mayBeExtreme(markup.substr(quote + 1))) return true;
-    }
     for (ZRLWPtr<StyleNode> const& rule : styles) {
-        auto const& head = rule->declarations.head;
-        for (auto const* entry = head.prev; entry != &head; entry = entry->prev) {
-            if (mayBeExtreme(entry->value.view())) return true;
-        }
+        if (hasExtremeEdge(*rule)) return true;
     }
-    return false;
+    return hasExtremeEdge(xml.view());
 }
 
 }  // namespace CLI::XML

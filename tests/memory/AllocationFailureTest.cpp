@@ -1,71 +1,16 @@
-// Every allocation of a conversion and of a sheet fails once. The linker puts the functions below
-// in the place of the allocator's, in the library and in this program.
+// Every allocation of a conversion and of a sheet fails once.
 
-#include <cstdlib>
 #include <new>
 #include <string>
 
+#include "tests/memory/allocations.h"
 #include "tests/support/boxes.h"
 #include "xml/xml.h"
 
-namespace {
-
-/// Allocations that succeed before one fails; negative: none fails.
-long s_allocationsLeft = -1;
-/// Whether all fail that follow the first.
-bool s_staysOut = false;
-long s_blocks = 0;
-long s_allocations = 0;
-
-bool isRefused() {
-    ++s_allocations;
-    if (s_allocationsLeft < 0) return false;
-    if (s_allocationsLeft > 0) {
-        --s_allocationsLeft;
-        return false;
-    }
-    if (!s_staysOut) s_allocationsLeft = -1;
-    return true;
-}
-
-}  // namespace
-
-extern "C" {
-// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming): the linker's names
-void* __real_malloc(std::size_t size);
-void* __real_realloc(void* old, std::size_t size);
-void __real_free(void* memory);
-
-void* __wrap_malloc(std::size_t size);
-void* __wrap_malloc(std::size_t size) {
-    void* const memory = isRefused() ? nullptr : __real_malloc(size);
-    if (memory != nullptr) ++s_blocks;
-    return memory;
-}
-void* __wrap_realloc(void* old, std::size_t size);
-void* __wrap_realloc(void* old, std::size_t size) {
-    return isRefused() ? nullptr : __real_realloc(old, size);
-}
-void __wrap_free(void* memory);
-void __wrap_free(void* memory) {
-    if (memory != nullptr) --s_blocks;
-    __real_free(memory);
-}
-// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
-}
-
-void* operator new(std::size_t size) {
-    if (void* const memory = std::malloc(size)) return memory;
-    throw std::bad_alloc();
-}
-void* operator new[](std::size_t size) { return ::operator new(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
-
 namespace CLI::XML {
 namespace {
+
+using namespace Allocations;
 
 /// Calls `act` again and again, each time with the next allocation failing, until it needs no more.
 /// `act` returns whether what was asked of it came of it; memory must be as it was before, whatever
@@ -77,15 +22,15 @@ void failEachAllocation(std::string const& what, Act const& act) {
             SCOPED_TRACE(what + (staysOut ? ", all from " : ", only ") + std::to_string(n));
             long const blocks = s_blocks;
             s_staysOut = staysOut;
-            s_allocationsLeft = n;
+            s_left = n;
             bool wasThrown = false;
             try {
                 act();
             } catch (std::bad_alloc const&) {
                 wasThrown = true;
             }
-            bool const isDone = s_allocationsLeft > 0;
-            s_allocationsLeft = -1;
+            bool const isDone = s_left > 0;
+            s_left = -1;
             EXPECT_EQ(s_blocks, blocks);
             if (isDone) {
                 EXPECT_FALSE(wasThrown);
@@ -199,11 +144,11 @@ TEST(AllocationFailure, LeavesTreesThatCanBeReleasedWithoutMemory) {
                 } catch (std::bad_alloc const&) {
                     // What was made until then is released below.
                 }
-                released = s_allocations;
+                released = s_requests;
                 box = nullptr;
                 root = nullptr;
             }
-            EXPECT_EQ(s_allocations, released);
+            EXPECT_EQ(s_requests, released);
         });
         for (ZRLWPtr<StyleNode> const& rule : sheet.rules) EXPECT_EQ(rule->refCount, 1);
     }
@@ -222,11 +167,11 @@ TEST(AllocationFailure, LeavesAStringAsItWas) {
     String const addition("and something that does not fit");
     failEachAllocation("appending", [&] {
         String text("short");
-        long const before = s_allocations;
+        long const before = s_requests;
         text += addition;
         bool const wasRefused = text.length() == 5;
         EXPECT_EQ(text, wasRefused ? "short" : "shortand something that does not fit");
-        EXPECT_EQ(s_allocations, before + 1);
+        EXPECT_EQ(s_requests, before + 1);
     });
 }
 

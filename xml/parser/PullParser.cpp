@@ -10,8 +10,6 @@ namespace CLI::XML {
 
 namespace {
 
-/// End an element type or an attribute name.
-constexpr ByteSet s_delimiters("<>/=\" \t\n\r");
 constexpr ByteSet s_whitespace(" \t\n\r");
 constexpr ByteSet s_quotation("\"");
 constexpr ByteSet s_tagStart("<");
@@ -52,7 +50,7 @@ XCode PullParser::readStartTag() {
     if (!readName()) return fail(s_expectingType);
     for (;;) {
         skipCharacters(text, position, line, s_whitespace);
-        std::string_view const attributeName = takeUntil(text, position, line, s_delimiters);
+        std::string_view const attributeName = takeUntil(text, position, line, s_endOfName);
         if (attributeName.empty()) break;
         Attribute attribute;
         attribute.name.assign(attributeName);
@@ -75,7 +73,7 @@ XCode PullParser::readAttribute(Attribute& attribute) {
 }
 
 bool PullParser::readName() {
-    name.assign(takeUntil(text, position, line, s_delimiters));
+    name.assign(takeUntil(text, position, line, s_endOfName));
     return name.length() > 0;
 }
 

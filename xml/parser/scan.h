@@ -27,6 +27,9 @@ private:
     char single = '\0';
 };
 
+/// The bytes of markup that end an element type or an attribute name.
+inline constexpr ByteSet s_endOfName("<>/=\" \t\n\r");
+
 /// Advances `position` over the bytes that belong to `set`.
 void skipCharacters(String const& text, int& position, int& line, ByteSet const& set);
 inline void skipCharacters(String const& text, int& position, int& line, char const* set) {
