@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "base/saturate.h"
 #include "xml/layout/TableBox.h"
 #include "xml/layout/makeChild.h"
 #include "xml/pageOfWidth.h"
@@ -27,7 +28,10 @@ PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& cont
 
 PageBuilder::PageBuilder(DomElement& root, unsigned width, int expectedLength, CellBudget& budget)
     : page(&budget) {
-    text.reserve(expectedLength);
+    // Each line of words adds a line feed: not more than this on a page of 16 columns.
+    if (!text.reserve(saturate(std::int64_t{expectedLength} + expectedLength / 16))) {
+        text.reserve(expectedLength);
+    }
     ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(&root));
     box->holdNode();
     innermost =

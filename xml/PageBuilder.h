@@ -17,8 +17,8 @@ namespace CLI::XML {
 /// a table is kept until that is closed, since its boxes may be laid out again.
 class PageBuilder final : public DocumentHandler, public BlockFlow::Taker {
 public:
-    /// About `expectedLength` bytes of text are provided for. The document must have no extreme
-    /// edges. The budget outlives the builder.
+    /// `expectedLength` bytes of text, and some more, are provided for. The document must have no
+    /// extreme edges. The budget outlives the builder.
     PageBuilder(DomElement& root, unsigned width, int expectedLength, CellBudget& budget);
     PageBuilder(PageBuilder const&) = delete;
     PageBuilder& operator=(PageBuilder const&) = delete;

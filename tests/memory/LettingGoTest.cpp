@@ -8,13 +8,18 @@
 namespace CLI::XML {
 namespace {
 
-/// The most bytes that a conversion holds at once in blocks that are not of the page's text, which
-/// is a long one. The text has a buffer of its own, or two while that grows.
-long bytesBesideText(String& page, String const& markup, StyleList const& styles) {
-    long const before = Allocations::s_smallBytes;
-    Allocations::s_smallPeak = before;
+/// The most bytes of `usage` that a conversion adds to what was in use before it.
+long mostHeld(Allocations::Usage& usage, String& page, String const& markup,
+              StyleList const& styles = {}) {
+    long const before = usage.bytes;
+    usage.peak = before;
     EXPECT_EQ(outcome(xmlToText(page, markup, styles, 80)), "ok");
-    return Allocations::s_smallPeak - before;
+    return usage.peak - before;
+}
+
+/// Of these only blocks that are not of the page's text, which is a long one.
+long mostHeldBesideText(String& page, String const& markup, StyleList const& styles = {}) {
+    return mostHeld(Allocations::s_smallUsage, page, markup, styles);
 }
 
 TEST(LettingGo, LeavesOnlyTheTextOfAPage) {
@@ -28,7 +33,7 @@ TEST(LettingGo, LeavesOnlyTheTextOfAPage) {
         unsigned const times = 1'000'000 / static_cast<unsigned>(document.markup.length());
         String page;
         long const held =
-            bytesBesideText(page, String::repeat(document.markup.c_str(), times), sheet.rules);
+            mostHeldBesideText(page, String::repeat(document.markup.c_str(), times), sheet.rules);
         EXPECT_GT(page.length(), 2 * static_cast<int>(Allocations::s_large));
         EXPECT_LT(held, page.length() / 4);
     }
@@ -40,9 +45,21 @@ TEST(LettingGo, LeavesNoRowOfATable) {
     for (int i = 0; i < 500; ++i) markup += "<tr><td padding-left=\"4000\">a</td></tr>";
     markup += "</table>";
     String page;
-    long const held = bytesBesideText(page, markup.c_str(), StyleList());
+    long const held = mostHeldBesideText(page, markup.c_str());
     EXPECT_EQ(page.length(), 500 * 4002);
     EXPECT_LT(held, page.length() / 2);
+}
+
+// A page of prose is a little longer than its document, by the line feeds.
+TEST(LettingGo, LeavesTheTextOfProseWhereItIs) {
+    std::string paragraph = "<p>";
+    for (int i = 0; i < 100; ++i) paragraph += "one two three four ";
+    paragraph += "</p>";
+    String const prose = String::repeat(paragraph.c_str(), 500);
+    String page;
+    long const held = mostHeld(Allocations::s_usage, page, prose);
+    EXPECT_GT(page.length(), prose.length());
+    EXPECT_LT(held, page.length() / 4 * 5);
 }
 
 }  // namespace

@@ -24,12 +24,17 @@ bool isRefused() {
     return true;
 }
 
+void add(Usage& usage, long bytes) {
+    usage.bytes += bytes;
+    usage.peak = std::max(usage.peak, usage.bytes);
+}
+
 /// Counts a block that is there now, or with -1 one that goes.
 void count(void* memory, long times) {
     std::size_t const size = malloc_usable_size(memory);
-    if (size >= s_large) return;
-    s_smallBytes += times * static_cast<long>(size);
-    s_smallPeak = std::max(s_smallPeak, s_smallBytes);
+    long const bytes = times * static_cast<long>(size);
+    add(s_usage, bytes);
+    if (size < s_large) add(s_smallUsage, bytes);
 }
 
 }  // namespace

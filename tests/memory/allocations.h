@@ -15,11 +15,16 @@ inline long s_requests = 0;
 /// Blocks in use.
 inline long s_blocks = 0;
 
+/// Bytes in use, as the allocator rounds them.
+struct Usage {
+    long bytes = 0;
+    /// The most that they have been since this was set.
+    long peak = 0;
+};
+inline Usage s_usage;
 /// Bytes from which on a block is large, as are those of long texts.
 inline constexpr std::size_t s_large = std::size_t{64} << 10;
-/// Bytes in use in blocks that are not large, as the allocator rounds them.
-inline long s_smallBytes = 0;
-/// The most that they have been since this was set.
-inline long s_smallPeak = 0;
+/// Of blocks that are not large.
+inline Usage s_smallUsage;
 
 }  // namespace Allocations
