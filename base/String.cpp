@@ -7,6 +7,8 @@
 #include <cstring>
 #include <utility>
 
+#include "base/hugePages.h"
+
 namespace {
 
 constexpr int s_inlineLength = 7;
@@ -57,6 +59,7 @@ void String::Store::allocate(std::int32_t newLength, std::int32_t size) {
         int const bytes = bufferSizeFor(size);
         auto* const buffer = static_cast<char*>(std::malloc(static_cast<std::size_t>(bytes)));
         if (buffer == nullptr) return;
+        preferHugePages(buffer, static_cast<std::size_t>(bytes));
         capacity = bytes - static_cast<int>(sizeof storage);
         storage.buffer = buffer;
     }

@@ -8,6 +8,8 @@
 #include <new>
 #include <utility>
 
+#include "hugePages.h"
+
 /// A growable array whose capacity grows to the next multiple of `growBy`.
 ///
 /// 1. The elements are the first `count` slots of `data`; `count` <= `capacity`.
@@ -207,6 +209,7 @@ private:
         }
         std::size_t const size = sizeOf(before + slots);
         std::unique_ptr<std::byte, Deallocator> storage(Allocator().allocate(size), {size});
+        preferHugePages(storage.get(), size);
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
         T* const fresh = reinterpret_cast<T*>(storage.get() + s_front) + before;
         std::uninitialized_default_construct_n(fresh, slots);

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+
+#include "export.h"
+
+/// Bytes of a huge page, and of its alignment.
+inline constexpr std::size_t s_hugePageSize = std::size_t{2} << 20;
+
+/// Asks the system for huge pages under the `size` bytes at `memory`, which nothing was written to
+/// yet: for as many as lie within, each of which takes one page fault in the place of 512. Where
+/// there are none nothing happens. `errno` stays as it is.
+GALLEY_EXPORT void adviseHugePages(void* memory, std::size_t size) noexcept;
+
+/// The same, at no cost for memory that is no larger than a huge page.
+inline void preferHugePages(void* memory, std::size_t size) noexcept {
+    if (size > s_hugePageSize) adviseHugePages(memory, size);
+}
