@@ -10,10 +10,6 @@
 
 namespace {
 
-/// Some editors begin a file with it: U+FEFF in UTF-8, which would be a word of its own or a part
-/// of the first selector.
-constexpr std::string_view s_mark = "\xef\xbb\xbf";
-
 struct CloseFile {
     void operator()(std::FILE* file) const {
         if (file != stdin) std::fclose(file);
@@ -46,7 +42,6 @@ bool readAll(std::FILE* file, String& content) {
 int readFile(std::string const& name, String& content) {
     OpenFile const file(name == "-" ? stdin : std::fopen(name.c_str(), "rb"));
     if (!file || !readAll(file.get(), content)) return errno;
-    if (content.view().starts_with(s_mark)) content.deleteRegion(0, s_mark.length());
     return 0;
 }
 

@@ -1,9 +1,9 @@
 #include "base/append.h"
 #include "galley/SheetAccess.h"
 #include "galley/check/find.h"
+#include "galley/cleanSource.h"
 #include "galley/diagnose.h"
 #include "galley/failure.h"
-#include "galley/terminal/controls.h"
 #include "xml/css/parseCss.h"
 
 namespace galley {
@@ -23,15 +23,16 @@ Result<Sheet> Sheet::parse(std::string_view css, std::string_view name, Dialect)
         auto made = std::make_shared<Rules>();
         String text;
         CLI::XML::append(text, css);
-        bool const hasControls = replaceControls(text);
+        bool const isCleaned = cleanSource(text, false);
         if (!CLI::XML::parseCss(made->shown, text)) {
             Findings findings = findInSheet(text.view());
             std::erase_if(findings,
                           [](Finding const& f) { return f.kind != Finding::Kind::Error; });
             return Result<Sheet>(diagnose(findings, {name, text.view()}));
         }
-        if (hasControls) {
+        if (isCleaned) {
             text.assign(css);
+            cleanSource(text, true);
             CLI::XML::parseCss(made->raw, text);
         } else {
             addRules(made->raw, made->shown);

@@ -4,6 +4,7 @@
 #include "galley/SheetAccess.h"
 #include "galley/check/find.h"
 #include "galley/checkMarkup.h"
+#include "galley/cleanSource.h"
 #include "galley/convert.h"
 #include "galley/page.h"
 #include "xml/xml.h"
@@ -12,10 +13,10 @@ namespace galley {
 
 namespace {
 
-String withoutControls(std::string_view source) {
+String cleaned(std::string_view source) {
     String text;
     CLI::XML::append(text, source);
-    replaceControls(text);
+    cleanSource(text, false);
     return text;
 }
 
@@ -36,7 +37,7 @@ void add(std::vector<Diagnostic>& all, std::vector<Diagnostic> const& more) {
 }  // namespace
 
 std::vector<Diagnostic> checkMarkup(String& markup, Sheet const& sheet, Options const& options) {
-    replaceControls(markup);
+    cleanSource(markup, false);
     CLI::XML::StyleList const& rules = SheetAccess::rules(sheet, false);
     Source const source{options.name, markup.view()};
     std::vector<Diagnostic> all = diagnose(findInDocument(source.text, rules), source);
@@ -64,7 +65,7 @@ std::vector<Diagnostic> check(std::string_view markup, Sheet const& sheet, Optio
 
 std::vector<Diagnostic> checkSheet(std::string_view css, std::string_view name, Dialect) {
     return guardedList(name, [&] {
-        String const text = withoutControls(css);
+        String const text = cleaned(css);
         return diagnose(findInSheet(text.view()), {name, text.view()});
     });
 }

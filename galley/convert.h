@@ -2,6 +2,7 @@
 
 #include "base/String.h"
 #include "base/XCode.h"
+#include "galley/cleanSource.h"
 #include "galley/diagnose.h"
 #include "galley/failure.h"
 #include "galley/galley.h"
@@ -15,7 +16,7 @@ namespace galley {
 template <class Work>
 Result<void> convert(String& text, String& markup, Options const& options, Work const& work) {
     return guarded(options.name, [&]() -> Result<void> {
-        if (!options.raw) replaceControls(markup);
+        cleanSource(markup, options.raw);
         XCode const result = work(markup);
         if (!result) {
             Source const source{options.name, markup.view()};

@@ -178,6 +178,19 @@ TEST(Library, LetsControlsThroughWhereTheyAreWanted) {
     EXPECT_EQ(*galley::render("<p>\x07</p>", sheet, options), "\x1b\x07\n");
 }
 
+TEST(Library, SkipsTheMarkThatEditorsPutBeforeUtf8) {
+    std::string const mark = "\xef\xbb\xbf";
+    for (bool const isRaw : {false, true}) {
+        galley::Options options;
+        options.raw = isRaw;
+        galley::Sheet const sheet = *galley::Sheet::parse(mark + "p { padding-left: 2; }");
+        EXPECT_EQ(*galley::render(mark + "<p>a</p>" + mark, sheet, options), "  a\n" + mark + "\n");
+        EXPECT_EQ(galley::render(mark + "<q/>", {}, options).error().column(), 1U);
+    }
+    EXPECT_TRUE(galley::check(mark + "<p>a</p>").empty());
+    EXPECT_TRUE(galley::checkSheet(mark + "p { color: red; }").empty());
+}
+
 TEST(Library, EscapesDataForWhereItStands) {
     std::string all;
     for (char c = '!'; c <= '~'; ++c) all += c;
