@@ -123,14 +123,14 @@ void defineDestination(CLI::App& app, Options& options) {
 }
 
 void defineRun(CLI::App& app, Options& options) {
-    CLI::Option* const check =
-        app.add_flag("--check", options.isCheck,
-                     "Write no page but all that is wrong with documents and sheets, and warn of what has no "
-                     "effect in them")
-            ->excludes("--dump")
-            ->excludes("--output")
-            ->excludes("--output-dir")
-            ->excludes("--pager");
+    CLI::Option* const check = app.add_flag("--check", options.isCheck,
+                                            "Write no page but all that is wrong with documents "
+                                            "and sheets, and warn of what has no "
+                                            "effect in them")
+                                   ->excludes("--dump")
+                                   ->excludes("--output")
+                                   ->excludes("--output-dir")
+                                   ->excludes("--pager");
     app.add_flag("--strict", options.isStrict, "With --check, warnings fail, too")->needs(check);
     app.add_flag("--watch", options.isWatched,
                  "Render again when a document, a sheet or the width of the terminal changes, "

@@ -113,14 +113,14 @@ int galley_sheet_add(galley_sheet* sheet, char const* css, std::size_t length, c
 void galley_sheet_free(galley_sheet* sheet) { delete sheet; }
 
 char* galley_render(char const* markup, std::size_t length, galley_sheet const* sheet,
-                    galley_options const* options, std::size_t* page_length,
+                    galley_options const* options, std::size_t* pageLength,
                     galley_report** report) {
     tell(report, {});
     return orElse<char*>(nullptr, [&]() -> char* {
         auto const page = galley::render(view(markup, length), sheetOf(sheet), optionsOf(options));
         tell(report, page.errors());
         if (!page) return nullptr;
-        if (page_length != nullptr) *page_length = page->length();
+        if (pageLength != nullptr) *pageLength = page->length();
         return copyOf(*page);
     });
 }

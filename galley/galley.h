@@ -18,7 +18,9 @@
 #include <utility>
 #include <vector>
 
-namespace [[gnu::visibility("default")]] galley {
+#pragma GCC visibility push(default)
+
+namespace galley {
 
 /// The language of documents and sheets. There will be a second one, and it will be the default.
 enum class Dialect { core };
@@ -218,4 +220,6 @@ std::string escape(std::string_view text);
 /// has no reference for a quotation mark, and a value cannot do without.
 std::string escapeAttribute(std::string_view text);
 
-}  // namespace gnu::visibility("default")]]galley
+}  // namespace galley
+
+#pragma GCC visibility pop
