@@ -16,6 +16,7 @@ quietly() {
     local log=$root/build/$1
     shift
     mkdir -p "$root/build"
+    rm -f "$log"  # may be that of another user, root
     if ! "$@" >"$log" 2>&1 </dev/null; then
         cat "$log" >&2
         fail "failed: $*"
