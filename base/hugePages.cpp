@@ -3,12 +3,14 @@
 #include <sys/mman.h>
 
 #include <cerrno>
-#include <memory>
+#include <cstdint>
 
 void adviseHugePages(void* memory, std::size_t size) noexcept {
-    void* first = memory;
-    if (std::align(s_hugePageSize, s_hugePageSize, first, size) == nullptr) return;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): boundaries are those of
+    // addresses
+    std::size_t const before = reinterpret_cast<std::uintptr_t>(memory) % s_hugePageSize;
+    std::size_t const touched = (before + size + s_hugePageSize - 1) / s_hugePageSize;
     int const formerError = errno;
-    madvise(first, size / s_hugePageSize * s_hugePageSize, MADV_HUGEPAGE);
+    madvise(static_cast<char*>(memory) - before, touched * s_hugePageSize, MADV_HUGEPAGE);
     errno = formerError;
 }

@@ -26,7 +26,7 @@ struct Sheet::Rules {
 };
 
 /// For the rest of the library, and the tool.
-struct [[gnu::visibility("hidden")]] SheetAccess {
+struct SheetAccess {
     /// The rules, as they were written or without control characters.
     static CLI::XML::StyleList const& rules(Sheet const& sheet, bool isRaw);
     static std::vector<Sheet::Rules::Text> const& texts(Sheet const& sheet);

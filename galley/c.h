@@ -43,7 +43,8 @@ enum galley_color { GALLEY_COLOR_AUTOMATIC, GALLEY_COLOR_ALWAYS, GALLEY_COLOR_NE
 enum galley_format { GALLEY_ANSI, GALLEY_PLAIN, GALLEY_HTML, GALLEY_SVG };
 /** As galley::Theme. */
 enum galley_theme { GALLEY_THEME_AUTOMATIC, GALLEY_THEME_LIGHT, GALLEY_THEME_DARK };
-/** As galley::Dialect; the default is the core, and will be another one. */
+/** As galley::Dialect. The default will be another one by the first release: say which you write.
+ */
 enum galley_dialect { GALLEY_DIALECT_DEFAULT, GALLEY_DIALECT_CORE };
 /** As galley::Severity. */
 enum galley_severity { GALLEY_ERROR, GALLEY_WARNING };
@@ -63,10 +64,10 @@ int galley_sheet_add(galley_sheet* sheet, char const* css, size_t length, char c
 /** Frees a sheet; NULL is none. */
 void galley_sheet_free(galley_sheet* sheet);
 
-/** The page of a document, to be freed with galley_free; NULL on failure. Its length goes to
- * `page_length`, unless that is NULL. `options` may be NULL for the defaults. */
+/** The page of a document, as for standard output, to be freed with galley_free; NULL on failure.
+ * Its length goes to `pageLength`, unless that is NULL. `options` may be NULL for the defaults. */
 char* galley_render(char const* markup, size_t length, galley_sheet const* sheet,
-                    galley_options const* options, size_t* page_length, galley_report** report);
+                    galley_options const* options, size_t* pageLength, galley_report** report);
 /** All that is wrong with a document, and what it and its sheet have without effect. A report to be
  * freed, also where nothing is; NULL where there is no memory for it. */
 galley_report* galley_check(char const* markup, size_t length, galley_sheet const* sheet,

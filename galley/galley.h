@@ -22,12 +22,14 @@
 
 namespace galley {
 
-/// The language of documents and sheets. There will be a second one, and it will be the default.
+/// The language of documents and sheets. There will be a second one, and it will be the default by
+/// the first release: who wants this one then says so.
 enum class Dialect { core };
 
 /// When the format `ansi` has its escape sequences; without them it is `plain`.
 enum class Color {
-    automatic,  ///< where they go to a terminal, unless NO_COLOR is set in the environment
+    automatic,  ///< where the file or, for `render`, standard output is a terminal, and NO_COLOR
+                ///< is not set in the environment
     always,     ///< wherever they go
     never,      ///< nowhere
 };
@@ -135,7 +137,7 @@ public:
     explicit operator bool() const noexcept { return faults.empty(); }
     /// The first error. Only of a failure.
     Diagnostic const& error() const { return faults.front(); }
-    /// All of them, in the order of the source; none of a success.
+    /// All that were found, in the order of the source; none of a success.
     std::vector<Diagnostic> const& errors() const { return faults; }
     /// Throws `Failure` unless it is a success.
     void value() const {
@@ -172,6 +174,8 @@ private:
     std::optional<T> held;
 };
 
+struct [[gnu::visibility("hidden")]] SheetAccess;
+
 /// Style rules. A value that is cheap to copy; any number of threads may copy and use one sheet.
 class Sheet {
 public:
@@ -195,12 +199,14 @@ private:
     std::shared_ptr<Rules const> rules;
 };
 
-/// The page of a document: lines of text, each ended by "\n", or what `options.format` says.
+/// The page of a document: lines of text, each ended by "\n", or what `options.format` says. As
+/// for standard output: say width and colours where it goes elsewhere. A failure has the first
+/// error; `check` tells all.
 Result<std::string> render(std::string_view markup, Sheet const& sheet = {},
                            Options const& options = {});
 
 /// Writes the page of a document to `out`, whose terminal, if it is one, counts for width and
-/// colours. A failure without a place is one of writing, after which a part may have been written.
+/// colours. Nothing is written of a page that fails; what cannot be written may be there in part.
 Result<void> print(std::string_view markup, Sheet const& sheet = {}, Options const& options = {},
                    std::FILE* out = stdout);
 
