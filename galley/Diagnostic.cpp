@@ -34,4 +34,9 @@ std::string Diagnostic::text() const {
     return all;
 }
 
+// Here, so that programs without exceptions can include the header.
+void Result<void>::value() const {
+    if (!*this) throw Failure(error().text());
+}
+
 }  // namespace galley

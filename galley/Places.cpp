@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/append.h"
 #include "galley/terminal/columns.h"
 #include "galley/terminal/controls.h"
 
@@ -38,9 +39,13 @@ std::size_t backward(std::string_view line, std::size_t i, unsigned room) {
     return i;
 }
 
-/// Leaves only bytes in a part of a line that take the cursor to the right.
+/// Leaves only bytes in a part of a line that take the cursor to the right, also of a source whose
+/// control characters are wanted on the page.
 std::string printable(std::string_view part) {
-    std::string text(part);
+    String cleaned;
+    CLI::XML::append(cleaned, part);
+    replaceControls(cleaned);
+    std::string text(cleaned.view());
     auto const isVertical = [](char c) { return c == '\v' || c == '\f' || c == '\r'; };
     std::replace_if(text.begin(), text.end(), isVertical, ' ');
     return text;

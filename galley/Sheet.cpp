@@ -37,7 +37,8 @@ Result<Sheet> Sheet::parse(std::string_view css, std::string_view name, Dialect)
         } else {
             addRules(made->raw, made->shown);
         }
-        made->texts.push_back({std::string(name), std::string(css)});
+        made->texts.push_back(
+            std::make_shared<Rules::Text const>(Rules::Text{std::string(name), std::string(css)}));
         Sheet sheet;
         sheet.rules = std::move(made);
         return sheet;
@@ -63,8 +64,9 @@ StyleList const& SheetAccess::rules(Sheet const& sheet, bool isRaw) {
     return isRaw ? sheet.rules->raw : sheet.rules->shown;
 }
 
-std::vector<Sheet::Rules::Text> const& SheetAccess::texts(Sheet const& sheet) {
-    static std::vector<Sheet::Rules::Text> const s_none;
+std::vector<std::shared_ptr<Sheet::Rules::Text const>> const& SheetAccess::texts(
+    Sheet const& sheet) {
+    static std::vector<std::shared_ptr<Sheet::Rules::Text const>> const s_none;
     return sheet.rules ? sheet.rules->texts : s_none;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,15 +22,15 @@ struct Sheet::Rules {
     CLI::XML::StyleList shown;
     /// As they were written.
     CLI::XML::StyleList raw;
-    /// In the order of their rules.
-    std::vector<Text> texts;
+    /// In the order of their rules; those of sheets that were added are theirs, too.
+    std::vector<std::shared_ptr<Text const>> texts;
 };
 
 /// For the rest of the library, and the tool.
 struct SheetAccess {
     /// The rules, as they were written or without control characters.
     static CLI::XML::StyleList const& rules(Sheet const& sheet, bool isRaw);
-    static std::vector<Sheet::Rules::Text> const& texts(Sheet const& sheet);
+    static std::vector<std::shared_ptr<Sheet::Rules::Text const>> const& texts(Sheet const& sheet);
 };
 
 }  // namespace galley

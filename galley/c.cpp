@@ -120,8 +120,9 @@ char* galley_render(char const* markup, std::size_t length, galley_sheet const* 
         auto const page = galley::render(view(markup, length), sheetOf(sheet), optionsOf(options));
         tell(report, page.errors());
         if (!page) return nullptr;
-        if (pageLength != nullptr) *pageLength = page->length();
-        return copyOf(*page);
+        char* const copy = copyOf(*page);
+        if (copy != nullptr && pageLength != nullptr) *pageLength = page->length();
+        return copy;
     });
 }
 

@@ -37,8 +37,8 @@ void add(std::vector<Diagnostic>& all, std::vector<Diagnostic> const& more) {
 }  // namespace
 
 std::vector<Diagnostic> checkMarkup(String& markup, Sheet const& sheet, Options const& options) {
-    cleanSource(markup, false);
-    CLI::XML::StyleList const& rules = SheetAccess::rules(sheet, false);
+    cleanSource(markup, options.raw);
+    CLI::XML::StyleList const& rules = SheetAccess::rules(sheet, options.raw);
     Source const source{options.name, markup.view()};
     std::vector<Diagnostic> all = diagnose(findInDocument(source.text, rules), source);
     auto const isError = [](Diagnostic const& d) { return d.severity() == Severity::error; };
@@ -55,7 +55,9 @@ std::vector<Diagnostic> checkMarkup(String& markup, Sheet const& sheet, Options 
 std::vector<Diagnostic> check(std::string_view markup, Sheet const& sheet, Options const& options) {
     return guardedList(options.name, [&] {
         std::vector<Diagnostic> all;
-        for (auto const& [name, css] : SheetAccess::texts(sheet)) add(all, checkSheet(css, name));
+        for (auto const& text : SheetAccess::texts(sheet)) {
+            add(all, checkSheet(text->css, text->name));
+        }
         String text;
         CLI::XML::append(text, markup);
         add(all, checkMarkup(text, sheet, settle(options, stdout)));

@@ -6,8 +6,9 @@
 ///     auto const sheet = galley::Sheet::parse("h1 { color: green; font-style: bold; }");
 ///     if (sheet) galley::print("<h1>Hello, terminal</h1>", *sheet);
 ///
-/// Nothing but `value()` throws: what fails is said by a `Result`, lack of memory too. There is no
-/// global state, and any number of threads may do all of this at once.
+/// Nothing but `value()` throws: what fails is said by a `Result`, lack of memory too, unless there
+/// is none even to say so. What gives no `Result` throws std::bad_alloc then. There is no global
+/// state, and any number of threads may do all of this at once.
 
 #include <cstdio>
 #include <memory>
@@ -140,9 +141,7 @@ public:
     /// All that were found, in the order of the source; none of a success.
     std::vector<Diagnostic> const& errors() const { return faults; }
     /// Throws `Failure` unless it is a success.
-    void value() const {
-        if (!*this) throw Failure(error().text());
-    }
+    void value() const;
 
 private:
     std::vector<Diagnostic> faults;
@@ -159,7 +158,7 @@ public:
     ///@{
     T& operator*() & { return *held; }
     T const& operator*() const& { return *held; }
-    T&& operator*() && { return *std::move(held); }
+    T operator*() && { return *std::move(held); }
     T* operator->() { return &*held; }
     T const* operator->() const { return &*held; }
     ///@}
@@ -167,7 +166,7 @@ public:
     ///@{
     T& value() & { return Result<void>::value(), *held; }
     T const& value() const& { return Result<void>::value(), *held; }
-    T&& value() && { return Result<void>::value(), *std::move(held); }
+    T value() && { return Result<void>::value(), *std::move(held); }
     ///@}
 
 private:
@@ -212,19 +211,20 @@ Result<void> print(std::string_view markup, Sheet const& sheet = {}, Options con
 
 /// All that is wrong with a document, and what it and its sheet have without effect: warnings of
 /// the sheet, then errors and warnings of the document, in the order of the source.
-std::vector<Diagnostic> check(std::string_view markup, Sheet const& sheet = {},
-                              Options const& options = {});
+[[nodiscard]] std::vector<Diagnostic> check(std::string_view markup, Sheet const& sheet = {},
+                                            Options const& options = {});
 
 /// The same of the text of a sheet, which may be at fault.
-std::vector<Diagnostic> checkSheet(std::string_view css, std::string_view name = "<sheet>",
-                                   Dialect dialect = Dialect::core);
+[[nodiscard]] std::vector<Diagnostic> checkSheet(std::string_view css,
+                                                 std::string_view name = "<sheet>",
+                                                 Dialect dialect = Dialect::core);
 
 /// `text` as the content of an element, where it stands for itself.
-std::string escape(std::string_view text);
+[[nodiscard]] std::string escape(std::string_view text);
 
 /// `text` as the value of an attribute, between its quotation marks. The two differ since content
 /// has no reference for a quotation mark, and a value cannot do without.
-std::string escapeAttribute(std::string_view text);
+[[nodiscard]] std::string escapeAttribute(std::string_view text);
 
 }  // namespace galley
 

@@ -36,14 +36,17 @@ Result<std::string> render(std::string_view markup, Sheet const& sheet, Options 
 
 Result<void> print(std::string_view markup, Sheet const& sheet, Options const& options,
                    std::FILE* out) {
-    Result<String> const page = pageOf(markup, sheet, options, out);
-    if (!page) return Result<void>(page.errors());
-    std::string_view const text = page->view();
-    bool const isWritten =
-        std::fwrite(text.data(), 1, text.length(), out) == text.length() && std::fflush(out) == 0;
-    if (isWritten) return {};
-    std::string const reason = std::strerror(errno);
-    return Result<void>(failure(out == stdout ? "<stdout>" : "<output>", reason));
+    return guarded(options.name, [&]() -> Result<void> {
+        Result<String> const page = pageOf(markup, sheet, options, out);
+        if (!page) return Result<void>(page.errors());
+        std::string_view const text = page->view();
+        errno = 0;
+        bool const isWritten = std::fwrite(text.data(), 1, text.length(), out) == text.length() &&
+                               std::fflush(out) == 0;
+        if (isWritten) return {};
+        char const* const reason = errno != 0 ? std::strerror(errno) : "Cannot write";
+        return Result<void>(failure(out == stdout ? "<stdout>" : "<output>", reason));
+    });
 }
 
 }  // namespace galley

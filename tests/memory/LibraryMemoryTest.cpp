@@ -1,0 +1,57 @@
+// Where a request for memory fails once, the library for people says so in its results: nothing is
+// thrown, and nothing is left behind.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "galley/galley.h"
+#include "tests/memory/allocations.h"
+
+namespace galley {
+namespace {
+
+using namespace Allocations;
+
+/// Calls `act` again and again, each time with the next request failing.
+template <class Act>
+void failOnce(char const* what, Act const& act) {
+    act();
+    for (long n = 0;; ++n) {
+        SCOPED_TRACE(std::string(what) + ", request " + std::to_string(n));
+        long const blocks = s_blocks;
+        s_staysOut = false;
+        s_left = n;
+        EXPECT_NO_THROW(act());
+        bool const isDone = s_left > 0;
+        s_left = -1;
+        EXPECT_EQ(s_blocks, blocks);
+        if (isDone || testing::Test::HasFailure()) break;
+    }
+}
+
+TEST(LibraryMemory, FailsInResults) {
+    constexpr std::string_view good = "<p class=\"a\">one <b>two</b> three &mdash; four</p>";
+    constexpr std::string_view bad = "<p>one</p><p class=\"a\"><q/>";
+    constexpr std::string_view css = "p { padding-left: 2; colour: red; }\nb { color: \x01; }";
+    Sheet const sheet = *Sheet::parse(css);
+    using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+    File const null(std::fopen("/dev/null", "w"), std::fclose);
+    File const full(std::fopen("/dev/full", "w"), std::fclose);
+    Options html;
+    html.format = Format::html;
+    for (std::string_view const markup : {good, bad}) {
+        failOnce("render", [&] { (void)render(markup, sheet); });
+        failOnce("html", [&] { (void)render(markup, sheet, html); });
+        failOnce("print", [&] { (void)print(markup, sheet, {}, null.get()); });
+        failOnce("print in vain", [&] { (void)print(markup, sheet, {}, full.get()); });
+        failOnce("check", [&] { (void)check(markup, sheet); });
+    }
+    for (std::string_view const text : {css, std::string_view("p { color red; }\n\x01 { x }")}) {
+        failOnce("parse", [&] { (void)Sheet::parse(text); });
+        failOnce("check of a sheet", [&] { (void)checkSheet(text); });
+    }
+}
+
+}  // namespace
+}  // namespace galley
