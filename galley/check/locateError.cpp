@@ -2,10 +2,8 @@
 
 #include <algorithm>
 #include <new>
-#include <utility>
 
 #include "galley/check/DocumentReader.h"
-#include "galley/check/SheetReader.h"
 
 namespace galley {
 
@@ -38,18 +36,6 @@ std::optional<Finding> locateInDocument(std::string_view document, std::string c
     } catch (std::bad_alloc const&) {
     }
     return std::nullopt;
-}
-
-std::optional<Finding> locateInSheet(std::string_view sheet, std::string const& message) {
-    SheetReader reader(sheet);
-    for (;;) {
-        SheetReader::Event const event = reader.next();
-        if (event == SheetReader::Event::EndOfSheet) return std::nullopt;
-        if (event != SheetReader::Event::Error) continue;
-        // The library reads no further.
-        Finding error = reader.error();
-        return isSaidOf(error, message, sheet) ? std::optional(std::move(error)) : std::nullopt;
-    }
 }
 
 }  // namespace galley

@@ -10,6 +10,5 @@ namespace galley {
 /// and on a stack of any size. Nothing where the message is of another kind, is not one that this
 /// source leads to, or there is no memory for a copy of the document.
 std::optional<Finding> locateInDocument(std::string_view document, std::string const& message);
-std::optional<Finding> locateInSheet(std::string_view sheet, std::string const& message);
 
 }  // namespace galley
