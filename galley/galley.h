@@ -151,7 +151,7 @@ template <class T>
 class [[nodiscard]] Result : public Result<void> {
 public:
     /// A success.
-    Result(T made) : held(std::move(made)) {}
+    Result(T made) : held(std::move(made)) {}  // NOLINT(google-explicit-constructor): for `return`
     using Result<void>::Result;
 
     /// The value. Only of a success.
