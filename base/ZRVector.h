@@ -122,7 +122,7 @@ public:
             ZRVector tail;
             tail.takeStorageFrom(i, *this);
             // Into slots of those that stayed, and before them.
-            tail.extendFront(target.count);
+            if (target.count > 0) tail.takeFront(target.count);
             for (unsigned slot = 0; slot < target.count; ++slot) {
                 tail.data[slot] = std::move(target.data[slot]);
             }
@@ -135,32 +135,6 @@ public:
             data[slot] = T();
         }
         count = i;
-    }
-
-    /// Provides storage for `n` elements, above 0, where there is none, with slots before the first
-    /// for a quarter as many.
-    void reserveWithFront(unsigned n) {
-        if (data == nullptr) moveTo(slotsAbove(n), n / s_frontPart);
-    }
-
-    /// Puts `n` elements, `T()` each, before the first one. Constant time, but for these, while
-    /// there are slots before the first: where there are none, such are made for a quarter of the
-    /// elements more.
-    void extendFront(unsigned n) {
-        if (n == 0) return;
-        unsigned long long const extended = 0ULL + count + n;
-        unsigned const slots = slotsAbove(extended - 1);
-        if (data == nullptr || skipped() < n || slots - n > allocated) {
-            moveTo(std::max(slots - n, allocated),
-                   n + static_cast<unsigned>(extended / s_frontPart));
-        }
-        unsigned const before = skipped();
-        std::uninitialized_value_construct_n(data - n, n);
-        data -= n;
-        allocated += n;
-        setSkipped(before - n);
-        count += n;
-        capacity = std::max(capacity, slots);
     }
 
     /// Removes every element; the storage stays.
@@ -232,6 +206,17 @@ private:
         source.capacity = 0;
         count = kept;
         capacity = (kept + 1) / 2 * 2;
+    }
+
+    /// Makes elements of the `n` slots before the first one.
+    void takeFront(unsigned n) {
+        unsigned const before = skipped();
+        std::uninitialized_value_construct_n(data - n, n);
+        data -= n;
+        allocated += n;
+        setSkipped(before - n);
+        count += n;
+        capacity = std::max(capacity, slotsAbove(count - 1));
     }
 
     void freeStorage() {

@@ -196,6 +196,47 @@ void nestedStyledInlines(Writer& to) {
     to.nest("<i color=\"red\">", "end </i>", [&] { to.addWord().add(" "); });
 }
 
+/// Two styles in turn, and a word behind each element.
+void nestedStylesInTurn(Writer& to) {
+    to.nest("<b color=\"red\"><i color=\"blue\">", "end </i>end </b>",
+            [&] { to.addWord().add(" "); });
+}
+
+constexpr std::string_view s_backgroundStart =
+    "<div background-color=\"red\" border-right-width=\"1\">";
+
+/// Many levels around a few rows.
+void levelsOfBackgrounds(Writer& to) {
+    to.nest(s_backgroundStart, "</div>", [&] {
+        if (to.partCount() <= 50) to.addWord();
+    });
+}
+
+/// A few levels around many rows.
+void rowsOnBackgrounds(Writer& to) {
+    constexpr unsigned s_levels = 50;
+    for (unsigned i = 0; i < s_levels; ++i) to.add(s_backgroundStart);
+    while (to.next()) to.add("<p>").addWord().add("</p>");
+    for (unsigned i = 0; i < s_levels; ++i) to.add("</div>");
+}
+
+void borderedParagraphs(Writer& to) {
+    to.add("<div border-width=\"1\">");
+    paragraphs(to);
+    to.add("</div>");
+}
+
+void dashedParagraphs(Writer& to) {
+    paragraphs(to);
+    to.corpus.sheet = "p { border-style: -; border-left-style: -; border-corner-style: -; }";
+}
+
+/// One element of many may reach up.
+void oneNegativeEdge(Writer& to) {
+    paragraphs(to);
+    to.add("<p margin-top=\"-1\">").addWord().add("</p>");
+}
+
 void stairs(Writer& to) {
     to.nest("<b><p>", "</b>", [&] { to.addWord().add(" ").addWord().add("</p>"); });
 }
@@ -317,12 +358,15 @@ constexpr Shape s_shapes[] = {
     {"attributes", attributes},
     {"blocks-in-inlines", blocksInInlines},
     {"blocks-in-one-inline", blocksInOneInline},
+    {"bordered-paragraphs", borderedParagraphs},
     {"cdata", cdata},
     {"cells", cells},
     {"comments", comments},
+    {"dashed-paragraphs", dashedParagraphs},
     {"declarations", declarations},
     {"inlines", inlines},
     {"inlines-in-one-inline", inlinesInOneInline},
+    {"levels-of-backgrounds", levelsOfBackgrounds},
     {"line", line},
     {"negative-edges", negativeEdges},
     {"nested-blocks", nestedBlocks},
@@ -331,10 +375,13 @@ constexpr Shape s_shapes[] = {
     {"nested-inlines", nestedInlines},
     {"nested-inlines-with-tails", nestedInlinesWithTails},
     {"nested-styled-inlines", nestedStyledInlines},
+    {"nested-styles-in-turn", nestedStylesInTurn},
     {"nested-tables", nestedTables},
+    {"one-negative-edge", oneNegativeEdge},
     {"page", page},
     {"paragraphs", paragraphs},
     {"references", references},
+    {"rows-on-backgrounds", rowsOnBackgrounds},
     {"rules", rules},
     {"siblings", siblings},
     {"splitting", splitting},

@@ -60,15 +60,20 @@ std::size_t countBoxes(CLI::XML::Box const& root) {
     return count;
 }
 
-/// What it makes is boxes, besides the page.
-std::size_t makeTrees(Bench::Source const& source, unsigned width) {
-    Bench::Conversion conversion;
+/// What it makes is boxes.
+std::size_t makeBoxes(Bench::Conversion& conversion, Bench::Source const& source, unsigned width) {
     conversion.read(source);
     conversion.build();
     conversion.layOut(width);
+    return countBoxes(*conversion.box) * sizeof(CLI::XML::Box);
+}
+
+/// What it makes is boxes, besides the page.
+std::size_t makeTrees(Bench::Source const& source, unsigned width) {
+    Bench::Conversion conversion;
+    std::size_t const boxes = makeBoxes(conversion, source, width);
     conversion.paint();
-    std::size_t const boxes = countBoxes(*conversion.box);
-    return boxes * sizeof(CLI::XML::Box) + sizeOf(conversion.dump());
+    return boxes + sizeOf(conversion.dump());
 }
 
 std::size_t dumpTrees(Bench::Conversion const& conversion) {
@@ -82,7 +87,7 @@ std::size_t parseSheet(String const& sheet) {
 }
 
 int usage() {
-    std::cerr << "usage: galley-shape convert|tree|dumps|sheet SHAPE SIZE [WIDTH]\n";
+    std::cerr << "usage: galley-shape convert|boxes|tree|dumps|sheet SHAPE SIZE [WIDTH]\n";
     return 2;
 }
 
@@ -106,6 +111,9 @@ int main(int argc, char** argv) {
         Bench::Source const source(*corpus);
         if (operation == "convert") {
             cost = measure([&] { return convert(source, width); });
+        } else if (operation == "boxes") {
+            Bench::Conversion conversion;
+            cost = measure([&] { return makeBoxes(conversion, source, width); });
         } else if (operation == "tree") {
             cost = measure([&] { return makeTrees(source, width); });
         } else if (operation == "dumps") {

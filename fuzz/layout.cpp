@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "fuzz/canvases.h"
 #include "fuzz/check.h"
 #include "xml/dom/DomElement.h"
 #include "xml/dom/DomText.h"
@@ -96,14 +97,12 @@ void layOut(Program const& program) {
     String const settled = box->dump(0);
     box->layout(containing);
     require(box->dump(0) == settled, "two layouts settle a tree");
-    CellBudget budget(1U << 20);
-    Canvas page(&budget);
+    if (!areCanvasesSmall(*box)) return;
+    Canvas page;
     box->drawTo(page, Canvas::Attributes());
-    CellBudget sameBudget(1U << 20);
-    Canvas samePage(&sameBudget);
+    Canvas samePage;
     box->drawTo(samePage, Canvas::Attributes());
     require(page.dump("\n") == samePage.dump("\n"), "painting changes no box");
-    require(budget.remaining() == sameBudget.remaining(), "painting costs the same");
 }
 
 }  // namespace

@@ -1,11 +1,13 @@
 #include "xml/PageBuilder.h"
 
-#include <limits>
 #include <new>
 #include <utility>
 
 #include "base/saturate.h"
-#include "xml/layout/TableBox.h"
+#include "xml/TablePainter.h"
+#include "xml/beneath.h"
+#include "xml/boxesOf.h"
+#include "xml/layout/LineBreaker.h"
 #include "xml/layout/makeChild.h"
 #include "xml/pageOfWidth.h"
 
@@ -13,39 +15,50 @@ namespace CLI::XML {
 
 namespace {
 
-ZRLWPtr<BlockBox> asBlock(ZRLWPtr<Box> const& box) {
-    return ZRLWPtr<BlockBox>::share(static_cast<BlockBox*>(box.object));
+bool hasNegativeSide(Dimensions const& box) {
+    auto const isNegative = [](EdgeSizes const& edges) {
+        return edges.left < 0 || edges.right < 0;
+    };
+    return isNegative(box.padding) || isNegative(box.border) || isNegative(box.margin);
+}
+
+bool isTable(Items const& items) {
+    return items[0].kind == Item::Open && items[0].style->display() == DomNode::Table;
+}
+
+Canvas::Attributes contentOf(ElementStyle const& style, Canvas::Attributes const& attributes) {
+    return style.look.ofContent(style.look.ofBackground(attributes));
 }
 
 }  // namespace
 
-PageBuilder::OpenBlock::OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& containing,
-                                  BlockFlow::Taker& taker, Canvas& canvas,
+PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& containing,
                                   Canvas::Attributes const& attributes)
-    : box(std::move(made)),
-      flow(*box, containing, taker),
-      painting(*box, canvas, attributes, BoxPainting::Open) {}
+    : element(style.element),
+      look(style.look),
+      handedDown(attributes),
+      content(contentOf(style, attributes)),
+      box(style.box),
+      stack(box) {
+    EdgeSizes const edges = box.edges();
+    box.content.width = saturate(std::int64_t{containing.content.width} - edges.left - edges.right);
+}
 
-PageBuilder::PageBuilder(DomElement& root, unsigned width, int expectedLength, CellBudget& budget)
-    : page(&budget) {
+PageBuilder::PageBuilder(ZRLWPtr<DomElement> const& root, unsigned width, int expectedLength,
+                         bool keepsRows, CellBudget& budget)
+    : grid(budget), mayRelease(!keepsRows) {
     // Each line of words adds a line feed: not more than this on a page of 16 columns.
     if (!text.reserve(saturate(std::int64_t{expectedLength} + expectedLength / 16))) {
         text.reserve(expectedLength);
     }
-    ZRLWPtr<BlockBox> const box = ZR::MovePtr<BlockBox>(new BlockBox(&root));
-    box->holdNode();
-    innermost =
-        std::make_unique<OpenBlock>(box, pageOfWidth(width), *this, page, Canvas::Attributes());
-    innermost->paintsOnPage = innermost->painting.paintsDirectly();
+    blocks.emplace_back(ElementStyle(root), pageOfWidth(width), Canvas::Attributes());
+    blocks.back().isBare = true;
 }
 
-PageBuilder::~PageBuilder() {
-    // From the inside out: a painting ends within the one around it.
-    while (innermost) innermost = std::move(innermost->around);
+/// The element that what is read stands in.
+DomElement const& PageBuilder::parent() const {
+    return items.depth() > 0 ? *items.innermost().element : *blocks.back().element;
 }
-
-/// The box that receives what is read.
-Box& PageBuilder::parent() { return subtree.empty() ? *innermost->box : *subtree.back(); }
 
 void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
     if (!refusal) return;
@@ -53,138 +66,143 @@ void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
         ++hidden;
         return;
     }
-    ZRLWPtr<Box> box = makeChild(parent(), *element, refusal);
-    if (!box) return;
-    box->holdNode();
-    if (subtree.empty() && element->display == DomNode::Block) {
-        openBlock(box);
-        return;
-    }
-    bool const isInline = element->display == DomNode::Inline;
-    isSubtreeInline = isInline && (subtree.empty() || isSubtreeInline);
-    if (!subtree.empty()) {
-        Box& holder = isInline ? *parent().getOrCreateLineBox() : parent();
-        holder.hasSpecialChild = holder.hasSpecialChild || !isInline || box->dimensions.hasEdges();
-        holder.children.add(box);
-    }
-    subtree.push_back(std::move(box));
+    refusal = checkChild(parent(), element.object);
+    if (!refusal) return;
+    bool const isWithin = items.depth() > 0;
+    if (!isWithin && element->display == DomNode::Block) return openBlock(element);
+    if (!isWithin && element->display == DomNode::Table) endItems();
+    items.open(styles.of(element));
+    bool const isHistoric = isTable(items) ? element->display == DomNode::Block
+                                           : element->display != DomNode::Inline ||
+                                                 hasNegativeSide(items.innermost().box);
+    needsBoxes = needsBoxes || isHistoric;
 }
 
 void PageBuilder::endElement() {
     if (!refusal) return;
     if (hidden > 0) {
         --hidden;
-    } else if (subtree.empty()) {
+    } else if (items.depth() == 0) {
         closeBlock();
     } else {
-        ZRLWPtr<Box> box = std::move(subtree.back());
-        subtree.pop_back();
-        if (box->type == Box::Cell) static_cast<CellBox&>(*box).takeRun();
-        if (subtree.empty()) addSubtree(std::move(box));
+        items.close();
+        if (items.depth() == 0 && isTable(items)) endItems();
     }
 }
 
 bool PageBuilder::takesText() {
-    if (refusal && hidden == 0) refusal = checkText(parent());
-    return refusal && hidden == 0;
+    if (!refusal || hidden > 0) return false;
+    refusal = checkChild(parent(), nullptr);
+    return static_cast<bool>(refusal);
 }
 
 void PageBuilder::addWords(std::string_view read) {
-    if (!takesText()) return;
-    if (!subtree.empty()) {
-        words.addWords(parent().getOrCreateLineBox()->children, read);
-        return;
-    }
-    while (!read.empty()) {
-        read.remove_prefix(innermost->flow.addWords(read, words));
-    }
+    if (takesText()) items.addWords(read);
 }
 
 void PageBuilder::addWord(std::string_view word) {
-    if (!takesText()) return;
-    if (!subtree.empty()) {
-        words.addWord(parent().getOrCreateLineBox()->children, word);
-    } else {
-        innermost->flow.addWord(word, words);
-    }
+    if (takesText()) items.addWord(word);
 }
 
 XCode PageBuilder::finish(String& out) {
     if (!refusal) return refusal;
-    finishBlock();
-    moveRowsAbove(std::numeric_limits<unsigned>::max());
-    if (!isTextComplete) throw std::bad_alloc();
+    endItems();
+    if (!grid.moveRowsTo(text) || !isTextComplete) throw std::bad_alloc();
     out = std::move(text);
     return refusal;
 }
 
-void PageBuilder::openBlock(ZRLWPtr<Box> const& box) {
-    innermost->flow.closeLine();
-    innermost->flow.place(*asBlock(box));
-    auto opened =
-        std::make_unique<OpenBlock>(asBlock(box), innermost->box->dimensions, *this,
-                                    innermost->painting.canvas(), innermost->painting.attributes());
-    opened->paintsOnPage = innermost->paintsOnPage && opened->painting.paintsDirectly();
-    opened->around = std::move(innermost);
-    innermost = std::move(opened);
-}
-
-void PageBuilder::finishBlock() {
-    innermost->flow.closeLine();
-    innermost->flow.finish();
-    innermost->painting.finish();
+void PageBuilder::openBlock(ZRLWPtr<DomElement> const& element) {
+    endItems();
+    OpenBlock const& around = blocks.back();
+    ElementStyle const& style = styles.of(element);
+    OpenBlock& opened = blocks.emplace_back(style, around.box, around.content);
+    around.stack.place(opened.box);
+    opened.isBare = around.isBare && !style.hasBeneath;
+    grid.enter(opened.box.content.x, opened.box.content.y);
 }
 
 void PageBuilder::closeBlock() {
-    finishBlock();
-    ZRLWPtr<BlockBox> const box = innermost->box;
-    innermost = std::move(innermost->around);
-    innermost->flow.take(*box);
-    if (innermost->paintsOnPage) releaseRows(innermost->box->dimensions.content.height);
+    endItems();
+    OpenBlock const& closed = blocks.back();
+    closed.stack.finish();
+    leaveBox(grid, closed.element.object, closed.box, closed.look, closed.handedDown);
+    Dimensions const box = closed.box;
+    blocks.pop_back();
+    take(box);
 }
 
-/// Lays out and paints an inline element or a table, now that it is complete.
-void PageBuilder::addSubtree(ZRLWPtr<Box> box) {
-    if (box->node->display == DomNode::Inline) {
-        innermost->flow.addToLine(std::move(box), isSubtreeInline);
+/// Takes a child in whose frame has been left.
+void PageBuilder::take(Dimensions const& box) {
+    OpenBlock& block = blocks.back();
+    block.stack.add(box);
+    if (block.isBare) releaseRows(block.box.content.height);
+}
+
+/// Nothing more is painted above row `height` of the innermost frame.
+void PageBuilder::releaseRows(std::int32_t height) {
+    if (!mayRelease) return;
+    isTextComplete = grid.moveRowsTo(text, grid.originRow() + height) && isTextComplete;
+}
+
+/// Lays out and paints what has been read since the last block.
+void PageBuilder::endItems() {
+    if (items.count() == 0) return;
+    if (needsBoxes) {
+        addBoxes();
+    } else if (isTable(items)) {
+        addTable();
     } else {
-        innermost->flow.closeLine();
-        Walk::run(innermost->flow.add(box, {}));
+        addParagraph();
+    }
+    items.clear();
+    styles.clear();
+    needsBoxes = false;
+}
+
+void PageBuilder::addParagraph() {
+    OpenBlock& block = blocks.back();
+    Position const end = {items.count(), 0};
+    LineBreaker breaker(items, end, block.box.content.width);
+    LinePainter painter(items, LinePainter::Line, &grid);
+    for (Position from; from < end;) {
+        Position const lineEnd = breaker.next(from);
+        Dimensions line;
+        block.stack.place(line);
+        grid.enter(line.content.x, line.content.y);
+        Rect const size = painter.paint(from, lineEnd, block.content);
+        grid.leave();
+        line.content.width = size.width;
+        line.content.height = size.height;
+        take(line);
+        from = lineEnd;
     }
 }
 
-/// Paints a child of the innermost block.
-void PageBuilder::take(ZRLWPtr<Box> box) {
-    Canvas& canvas = innermost->painting.canvas();
-    if (box->type == Box::Table) {
-        BoxPainting painting(*box, canvas, innermost->painting.attributes(), BoxPainting::Complete);
-        bool const isOnPage = innermost->paintsOnPage && painting.paintsDirectly();
-        // Row by row, so that of a long table few rows of cells are kept, and each row is let go
-        // while it is at hand.
-        for (unsigned i = 0; i < box->children.count; ++i) {
-            ZRLWPtr<Box> const row = std::move(box->children[i]);
-            row->drawTo(painting.canvas(), painting.attributes());
-            Rect const& area = row->dimensions.content;
-            if (isOnPage) releaseRows(std::int64_t{area.y} + area.height);
-        }
-        painting.finish();
-    } else {
-        box->drawTo(canvas, innermost->painting.attributes());
+void PageBuilder::addTable() {
+    OpenBlock& block = blocks.back();
+    ElementStyle const& style = *items[0].style;
+    Dimensions box = style.box;
+    block.stack.place(box);
+    TablePainter painter(items, box, grid);
+    grid.enter(box.content.x, box.content.y);
+    // Of a long table each row is let go while it is at hand.
+    while (painter.paintRow(contentOf(style, block.content))) {
+        if (block.isBare && !style.hasBeneath) releaseRows(box.content.height);
     }
-    if (innermost->paintsOnPage) releaseRows(innermost->box->dimensions.content.height);
+    leaveBox(grid, style, box, block.content);
+    take(box);
 }
 
-/// The page's origin is that of a box that stacks its children, and `height` rows below it have
-/// been painted: without extreme edges nothing more is painted there.
-void PageBuilder::releaseRows(std::int64_t height) {
-    std::int64_t const row = page.originRow() + height;
-    if (row <= std::numeric_limits<std::int32_t>::max()) {
-        moveRowsAbove(static_cast<unsigned>(row));
+void PageBuilder::addBoxes() {
+    OpenBlock& block = blocks.back();
+    ItemBoxes laidOut(items);
+    laidOut.layOut(block.box);
+    for (ZRLWPtr<Box> const& box : laidOut.boxes()) {
+        block.stack.place(box->dimensions);
+        paintBox(grid, *box, block.content);
+        take(box->dimensions);
     }
-}
-
-void PageBuilder::moveRowsAbove(unsigned row) {
-    isTextComplete = page.moveRowsTo(text, row) && isTextComplete;
 }
 
 }  // namespace CLI::XML

@@ -1,28 +1,25 @@
 #pragma once
 
-#include <memory>
-#include <vector>
+#include <deque>
+#include <string_view>
 
+#include "xml/LinePainter.h"
 #include "xml/dom/readDocument.h"
-#include "xml/layout/BlockFlow.h"
-#include "xml/render/BoxPainting.h"
+#include "xml/layout/Items.h"
+#include "xml/layout/placement.h"
+#include "xml/render/Grid.h"
 
 namespace CLI::XML {
 
-/// Lays out and paints a document while it is read. What is finished is let go: of a child of an
-/// open block, and of a full line of an open paragraph, only the painted cells stay, and where no
-/// box can reach up any more only the text of the page.
-///
-/// This holds as long as every open element around is a block. What stands in an inline element or
-/// a table is kept until that is closed, since its boxes may be laid out again.
-class PageBuilder final : public DocumentHandler, public BlockFlow::Taker {
+/// Lays out and paints a document while it is read: a block opens as a frame, what stands between
+/// two blocks is broken into lines and painted when the second one comes, a table when it closes.
+/// Nothing of it is kept then but the page.
+class PageBuilder final : public DocumentHandler {
 public:
-    /// `expectedLength` bytes of text, and some more, are provided for. The document must have no
-    /// extreme edges. The budget outlives the builder.
-    PageBuilder(DomElement& root, unsigned width, int expectedLength, CellBudget& budget);
-    PageBuilder(PageBuilder const&) = delete;
-    PageBuilder& operator=(PageBuilder const&) = delete;
-    ~PageBuilder() override;
+    /// `expectedLength` bytes of text, and some more, are provided for. Rows leave the page early,
+    /// unless `keepsRows`: a box may reach up then. The budget outlives the builder.
+    PageBuilder(ZRLWPtr<DomElement> const& root, unsigned width, int expectedLength, bool keepsRows,
+                CellBudget& budget);
 
     bool mayShareElements() const override { return true; }
     void startElement(ZRLWPtr<DomElement> const& element) override;
@@ -30,49 +27,54 @@ public:
     void addWords(std::string_view read) override;
     void addWord(std::string_view word) override;
 
-    /// To be called at the end of the document: finishes the page and returns its text in `out`,
-    /// which is empty where it could not be held as a whole; or says why a child was refused by its
-    /// parent, the first that was.
+    /// To be called at the end of the document: finishes the page and returns its text in `out`;
+    /// or says why a child was refused by its parent, the first that was.
     XCode finish(String& out);
 
 private:
     /// A block that is being read, all of whose ancestors are.
     struct OpenBlock {
-        OpenBlock(ZRLWPtr<BlockBox> made, Dimensions const& containing, BlockFlow::Taker& taker,
-                  Canvas& canvas, Canvas::Attributes const& attributes);
+        OpenBlock(ElementStyle const& style, Dimensions const& containing,
+                  Canvas::Attributes const& attributes);
 
-        /// The block around, null for the root.
-        std::unique_ptr<OpenBlock> around;
-        ZRLWPtr<BlockBox> box;
-        BlockFlow flow;
-        BoxPainting painting;
-        /// What is painted goes straight to the page, down from its first row.
-        bool paintsOnPage = false;
+        ZRLWPtr<DomElement> element;
+        Look look;
+        Canvas::Attributes handedDown;
+        Canvas::Attributes content;
+        /// The content is as wide as what its children are offered until the end.
+        Dimensions box;
+        DownwardStack stack;
+        /// Nothing will be drawn beneath what is drawn in it, or around.
+        bool isBare = false;
     };
 
-    Box& parent();
+    DomElement const& parent() const;
     bool takesText();
-    void openBlock(ZRLWPtr<Box> const& box);
+    void openBlock(ZRLWPtr<DomElement> const& element);
     void closeBlock();
-    void finishBlock();
-    void addSubtree(ZRLWPtr<Box> box);
-    void take(ZRLWPtr<Box> box) override;
-    void releaseRows(std::int64_t height);
-    void moveRowsAbove(unsigned row);
+    void endItems();
+    void addParagraph();
+    void addTable();
+    void addBoxes();
+    void take(Dimensions const& box);
+    void releaseRows(std::int32_t height);
 
-    Canvas page;
+    Grid grid;
     /// Rows of the page that nothing can change any more.
     String text;
+    /// There was memory for all of it.
     bool isTextComplete = true;
-    std::unique_ptr<OpenBlock> innermost;
-    /// In the innermost block, the boxes that are being read from one that is not a block on.
-    std::vector<ZRLWPtr<Box>> subtree;
-    /// All of them are inline.
-    bool isSubtreeInline = false;
+    bool mayRelease;
+    /// Innermost last.
+    std::deque<OpenBlock> blocks;
+    ElementStyles styles;
+    /// What has been read since the last block.
+    Items items;
+    /// What another layout of the items would do depends on those before it.
+    bool needsBoxes = false;
     /// Open elements from the outermost one on that is not displayed.
     unsigned hidden = 0;
     XCode refusal;
-    Words words;
 };
 
 }  // namespace CLI::XML

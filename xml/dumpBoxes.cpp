@@ -6,7 +6,7 @@
 
 #include "base/append.h"
 #include "xml/dom/DomNode.h"
-#include "xml/layout/Box.h"
+#include "xml/layout/layOut.h"
 
 namespace CLI::XML {
 
@@ -33,7 +33,7 @@ Walk dumpTree(Box const& box, unsigned indent, String& out) {
     append(out, std::string(indent, ' '), labelOf(box.type),
            box.node != nullptr ? name.view() : "(anonymous)", geometry);
     for (ZRLWPtr<Box> const& child : box.children) {
-        if (child->isForeign()) {
+        if (isForeign(*child)) {
             append(out, child->dump(indent + 2).view());
         } else {
             co_await dumpTree(*child, indent + 2, out);

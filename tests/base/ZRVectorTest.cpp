@@ -125,30 +125,6 @@ TEST(VectorTail, MovesBehindTheElementsOfTheTarget) {
     }
 }
 
-TEST(VectorFront, TakesElementsWithOrWithoutSlotsLeftThere) {
-    for (unsigned left = 0; left < 3; ++left) {
-        for (unsigned n = 0; n <= 5; ++n) {
-            SCOPED_TRACE(testing::Message() << left << " " << n);
-            ZRVector<String> source = numbered(100);
-            ZRVector<String> vector;
-            source.moveTailTo(left, vector);
-            std::string const held = elements(vector);
-            vector.extendFront(n);
-            EXPECT_EQ(elements(vector), std::string(n, ' ') + held);
-            if (n > 0) vector[0] = "x";
-            vector.extendFront(1);
-            vector.add("y");
-            std::string const before = n > 0 ? "  x" + std::string(n - 1, ' ') : " ";
-            EXPECT_EQ(elements(vector), before + held + " y");
-            EXPECT_GE(vector.capacity, vector.count);
-        }
-    }
-    ZRVector<String> none;
-    none.extendFront(3);
-    EXPECT_EQ(elements(none), "   ");
-    EXPECT_EQ(none.capacity, 4U);
-}
-
 /// A number that new storage can refuse to hold.
 struct Refusable {
     static inline bool s_refused = false;

@@ -49,11 +49,7 @@ TEST(Canvas, ShowsEachCellOfALongRowWhereverItDiffers) {
         expected.append("^[[0m^[[31mX^[[0m").append(behind).append("$\n");
         EXPECT_EQ(textOf(canvas), expected);
         canvas.rows[0][i] = Canvas::Byte::make(0, 0);
-        String moved = "> ";
-        EXPECT_TRUE(canvas.moveRowsTo(moved, 1));
-        expected = "> ";
-        expected.append(before).append(behind).append("$\n");
-        EXPECT_EQ(shown(moved), expected);
+        EXPECT_EQ(textOf(canvas), before + behind + "$\n");
     }
 }
 
@@ -66,17 +62,6 @@ TEST(Canvas, AppendsAtItsWidthAndBelowItsLastRow) {
     source.draw("Y", s_append, s_append, s_plain);
     canvas.draw(source, s_append, s_append);
     EXPECT_EQ(textOf(canvas), "abc$\nd  X$\n    Y$\n");
-}
-
-TEST(Canvas, DrawsNothingAboveRowsThatWereMovedOut) {
-    Canvas canvas;
-    String text;
-    canvas.draw("a", 0, 0, s_plain);
-    EXPECT_TRUE(canvas.moveRowsTo(text, 1));
-    EXPECT_THROW(canvas.draw("b", 0, 0, s_plain), std::bad_alloc);
-    canvas.draw("c", 0, 1, s_plain);
-    EXPECT_TRUE(canvas.moveRowsTo(text, 2));
-    EXPECT_EQ(text, "a\nc\n");
 }
 
 TEST(Canvas, ShowsEveryByteButNul) {

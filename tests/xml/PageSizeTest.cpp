@@ -1,6 +1,7 @@
 // How much page a document may ask for.
 
-#include "tests/support/paint.h"
+#include "tests/support/document.h"
+#include "xml/render/Grid.h"
 #include "xml/xml.h"
 
 namespace CLI::XML {
@@ -14,73 +15,144 @@ TEST(CellBudget, GrowsWithTheDocumentWithinLimits) {
     EXPECT_EQ(CellBudget::ofDocument(42949673), 4294967295U);
 }
 
-/// Draws onto a canvas whose budget is `cells`, and once more with one cell less.
+/// Draws on a grid whose budget has `cells` left, and once more with one cell less.
 template <class Draw>
 void expectCost(unsigned cells, Draw const& draw) {
-    CellBudget enough(cells);
-    Canvas canvas(&enough);
-    EXPECT_TRUE(draw(canvas)) << cells;
-    EXPECT_EQ(enough.remaining(), 0U) << cells;
-    EXPECT_FALSE(enough.isExceeded()) << cells;
-
-    CellBudget tooSmall(cells - 1);
-    Canvas other(&tooSmall);
-    EXPECT_FALSE(draw(other)) << cells;
-    EXPECT_TRUE(tooSmall.isExceeded()) << cells;
-    EXPECT_FALSE(other.drawClipped("x", 0, 0, {}));
+    for (bool const isEnough : {true, false}) {
+        CellBudget budget(1000);
+        budget.take(isEnough ? 1000 - cells : 1001 - cells);
+        Grid grid(budget);
+        draw(grid);
+        EXPECT_EQ(budget.isExceeded(), !isEnough) << cells;
+        EXPECT_EQ(budget.remaining(), 0U) << cells;
+    }
 }
 
 TEST(CellBudget, CountsRowsFillersAndDrawnCells) {
-    auto const text = [](char const* drawn, int x, int y) {
-        return [=](Canvas& canvas) { return canvas.drawClipped(drawn, x, y, {}); };
+    auto const text = [](std::string_view drawn, int x, int y) {
+        return [=](Grid& grid) { grid.draw(drawn, x, y, {}); };
     };
     expectCost(1 + 2, text("ab", 0, 0));
     expectCost(1 + 5 + 2, text("ab", 5, 0));
     expectCost(1 + 1, text("ab", -1, 0));
     expectCost(4 + 2, text("ab", 0, 3));
-    expectCost(4, [](Canvas& canvas) { return canvas.drawClipped({"\0a", 2}, 9, 3, {}); });
-    expectCost(1 + 3 + 2, [](Canvas& canvas) {
-        return canvas.drawClipped("abc", 0, 0, {}) && canvas.drawClipped("xy", 1, 0, {});
+    expectCost(4, text({"\0a", 2}, 9, 3));
+    expectCost(1 + 3 + 2, [](Grid& grid) {
+        grid.draw("abc", 0, 0, {});
+        grid.draw("xy", 1, 0, {});
     });
-    expectCost(3 + 2 + 1 + 1, [](Canvas& canvas) {
-        canvas.enter(1, 1);
-        bool const isDrawn = canvas.drawClipped("a", 0, 1, {}) && canvas.drawClipped("b", 0, 0, {});
-        canvas.leave();
-        return isDrawn;
+    expectCost(6 + 3 * 4, [](Grid& grid) { grid.draw("ab", 2, 0, 3, 3, {}); });
+    // Row 1 is filled up to both, row 2 up to the frame; then row 0 is there.
+    expectCost(3 + 2 * 2 + 1 + 1 + 1, [](Grid& grid) {
+        grid.enter(2, 1);
+        grid.draw("a", 1, 1, {});
+        grid.leave();
+        grid.draw("b", 0, 0, {});
     });
-    // The last row is there already, and shorter than where the new origin begins.
-    expectCost((1 + 1) + 2 + 1, [](Canvas& canvas) {
-        canvas.drawClipped("a", 0, 0, {});
-        return canvas.enter(3, 0) && canvas.drawClipped("b", 0, 0, {});
-    });
-    expectCost((1 + 3) + (6 + 2), [](Canvas& canvas) {
-        Canvas source(canvas.cellBudget());
-        source.drawClipped("abc", 0, 0, {});
-        return canvas.drawClipped(source, 2, 5) && canvas.drawClipped(source, 0, 0);
-    });
-    expectCost(1 + 1 + 12, [](Canvas& canvas) {
-        String page;
-        canvas.drawClipped("a", 0, 0, {.flags = Canvas::Attributes::Bold});
-        canvas.moveRowsTo(page, 1);
-        return !canvas.cellBudget()->isExceeded();
+    // What frames around fill counts for each, as do a row of extents, and a look at others.
+    expectCost((1 + 6) + (1 + 2) + 1 + 1 + 1, [](Grid& grid) {
+        grid.draw("abcdef", 0, 0, {});
+        grid.enter(1, 0);
+        grid.enter(2, 0);
+        grid.draw("X", 1, 0, {});
     });
 }
 
-TEST(CellBudget, WhatItDoesNotHaveChangesNothing) {
-    CellBudget budget(20);
-    Canvas canvas(&budget);
-    canvas.drawClipped("abc", 0, 0, {});
-    EXPECT_FALSE(canvas.drawClipped("d", 20, 0, {.flags = Canvas::Attributes::Bold}));
-    EXPECT_FALSE(canvas.drawClipped("d", 0, 2147483647, {}));
-    EXPECT_FALSE(canvas.mayDraw(1));
-    EXPECT_EQ(canvas.dump("\n"), "abc\n");
-    EXPECT_EQ(canvas.attributeTable.count, 1U);
+TEST(CellBudget, CountsWhatLiesBeneathAFrame) {
+    // Each row is looked at, and costs at least a cell where something is drawn beneath. A place
+    // that is taken has extents of its own.
+    expectCost((3 + 3) + 3 + 3, [](Grid& grid) {
+        grid.draw("ab", 0, 0, {});
+        grid.enter(0, 0);
+        grid.draw("c", 0, 2, {});
+        grid.leaveAndCover();
+        grid.uncover();
+    });
+    expectCost((2 + 4) + 2 + 2 * 3, [](Grid& grid) {
+        grid.enter(0, 0);
+        grid.draw("a", 2, 0, 0, 2, {});
+        grid.leaveAndCover();
+        grid.draw(".", 5, 0, 0, 2, {});
+    });
+    expectCost((2 + 4) + 2 + 2 * 1, [](Grid& grid) {
+        grid.enter(0, 0);
+        grid.draw("a", 2, 0, 0, 2, {});
+        grid.leaveAndCover();
+        grid.draw(".", 2, 0, 0, 2, {});
+    });
+    expectCost((1 + 2) + 1 + (2 + 3 * 4 - 1), [](Grid& grid) {
+        grid.enter(1, 0);
+        grid.draw("a", 0, 0, {});
+        grid.leaveAndCover();
+        grid.draw(".", 4, 0, 0, 3, {});
+    });
+}
 
-    CellBudget other(20);
-    Canvas const asked(&other);
-    EXPECT_TRUE(asked.mayDraw(20));
-    EXPECT_TRUE(asked.mayDraw(-1));
-    EXPECT_FALSE(asked.mayDraw(std::int64_t{1} << 40));
+TEST(CellBudget, CountsEscapeText) {
+    expectCost(1 + 1 + 12, [](Grid& grid) {
+        String page;
+        grid.draw("a", 0, 0, {.flags = Canvas::Attributes::Bold});
+        grid.moveRowsTo(page);
+    });
+    expectCost(2 + 4 + (9 + 9 + 4) + (9 + 4), [](Grid& grid) {
+        String page;
+        grid.draw("a", 0, 0, {.foreground = 1});
+        grid.draw("ab", 1, 0, {.foreground = 2});
+        grid.draw("a", 0, 1, {.foreground = 1});
+        grid.moveRowsTo(page);
+    });
+}
+
+std::string textOf(Grid& grid) {
+    String page;
+    EXPECT_TRUE(grid.moveRowsTo(page));
+    return shown(page);
+}
+
+TEST(CellBudget, HasNoMoreRowsThanItsCellsCouldHold) {
+    struct Case {
+        int row;
+        int height;
+        bool isEnough;
+        char const* page;
+    };
+    static constexpr Case s_cases[] = {
+        {3, 1, true, "$\n$\n$\na$\n"},   {4, 1, false, ""},
+        {2147483647, 1, false, ""},      {0, 4, true, "a$\na$\na$\na$\n"},
+        {2, 9, false, "$\n$\na$\na$\n"}, {0, 65, false, ""},
+    };
+    for (auto const& [row, height, isEnough, page] : s_cases) {
+        CellBudget budget(64);
+        Grid grid(budget);
+        grid.draw("a", 1, 0, row, height, {});
+        EXPECT_EQ(budget.isExceeded(), !isEnough) << row;
+        EXPECT_EQ(textOf(grid), page) << row;
+    }
+    // However many have been moved away.
+    CellBudget budget(3200);
+    Grid grid(budget);
+    for (int i = 0; i < 200; ++i) {
+        String page;
+        grid.draw("a", 0, i, {});
+        grid.moveRowsTo(page);
+    }
+    EXPECT_FALSE(budget.isExceeded());
+    grid.draw("a", 0, 200, {});
+    EXPECT_TRUE(budget.isExceeded());
+}
+
+TEST(CellBudget, WhatItDoesNotHaveEndsAllDrawing) {
+    CellBudget budget(20);
+    Grid grid(budget);
+    grid.draw("abc", 0, 0, {});
+    grid.draw("d", 20, 0, {.flags = Canvas::Attributes::Bold});
+    EXPECT_EQ(budget.remaining(), 0U);
+    grid.draw("e", 0, 0, {});
+    grid.enter(0, 0);
+    grid.draw("f", 3, 0, {});
+    grid.leaveAndCover();
+    grid.draw(".", 9, 0, 0, 1, {});
+    EXPECT_EQ(textOf(grid), "abc$\n");
 }
 
 constexpr char const* s_tooLarge = "Page too large: more than 67108864 cells";
@@ -115,7 +187,9 @@ TEST(LargePages, AreRefusedBeforeTheyAreMade) {
             EXPECT_EQ(resultOf(markup, 80, ""), s_tooLarge) << shown(markup);
         }
     }
-    // A canvas of its own is composed far down.
+    // By whole trees.
+    EXPECT_EQ(resultOf("<b margin-left=\"-1\" padding-top=\"2147483637\">b</b>", 80, ""),
+              s_tooLarge);
     EXPECT_EQ(resultOf("<div padding-top=\"2147483637\" margin-left=\"-1\">b</div>", 80, ""),
               s_tooLarge);
     EXPECT_EQ(
@@ -149,6 +223,9 @@ TEST(LargePages, AreDrawnUpToTheLimit) {
     // Two rows, for each of which the way is filled, and "x " and "y".
     EXPECT_EQ(resultOf("<p margin-left=\"33554429\">x y</p>", 33554430, ""), "ok");
     EXPECT_EQ(resultOf("<p margin-left=\"33554430\">x y</p>", 33554431, ""), s_tooLarge);
+    // Rows, even if there is nothing in them.
+    EXPECT_EQ(resultOf("<p margin-top=\"4194303\">x</p>", 80, ""), "ok");
+    EXPECT_EQ(resultOf("<p margin-top=\"4194304\">x</p>", 80, ""), s_tooLarge);
 }
 
 }  // namespace

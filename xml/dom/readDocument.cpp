@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cstddef>
 #include <cstdint>
 #include <map>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -24,6 +24,7 @@ public:
     TextBytes() {
         for (unsigned byte = 1; byte < kinds.size(); ++byte) {
             kinds[byte] = std::isspace(static_cast<int>(byte)) != 0 ? Space : Plain;
+            hasHighSpace = hasHighSpace || (byte > ' ' && kinds[byte] == Space);
         }
         kinds[static_cast<unsigned char>('&')] = Ampersand;
     }
@@ -31,12 +32,38 @@ public:
     bool isPlain(char c) const { return kindOf(c) == Plain; }
     bool isOfWord(char c) const { return kindOf(c) >= Plain; }
 
+    /// From the beginning of a word on to that of a later one, over words without references
+    /// between which there is one space: many bytes at a time.
+    char* skipPlainWords(char* next, char const* end) const {
+        if (hasHighSpace) return next;
+        char* const first = next;
+        while (end - next > s_block && isPlainBlock(next)) next += s_block;
+        while (next > first && next[-1] != ' ') --next;
+        return next;
+    }
+
 private:
     enum Kind : std::uint8_t { Nul, Space, Plain, Ampersand };
 
     Kind kindOf(char c) const { return kinds[static_cast<unsigned char>(c)]; }
 
+    static constexpr std::ptrdiff_t s_block = 16;
+
+    /// Whether nothing in a block, and the byte behind it, has to be looked at. A loop of a fixed
+    /// length over plain numbers becomes vector instructions.
+    static bool isPlainBlock(char const* block) {
+        unsigned char found = 0;
+        for (std::ptrdiff_t i = 0; i < s_block; ++i) {
+            auto const byte = static_cast<unsigned char>(block[i]);
+            auto const behind = static_cast<unsigned char>(block[i + 1]);
+            found |= (byte < ' ') | (byte == '&') | ((byte == ' ') & (behind <= ' '));
+        }
+        return found == 0;
+    }
+
     std::array<Kind, 256> kinds{};
+    /// White space is not only among the bytes up to ' '.
+    bool hasHighSpace = false;
 };
 
 /// The open elements of one reading, innermost last.
@@ -120,34 +147,32 @@ private:
     }
 
     /// Cuts running text, up to its first NUL byte, into words. A word that white space follows
-    /// keeps one space of it. References are decoded after cutting, so that a decoded space never
-    /// splits a word. Words that stand as they are passed on are not copied.
-    void addWords(String const& content) {
-        char const* first = skipSpace(content.c_str());
-        char const* next = first;
+    /// keeps one space of it, which takes its place. References are decoded after cutting, so that
+    /// a decoded space never splits a word. Words that stand as they are passed on together.
+    void addWords(String& content) {
+        char const* const end = content.c_str() + content.length();
+        char* first = skipSpace(content.data());
+        char* next = first;
         while (*next != '\0') {
-            char const* const word = next;
+            next = bytes.skipPlainWords(next, end);
+            char* const word = next;
             while (bytes.isPlain(*next)) ++next;
-            bool const isFollowedBySpace = *next == ' ';
-            if (isFollowedBySpace) ++next;
-            if (*next == '\0' || (isFollowedBySpace && !bytes.isSpace(*next))) continue;
-            if (isFollowedBySpace) {
+            if (bytes.isSpace(*next)) {
+                *next++ = ' ';
+                if (*next == '\0' || !bytes.isSpace(*next)) continue;
                 passOn(first, next);
             } else if (*next == '&') {
                 passOn(first, word);
                 next = addDecoded(word);
             } else {
-                passOn(first, word);
-                spaced.assign(word, next);
-                spaced += ' ';
-                handler.addWords(spaced);
+                break;
             }
             first = next = skipSpace(next);
         }
         passOn(first, next);
     }
 
-    char const* skipSpace(char const* next) const {
+    char* skipSpace(char* next) const {
         while (bytes.isSpace(*next)) ++next;
         return next;
     }
@@ -157,8 +182,8 @@ private:
     }
 
     /// Passes on the word at `start`, which holds an ampersand. Returns where it ends.
-    char const* addDecoded(char const* start) {
-        char const* end = start;
+    char* addDecoded(char* start) {
+        char* end = start;
         while (bytes.isOfWord(*end)) ++end;
         String word(start, 0, static_cast<int>(end - start));
         if (*end != '\0') word += " ";
@@ -173,8 +198,6 @@ private:
     /// At most one for each name that the language knows.
     std::vector<ZRLWPtr<DomElement>> plainElements;
     TextBytes bytes;
-    /// A word with a space in place of what follows it.
-    std::string spaced;
     std::vector<ZRLWPtr<DomElement>> open;
 };
 

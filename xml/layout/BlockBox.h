@@ -14,11 +14,12 @@ public:
     ~BlockBox() override = default;
 
     ZRLWPtr<Box> clone() override;
+    XCode createChildren() override;
     /// The last child if it is a line box, otherwise a new one.
     ZRLWPtr<Box> getOrCreateLineBox() override;
     /// Offers its children the width of `containing` less its own edges and becomes as wide as
     /// the widest of them.
-    Walk layOut(Dimensions const& containing, LayoutPass pass) override;
+    void layout(Dimensions const& containing) override;
 
 protected:
     /// For a derived class, with the kind that it is.

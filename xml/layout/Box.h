@@ -2,7 +2,6 @@
 
 #include "../../base/RefCounted.h"
 #include "../../base/String.h"
-#include "../../base/Walk.h"
 #include "../../base/XCode.h"
 #include "../../base/ZRLWPtr.h"
 #include "../../base/ZRVector.h"
@@ -13,29 +12,12 @@
 
 namespace CLI::XML {
 
-/// What one layout of a box may leave out.
-struct LayoutPass {
-    /// The box has been laid out before by the operation that this pass belongs to: what is settled
-    /// stays as it is.
-    bool again = false;
-    /// The line is known to be too wide: its layout ends with the first box, at every depth, that
-    /// does not fit into `room` columns behind the content before it, since breaking looks no
-    /// further.
-    bool isLimited = false;
-    /// The boxes on the line have been laid out already: they are only placed.
-    bool isMeasured = false;
-    /// Asked of this box by the operation itself.
-    bool isOutermost = false;
-    /// Where the pass is limited.
-    std::int64_t room = 0;
-};
-
 /// A box of the layout tree. Every displayed node of the document has one, or one a line where
 /// line breaking has split it; a line box has no node. A box owns one reference to each child and
 /// points to its node, which must outlive it, without owning it.
 ///
-/// The virtual operations stand in the order in which a conversion runs them: style, build, lay
-/// out, break, paint, show. None of them recurses over the depth of the tree; only the operations
+/// The virtual operations stand in the order in which they are run: style, build, lay out, break,
+/// paint, show. None of them recurses over the depth of the tree; only the operations
 /// of a class of the caller's own are called as any virtual operation is.
 class GALLEY_EXPORT Box : public ZR::RefCounted {
 public:
@@ -55,17 +37,10 @@ public:
     bool isMeasured : 1 = false;
     /// Known from the last layout: this is a block, or an inline box with one somewhere in it.
     bool holdsBlock : 1 = false;
-    /// Stands for a run of words, as many bytes of the text of `node` as the content is wide: a
-    /// line may be broken behind every space in it, as it may between two boxes.
-    bool isRun : 1 = false;
-    /// Of a box that only the conversion knows: a child has edges, or is neither a word nor an
-    /// inline element.
+    /// Only the conversion knows the box: it may leave out boxes that show nothing of their own.
+    bool isUnseen : 1 = false;
+    /// Of such a box, that a child has edges, or is neither a word nor an inline element.
     bool hasSpecialChild : 1 = false;
-
-private:
-    bool holdsNode : 1 = false;
-
-public:
     /// The node that the box renders; null for a line box only.
     DomNode* node;
     /// Padding, border and margin are set from birth and never change; layout sets the content
@@ -73,8 +48,6 @@ public:
     Dimensions dimensions;
     /// In document order.
     ZRVector<ZRLWPtr<Box>> children;
-    /// Where a run begins in the text of `node`, in bytes.
-    std::int32_t runBegin = 0;
     /// Known from the last layout, in columns. Of a block, the width that it was offered; of an
     /// inline element, a width that no block among its children exceeds with its edges.
     std::int32_t decisiveWidth = 0;
@@ -96,12 +69,12 @@ public:
     /// Builds the subtree below this box, depth first, from the children of `node`. Fails with
     /// "Cannot layout '%s' within '%s'" on a child that this box cannot hold; what was made until
     /// then stays. A box without a node fails without a message.
-    virtual XCode createChildren();
+    virtual XCode createChildren() = 0;
     /// The box that is to receive the next inline child of this box.
     virtual ZRLWPtr<Box> getOrCreateLineBox() = 0;
     /// Sets the size of this box and lays out its subtree. The parent has set the position;
     /// `containing` is the parent's geometry as it stands at that moment.
-    virtual void layout(Dimensions const& containing);
+    virtual void layout(Dimensions const& containing) = 0;
     /// Moves what does not fit into `width` columns into a new box of the same kind and returns
     /// it; null where everything fits or nothing can be moved.
     virtual ZRLWPtr<Box> split(int width);
@@ -125,22 +98,6 @@ public:
                      String const& defaultValue) const;
     /// Reads padding, border and margin from the style.
     void initEdges();
-
-    /// Keeps `node`, where nothing else does, as long as there is this box or a clone of it.
-    void holdNode();
-    /// Whether only the conversion knows the box: that makes its boxes hold their nodes.
-    bool isUnseen() const { return holdsNode; }
-
-    /// Whether the box is of a class that derives from the six of the library.
-    bool isForeign() const { return !isUnseen() && isOfForeignClass(); }
-    /// Calls the `layout` of a box of a foreign class; false for the library's own, and where that
-    /// operation itself asks. In the children `pass` is one of the library's.
-    bool isLaidOutByItsOwn(Dimensions const& containing, LayoutPass& pass);
-    /// A layout as a call of the walk that `layout` runs.
-    virtual Walk layOut(Dimensions const& containing, LayoutPass pass) = 0;
-
-private:
-    bool isOfForeignClass() const;
 };
 
 }  // namespace CLI::XML

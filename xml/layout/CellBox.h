@@ -1,8 +1,5 @@
 #pragma once
 
-#include <string_view>
-
-#include "../../base/ZRLWPtr.h"
 #include "../../base/export.h"
 #include "InlineBox.h"
 
@@ -26,20 +23,9 @@ public:
     ~CellBox() override = default;
 
     ZRLWPtr<Box> clone() override;
-    Walk layOut(Dimensions const& containing, LayoutPass pass) override;
-
-    /// Takes the words out of a run that is the only child, and lets go of that: most cells then
-    /// take up half the memory. Only for a cell that nobody sees and nothing is added to any more.
-    void takeRun();
-    /// The words of that run, which stand at the origin of the content; none where none was taken.
-    std::string_view run() const;
 
     /// Whether a column imposes its width.
     bool isConstrained() const { return columnDimensions.content.width != s_unconstrainedWidth; }
-
-private:
-    /// What the run that was taken is in, from `runBegin` on and `naturalWidth` bytes long.
-    ZRLWPtr<DomNode> runText;
 };
 
 }  // namespace CLI::XML

@@ -76,6 +76,11 @@ struct Dimensions {
     /// Most boxes have none, which is cheap to see.
     bool hasEdges() const { return (bitsOf(padding) | bitsOf(border) | bitsOf(margin)) != 0; }
 
+    /// Whether a border is drawn on any side.
+    bool hasBorder() const {
+        return border.left > 0 || border.right > 0 || border.top > 0 || border.bottom > 0;
+    }
+
     bool operator==(Dimensions const&) const = default;
 
 private:

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string_view>
 #include <typeinfo>
 
 #include "../../base/export.h"
@@ -17,11 +16,12 @@ public:
     ~InlineBox() override = default;
 
     ZRLWPtr<Box> clone() override;
+    XCode createChildren() override;
     /// This box.
     ZRLWPtr<Box> getOrCreateLineBox() override;
     /// An element places its children side by side, a left margin counting only as far as it
     /// exceeds the right margin before it.
-    Walk layOut(Dimensions const& containing, LayoutPass pass) override;
+    void layout(Dimensions const& containing) override;
     ZRLWPtr<Box> split(int width) override;
     /// Draws a word, or an element with the flag that its name adds. An element without children
     /// paints nothing.
@@ -37,16 +37,9 @@ inline bool isLeaf(Box const& box) {
     return box.children.count == 0 && typeid(box) == typeid(InlineBox);
 }
 
-/// What a box without children shows; nothing where its node is no text.
-std::string_view shownText(Box const& box);
-
 /// Lays out a box without children: a word takes a column a byte and one row, anything else
 /// nothing.
 void sizeLeaf(Box& box);
-
-/// Places the children of an inline element, which have been laid out, side by side and sizes it
-/// around them.
-void placeLaidOut(Box& box);
 
 /// `split` of a line or an inline element that is measured: so is what it returns.
 ZRLWPtr<Box> splitMeasured(Box& box, int width);

@@ -15,10 +15,11 @@ public:
     ~LineBox() override = default;
 
     ZRLWPtr<Box> clone() override;
+    XCode createChildren() override;
     /// This box.
     ZRLWPtr<Box> getOrCreateLineBox() override;
     /// Places the children side by side, the larger of two neighbouring margins between them.
-    Walk layOut(Dimensions const& containing, LayoutPass pass) override;
+    void layout(Dimensions const& containing) override;
     ZRLWPtr<Box> split(int width) override;
 
 protected:

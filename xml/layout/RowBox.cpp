@@ -1,15 +1,13 @@
-#include "xml/layout/RowBox.h"
-
+#include "xml/layout/layOut.h"
 #include "xml/layout/placement.h"
 
 namespace CLI::XML {
 
-Walk RowBox::layOut(Dimensions const& containing, LayoutPass pass) {
-    if (isLaidOutByItsOwn(containing, pass)) co_return;
-    RightwardRow row(dimensions);
-    isSettled = true;
-    for (unsigned i = 0; i < children.count; ++i) {
-        CellBox& cell = (*this)[i];
+Walk layOutRow(RowBox& box, LayoutPass pass) {
+    RightwardRow row(box.dimensions);
+    box.isSettled = true;
+    for (unsigned i = 0; i < box.children.count; ++i) {
+        CellBox& cell = box[i];
         if (cell.isConstrained()) {
             // A column's position already is that of the content.
             RightwardRow::placeAt(cell.dimensions, cell.columnDimensions.content.x);
@@ -18,12 +16,12 @@ Walk RowBox::layOut(Dimensions const& containing, LayoutPass pass) {
         }
         std::int32_t& width = cell.dimensions.content.width;
         if (!pass.again || !cell.isSettled) {
-            co_await cell.layOut(dimensions, pass);
+            co_await layOut(cell, box.dimensions, pass);
             cell.naturalWidth = width;
         }
         width = cell.isConstrained() ? cell.columnDimensions.content.width : cell.naturalWidth;
         row.add(cell.dimensions);
-        isSettled = isSettled && cell.isSettled;
+        box.isSettled = box.isSettled && cell.isSettled;
     }
 }
 

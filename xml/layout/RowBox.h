@@ -15,8 +15,9 @@ public:
     ~RowBox() override = default;
 
     ZRLWPtr<Box> clone() override;
+    XCode createChildren() override;
     /// Places the cells, each freely or at its column's position and width.
-    Walk layOut(Dimensions const& containing, LayoutPass pass) override;
+    void layout(Dimensions const& containing) override;
 
     /// The cell at an index below the number of children.
     ///@{

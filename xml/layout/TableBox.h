@@ -24,22 +24,15 @@ public:
     ~TableBox() override = default;
 
     ZRLWPtr<Box> clone() override;
+    XCode createChildren() override;
     /// Does not depend on `containing`.
-    Walk layOut(Dimensions const& containing, LayoutPass pass) override;
+    void layout(Dimensions const& containing) override;
 
     /// The row at an index below the number of children.
     ///@{
     RowBox& operator[](unsigned i) { return static_cast<RowBox&>(*children[i]); }
     RowBox const& operator[](unsigned i) const { return static_cast<RowBox const&>(*children[i]); }
     ///@}
-
-private:
-    /// Takes what the columns of an earlier layout imposed off the cells.
-    void releaseCells();
-    /// Whether any record was added or raised.
-    bool raiseColumns();
-    bool raiseColumn(unsigned index, CellBox const& cell);
-    void imposeColumns();
 };
 
 }  // namespace CLI::XML

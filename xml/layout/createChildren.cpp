@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "base/Walk.h"
 #include "xml/dom/DomElement.h"
 #include "xml/layout/TableBox.h"
 #include "xml/layout/makeChild.h"
@@ -45,9 +46,10 @@ MakeBox ruleFor(Box::Type parent, DomNode::Display childDisplay) {
     return isKnown ? s_childRules[type][display] : nullptr;
 }
 
-XCode refuse(char const* child, Box const& parent) {
-    return testExpression(false).setStringF("Cannot layout '%s' within '%s'", child,
-                                            asElement(parent.node)->name.c_str());
+XCode refuse(DomElement const* child, DomElement const& parent) {
+    return testExpression(false).setStringF("Cannot layout '%s' within '%s'",
+                                            child != nullptr ? child->name.c_str() : s_text,
+                                            parent.name.c_str());
 }
 
 Walk createBoxes(Box& box, XCode& result) {
@@ -68,29 +70,35 @@ Walk createBoxes(Box& box, XCode& result) {
     }
 }
 
+XCode createAllBoxes(Box& box) {
+    XCode result;
+    Walk::run(createBoxes(box, result));
+    return result;
+}
+
 }  // namespace
 
 ZRLWPtr<Box> makeChild(Box const& parent, DomNode& child, XCode& result) {
     MakeBox const make = ruleFor(parent.type, child.display);
     if (make != nullptr) return make(&child);
-    DomElement const* const element = asElement(&child);
-    result = refuse(element != nullptr ? element->name.c_str() : s_text, parent);
+    result = refuse(asElement(&child), *asElement(parent.node));
     return {};
 }
 
-XCode checkText(Box const& parent) {
-    return ruleFor(parent.type, DomNode::Inline) != nullptr ? XCode() : refuse(s_text, parent);
+XCode checkChild(DomElement const& parent, DomElement const* child) {
+    DomNode::Display const display = child != nullptr ? child->display : DomNode::Inline;
+    return mayHold(parent.display, display) ? XCode() : refuse(child, parent);
 }
 
 bool mayHold(DomNode::Display parent, DomNode::Display child) {
     return ruleFor(s_types[parent], child) != nullptr;
 }
 
-XCode Box::createChildren() {
-    XCode result;
-    Walk::run(createBoxes(*this, result));
-    return result;
-}
+XCode BlockBox::createChildren() { return createAllBoxes(*this); }
+XCode TableBox::createChildren() { return createAllBoxes(*this); }
+XCode LineBox::createChildren() { return createAllBoxes(*this); }
+XCode RowBox::createChildren() { return createAllBoxes(*this); }
+XCode InlineBox::createChildren() { return createAllBoxes(*this); }
 
 ZRLWPtr<Box> BlockBox::getOrCreateLineBox() {
     if (children.count == 0 || children[children.count - 1]->type != Line) {

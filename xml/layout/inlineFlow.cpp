@@ -3,8 +3,7 @@
 #include <algorithm>
 
 #include "xml/dom/DomText.h"
-#include "xml/layout/InlineBox.h"
-#include "xml/layout/LineBox.h"
+#include "xml/layout/layOut.h"
 #include "xml/layout/placement.h"
 
 namespace CLI::XML {
@@ -33,7 +32,7 @@ public:
     Walk layOut(Box& child) const {
         LayoutPass passOfChild = pass;
         passOfChild.isLimited = pass.isLimited && mayEnd();
-        return child.layOut(box.dimensions, passOfChild);
+        return CLI::XML::layOut(child, box.dimensions, passOfChild);
     }
 
     /// Places the words that come next.
@@ -64,12 +63,6 @@ public:
             widestBlock = std::max(widestBlock, child.dimensions.marginBox().width);
         }
         take(child);
-    }
-
-    /// Places all children, which have been laid out.
-    void placeLaidOut() {
-        for (placeWords(); !isDone(); placeWords()) takeLaidOut(place());
-        finish();
     }
 
     void finish() {
@@ -122,14 +115,9 @@ Walk layoutChildren(InlineLayout<Gap> layout) {
 }
 
 template <class Gap>
-Walk layoutRightwards(Box& box, Dimensions const& containing, LayoutPass pass) {
-    if (box.isLaidOutByItsOwn(containing, pass)) return {};
+Walk layoutRightwards(Box& box, LayoutPass pass) {
     if (pass.again && box.isSettled) return {};
     InlineLayout<Gap> layout(box, pass);
-    if (pass.isMeasured) {
-        layout.placeLaidOut();
-        return {};
-    }
     layout.placeWords();
     if (!layout.isDone()) return layoutChildren(layout);
     layout.finish();
@@ -138,18 +126,10 @@ Walk layoutRightwards(Box& box, Dimensions const& containing, LayoutPass pass) {
 
 }  // namespace
 
-std::string_view shownText(Box const& box) {
-    DomText const* const text = asText(box.node);
-    if (text == nullptr) return {};
-    if (!box.isRun) return text->text.view();
-    return text->text.view().substr(static_cast<std::size_t>(box.runBegin),
-                                    static_cast<std::size_t>(box.dimensions.content.width));
-}
-
 void sizeLeaf(Box& box) {
     Rect& content = box.dimensions.content;
-    // A run has its width from what it shows.
-    if (!box.isRun) content.width = static_cast<std::int32_t>(shownText(box).length());
+    DomText const* const word = asText(box.node);
+    content.width = word != nullptr ? word->text.length() : 0;
     content.height = content.width > 0 ? 1 : 0;
     box.isSettled = true;
     box.isMeasured = true;
@@ -157,14 +137,10 @@ void sizeLeaf(Box& box) {
     box.holdsBlock = false;
 }
 
-void placeLaidOut(Box& box) { InlineLayout<UncoveredMargin>(box, {}).placeLaidOut(); }
+Walk layOutLine(Box& line, LayoutPass pass) { return layoutRightwards<LargerMargin>(line, pass); }
 
-Walk LineBox::layOut(Dimensions const& containing, LayoutPass pass) {
-    return layoutRightwards<LargerMargin>(*this, containing, pass);
-}
-
-Walk InlineBox::layOut(Dimensions const& containing, LayoutPass pass) {
-    return layoutRightwards<UncoveredMargin>(*this, containing, pass);
+Walk layOutInline(Box& element, LayoutPass pass) {
+    return layoutRightwards<UncoveredMargin>(element, pass);
 }
 
 }  // namespace CLI::XML

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "xml/dom/DomElement.h"
 #include "xml/layout/Box.h"
 
 namespace CLI::XML {
@@ -9,8 +10,9 @@ namespace CLI::XML {
 /// The child's display kind is not `DomNode::None`.
 ZRLWPtr<Box> makeChild(Box const& parent, DomNode& child, XCode& result);
 
-/// Success where `parent` can hold running text, otherwise "Cannot layout 'text' within '%s'".
-XCode checkText(Box const& parent);
+/// Success where `parent` can hold `child`, an element that is displayed or null for running text,
+/// otherwise "Cannot layout '%s' within '%s'".
+XCode checkChild(DomElement const& parent, DomElement const* child);
 
 /// Whether an element that is displayed as `parent` can hold a child that is displayed as `child`,
 /// which running text is as `DomNode::Inline`. The parent is not `DomNode::None`.

@@ -8,8 +8,7 @@
 #include "base/saturate.h"
 #include "xml/css/getNodeStyle.h"
 #include "xml/dom/DomElement.h"
-#include "xml/layout/InlineBox.h"
-#include "xml/layout/LineBox.h"
+#include "xml/layout/layOut.h"
 #include "xml/layout/placement.h"
 
 namespace CLI::XML {
@@ -88,7 +87,7 @@ bool looksLike(DomElement const& inner, DomElement const& outer) {
 /// Whether a box shows nothing that `around`, the element of its parent, and the plain elements
 /// around that do not show.
 bool isRepeated(Box const& box, DomElement const* around, PlainElements& plain) {
-    if (!box.isUnseen() || box.type != Box::Inline) return false;
+    if (!box.isUnseen || box.type != Box::Inline) return false;
     if (!hasStyle(box.node)) return plain.add(box.node);
     plain.clear();
     return around != nullptr && !box.dimensions.hasEdges() &&
@@ -125,42 +124,8 @@ std::vector<Level> findBreak(Box& outermost, std::int64_t room, bool isMeasured)
         path.push_back({box, i, static_cast<std::int32_t>(room), isRepeated(*box, around, plain)});
         if (isMeasured) measureUpTo(path.back());
         box = children[i].object;
-    } while (isBreakable(*box) && !box->isForeign());
+    } while (isBreakable(*box) && !isForeign(*box));
     return path;
-}
-
-/// Moves the words that do not fit off a run of them. Where not even the first fits it stays only
-/// if `isFirst`, and then alone; null where that leaves nothing to move.
-ZRLWPtr<Box> splitRun(Box& run, std::int32_t room, bool isFirst) {
-    std::string_view const text = shownText(run);
-    std::size_t space = std::string_view::npos;
-    if (room > 0) space = text.rfind(' ', static_cast<std::size_t>(room) - 1);
-    if (space == std::string_view::npos && isFirst) space = text.find(' ');
-    if (space == std::string_view::npos || space + 1 == text.length()) return {};
-    auto const kept = static_cast<std::int32_t>(space) + 1;
-    ZRLWPtr<Box> rest = run.clone();
-    rest->runBegin += kept;
-    rest->dimensions.content.width = run.dimensions.content.width - kept;
-    run.dimensions.content.width = kept;
-    sizeLeaf(*rest);
-    return rest;
-}
-
-/// What does not fit of the box at the end of the way, where it can tell.
-ZRLWPtr<Box> splitUnfitting(Level const& level) {
-    Box& box = *level.box->children[level.unfitting];
-    if (box.isForeign()) return box.split(level.room);
-    return box.isRun ? splitRun(box, level.room, level.unfitting == 0) : nullptr;
-}
-
-/// What stands behind the break has been moved off: the box has to be laid out again. Where nobody
-/// sees that it is done at once, which needs no walk, since what the box kept has its size.
-void shrink(Box& box) {
-    if (box.isUnseen() && box.type == Box::Inline && !box.holdsBlock) {
-        placeLaidOut(box);
-    } else {
-        box.isSettled = false;
-    }
 }
 
 /// Moves what stands behind the break off the box of `level` to the end of `rest`. That holds what
@@ -182,7 +147,7 @@ void moveRest(Level const& level, Rest& rest) {
         if (staysInPart) rest.width -= level.exceeding;
     }
     box.isMeasured = false;
-    shrink(box);
+    box.isSettled = false;
 }
 
 /// A clone of a box with what was moved off it.
@@ -219,7 +184,11 @@ ZRLWPtr<Box> splitBox(Box& box, int width, bool isMeasured) {
     if (path.empty()) return {};
     Rest rest;
     rest.isMeasured = isMeasured;
-    if (ZRLWPtr<Box> part = splitUnfitting(path.back())) begin(rest, std::move(part));
+    Level const& last = path.back();
+    Box& unfitting = *last.box->children[last.unfitting];
+    if (isForeign(unfitting)) {
+        if (ZRLWPtr<Box> part = unfitting.split(last.room)) begin(rest, std::move(part));
+    }
     for (std::size_t depth = path.size(); depth-- > 1;) {
         Level const& level = path[depth];
         moveRest(level, rest);

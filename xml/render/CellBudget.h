@@ -6,10 +6,11 @@
 
 namespace CLI::XML {
 
-/// What the canvases of one page may hold together, in cells: a short document cannot demand work
-/// and memory without end. Counted are the cells that are drawn and those that fill the way to
-/// them, one for every row, and one for every byte of escape text. Of a canvas that is composed
-/// onto another the cells have been counted: only rows and fillers that come into use there count.
+/// What a page may cost, in cells: a short document cannot demand work and memory without end.
+/// Counted are the cells that are drawn and those that fill the way to them, one for every row, one
+/// for every row that is looked at for what lies beneath a box, or that is drawn otherwise in a
+/// frame than on the page, and one for every byte of escape text. Besides, every row takes as much
+/// memory as a number of cells, which must suffice for all rows.
 class CellBudget {
 public:
     /// The budget of a document of that many bytes.
@@ -25,6 +26,11 @@ public:
     /// Whether that many cells are left. Where they are not, nothing suffices from now on.
     bool suffices(std::uint64_t cells) {
         if (cells > left) isSpent = true;
+        return !isSpent;
+    }
+    /// Whether there were that many cells at first; where there were not, nothing suffices either.
+    bool mayHold(std::int64_t cells) {
+        isSpent = isSpent || cells > limit;
         return !isSpent;
     }
     /// Takes cells for which it suffices.

@@ -1,6 +1,7 @@
-#include "xml/extremeEdges.h"
+#include "xml/reachesUp.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "xml/css/properties.h"
@@ -11,17 +12,12 @@ namespace CLI::XML {
 
 namespace {
 
-/// The most cells of an edge that is not large.
-constexpr int s_modest = 9999;
-
+/// Those that count for the position of what is below.
 constexpr std::string_view s_edges[] = {
-    Property::s_margin.name,          Property::s_marginLeft.name,
-    Property::s_marginRight.name,     Property::s_marginTop.name,
-    Property::s_marginBottom.name,    Property::s_borderWidth.name,
-    Property::s_borderLeftWidth.name, Property::s_borderRightWidth.name,
-    Property::s_borderTopWidth.name,  Property::s_borderBottomWidth.name,
-    Property::s_padding.name,         Property::s_paddingLeft.name,
-    Property::s_paddingRight.name,    Property::s_paddingTop.name,
+    Property::s_margin.name,         Property::s_marginTop.name,
+    Property::s_marginBottom.name,   Property::s_borderWidth.name,
+    Property::s_borderTopWidth.name, Property::s_borderBottomWidth.name,
+    Property::s_padding.name,        Property::s_paddingTop.name,
     Property::s_paddingBottom.name,
 };
 
@@ -61,21 +57,17 @@ private:
     std::string_view rest;
 };
 
-/// Whether `String::toInteger` makes a negative or a large number of the value, whether that is
-/// decoded before or not. Nothing is allocated, which might fail.
-bool isExtreme(std::string_view value) {
+/// Whether `String::toInteger` makes a negative number of the value, whether that is decoded before
+/// or not. Nothing is allocated, which might fail.
+bool isNegative(std::string_view value) {
     ValueReader reader(value);
     while (reader.next() == ' ' || (reader.next() >= '\t' && reader.next() <= '\r')) {
         reader.advance();
     }
-    bool const isNegative = reader.next() == '-';
-    if (isNegative || reader.next() == '+') reader.advance();
-    int const most = isNegative ? 0 : s_modest;
-    int cells = 0;
-    for (; reader.next() >= '0' && reader.next() <= '9' && cells <= most; reader.advance()) {
-        cells = cells * 10 + (reader.next() - '0');
-    }
-    return cells > most;
+    if (reader.next() != '-') return false;
+    do reader.advance();
+    while (reader.next() == '0');
+    return reader.next() >= '1' && reader.next() <= '9';
 }
 
 /// The name of an attribute, or what stands there of a text, that ends before `end`.
@@ -85,14 +77,14 @@ std::string_view nameBefore(std::string_view markup, std::size_t end) {
     return markup.substr(start, end - start);
 }
 
-bool hasExtremeEdge(std::string_view markup) {
+bool hasNegativeEdge(std::string_view markup) {
     // Any quotation mark may begin a value, since some stand in texts and comments: the one that
     // ends a value is looked at again.
     for (std::size_t quote = markup.find('"'); quote != std::string_view::npos;) {
         std::size_t const end = markup.find('"', quote + 1);
         bool const beginsValue = quote > 0 && markup[quote - 1] == '=';
-        // Few values are extreme, and a name takes longer to find.
-        if (beginsValue && isExtreme(markup.substr(quote + 1, end - quote - 1)) &&
+        // Few values are negative, and a name takes longer to find.
+        if (beginsValue && isNegative(markup.substr(quote + 1, end - quote - 1)) &&
             isEdge(nameBefore(markup, quote - 1))) {
             return true;
         }
@@ -101,21 +93,21 @@ bool hasExtremeEdge(std::string_view markup) {
     return false;
 }
 
-bool hasExtremeEdge(StyleNode const& rule) {
+bool hasNegativeEdge(StyleNode const& rule) {
     auto const& head = rule.declarations.head;
     for (auto const* entry = head.prev; entry != &head; entry = entry->prev) {
-        if (isEdge(entry->key.view()) && isExtreme(entry->value.view())) return true;
+        if (isEdge(entry->key.view()) && isNegative(entry->value.view())) return true;
     }
     return false;
 }
 
 }  // namespace
 
-bool mayHaveExtremeEdges(String const& xml, StyleList const& styles) {
+bool mayReachUp(String const& xml, StyleList const& styles) {
     for (ZRLWPtr<StyleNode> const& rule : styles) {
-        if (hasExtremeEdge(*rule)) return true;
+        if (hasNegativeEdge(*rule)) return true;
     }
-    return hasExtremeEdge(xml.view());
+    return hasNegativeEdge(xml.view());
 }
 
 }  // namespace CLI::XML

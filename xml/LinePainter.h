@@ -1,0 +1,75 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "xml/layout/Items.h"
+#include "xml/render/Grid.h"
+
+namespace CLI::XML {
+
+/// Lays out and paints lines of a paragraph, each in one walk over its range of items: an element
+/// becomes a frame where it opens, its words are drawn, and where it closes its size is known, and
+/// with it what lies beneath it.
+class LinePainter {
+public:
+    /// How children stand side by side.
+    enum Flow {
+        Line,    ///< The larger of two neighbouring margins is between them.
+        Inline,  ///< A left margin counts as far as it exceeds the right margin before it.
+    };
+
+    /// Both outlive it. Without a grid lines are only measured.
+    LinePainter(Items const& paragraph, Flow outermost, Grid* page)
+        : items(paragraph), flow(outermost), grid(page) {}
+
+    /// Paints the line at the origin of the innermost frame, with the attributes handed down to it,
+    /// and returns its size. What the line before it has left open goes on on it.
+    Rect paint(Position from, Position end, Canvas::Attributes const& attributes);
+
+private:
+    struct OpenElement {
+        ElementStyle const* style;
+        Canvas::Attributes handedDown;
+        Canvas::Attributes content;
+    };
+
+    /// The line, or an element that is opened on it, or that goes on on it and is styled: of one
+    /// that is not all that is on the line before is the content.
+    struct Level {
+        /// The content grows with what stands in it.
+        Dimensions box;
+        std::int32_t previousMargin;
+        /// Its number among those that are open.
+        std::size_t index;
+        bool isFrame;
+    };
+
+    void beginLine();
+    void endLine();
+    void openElement(std::uint32_t item, Position end);
+    void closeElement();
+    void beginLevel(std::size_t index, std::int64_t column, bool isFrame);
+    void endLevel();
+    void addWords(std::string_view words);
+    void addWord(std::string_view word);
+    std::int64_t nextColumn(std::int32_t margin) const;
+    void add(Dimensions const& box);
+    Canvas::Attributes const& attributes() const {
+        return open.empty() ? outer : open.back().content;
+    }
+
+    Items const& items;
+    Flow flow;
+    Grid* grid;
+    Canvas::Attributes outer = {};
+    /// From line to line, outermost first.
+    std::vector<OpenElement> open;
+    /// Those of them that are styled and were opened on a line before.
+    std::vector<std::size_t> styledBefore;
+    /// How many are open since before the line.
+    std::size_t kept = 0;
+    std::vector<Level> levels;
+};
+
+}  // namespace CLI::XML

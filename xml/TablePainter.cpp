@@ -1,0 +1,82 @@
+#include "xml/TablePainter.h"
+
+#include "xml/beneath.h"
+#include "xml/layout/columns.h"
+
+namespace CLI::XML {
+
+namespace {
+
+/// Calls `visit` with each element within the one that opens at `around`.
+template <class Visit>
+void visitChildren(Items const& items, std::uint32_t around, Visit const& visit) {
+    for (std::uint32_t i = around + 1; i < items[around].other; i = items[i].other + 1) visit(i);
+}
+
+}  // namespace
+
+TablePainter::TablePainter(Items const& table, Dimensions& box, Grid& page)
+    : items(table),
+      grid(page),
+      measurer(table, LinePainter::Inline, nullptr),
+      painter(table, LinePainter::Inline, &page),
+      stack(box) {
+    visitChildren(items, 0, [this](std::uint32_t row) { measureRow(row); });
+}
+
+void TablePainter::measureRow(std::uint32_t row) {
+    Dimensions box;
+    RightwardRow cells(box);
+    unsigned index = 0;
+    visitChildren(items, row, [&](std::uint32_t opened) {
+        Dimensions cell = items[opened].style->box;
+        cells.place(cell, UncoveredMargin());
+        Rect const size = measurer.paint({opened + 1, 0}, {items[opened].other, 0}, {});
+        cell.content.width = size.width;
+        cells.add(cell);
+        raiseColumn(columns, index++, cell);
+    });
+}
+
+bool TablePainter::paintRow(Canvas::Attributes const& attributes) {
+    if (next == items[0].other) {
+        stack.finish();
+        return false;
+    }
+    ElementStyle const& style = *items[next].style;
+    Dimensions box = style.box;
+    stack.place(box);
+    Canvas::Attributes const content = style.look.ofContent(style.look.ofBackground(attributes));
+    grid.enter(box.content.x, box.content.y);
+    paintCells(next, box, content);
+    leaveBox(grid, style, box, attributes);
+    stack.add(box);
+    next = items[next].other + 1;
+    return true;
+}
+
+void TablePainter::paintCells(std::uint32_t row, Dimensions& box,
+                              Canvas::Attributes const& attributes) {
+    RightwardRow cells(box);
+    unsigned index = 0;
+    visitChildren(items, row, [&](std::uint32_t opened) {
+        Dimensions cell = items[opened].style->box;
+        Dimensions const& column = columns[index++];
+        RightwardRow::placeAt(cell, column.content.x);
+        cell.content.width = column.content.width;
+        if (items[opened].other > opened + 1) paintCell(opened, cell, attributes);
+        cells.add(cell);
+    });
+}
+
+void TablePainter::paintCell(std::uint32_t opened, Dimensions& box, Canvas::Attributes attributes) {
+    ElementStyle const& style = *items[opened].style;
+    attributes.flags = static_cast<std::uint8_t>(attributes.flags | style.flag);
+    grid.enter(box.content.x, box.content.y);
+    Rect const size = painter.paint({opened + 1, 0}, {items[opened].other, 0},
+                                    style.look.ofContent(style.look.ofBackground(attributes)));
+    box.content.height = size.height;
+    leaveBox(grid, style, box, attributes);
+}
+
+}  // namespace CLI::XML

@@ -1,0 +1,81 @@
+#include "xml/boxesOf.h"
+
+#include "base/Walk.h"
+#include "xml/beneath.h"
+#include "xml/dom/DomText.h"
+#include "xml/dom/readDocument.h"
+#include "xml/layout/TableBox.h"
+#include "xml/layout/makeChild.h"
+
+namespace CLI::XML {
+
+namespace {
+
+bool isInline(Box const& box) { return box.type == Box::Inline || box.type == Box::Cell; }
+
+/// Paints a word; an inline element without children paints nothing. False for any other box.
+bool paintLeaf(Grid& grid, Box const& box, Canvas::Attributes const& attributes) {
+    if (!isInline(box) || box.children.count > 0) return false;
+    Rect const& content = box.dimensions.content;
+    DomText const* const word = asText(box.node);
+    if (word != nullptr) grid.draw(word->text.view(), content.x, content.y, attributes);
+    return true;
+}
+
+Walk paintTree(Grid& grid, Box const& box, Canvas::Attributes attributes) {
+    Rect const& content = box.dimensions.content;
+    if (isInline(box)) {
+        attributes.flags = static_cast<std::uint8_t>(attributes.flags | flagOfElement(box.node));
+    }
+    Look const look(box.node);
+    Canvas::Attributes const ofContent = look.ofContent(look.ofBackground(attributes));
+    grid.enter(content.x, content.y);
+    for (ZRLWPtr<Box> const& child : box.children) {
+        if (!paintLeaf(grid, *child, ofContent)) co_await paintTree(grid, *child, ofContent);
+    }
+    leaveBox(grid, box.node, box.dimensions, look, attributes);
+}
+
+}  // namespace
+
+ItemBoxes::ItemBoxes(Items const& items)
+    : root(createRootElement()), block(ZR::MovePtr<Box>(new BlockBox(root.object))) {
+    std::vector<Box*> open = {block.object};
+    for (std::uint32_t i = 0; i < items.count(); ++i) {
+        Item const& item = items[i];
+        if (item.kind == Item::Close) {
+            open.pop_back();
+        } else if (item.kind == Item::Open) {
+            XCode result;
+            ZRLWPtr<Box> const box = makeChild(*open.back(), *item.style->element, result);
+            bool const isInline = item.style->display() == DomNode::Inline;
+            Box& holder = isInline ? *open.back()->getOrCreateLineBox() : *open.back();
+            box->isUnseen = true;
+            holder.hasSpecialChild =
+                holder.hasSpecialChild || !isInline || box->dimensions.hasEdges();
+            holder.children.add(box);
+            open.push_back(box.object);
+        } else {
+            std::string_view text = items.text(item);
+            do {
+                std::size_t const space = item.kind == Item::Words ? text.find(' ') : text.npos;
+                std::string_view const word =
+                    text.substr(0, space == text.npos ? space : space + 1);
+                addText(*open.back(), word);
+                text.remove_prefix(word.length());
+            } while (!text.empty());
+        }
+    }
+}
+
+void ItemBoxes::addText(Box& parent, std::string_view word) {
+    texts.push_back(makeText(word));
+    XCode result;
+    parent.getOrCreateLineBox()->children.add(makeChild(parent, *texts.back(), result));
+}
+
+void paintBox(Grid& grid, Box& box, Canvas::Attributes const& attributes) {
+    Walk::run(paintTree(grid, box, attributes));
+}
+
+}  // namespace CLI::XML

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <deque>
+#include <utility>
+#include <vector>
+
+#include "base/ZRLWPtr.h"
+#include "xml/dom/DomElement.h"
+#include "xml/layout/Dimensions.h"
+#include "xml/render/Look.h"
+
+namespace CLI::XML {
+
+/// An element with all of its style that a conversion asks for more than once.
+struct ElementStyle {
+    ZRLWPtr<DomElement> element;
+    /// The edges; no content.
+    Dimensions box;
+    Look look;
+    /// What its name adds to the flags of an inline element.
+    std::uint8_t flag = 0;
+    /// It takes up or shows more than its content.
+    bool isStyled = false;
+    /// There is a border or a background.
+    bool hasBeneath = false;
+
+    explicit ElementStyle(ZRLWPtr<DomElement> styled);
+
+    DomNode::Display display() const { return element->display; }
+};
+
+/// The styles of the elements that a document has open, or that stand in a paragraph.
+class ElementStyles {
+public:
+    /// Good until `clear`; for elements without attributes, of which there is one a name, as long
+    /// as this is.
+    ElementStyle const& of(ZRLWPtr<DomElement> const& element);
+    void clear() { single.clear(); }
+
+private:
+    std::vector<std::pair<DomElement const*, ElementStyle const*>> known;
+    std::deque<ElementStyle> shared;
+    std::deque<ElementStyle> single;
+};
+
+}  // namespace CLI::XML

@@ -1,0 +1,293 @@
+#include "xml/render/Grid.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "base/hugePages.h"
+
+namespace CLI::XML {
+
+namespace {
+
+/// Cells that take as much memory as a row without any: there may not be more rows than that.
+constexpr std::int64_t s_cellsForRow = 16;
+
+/// Rows that are longer are not used again.
+constexpr std::size_t s_longRow = 4096;
+
+/// Rows are moved to the text when there are that many.
+constexpr std::int64_t s_rowsAtOnce = 32;
+
+}  // namespace
+
+Grid::Grid(CellBudget& cells) : budget(cells) { frames.push_back({0, 0, 0, 0, 0, 0, 0, 0}); }
+
+void Grid::enter(int x, int y) {
+    Frame const& around = frames.back();
+    Frame inner = {around.x + x, around.y + y, 0, 0, 0, 0, around.extents, 0};
+    inner.left = std::max(inner.x, around.left);
+    inner.top = std::max(inner.y, around.top);
+    inner.end = inner.top;
+    std::size_t const index = frames.size() - 1;
+    if (index > 0) {
+        bool const isSame = around.extents == frames[index - 1].extents;
+        inner.otherExtents = isSame ? around.otherExtents : index;
+    }
+    if (inner.top < around.end && inner.left < around.widest) {
+        ownExtents.push_back({inner.left, inner.top, {}});
+        inner.extents = ownExtents.size();
+    }
+    settled = std::min(settled, frames.size() - 1);
+    frames.push_back(inner);
+}
+
+void Grid::leave() {
+    Frame const inner = frames.back();
+    frames.pop_back();
+    settled = std::min(settled, frames.size() - 1);
+    Frame& around = frames.back();
+    if (inner.extents != around.extents) {
+        Extents const own = std::move(ownExtents.back());
+        ownExtents.pop_back();
+        for (std::size_t i = 0; i < own.ends.size(); ++i) {
+            raise(around.extents, own.top + static_cast<std::int64_t>(i), own.ends[i]);
+        }
+    }
+    if (inner.end == inner.top) return;
+    around.end = std::max(around.end, inner.end);
+    around.widest = std::max(around.widest, inner.widest);
+}
+
+void Grid::leaveAndCover() {
+    Frame const& inner = frames.back();
+    cover.left = inner.left;
+    cover.top = inner.top;
+    cover.ends.clear();
+    for (std::int64_t y = inner.top; y < inner.end && pay(1); ++y) {
+        cover.ends.push_back(extent(inner.extents, y));
+    }
+    leave();
+}
+
+bool Grid::pay(std::int64_t cells) {
+    if (!budget.suffices(static_cast<std::uint64_t>(cells))) return false;
+    budget.take(static_cast<std::uint64_t>(cells));
+    return true;
+}
+
+void Grid::Row::lengthen(std::size_t cells) {
+    if (cells <= length) return;
+    if (cells > capacity) {
+        std::size_t const room = std::max(cells + cells / 8, std::size_t{capacity} * 2);
+        auto wider = std::make_unique_for_overwrite<char[]>(room);
+        preferHugePages(wider.get(), room);
+        std::copy_n(bytes.get(), length, wider.get());
+        bytes = std::move(wider);
+        capacity = static_cast<std::uint32_t>(std::min<std::size_t>(room, UINT32_MAX));
+    }
+    length = static_cast<std::uint32_t>(cells);
+}
+
+void Grid::Row::clear() {
+    if (capacity > s_longRow) *this = Row();
+    length = 0;
+    if (looks) looks->clear();
+}
+
+/// Sees to it that row `y` of the page exists, with all rows above it.
+void Grid::bringIntoUse(std::int64_t y) {
+    std::int64_t const added = y + 1 - endOfRows();
+    if (added <= 0 || !budget.mayHold((y + 1) * s_cellsForRow) || !pay(added)) return;
+    if (movedAway > rows.count / 2 && rows.count + added > rows.capacity) {
+        std::rotate(rows.data, rows.data + movedAway, rows.data + rows.count);
+        rows.count -= std::exchange(movedAway, 0);
+    }
+    rows[rows.count + static_cast<unsigned>(added) - 1];
+}
+
+std::int64_t Grid::extent(std::size_t extents, std::int64_t y) {
+    if (extents == 0) {
+        return y < endOfRows() ? row(y).length : 0;
+    }
+    Extents const& own = ownExtents[extents - 1];
+    auto const index = static_cast<std::size_t>(y - own.top);
+    return index < own.ends.size() ? own.ends[index] : own.left;
+}
+
+void Grid::raise(std::size_t extents, std::int64_t y, std::int64_t end) {
+    if (extents == 0) return;
+    Extents& own = ownExtents[extents - 1];
+    auto const index = static_cast<std::size_t>(y - own.top);
+    if (index >= own.ends.size()) {
+        if (!pay(static_cast<std::int64_t>(index + 1 - own.ends.size()))) return;
+        own.ends.resize(index + 1, own.left);
+    }
+    own.ends[index] = std::max(own.ends[index], end);
+}
+
+void Grid::touchNewRow(std::int64_t y) {
+    bringIntoUse(y);
+    if (budget.isExceeded()) return;
+    for (; settled + 1 < frames.size(); ++settled) {
+        Frame& frame = frames[settled];
+        std::int64_t const top = frames[settled + 1].top;
+        fillRows(settled, frame.end, top);
+        frame.end = std::max(frame.end, top);
+    }
+    Frame& innermost = frames.back();
+    fillRows(frames.size() - 1, innermost.end, y + 1);
+    innermost.end = y + 1;
+}
+
+/// Fills rows of a frame, and of all frames around, up to the left end of each.
+void Grid::fillRows(std::size_t frame, std::int64_t begin, std::int64_t end) {
+    if (frames[frame].left == 0) return;
+    // Of frames in the same extents the innermost one goes furthest.
+    inward.clear();
+    for (std::size_t inner = frame; inner > 0; inner = frames[inner].otherExtents) {
+        inward.push_back(inner);
+        Frame& around = frames[inner - 1];
+        around.widest = std::max(around.widest, frames[inner].left);
+    }
+    for (std::int64_t y = begin; y < end; ++y) {
+        for (std::size_t i = inward.size(); i-- > 0;) {
+            if (i > 0 && !pay(1)) return;
+            fill(frames[inward[i] - 1].extents, y, frames[inward[i]].left);
+        }
+    }
+}
+
+void Grid::fill(std::size_t extents, std::int64_t y, std::int64_t end) {
+    std::int64_t const begin = extent(extents, y);
+    if (begin >= end || !pay(end - begin)) return;
+    set(" ", begin, {begin, end}, y, Attributes());
+    raise(extents, y, end);
+}
+
+void Grid::draw(std::string_view text, int x, int y, Attributes const& attributes) {
+    draw(text, 1, x, y, 1, attributes);
+}
+
+void Grid::draw(std::string_view text, std::int64_t times, int x, int y, std::int64_t height,
+                Attributes const& attributes) {
+    if (text.empty() || times <= 0) return;
+    Frame const& frame = frames.back();
+    std::string_view const pattern = text.substr(0, text.find('\0'));
+    if (pattern.length() < text.length()) times = 1;
+    auto const length = static_cast<std::int64_t>(pattern.length()) * times;
+    // What the frame itself clips away brings no row into use.
+    if (x < 0 && -std::int64_t{x} >= length) return;
+    Span const span = {frame.x + x, frame.x + x + length};
+    std::int64_t const first = std::max(frame.y + std::max(y, 0), frame.top);
+    std::int64_t const end = frame.y + y + height;
+    // Each row costs something.
+    if (first >= end || !budget.suffices(static_cast<std::uint64_t>(end - first))) return;
+    for (std::int64_t row = first; row < end && !budget.isExceeded(); ++row) {
+        touch(row);
+        if (!pattern.empty()) drawInRow(pattern, span, row, attributes);
+    }
+}
+
+void Grid::drawInRow(std::string_view pattern, Span where, std::int64_t y,
+                     Attributes const& attributes) {
+    Frame& frame = frames.back();
+    Span const shown = {std::max(where.begin, frame.left), where.end};
+    if (shown.begin >= shown.end || budget.isExceeded()) return;
+    Span covered = {shown.end, shown.end};
+    auto const index = static_cast<std::size_t>(y - cover.top);
+    if (y >= cover.top && index < cover.ends.size()) {
+        covered.begin = std::clamp(cover.left, shown.begin, shown.end);
+        covered.end = std::clamp(cover.ends[index], covered.begin, shown.end);
+    }
+    std::int64_t const drawn = shown.end - shown.begin - (covered.end - covered.begin);
+    if (!pay(std::max<std::int64_t>(drawn, 1))) return;
+    fill(frame.extents, y, shown.begin);
+    if (budget.isExceeded()) return;
+    set(pattern, where.begin, {shown.begin, covered.begin}, y, attributes);
+    set(pattern, where.begin, {covered.end, shown.end}, y, attributes);
+    raise(frame.extents, y, shown.end);
+    frame.widest = std::max(frame.widest, shown.end);
+}
+
+/// Sets cells to a text that is repeated from column `start` on.
+void Grid::set(std::string_view pattern, std::int64_t start, Span where, std::int64_t y,
+               Attributes const& attributes) {
+    if (where.begin >= where.end) return;
+    Row& target = row(y);
+    auto const begin = static_cast<std::size_t>(where.begin);
+    auto const end = static_cast<std::size_t>(where.end);
+    target.lengthen(end);
+    char* const cells = target.bytes.get();
+    if (pattern.length() == 1) {
+        std::fill(cells + begin, cells + end, pattern.front());
+        return setLooks(target, begin, end, attributes);
+    }
+    std::size_t offset = static_cast<std::size_t>(where.begin - start) % pattern.length();
+    for (std::size_t next = begin; next < end;) {
+        std::size_t const part = std::min(pattern.length() - offset, end - next);
+        std::copy_n(pattern.data() + offset, part, cells + next);
+        next += part;
+        offset = 0;
+    }
+    setLooks(target, begin, end, attributes);
+}
+
+void Grid::setLooks(Row& target, std::size_t begin, std::size_t end, Attributes const& attributes) {
+    if (attributes == Attributes() && target.lookCount() <= begin) return;
+    if (!target.looks) target.looks = std::make_unique<std::vector<Attributes>>();
+    std::vector<Attributes>& looks = *target.looks;
+    if (end > looks.capacity()) looks.reserve(end + end / 8);
+    if (looks.size() < begin) looks.resize(begin);
+    std::size_t const known = std::min(looks.size(), end);
+    if (known > begin) std::fill(&looks[begin], &looks[known - 1] + 1, attributes);
+    looks.insert(looks.end(), end - known, attributes);
+}
+
+bool Grid::moveRowsTo(String& text, std::int64_t end) {
+    // Rows that are not in use in a frame get fillers there once something is drawn below.
+    if (frames.size() > 1) end = std::min(end, frames.back().end);
+    end = std::min(end, endOfRows());
+    return end - firstRow < s_rowsAtOnce || moveRows(text, end);
+}
+
+bool Grid::moveRows(String& text, std::int64_t end) {
+    bool isComplete = true;
+    for (; firstRow < end; ++firstRow, ++movedAway) {
+        Row& shown = rows.data[movedAway];
+        isComplete = writeRow(shown, text) && isComplete;
+        shown.clear();
+    }
+    return isComplete;
+}
+
+bool Grid::writeRow(Row const& shown, String& text) {
+    bool isComplete = true;
+    auto const writeEscapes = [&](std::string_view sequences) {
+        if (pay(static_cast<std::int64_t>(sequences.length()))) {
+            isComplete = text.appendGrowing(sequences) && isComplete;
+        }
+    };
+    std::string_view const bytes(shown.bytes.get(), shown.length);
+    std::size_t const lookCount = std::min(shown.lookCount(), bytes.length());
+    Attributes current;
+    std::size_t begin = 0;
+    for (std::size_t i = 0; i < lookCount; ++i) {
+        Attributes const& look = (*shown.looks)[i];
+        if (look == current) continue;
+        isComplete = text.appendGrowing(bytes.substr(begin, i - begin)) && isComplete;
+        begin = i;
+        writeEscapes(look.generateFormattingFrom(current).view());
+        current = look;
+    }
+    Attributes const last;
+    if (!(current == last)) {
+        isComplete = text.appendGrowing(bytes.substr(begin, lookCount - begin)) && isComplete;
+        begin = lookCount;
+        writeEscapes("\x1b[0m");
+    }
+    isComplete = text.appendGrowing(bytes.substr(begin)) && isComplete;
+    return text.appendGrowing("\n") && isComplete;
+}
+
+}  // namespace CLI::XML
