@@ -29,7 +29,7 @@ public:
 
 private:
     struct OpenElement {
-        ElementStyle const* style;
+        ElementStyle const* style = nullptr;
         Canvas::Attributes handedDown;
         Canvas::Attributes content;
     };
@@ -39,10 +39,10 @@ private:
     struct Level {
         /// The content grows with what stands in it.
         Dimensions box;
-        std::int32_t previousMargin;
+        std::int32_t previousMargin = 0;
         /// Its number among those that are open.
-        std::size_t index;
-        bool isFrame;
+        std::size_t index = 0;
+        bool isFrame = false;
     };
 
     void beginLine();

@@ -1,5 +1,7 @@
 #include "xml/boxesOf.h"
 
+#include <algorithm>
+
 #include "base/Walk.h"
 #include "xml/beneath.h"
 #include "xml/dom/DomText.h"
@@ -56,22 +58,21 @@ ItemBoxes::ItemBoxes(Items const& items)
             holder.children.add(box);
             open.push_back(box.object);
         } else {
-            std::string_view text = items.text(item);
-            do {
-                std::size_t const space = item.kind == Item::Words ? text.find(' ') : text.npos;
-                std::string_view const word =
-                    text.substr(0, space == text.npos ? space : space + 1);
-                addText(*open.back(), word);
-                text.remove_prefix(word.length());
-            } while (!text.empty());
+            addTexts(*open.back(), item.kind, items.text(item));
         }
     }
 }
 
-void ItemBoxes::addText(Box& parent, std::string_view word) {
-    texts.push_back(makeText(word));
-    XCode result;
-    parent.getOrCreateLineBox()->children.add(makeChild(parent, *texts.back(), result));
+/// A box for each word; for an empty one, too.
+void ItemBoxes::addTexts(Box& parent, Item::Kind kind, std::string_view text) {
+    do {
+        std::size_t length = text.length();
+        if (kind == Item::Words) length = std::min(text.find(' '), length - 1) + 1;
+        texts.push_back(makeText(text.substr(0, length)));
+        XCode result;
+        parent.getOrCreateLineBox()->children.add(makeChild(parent, *texts.back(), result));
+        text.remove_prefix(length);
+    } while (!text.empty());
 }
 
 void paintBox(Grid& grid, Box& box, Canvas::Attributes const& attributes) {

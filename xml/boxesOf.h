@@ -21,7 +21,7 @@ public:
     ZRVector<ZRLWPtr<Box>> const& boxes() const { return block->children; }
 
 private:
-    void addText(Box& parent, std::string_view word);
+    void addTexts(Box& parent, Item::Kind kind, std::string_view text);
 
     /// What the boxes are of. It outlives them.
     ///@{

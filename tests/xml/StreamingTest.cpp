@@ -51,6 +51,9 @@ TEST(Streaming, MakesThePageOfTheWholeTrees) {
         "aaaa bbbb <i/>&x;<b padding-top=\"1\"/>cc",
         "<b>aaa aaaa aaaaa <p>yy yy yy yy yy yy</p></b>",
         "aa bb <b>cc <p>dd ee</p> ff</b> gg <b><p>hh ii</p></b> jj kk ll mm",
+        // A width that is cut off at the largest one is not too wide on a line of that.
+        "a <b>b<i padding-right=\"2147483647\"> </i></b>",
+        "a <b padding-right=\"2147483647\">b <i padding-right=\"2147483647\">c</i></b>",
         // Only the first word behind a margin keeps away from it.
         "<b margin-right=\"2\">a</b>bb cc dd <b><div><i margin-right=\"3\">e</i>ff gg hh</div></b>",
         // Words without a space behind them, with spaces in them, and without anything.
@@ -77,6 +80,8 @@ TEST(Streaming, MakesThePageOfTheWholeTrees) {
          "</h2></td></tr><tr><td><div background-color=\"red\"><table><tr border-width=\"1\"><th/>"
          "<td>a</td></tr><tr><td>a</td></tr></table></div><div><table><tr><td>a </td></tr></table>"
          "</div></td></tr></table></div></td></tr></table>"),
+        ("<div margin-left=\"5\"><b padding-left=\"-3\">ab</b></div><div padding-top=\"-1\">"
+         "<p margin-left=\"2\" padding-right=\"4\" background-color=\"red\">x</p></div>"),
         "<b>a<tr/></b></p>",
         "<td>a</td><b",
         // Nothing of a page that could not be painted is painted before the failure.
@@ -146,21 +151,11 @@ TEST(Streaming, MakesThePageOfTheWholeTreesOfElementsInOneAnother) {
 }
 
 TEST(Streaming, MakesThePageOfTheWholeTreesWhateverTheDocument) {
-    unsigned refused = 0;
-    for (unsigned seed = 0; seed < 4000; ++seed) {
+    for (unsigned seed = 0; seed < 2000; ++seed) {
         RandomDocument const random(seed);
-        char const* const css = random.sheet.c_str();
-        std::string const page = pageOfStream(random.markup, css, random.width);
-        if (page.starts_with("Page too large")) {
-            ++refused;
-            continue;
-        }
-        ASSERT_EQ(page, pageOfTrees(random.markup, css, random.width))
-            << "seed " << seed << "\n"
-            << random.markup << "\n"
-            << css << "\nwidth " << random.width;
+        expectSamePage(random.markup, random.sheet.c_str(), random.width);
+        if (testing::Test::HasFailure()) break;
     }
-    EXPECT_LT(refused, 200);
 }
 
 }  // namespace

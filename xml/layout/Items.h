@@ -20,12 +20,14 @@ struct Item {
         Close,
     };
 
+    /// Where words are in the text.
+    struct Bytes {
+        std::uint32_t begin;
+        std::uint32_t length;
+    };
+
     union {
-        /// Of words, where they are in the text, in bytes.
-        struct {
-            std::uint32_t begin;
-            std::uint32_t length;
-        } bytes;
+        Bytes bytes;
         /// Of an element that opens or closes.
         ElementStyle const* style;
     };
@@ -40,6 +42,7 @@ struct Position {
     /// Bytes of the item before it.
     std::uint32_t offset = 0;
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): there is none
     auto operator<=>(Position const&) const = default;
 };
 

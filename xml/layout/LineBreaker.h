@@ -18,31 +18,32 @@ namespace CLI::XML {
 /// an element may not fit either, though: so the shorter line is looked at again.
 class LineBreaker {
 public:
-    /// Of the items up to `end`, on lines of `available` columns. The items outlive it.
-    LineBreaker(Items const& paragraph, Position end, std::int32_t available);
+    /// Of the items up to `end`, on lines of that many columns. The items outlive it.
+    LineBreaker(Items const& paragraph, Position end, std::int32_t columns);
 
     /// The end of the line that begins at `from`, where the one before it ended.
     Position next(Position from);
 
 private:
+    static constexpr std::uint32_t s_goesOn = 0xFFFFFFFF;
+
     /// An element on the line: one that is opened on it, or that goes on on it and is styled. One
     /// that goes on and is not needs none, since all that is on the line before is in it.
     struct Level {
         /// What its line had left where its content begins, in columns.
-        std::int64_t room;
+        std::int64_t room = 0;
         /// Of the content, in columns.
-        std::int32_t width;
+        std::int32_t width = 0;
         /// Where it opens on this line; where it goes on, s_goesOn.
-        std::uint32_t open;
+        std::uint32_t open = s_goesOn;
         /// First in its parent on the line.
-        bool isFirst;
-        bool hasChild;
+        bool isFirst = true;
+        bool hasChild = false;
     };
-    static constexpr std::uint32_t s_goesOn = 0xFFFFFFFF;
 
     /// A word or an element that does not fit: where it begins, and what is behind it.
     struct Unfitting {
-        bool isFirst;
+        bool isFirst = true;
         Position begin;
         Position end;
     };
@@ -59,7 +60,7 @@ private:
     void accept(Position from, Position end);
     bool holdsOpen(Position from, Position end) const;
     bool isNextFirst() const;
-    void take(std::int64_t room, std::int64_t width);
+    void take(std::int64_t columnsLeft, std::int64_t width);
     bool opensHere() const { return levels.back().open != s_goesOn; }
 
     Items const& items;

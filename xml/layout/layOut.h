@@ -27,7 +27,7 @@ Walk layOutBlock(BlockBox& block, Dimensions const& containing, LayoutPass pass)
 Walk layOutLine(Box& line, LayoutPass pass);
 Walk layOutInline(Box& element, LayoutPass pass);
 Walk layOutTable(TableBox& table, LayoutPass pass);
-Walk layOutRow(RowBox& row, LayoutPass pass);
+Walk layOutRow(RowBox& box, LayoutPass pass);
 ///@}
 
 /// Whether a box is of a class that derives from the six of the library: its operations are called

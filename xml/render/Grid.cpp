@@ -106,7 +106,7 @@ void Grid::bringIntoUse(std::int64_t y) {
     rows[rows.count + static_cast<unsigned>(added) - 1];
 }
 
-std::int64_t Grid::extent(std::size_t extents, std::int64_t y) {
+std::int64_t Grid::extent(std::size_t extents, std::int64_t y) const {
     if (extents == 0) {
         return y < endOfRows() ? row(y).length : 0;
     }

@@ -111,10 +111,10 @@ private:
     };
 
     std::int64_t endOfRows() const { return firstRow + rows.count - movedAway; }
-    Row& row(std::int64_t y) { return rows.data[movedAway + (y - firstRow)]; }
+    Row& row(std::int64_t y) const { return rows.data[movedAway + (y - firstRow)]; }
     void bringIntoUse(std::int64_t y);
     bool pay(std::int64_t cells);
-    std::int64_t extent(std::size_t extents, std::int64_t y);
+    std::int64_t extent(std::size_t extents, std::int64_t y) const;
     void raise(std::size_t extents, std::int64_t y, std::int64_t end);
     void touch(std::int64_t y) {
         if (y >= frames.back().end) touchNewRow(y);
