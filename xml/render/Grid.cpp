@@ -181,12 +181,24 @@ void Grid::draw(std::string_view text, std::int64_t times, int x, int y, std::in
     Span const span = {frame.x + x, frame.x + x + length};
     std::int64_t const first = std::max(frame.y + std::max(y, 0), frame.top);
     std::int64_t const end = frame.y + y + height;
-    // Each row costs something.
-    if (first >= end || !budget.suffices(static_cast<std::uint64_t>(end - first))) return;
+    if (first >= end || !mayDraw(span.end - std::max(span.begin, frame.left), first, end)) return;
     for (std::int64_t row = first; row < end && !budget.isExceeded(); ++row) {
         touch(row);
         if (!pattern.empty()) drawInRow(pattern, span, row, attributes);
     }
+}
+
+/// Whether the budget has what a text of so many columns costs at least in the rows from `first` up
+/// to `end`: where nothing is covered each cell, and something in every row.
+bool Grid::mayDraw(std::int64_t columns, std::int64_t first, std::int64_t end) {
+    std::int64_t const coverEnd = cover.top + static_cast<std::int64_t>(cover.ends.size());
+    std::int64_t const covered =
+        std::max<std::int64_t>(0, std::min(end, coverEnd) - std::max(first, cover.top));
+    // Each fits in 32 bits, or is more than there ever is.
+    auto const bare = static_cast<std::uint64_t>(end - first - covered);
+    std::int64_t const most = std::int64_t{budget.limit} + 1;
+    auto const cells = static_cast<std::uint64_t>(std::clamp<std::int64_t>(columns, 1, most));
+    return budget.suffices(bare * cells + static_cast<std::uint64_t>(covered));
 }
 
 void Grid::drawInRow(std::string_view pattern, Span where, std::int64_t y,

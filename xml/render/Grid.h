@@ -122,6 +122,7 @@ private:
     void touchNewRow(std::int64_t y);
     void fillRows(std::size_t frame, std::int64_t begin, std::int64_t end);
     void fill(std::size_t extents, std::int64_t y, std::int64_t end);
+    bool mayDraw(std::int64_t columns, std::int64_t first, std::int64_t end);
     void drawInRow(std::string_view pattern, Span where, std::int64_t y,
                    Attributes const& attributes);
     void set(std::string_view pattern, std::int64_t start, Span where, std::int64_t y,
