@@ -1,0 +1,134 @@
+// The rows of a page: their cells, and their text.
+
+#include <algorithm>
+#include <utility>
+
+#include "base/hugePages.h"
+#include "xml/render/Grid.h"
+
+namespace CLI::XML {
+
+namespace {
+
+/// Cells that take as much memory as a row without any: there may not be more rows than that.
+constexpr std::int64_t s_cellsForRow = 16;
+
+/// Rows that are longer are not used again.
+constexpr std::size_t s_longRow = 4096;
+
+/// Rows are moved to the text when there are that many.
+constexpr std::int64_t s_rowsAtOnce = 32;
+
+}  // namespace
+
+void Grid::Row::lengthen(std::size_t cells) {
+    if (cells <= length) return;
+    if (cells > capacity) {
+        std::size_t const room = std::max(cells + cells / 8, std::size_t{capacity} * 2);
+        auto wider = std::make_unique_for_overwrite<char[]>(room);
+        preferHugePages(wider.get(), room);
+        std::copy_n(bytes.get(), length, wider.get());
+        bytes = std::move(wider);
+        capacity = static_cast<std::uint32_t>(std::min<std::size_t>(room, UINT32_MAX));
+    }
+    length = static_cast<std::uint32_t>(cells);
+}
+
+void Grid::Row::clear() {
+    if (capacity > s_longRow) *this = Row();
+    length = 0;
+    if (looks) looks->clear();
+}
+
+/// Sees to it that row `y` of the page exists, with all rows above it.
+void Grid::bringIntoUse(std::int64_t y) {
+    std::int64_t const added = y + 1 - endOfRows();
+    if (added <= 0 || !budget.mayHold((y + 1) * s_cellsForRow) || !pay(added)) return;
+    if (movedAway > rows.count / 2 && rows.count + added > rows.capacity) {
+        std::rotate(rows.data, rows.data + movedAway, rows.data + rows.count);
+        rows.count -= std::exchange(movedAway, 0);
+    }
+    rows[rows.count + static_cast<unsigned>(added) - 1];
+}
+
+/// Sets cells to a text that is repeated from column `start` on.
+void Grid::set(std::string_view pattern, std::int64_t start, Span where, std::int64_t y,
+               Attributes const& attributes) {
+    if (where.begin >= where.end) return;
+    Row& target = row(y);
+    auto const begin = static_cast<std::size_t>(where.begin);
+    auto const end = static_cast<std::size_t>(where.end);
+    target.lengthen(end);
+    char* const cells = target.bytes.get();
+    if (pattern.length() == 1) {
+        std::fill(cells + begin, cells + end, pattern.front());
+        return setLooks(target, begin, end, attributes);
+    }
+    std::size_t offset = static_cast<std::size_t>(where.begin - start) % pattern.length();
+    for (std::size_t next = begin; next < end;) {
+        std::size_t const part = std::min(pattern.length() - offset, end - next);
+        std::copy_n(pattern.data() + offset, part, cells + next);
+        next += part;
+        offset = 0;
+    }
+    setLooks(target, begin, end, attributes);
+}
+
+void Grid::setLooks(Row& target, std::size_t begin, std::size_t end, Attributes const& attributes) {
+    if (attributes == Attributes() && target.lookCount() <= begin) return;
+    if (!target.looks) target.looks = std::make_unique<std::vector<Attributes>>();
+    std::vector<Attributes>& looks = *target.looks;
+    if (end > looks.capacity()) looks.reserve(end + end / 8);
+    if (looks.size() < begin) looks.resize(begin);
+    std::size_t const known = std::min(looks.size(), end);
+    if (known > begin) std::fill(&looks[begin], &looks[known - 1] + 1, attributes);
+    looks.insert(looks.end(), end - known, attributes);
+}
+
+bool Grid::moveRowsTo(String& text, std::int64_t end) {
+    // Rows that are not in use in a frame get fillers there once something is drawn below.
+    if (frames.size() > 1) end = std::min(end, frames.back().end);
+    end = std::min(end, endOfRows());
+    return end - firstRow < s_rowsAtOnce || moveRows(text, end);
+}
+
+bool Grid::moveRows(String& text, std::int64_t end) {
+    bool isComplete = true;
+    for (; firstRow < end; ++firstRow, ++movedAway) {
+        Row& shown = rows.data[movedAway];
+        isComplete = writeRow(shown, text) && isComplete;
+        shown.clear();
+    }
+    return isComplete;
+}
+
+bool Grid::writeRow(Row const& shown, String& text) {
+    bool isComplete = true;
+    auto const writeEscapes = [&](std::string_view sequences) {
+        if (pay(static_cast<std::int64_t>(sequences.length()))) {
+            isComplete = text.appendGrowing(sequences) && isComplete;
+        }
+    };
+    std::string_view const bytes(shown.bytes.get(), shown.length);
+    std::size_t const lookCount = std::min(shown.lookCount(), bytes.length());
+    Attributes current;
+    std::size_t begin = 0;
+    for (std::size_t i = 0; i < lookCount; ++i) {
+        Attributes const& look = (*shown.looks)[i];
+        if (look == current) continue;
+        isComplete = text.appendGrowing(bytes.substr(begin, i - begin)) && isComplete;
+        begin = i;
+        writeEscapes(look.generateFormattingFrom(current).view());
+        current = look;
+    }
+    Attributes const last;
+    if (!(current == last)) {
+        isComplete = text.appendGrowing(bytes.substr(begin, lookCount - begin)) && isComplete;
+        begin = lookCount;
+        writeEscapes("\x1b[0m");
+    }
+    isComplete = text.appendGrowing(bytes.substr(begin)) && isComplete;
+    return text.appendGrowing("\n") && isComplete;
+}
+
+}  // namespace CLI::XML
