@@ -22,7 +22,6 @@ void Grid::enter(int x, int y) {
         ownExtents.push_back({inner.left, inner.top, {}});
         inner.extents = ownExtents.size();
     }
-    settled = std::min(settled, frames.size() - 1);
     frames.push_back(inner);
 }
 
@@ -61,9 +60,7 @@ bool Grid::pay(std::int64_t cells) {
 }
 
 std::int64_t Grid::extent(std::size_t extents, std::int64_t y) const {
-    if (extents == 0) {
-        return y < endOfRows() ? row(y).length : 0;
-    }
+    if (extents == 0) return y < endOfRows() ? row(y).length : 0;
     Extents const& own = ownExtents[extents - 1];
     auto const index = static_cast<std::size_t>(y - own.top);
     return index < own.ends.size() ? own.ends[index] : own.left;
@@ -133,7 +130,7 @@ void Grid::draw(std::string_view text, std::int64_t times, int x, int y, std::in
     // What the frame itself clips away brings no row into use.
     if (x < 0 && -std::int64_t{x} >= length) return;
     Span const span = {frame.x + x, frame.x + x + length};
-    std::int64_t const first = std::max(frame.y + std::max(y, 0), frame.top);
+    std::int64_t const first = std::max(frame.y + y, frame.top);
     std::int64_t const end = frame.y + y + height;
     if (first >= end || !mayDraw(span.end - std::max(span.begin, frame.left), first, end)) return;
     for (std::int64_t row = first; row < end && !budget.isExceeded(); ++row) {
