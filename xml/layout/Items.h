@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <compare>
 #include <cstdint>
 #include <string_view>
@@ -61,6 +62,10 @@ public:
     Item const& operator[](std::uint32_t i) const { return list.data[i]; }
     std::string_view text(Item const& item) const {
         return allText.view().substr(item.bytes.begin, item.bytes.length);
+    }
+    /// The first of words, at least one, with its space.
+    static std::string_view firstWord(std::string_view words) {
+        return words.substr(0, std::min(words.find(' '), words.length() - 1) + 1);
     }
     /// How many elements are open.
     std::size_t depth() const { return openItems.size(); }

@@ -1,6 +1,5 @@
 #include "xml/layout/LineBreaker.h"
 
-#include <algorithm>
 #include <limits>
 
 namespace CLI::XML {
@@ -56,8 +55,7 @@ void LineBreaker::accept(Position from, Position end) {
 
 void LineBreaker::begin() {
     room = available;
-    hasBegun = false;
-    levels.assign(1 + goingOn.size(), {available, 0, s_goesOn, true, false});
+    levels.assign(1 + goingOn.size(), {.room = available});
 }
 
 /// Where what is between `from` and `limit` has to be broken to fit, as far as one look tells;
@@ -86,15 +84,12 @@ Position LineBreaker::breakIn(Position from, Position limit) {
     return takeEnd(limit);
 }
 
-bool LineBreaker::isNextFirst() const { return opensHere() ? !levels.back().hasChild : !hasBegun; }
-
 /// Takes something in whole.
 void LineBreaker::take(std::int64_t columnsLeft, std::int64_t width) {
     room = columnsLeft;
     Level& level = levels.back();
     level.width = saturate(level.width + width);
     level.hasChild = true;
-    hasBegun = hasBegun || !opensHere();
 }
 
 std::optional<Position> LineBreaker::takeWords(Position at, Position limit) {
@@ -106,52 +101,38 @@ std::optional<Position> LineBreaker::takeWords(Position at, Position limit) {
     if (length > room) {
         fitting = room > 0 ? words.rfind(' ', static_cast<std::size_t>(room) - 1) + 1 : 0;
     }
-    auto const offset = at.offset + static_cast<std::uint32_t>(fitting);
     if (fitting == 0) {
-        std::size_t const wordEnd = std::min(words.find(' '), words.length() - 1) + 1;
-        Position behind = {at.item, at.offset + static_cast<std::uint32_t>(wordEnd)};
-        if (wordEnd == words.length()) behind = {at.item + 1, 0};
-        return takeWord(at, words.substr(0, wordEnd), behind, limit);
+        std::string_view const word = Items::firstWord(words);
+        Position behind = {at.item, at.offset + static_cast<std::uint32_t>(word.length())};
+        if (word.length() == words.length()) behind = {at.item + 1, 0};
+        return takeWord(at, word, behind, limit);
     }
     take(room - static_cast<std::int64_t>(fitting), static_cast<std::int64_t>(fitting));
     if (fitting == words.length()) return std::nullopt;
-    return Position{at.item, offset};
+    return Position{at.item, at.offset + static_cast<std::uint32_t>(fitting)};
 }
 
 std::optional<Position> LineBreaker::takeWord(Position at, std::string_view word, Position behind,
                                               Position limit) {
     auto const width = static_cast<std::int64_t>(word.length());
-    if (width > room) return cut({isNextFirst(), at, behind}, limit);
+    if (width > room) return cut({!levels.back().hasChild, at, behind}, limit);
     take(room - width, width);
     return std::nullopt;
 }
 
 void LineBreaker::open(std::uint32_t item) {
-    bool const isFirst = isNextFirst();
-    take(room, 0);
-    levels.push_back({room, 0, item, isFirst, false});
+    levels.push_back({.room = room, .open = item, .isFirst = !levels.back().hasChild});
 }
 
 std::optional<Position> LineBreaker::takeClose(std::uint32_t close, Position from, Position limit) {
     Item const& item = items[close];
-    bool const goesOn = item.other < from.item;
-    Level level = levels.back();
-    if (goesOn && !item.style->isStyled) {
-        level.open = s_goesOn;
-        level.room = available;
-        level.isFirst = true;
-    } else {
-        levels.pop_back();
-    }
+    bool const hasLevel = item.other >= from.item || item.style->isStyled;
+    Level const level = levels.back();
+    if (hasLevel) levels.pop_back();
     if (level.width > level.room) {
         return cut({level.isFirst, {item.other, 0}, {close + 1, 0}}, limit);
     }
-    if (goesOn && !item.style->isStyled) {
-        take(level.room - level.width, 0);
-    } else {
-        take(level.room - level.width, outerWidth(*item.style, level.width));
-    }
-    hasBegun = hasBegun || goesOn;
+    take(level.room - level.width, hasLevel ? outerWidth(*item.style, level.width) : 0);
     return std::nullopt;
 }
 

@@ -38,6 +38,7 @@ private:
         std::uint32_t open = s_goesOn;
         /// First in its parent on the line.
         bool isFirst = true;
+        /// Something in it, or in what goes on in it, is complete.
         bool hasChild = false;
     };
 
@@ -59,7 +60,6 @@ private:
     void begin();
     void accept(Position from, Position end);
     bool holdsOpen(Position from, Position end) const;
-    bool isNextFirst() const;
     void take(std::int64_t columnsLeft, std::int64_t width);
     bool opensHere() const { return levels.back().open != s_goesOn; }
 
@@ -72,8 +72,6 @@ private:
     std::vector<ElementStyle const*> goingOn;
     /// The line itself first.
     std::vector<Level> levels;
-    /// There is something on the line that no element opened on it holds.
-    bool hasBegun = false;
 };
 
 }  // namespace CLI::XML
