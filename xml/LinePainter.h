@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "xml/layout/Items.h"
+#include "xml/layout/placement.h"
 #include "xml/render/Grid.h"
 
 namespace CLI::XML {
@@ -39,7 +40,7 @@ private:
     struct Level {
         /// The content grows with what stands in it.
         Dimensions box;
-        std::int32_t previousMargin = 0;
+        RightwardRow row;
         /// Its number among those that are open.
         std::size_t index = 0;
         bool isFrame = false;
@@ -49,12 +50,11 @@ private:
     void endLine();
     void openElement(std::uint32_t item, Position end);
     void closeElement();
-    void beginLevel(std::size_t index, std::int64_t column, bool isFrame);
+    void place(Dimensions& box) const;
+    void beginLevel(std::size_t index, Dimensions const& box, bool isFrame);
     void endLevel();
     void addWords(std::string_view words);
     void addWord(std::string_view word);
-    std::int64_t nextColumn(std::int32_t margin) const;
-    void add(Dimensions const& box);
     Canvas::Attributes const& attributes() const {
         return open.empty() ? outer : open.back().content;
     }

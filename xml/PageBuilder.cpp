@@ -15,19 +15,8 @@ namespace CLI::XML {
 
 namespace {
 
-bool hasNegativeSide(Dimensions const& box) {
-    auto const isNegative = [](EdgeSizes const& edges) {
-        return edges.left < 0 || edges.right < 0;
-    };
-    return isNegative(box.padding) || isNegative(box.border) || isNegative(box.margin);
-}
-
 bool isTable(Items const& items) {
     return items[0].kind == Item::Open && items[0].style->display() == DomNode::Table;
-}
-
-Canvas::Attributes contentOf(ElementStyle const& style, Canvas::Attributes const& attributes) {
-    return style.look.ofContent(style.look.ofBackground(attributes));
 }
 
 }  // namespace
@@ -37,7 +26,7 @@ PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& c
     : element(style.element),
       look(style.look),
       handedDown(attributes),
-      content(contentOf(style, attributes)),
+      content(look.handDown(attributes)),
       box(style.box),
       stack(box) {
     EdgeSizes const edges = box.edges();
@@ -72,10 +61,8 @@ void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
     if (!isWithin && element->display == DomNode::Block) return openBlock(element);
     if (!isWithin && element->display == DomNode::Table) endItems();
     items.open(styles.of(element));
-    bool const isHistoric = isTable(items) ? element->display == DomNode::Block
-                                           : element->display != DomNode::Inline ||
-                                                 hasNegativeSide(items.innermost().box);
-    needsBoxes = needsBoxes || isHistoric;
+    bool const reachesBack = !isTable(items) && items.innermost().box.hasNegativeSide();
+    needsBoxes = needsBoxes || element->display == DomNode::Block || reachesBack;
 }
 
 void PageBuilder::endElement() {
@@ -187,7 +174,7 @@ void PageBuilder::addTable() {
     TablePainter painter(items, box, grid);
     grid.enter(box.content.x, box.content.y);
     // Of a long table each row is let go while it is at hand.
-    while (painter.paintRow(contentOf(style, block.content))) {
+    while (painter.paintRow(style.look.handDown(block.content))) {
         if (block.isBare && !style.hasBeneath) releaseRows(box.content.height);
     }
     leaveBox(grid, style, box, block.content);

@@ -25,15 +25,15 @@ TablePainter::TablePainter(Items const& table, Dimensions& box, Grid& page)
 }
 
 void TablePainter::measureRow(std::uint32_t row) {
-    Dimensions box;
-    RightwardRow cells(box);
+    Rect content;
+    RightwardRow cells;
     unsigned index = 0;
     visitChildren(items, row, [&](std::uint32_t opened) {
         Dimensions cell = items[opened].style->box;
-        cells.place(cell, UncoveredMargin());
+        cells.place(content, cell, UncoveredMargin());
         Rect const size = measurer.paint({opened + 1, 0}, {items[opened].other, 0}, {});
         cell.content.width = size.width;
-        cells.add(cell);
+        cells.add(content, cell);
         raiseColumn(columns, index++, cell);
     });
 }
@@ -46,9 +46,8 @@ bool TablePainter::paintRow(Canvas::Attributes const& attributes) {
     ElementStyle const& style = *items[next].style;
     Dimensions box = style.box;
     stack.place(box);
-    Canvas::Attributes const content = style.look.ofContent(style.look.ofBackground(attributes));
     grid.enter(box.content.x, box.content.y);
-    paintCells(next, box, content);
+    paintCells(next, box, style.look.handDown(attributes));
     leaveBox(grid, style, box, attributes);
     stack.add(box);
     next = items[next].other + 1;
@@ -57,7 +56,7 @@ bool TablePainter::paintRow(Canvas::Attributes const& attributes) {
 
 void TablePainter::paintCells(std::uint32_t row, Dimensions& box,
                               Canvas::Attributes const& attributes) {
-    RightwardRow cells(box);
+    RightwardRow cells;
     unsigned index = 0;
     visitChildren(items, row, [&](std::uint32_t opened) {
         Dimensions cell = items[opened].style->box;
@@ -65,16 +64,16 @@ void TablePainter::paintCells(std::uint32_t row, Dimensions& box,
         RightwardRow::placeAt(cell, column.content.x);
         cell.content.width = column.content.width;
         if (items[opened].other > opened + 1) paintCell(opened, cell, attributes);
-        cells.add(cell);
+        cells.add(box.content, cell);
     });
 }
 
 void TablePainter::paintCell(std::uint32_t opened, Dimensions& box, Canvas::Attributes attributes) {
     ElementStyle const& style = *items[opened].style;
-    attributes.flags = static_cast<std::uint8_t>(attributes.flags | style.flag);
+    attributes = style.flagged(attributes);
     grid.enter(box.content.x, box.content.y);
-    Rect const size = painter.paint({opened + 1, 0}, {items[opened].other, 0},
-                                    style.look.ofContent(style.look.ofBackground(attributes)));
+    Rect const size =
+        painter.paint({opened + 1, 0}, {items[opened].other, 0}, style.look.handDown(attributes));
     box.content.height = size.height;
     leaveBox(grid, style, box, attributes);
 }

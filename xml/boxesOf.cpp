@@ -1,7 +1,5 @@
 #include "xml/boxesOf.h"
 
-#include <algorithm>
-
 #include "base/Walk.h"
 #include "xml/beneath.h"
 #include "xml/dom/DomText.h"
@@ -13,11 +11,9 @@ namespace CLI::XML {
 
 namespace {
 
-bool isInline(Box const& box) { return box.type == Box::Inline || box.type == Box::Cell; }
-
 /// Paints a word; an inline element without children paints nothing. False for any other box.
 bool paintLeaf(Grid& grid, Box const& box, Canvas::Attributes const& attributes) {
-    if (!isInline(box) || box.children.count > 0) return false;
+    if (!paintsAsInline(box) || box.children.count > 0) return false;
     Rect const& content = box.dimensions.content;
     DomText const* const word = asText(box.node);
     if (word != nullptr) grid.draw(word->text.view(), content.x, content.y, attributes);
@@ -26,11 +22,11 @@ bool paintLeaf(Grid& grid, Box const& box, Canvas::Attributes const& attributes)
 
 Walk paintTree(Grid& grid, Box const& box, Canvas::Attributes attributes) {
     Rect const& content = box.dimensions.content;
-    if (isInline(box)) {
+    if (paintsAsInline(box)) {
         attributes.flags = static_cast<std::uint8_t>(attributes.flags | flagOfElement(box.node));
     }
     Look const look(box.node);
-    Canvas::Attributes const ofContent = look.ofContent(look.ofBackground(attributes));
+    Canvas::Attributes const ofContent = look.handDown(attributes);
     grid.enter(content.x, content.y);
     for (ZRLWPtr<Box> const& child : box.children) {
         if (!paintLeaf(grid, *child, ofContent)) co_await paintTree(grid, *child, ofContent);
@@ -66,12 +62,11 @@ ItemBoxes::ItemBoxes(Items const& items)
 /// A box for each word; for an empty one, too.
 void ItemBoxes::addTexts(Box& parent, Item::Kind kind, std::string_view text) {
     do {
-        std::size_t length = text.length();
-        if (kind == Item::Words) length = std::min(text.find(' '), length - 1) + 1;
-        texts.push_back(makeText(text.substr(0, length)));
+        std::string_view const word = kind == Item::Words ? Items::firstWord(text) : text;
+        texts.push_back(makeText(word));
         XCode result;
         parent.getOrCreateLineBox()->children.add(makeChild(parent, *texts.back(), result));
-        text.remove_prefix(length);
+        text.remove_prefix(word.length());
     } while (!text.empty());
 }
 

@@ -34,7 +34,7 @@ Walk drawBox(Box& box, Canvas& canvas, Attributes handedDown);
 
 /// As a virtual call of `drawTo` does.
 Walk drawChild(Box& box, Canvas& canvas, Attributes attributes) {
-    bool const isInline = box.type == Box::Inline || box.type == Box::Cell;
+    bool const isInline = paintsAsInline(box);
     if (isForeign(box) || (isInline && box.children.count == 0)) {
         box.drawTo(canvas, attributes);
         return {};

@@ -17,8 +17,8 @@ namespace CLI::XML {
 /// points to its node, which must outlive it, without owning it.
 ///
 /// The virtual operations stand in the order in which they are run: style, build, lay out, break,
-/// paint, show. None of them recurses over the depth of the tree; only the operations
-/// of a class of the caller's own are called as any virtual operation is.
+/// paint, show. None of them recurses over the depth of the tree; only the operations of a class of
+/// the caller's own are called as any virtual operation is.
 class GALLEY_EXPORT Box : public ZR::RefCounted {
 public:
     /// The class of the library that a box is of, or derives from.

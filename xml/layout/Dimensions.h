@@ -76,6 +76,12 @@ struct Dimensions {
     /// Most boxes have none, which is cheap to see.
     bool hasEdges() const { return (bitsOf(padding) | bitsOf(border) | bitsOf(margin)) != 0; }
 
+    /// Whether the left or the right edge takes something off the width.
+    bool hasNegativeSide() const {
+        auto const isNegative = [](EdgeSizes const& e) { return e.left < 0 || e.right < 0; };
+        return isNegative(padding) || isNegative(border) || isNegative(margin);
+    }
+
     /// Whether a border is drawn on any side.
     bool hasBorder() const {
         return border.left > 0 || border.right > 0 || border.top > 0 || border.bottom > 0;

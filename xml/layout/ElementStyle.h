@@ -27,6 +27,11 @@ struct ElementStyle {
     explicit ElementStyle(ZRLWPtr<DomElement> styled);
 
     DomNode::Display display() const { return element->display; }
+    /// The attributes with what the name of an inline element adds.
+    Canvas::Attributes flagged(Canvas::Attributes attributes) const {
+        attributes.flags = static_cast<std::uint8_t>(attributes.flags | flag);
+        return attributes;
+    }
 };
 
 /// The styles of the elements that a document has open, or that stand in a paragraph.

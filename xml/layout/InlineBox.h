@@ -37,6 +37,11 @@ inline bool isLeaf(Box const& box) {
     return box.children.count == 0 && typeid(box) == typeid(InlineBox);
 }
 
+/// Whether a box is painted as inline boxes are, which cells are, too.
+inline bool paintsAsInline(Box const& box) {
+    return box.type == Box::Inline || box.type == Box::Cell;
+}
+
 /// Lays out a box without children: a word takes a column a byte and one row, anything else
 /// nothing.
 void sizeLeaf(Box& box);

@@ -4,7 +4,8 @@
 namespace CLI::XML {
 
 Walk layOutRow(RowBox& box, LayoutPass pass) {
-    RightwardRow row(box.dimensions);
+    Rect& content = box.dimensions.content;
+    RightwardRow row = RightwardRow::begin(content);
     box.isSettled = true;
     for (unsigned i = 0; i < box.children.count; ++i) {
         CellBox& cell = box[i];
@@ -12,7 +13,7 @@ Walk layOutRow(RowBox& box, LayoutPass pass) {
             // A column's position already is that of the content.
             RightwardRow::placeAt(cell.dimensions, cell.columnDimensions.content.x);
         } else {
-            row.place(cell.dimensions, UncoveredMargin());
+            row.place(content, cell.dimensions, UncoveredMargin());
         }
         std::int32_t& width = cell.dimensions.content.width;
         if (!pass.again || !cell.isSettled) {
@@ -20,7 +21,7 @@ Walk layOutRow(RowBox& box, LayoutPass pass) {
             cell.naturalWidth = width;
         }
         width = cell.isConstrained() ? cell.columnDimensions.content.width : cell.naturalWidth;
-        row.add(cell.dimensions);
+        row.add(content, cell.dimensions);
         box.isSettled = box.isSettled && cell.isSettled;
     }
 }

@@ -10,12 +10,6 @@ namespace CLI::XML {
 
 namespace {
 
-bool isNegative(EdgeSizes const& edges) { return edges.left < 0 || edges.right < 0; }
-
-bool takesLessThanItsContent(Dimensions const& d) {
-    return isNegative(d.padding) || isNegative(d.border) || isNegative(d.margin);
-}
-
 /// The layout of one box whose children stand side by side, child by child.
 template <class Gap>
 class InlineLayout {
@@ -23,7 +17,7 @@ public:
     InlineLayout(Box& laidOut, LayoutPass asked)
         : box(laidOut),
           pass(asked),
-          row(laidOut.dimensions),
+          row(RightwardRow::begin(laidOut.dimensions.content)),
           widestBlock(asked.isLimited ? laidOut.decisiveWidth : 0) {}
 
     bool isDone() const { return isFull || next == box.children.count; }
@@ -41,7 +35,7 @@ public:
             Box& child = *box.children.data[next];
             if (asText(child.node) == nullptr || !isLeaf(child)) return;
             sizeLeaf(child);
-            row.addWord(child.dimensions.content, Gap());
+            row.addWord(box.dimensions.content, child.dimensions.content, Gap());
             take(child);
         }
     }
@@ -49,16 +43,16 @@ public:
     /// Places the next child, which is to be laid out before it is taken in.
     Box& place() {
         Box& child = *box.children.data[next];
-        row.place(child.dimensions, Gap());
+        row.place(box.dimensions.content, child.dimensions, Gap());
         return child;
     }
 
     void takeLaidOut(Box const& child) {
         areAllMeasured = areAllMeasured && child.isMeasured && isWidthModerate();
-        row.add(child.dimensions);
+        row.add(box.dimensions.content, child.dimensions);
         areAllSettled = areAllSettled && child.isSettled;
         holdsBlock = holdsBlock || child.holdsBlock;
-        mayShrink = mayShrink || child.mayShrink || takesLessThanItsContent(child.dimensions);
+        mayShrink = mayShrink || child.mayShrink || child.dimensions.hasNegativeSide();
         if (child.type == Box::Block) {
             widestBlock = std::max(widestBlock, child.dimensions.marginBox().width);
         }

@@ -66,23 +66,24 @@ private:
 /// them. The running width grows by the whole margin box, whatever the gap.
 class RightwardRow {
 public:
-    /// Begins with no width and no height.
-    explicit RightwardRow(Dimensions& container) : content(container.content) {
+    /// Begins with a content of no width and no height, which is passed to every operation.
+    static RightwardRow begin(Rect& content) {
         content.width = 0;
         content.height = 0;
+        return {};
     }
 
     /// Sets the position at which the child is to be laid out. `gapBetween` is one of the two
     /// above, of the margin before the child and the child's own.
     template <class Gap>
-    void place(Dimensions& child, Gap const& gapBetween) const {
+    void place(Rect const& content, Dimensions& child, Gap const& gapBetween) const {
         std::int64_t const gap = gapBetween(previousMargin, child.margin.left);
         placeAt(child, saturate(content.width + gap + child.border.left + child.padding.left));
     }
 
     /// Places and takes in a word, which has no edges. Its content has its size.
     template <class Gap>
-    void addWord(Rect& word, Gap const& gapBetween) {
+    void addWord(Rect& content, Rect& word, Gap const& gapBetween) {
         word.x = saturate(content.width + gapBetween(previousMargin, 0));
         word.y = 0;
         content.width = saturate(std::int64_t{content.width} + word.width);
@@ -97,15 +98,14 @@ public:
     }
 
     /// Takes the child in after its layout.
-    void add(Dimensions const& child) {
+    void add(Rect& content, Dimensions const& child) {
         Rect const margin = child.marginBox();
         content.width = saturate(std::int64_t{content.width} + margin.width);
         content.height = std::max(content.height, margin.height);
         previousMargin = child.margin.right;
     }
 
-private:
-    Rect& content;
+    /// The right margin of the last child.
     std::int32_t previousMargin = 0;
 };
 

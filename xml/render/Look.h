@@ -17,6 +17,10 @@ public:
     explicit Look(DomNode const* node);
 
     bool hasBackground() const { return background.has_value(); }
+    /// What a node hands down of the attributes that it is handed.
+    Canvas::Attributes handDown(Canvas::Attributes const& attributes) const {
+        return ofContent(ofBackground(attributes));
+    }
     /// The attributes of the background, from those handed down.
     Canvas::Attributes ofBackground(Canvas::Attributes attributes) const;
     /// Those of the border, and of the content, from those of the background.
