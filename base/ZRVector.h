@@ -107,31 +107,12 @@ public:
         data[--count] = T();
     }
 
-    /// Moves the elements from `i` on to the end of `target`, another vector. Where that and what
-    /// stays are the smaller part of many, `target` gets this vector's storage, and this vector is
-    /// as if its remaining elements had been added to a new one.
+    /// Moves the elements from `i` on to the end of `target`, another vector.
     void moveTailTo(unsigned i, ZRVector& target) {
         if (i >= count) return;
-        unsigned const moved = count - i;
-        if (moved > s_few && target.count + i < moved && target.capacity <= moved) {
-            // All that can fail comes before the first move.
-            ZRVector head;
-            if (i > 0) head.enlarge(i - 1);
-            if (target.count > i) provideFront(target.count - i);
-            for (unsigned slot = 0; slot < i; ++slot) head.add(std::move(data[slot]));
-            ZRVector tail;
-            tail.takeStorageFrom(i, *this);
-            // Into slots of those that stayed, and before them.
-            if (target.count > 0) tail.takeFront(target.count);
-            for (unsigned slot = 0; slot < target.count; ++slot) {
-                tail.data[slot] = std::move(target.data[slot]);
-            }
-            target.exchange(tail);
-            exchange(head);
-            return;
-        }
+        target.enlarge(target.count + (count - i) - 1);
         for (unsigned slot = i; slot < count; ++slot) {
-            target.add(std::move(data[slot]));
+            target.data[target.count++] = std::move(data[slot]);
             data[slot] = T();
         }
         count = i;
@@ -144,10 +125,10 @@ public:
     }
 
 private:
-    using Allocator = std::allocator<std::byte>;
+    using Allocator = std::allocator<T>;
     struct Deallocator {
-        std::size_t size;
-        void operator()(std::byte* storage) const { Allocator().deallocate(storage, size); }
+        unsigned slots;
+        void operator()(T* storage) const { Allocator().deallocate(storage, slots); }
     };
 
     /// The smallest multiple of `growBy` greater than `n`.
@@ -167,65 +148,29 @@ private:
         enlarge(i + 1);
     }
 
-    /// Sees to it that the storage holds more than `slots` slots: with one to spare, a tail of
-    /// any length fits its capacity.
+    /// Sees to it that the storage holds `slots` slots.
     void provide(unsigned slots) {
-        if (slots < allocated) return;
+        if (slots <= allocated) return;
         unsigned const part = allocated < s_long ? allocated : allocated / 4;
         unsigned const spare = std::min(part, std::numeric_limits<unsigned>::max() - allocated);
-        moveTo(std::max(slots + 1, allocated + spare));
+        moveTo(std::max(slots, allocated + spare));
     }
 
-    /// Moves the elements into new storage, with slots before them.
-    void moveTo(unsigned slots, unsigned before = 0) {
-        if (before > std::numeric_limits<unsigned>::max() - slots) {
-            throw std::bad_array_new_length();
-        }
-        std::size_t const size = sizeOf(before + slots);
-        std::unique_ptr<std::byte, Deallocator> storage(Allocator().allocate(size), {size});
-        preferHugePages(storage.get(), size);
-        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
-        T* const fresh = reinterpret_cast<T*>(storage.get() + s_front) + before;
-        std::uninitialized_default_construct_n(fresh, slots);
-        static_cast<void>(storage.release());
-        std::move(data, data + count, fresh);
+    /// Moves the elements into new storage.
+    void moveTo(unsigned slots) {
+        std::unique_ptr<T, Deallocator> fresh(Allocator().allocate(slots), {slots});
+        preferHugePages(fresh.get(), slots * sizeof(T));
+        std::uninitialized_default_construct_n(fresh.get(), slots);
+        std::move(data, data + count, fresh.get());
         freeStorage();
-        data = fresh;
+        data = fresh.release();
         allocated = slots;
-        setSkipped(before);
-    }
-
-    /// Takes the storage of `source` with its elements from `i` on. Nothing was held before.
-    void takeStorageFrom(unsigned i, ZRVector& source) {
-        unsigned const before = source.skipped();
-        unsigned const kept = std::exchange(source.count, 0) - i;
-        std::destroy_n(source.data, i);
-        data = std::exchange(source.data, nullptr) + i;
-        allocated = std::exchange(source.allocated, 0) - i;
-        setSkipped(before + i);
-        source.capacity = 0;
-        count = kept;
-        capacity = (kept + 1) / 2 * 2;
-    }
-
-    /// Makes elements of the `n` slots before the first one.
-    void takeFront(unsigned n) {
-        unsigned const before = skipped();
-        std::uninitialized_value_construct_n(data - n, n);
-        data -= n;
-        allocated += n;
-        setSkipped(before - n);
-        count += n;
-        capacity = std::max(capacity, slotsAbove(count - 1));
     }
 
     void freeStorage() {
         if (data == nullptr) return;
-        unsigned const before = skipped();
         std::destroy_n(data, allocated);
-        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
-        auto* const storage = reinterpret_cast<std::byte*>(data - before) - s_front;
-        Allocator().deallocate(storage, sizeOf(before + allocated));
+        Allocator().deallocate(data, allocated);
     }
 
     void exchange(ZRVector& other) noexcept {
@@ -235,36 +180,8 @@ private:
         std::swap(allocated, other.allocated);
     }
 
-    /// Bytes of a storage of that many slots.
-    static std::size_t sizeOf(unsigned slots) { return s_front + std::size_t{slots} * sizeof(T); }
-
-    /// Slots of the storage before `data`, left behind by elements that were moved out: rarely any,
-    /// so that the number stands in the storage, right before `data`. There must be storage.
-    unsigned skipped() const {
-        unsigned result = 0;
-        std::memcpy(&result, bytesBefore(), sizeof result);
-        return result;
-    }
-    void setSkipped(unsigned slots) { std::memcpy(bytesBefore(), &slots, sizeof slots); }
-    void* bytesBefore() const {
-        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast)
-        return reinterpret_cast<std::byte*>(data) - sizeof(unsigned);
-    }
-
-    /// Provides `n` slots before the first element, and more for a part of the elements, where
-    /// there are fewer.
-    void provideFront(unsigned n) {
-        if (skipped() < n) moveTo(allocated, n + count / s_frontPart);
-    }
-
-    /// Elements that are moved one by one.
-    static constexpr unsigned s_few = 64;
     /// Slots from which on twice as many would be too many to spare.
     static constexpr unsigned s_long = 256;
-    /// Elements for each slot that is kept free before the first one.
-    static constexpr unsigned s_frontPart = 4;
-    /// Bytes before the first slot of a storage.
-    static constexpr std::size_t s_front = std::max(sizeof(unsigned), alignof(T));
-    /// Slots of the storage from `data` on.
+    /// Slots of the storage.
     unsigned allocated = 0;
 };

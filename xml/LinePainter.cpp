@@ -1,6 +1,7 @@
 #include "xml/LinePainter.h"
 
 #include "xml/beneath.h"
+#include "xml/boxesOf.h"
 
 namespace CLI::XML {
 
@@ -13,6 +14,8 @@ Rect LinePainter::paint(Position from, Position end, Canvas::Attributes const& a
             openElement(at.item, end);
         } else if (item.kind == Item::Close) {
             closeElement();
+        } else if (item.kind == Item::Block) {
+            addBlock(*item.box);
         } else {
             std::string_view text = items.text(item);
             if (end.item == at.item) text = text.substr(0, end.offset);
@@ -102,6 +105,13 @@ void LinePainter::addWords(std::string_view words) {
         words.remove_prefix(first.length());
     }
     if (!words.empty()) addWord(words);
+}
+
+void LinePainter::addBlock(Box& block) {
+    place(block.dimensions);
+    if (grid != nullptr) paintBox(*grid, block, attributes());
+    Level& level = levels.back();
+    level.row.add(level.box.content, block.dimensions);
 }
 
 void LinePainter::addWord(std::string_view word) {

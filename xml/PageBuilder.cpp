@@ -13,14 +13,6 @@
 
 namespace CLI::XML {
 
-namespace {
-
-bool isTable(Items const& items) {
-    return items[0].kind == Item::Open && items[0].style->display() == DomNode::Table;
-}
-
-}  // namespace
-
 PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& containing,
                                   Canvas::Attributes const& attributes)
     : element(style.element),
@@ -34,8 +26,8 @@ PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& c
 }
 
 PageBuilder::PageBuilder(ZRLWPtr<DomElement> const& root, unsigned width, int expectedLength,
-                         bool keepsRows, CellBudget& budget)
-    : grid(budget), mayRelease(!keepsRows) {
+                         bool keepsRows, CellBudget& cells)
+    : budget(cells), grid(cells), mayRelease(!keepsRows) {
     // Each line of words adds a line feed: not more than this on a page of 16 columns.
     if (!text.reserve(saturate(std::int64_t{expectedLength} + expectedLength / 16))) {
         text.reserve(expectedLength);
@@ -61,8 +53,6 @@ void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
     if (!isWithin && element->display == DomNode::Block) return openBlock(element);
     if (!isWithin && element->display == DomNode::Table) endItems();
     items.open(styles.of(element));
-    bool const reachesBack = !isTable(items) && items.innermost().box.hasNegativeSide();
-    needsBoxes = needsBoxes || element->display == DomNode::Block || reachesBack;
 }
 
 void PageBuilder::endElement() {
@@ -73,7 +63,7 @@ void PageBuilder::endElement() {
         closeBlock();
     } else {
         items.close();
-        if (items.depth() == 0 && isTable(items)) endItems();
+        if (items.depth() == 0 && items.areTable()) endItems();
     }
 }
 
@@ -135,24 +125,27 @@ void PageBuilder::releaseRows(std::int32_t height) {
 /// Lays out and paints what has been read since the last block.
 void PageBuilder::endItems() {
     if (items.count() == 0) return;
-    if (needsBoxes) {
+    bool const areTable = items.areTable();
+    if (areTable ? items.holdsBlock() : !items.breaksByWidths()) {
         addBoxes();
-    } else if (isTable(items)) {
+    } else if (areTable) {
         addTable();
+    } else if (items.holdsBlock()) {
+        addParagraph(ItemsOfBlocks(items).items());
     } else {
-        addParagraph();
+        addParagraph(items);
     }
     items.clear();
     styles.clear();
-    needsBoxes = false;
 }
 
-void PageBuilder::addParagraph() {
+void PageBuilder::addParagraph(Items const& paragraph) {
     OpenBlock& block = blocks.back();
-    Position const end = {items.count(), 0};
-    LineBreaker breaker(items, end, block.box.content.width);
-    LinePainter painter(items, LinePainter::Line, &grid);
+    Position const end = {paragraph.count(), 0};
+    LineBreaker breaker(paragraph, block.box.content.width);
+    LinePainter painter(paragraph, LinePainter::Line, &grid);
     for (Position from; from < end;) {
+        if (paragraph.holdsBlock()) Walk::run(breaker.layOutBlocks(from));
         Position const lineEnd = breaker.next(from);
         Dimensions line;
         block.stack.place(line);
@@ -183,7 +176,10 @@ void PageBuilder::addTable() {
 
 void PageBuilder::addBoxes() {
     OpenBlock& block = blocks.back();
-    ItemBoxes laidOut(items);
+    BoxesOfItems laidOut(items);
+    // For each line of such a paragraph all of its rest may be laid out.
+    std::int64_t const steps = items.areTable() ? 0 : laidOut.words() * laidOut.words();
+    if (!budget.mayHold(steps)) return;
     laidOut.layOut(block.box);
     for (ZRLWPtr<Box> const& box : laidOut.boxes()) {
         block.stack.place(box->dimensions);

@@ -19,7 +19,7 @@ public:
     /// `expectedLength` bytes of text, and some more, are provided for. Rows leave the page early,
     /// unless `keepsRows`: a box may reach up then. The budget outlives the builder.
     PageBuilder(ZRLWPtr<DomElement> const& root, unsigned width, int expectedLength, bool keepsRows,
-                CellBudget& budget);
+                CellBudget& cells);
 
     bool mayShareElements() const override { return true; }
     void startElement(ZRLWPtr<DomElement> const& element) override;
@@ -53,12 +53,13 @@ private:
     void openBlock(ZRLWPtr<DomElement> const& element);
     void closeBlock();
     void endItems();
-    void addParagraph();
+    void addParagraph(Items const& paragraph);
     void addTable();
     void addBoxes();
     void take(Dimensions const& box);
     void releaseRows(std::int32_t height);
 
+    CellBudget& budget;
     Grid grid;
     /// Rows of the page that nothing can change any more.
     String text;
@@ -70,8 +71,6 @@ private:
     ElementStyles styles;
     /// What has been read since the last block.
     Items items;
-    /// What another layout of the items would do depends on those before it.
-    bool needsBoxes = false;
     /// Open elements from the outermost one on that is not displayed.
     unsigned hidden = 0;
     XCode refusal;

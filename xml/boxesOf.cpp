@@ -36,25 +36,27 @@ Walk paintTree(Grid& grid, Box const& box, Canvas::Attributes attributes) {
 
 }  // namespace
 
-ItemBoxes::ItemBoxes(Items const& items)
-    : root(createRootElement()), block(ZR::MovePtr<Box>(new BlockBox(root.object))) {
-    std::vector<Box*> open = {block.object};
-    for (std::uint32_t i = 0; i < items.count(); ++i) {
+ZRLWPtr<Box> ItemBoxes::blockAt(Items const& items, std::uint32_t opened) {
+    ZRLWPtr<Box> block = ZR::MovePtr<Box>(new BlockBox(items[opened].style->element.object));
+    addTo(*block, items, opened + 1, items[opened].other);
+    return block;
+}
+
+void ItemBoxes::addTo(Box& box, Items const& items, std::uint32_t begin, std::uint32_t end) {
+    std::vector<Box*> open = {&box};
+    for (std::uint32_t i = begin; i < end; ++i) {
         Item const& item = items[i];
+        Box& parent = *open.back();
         if (item.kind == Item::Close) {
             open.pop_back();
         } else if (item.kind == Item::Open) {
             XCode result;
-            ZRLWPtr<Box> const box = makeChild(*open.back(), *item.style->element, result);
+            ZRLWPtr<Box> const child = makeChild(parent, *item.style->element, result);
             bool const isInline = item.style->display() == DomNode::Inline;
-            Box& holder = isInline ? *open.back()->getOrCreateLineBox() : *open.back();
-            box->isUnseen = true;
-            holder.hasSpecialChild =
-                holder.hasSpecialChild || !isInline || box->dimensions.hasEdges();
-            holder.children.add(box);
-            open.push_back(box.object);
+            (isInline ? *parent.getOrCreateLineBox() : parent).children.add(child);
+            open.push_back(child.object);
         } else {
-            addTexts(*open.back(), item.kind, items.text(item));
+            addTexts(parent, item.kind, items.text(item));
         }
     }
 }
@@ -68,6 +70,30 @@ void ItemBoxes::addTexts(Box& parent, Item::Kind kind, std::string_view text) {
         parent.getOrCreateLineBox()->children.add(makeChild(parent, *texts.back(), result));
         text.remove_prefix(word.length());
     } while (!text.empty());
+}
+
+BoxesOfItems::BoxesOfItems(Items const& items)
+    : root(createRootElement()), block(ZR::MovePtr<Box>(new BlockBox(root.object))) {
+    made.addTo(*block, items, 0, items.count());
+}
+
+ItemsOfBlocks::ItemsOfBlocks(Items const& paragraph) {
+    for (std::uint32_t i = 0; i < paragraph.count(); ++i) {
+        Item const& item = paragraph[i];
+        if (item.kind == Item::Close) {
+            all.close();
+        } else if (item.kind == Item::Words) {
+            all.addWords(paragraph.text(item));
+        } else if (item.kind == Item::Word) {
+            all.addWord(paragraph.text(item));
+        } else if (item.style->display() == DomNode::Block) {
+            blocks.push_back(made.blockAt(paragraph, i));
+            all.addBlock(*blocks.back());
+            i = item.other;
+        } else {
+            all.open(*item.style);
+        }
+    }
 }
 
 void paintBox(Grid& grid, Box& box, Canvas::Attributes const& attributes) {

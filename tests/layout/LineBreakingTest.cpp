@@ -84,47 +84,6 @@ TEST(LineBreaking, IsGreedyAtEveryWidth) {
     }
 }
 
-/// Lays out a root of nothing but lines, each line whole whenever something was broken off it.
-void layOutStepByStep(Box& root, int width) {
-    Rect& content = root.dimensions.content;
-    content = {0, 0, width, 0};
-    int widest = 0;
-    for (unsigned i = 0; i < root.children.count;) {
-        Box& line = *root.children[i];
-        line.dimensions.content = {0, content.height, 0, 0};
-        line.layout(root.dimensions);
-        ZRLWPtr<Box> rest;
-        if (line.dimensions.content.width > width) rest = line.split(width);
-        if (rest) {
-            root.children.insert(i + 1, rest);
-            continue;
-        }
-        content.height += line.dimensions.content.height;
-        widest = std::max(widest, line.dimensions.content.width);
-        ++i;
-    }
-    content.width = widest;
-}
-
-TEST(LineBreaking, GivesWhatWholeLayoutsOfEveryLineGive) {
-    for (char const* const content :
-         {"a bb <b>ccc <i>dd e</i> f</b> gg hhhh", "<b>aa<i>bb</i></b><i>c d</i>",
-          "aa <b>bb <i>cc <i>dd ee <b>ff</b> gg</i> hh</i> <b>ii</b> jj kk</b> <i>ll</i> mm nn",
-          "a<b/><i> </i>b c", "a <b>b <p>cc dd</p> e</b> <i><p>ff <i>g h</i></p></i>i"}) {
-        for (char const* const css :
-             {"", "b{padding:1;}", "b{margin:1;} i{margin-left:3;}", "i{margin-left:-2;}",
-              "b{margin-right:-3;} i{padding:-1;}", "b{padding-left:-6;}"}) {
-            for (int width = -3; width <= 24; ++width) {
-                Page expected(content, css);
-                layOutStepByStep(*expected.box, width);
-                Page page(content, css);
-                page.layOut(width);
-                EXPECT_EQ(places(*page.box), places(*expected.box)) << css << " at " << width;
-            }
-        }
-    }
-}
-
 TEST(LineBreaking, SplitsAnInlineElementByItself) {
     Page page("<b>aa bb <i>cc dd</i></b>");
     Box& element = page.find("b");

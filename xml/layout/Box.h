@@ -27,20 +27,11 @@ public:
     // What is small comes first, behind the reference count: a box is two cache lines large.
     Type type;  ///< Never changes.
     /// Known from the last layout: another one with the same `containing` would change nothing.
-    /// Only read by a pass that is laid out `again`, since the tree may change between operations.
-    bool isSettled : 1 = false;
-    /// Known from the last layout: a box on this line, or in this inline element, takes up less
-    /// room than its content, so that a line that is too wide need not stay so.
-    bool mayShrink : 1 = false;
-    /// The content is as wide as a layout would make it, and only inline boxes that are measured,
-    /// too, are in it. Like `isSettled` only read by a pass that is laid out `again`.
-    bool isMeasured : 1 = false;
-    /// Known from the last layout: this is a block, or an inline box with one somewhere in it.
-    bool holdsBlock : 1 = false;
-    /// Only the conversion knows the box: it may leave out boxes that show nothing of their own.
-    bool isUnseen : 1 = false;
-    /// Of such a box, that a child has edges, or is neither a word nor an inline element.
-    bool hasSpecialChild : 1 = false;
+    /// Only read by a layout of the same operation, since the tree may change between operations.
+    bool isSettled = false;
+    /// Known from the last layout: an edge of a box below this one takes something off the width,
+    /// so that less content need not be less wide.
+    bool mayShrink = false;
     /// The node that the box renders; null for a line box only.
     DomNode* node;
     /// Padding, border and margin are set from birth and never change; layout sets the content
@@ -48,9 +39,8 @@ public:
     Dimensions dimensions;
     /// In document order.
     ZRVector<ZRLWPtr<Box>> children;
-    /// Known from the last layout, in columns. Of a block, the width that it was offered; of an
-    /// inline element, a width that no block among its children exceeds with its edges.
-    std::int32_t decisiveWidth = 0;
+    /// Of a block: the width that the last layout offered it, in columns.
+    std::int32_t offeredWidth = 0;
 
     /// A box without children, with the edges that the style of `rendered` gives it; the node is
     /// null for a line box only.

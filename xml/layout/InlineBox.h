@@ -46,7 +46,4 @@ inline bool paintsAsInline(Box const& box) {
 /// nothing.
 void sizeLeaf(Box& box);
 
-/// `split` of a line or an inline element that is measured: so is what it returns.
-ZRLWPtr<Box> splitMeasured(Box& box, int width);
-
 }  // namespace CLI::XML

@@ -1,22 +1,45 @@
 #include "xml/layout/LineBreaker.h"
 
-#include <limits>
+#include <algorithm>
+
+#include "xml/layout/layOut.h"
 
 namespace CLI::XML {
 
-namespace {
-
-std::int32_t outerWidth(ElementStyle const& style, std::int32_t width) {
-    if (!style.isStyled) return width;
-    Dimensions box = style.box;
-    box.content.width = width;
-    return box.marginBox().width;
+LineBreaker::LineBreaker(Items const& paragraph, std::int32_t columns)
+    : items(paragraph), available(columns), limits{{paragraph.count(), 0}} {
+    if (items.mayShrink()) sums.emplace(items);
 }
 
-}  // namespace
-
-LineBreaker::LineBreaker(Items const& paragraph, Position end, std::int32_t columns)
-    : items(paragraph), available(columns), limits{end} {}
+Walk LineBreaker::layOutBlocks(Position from) {
+    Position const limit = limits.back();
+    begin();
+    std::int64_t seen = 0;
+    std::int64_t widest = 0;
+    for (Position at = from; at < limit && seen <= std::max<std::int64_t>(available, widestBlock);
+         at = {at.item + 1, 0}) {
+        Item const& item = items[at.item];
+        if (item.kind == Item::Open) {
+            levels.push_back({.open = at.item});
+        } else if (item.kind == Item::Close) {
+            take(0, endLevel(at.item, from));
+        } else {
+            std::int64_t width = 0;
+            if (item.kind == Item::Block) {
+                Dimensions around;
+                around.content.width = levels.back().width;
+                co_await layOut(*item.box, around, LayoutPass::Again);
+                width = item.box->dimensions.marginBox().width;
+                widest = std::max(widest, width);
+            } else {
+                width = item.bytes.length - at.offset;
+            }
+            seen += width;
+            take(0, width);
+        }
+    }
+    if (from == Position()) widestBlock = widest;
+}
 
 Position LineBreaker::next(Position from) {
     // A width that is cut off at the largest one does not exceed it.
@@ -44,14 +67,17 @@ bool LineBreaker::holdsOpen(Position from, Position end) const {
 void LineBreaker::accept(Position from, Position end) {
     for (std::uint32_t i = from.item; i < end.item; ++i) {
         Item const& item = items[i];
-        if (item.kind < Item::Open || !item.style->isStyled) continue;
+        if (item.kind < Item::Open || !mayGoOn(item)) continue;
         if (item.kind == Item::Open) {
-            goingOn.push_back(item.style);
+            goingOn.push_back(i);
         } else {
             goingOn.pop_back();
         }
     }
 }
+
+/// Whether an element has a level on each line that it goes on on.
+bool LineBreaker::mayGoOn(Item const& item) const { return sums || items.edges(item).hasEdges(); }
 
 void LineBreaker::begin() {
     room = available;
@@ -62,26 +88,54 @@ void LineBreaker::begin() {
 /// `limit` where it is not.
 Position LineBreaker::breakIn(Position from, Position limit) {
     begin();
-    for (Position at = from; at < limit; at = {at.item + 1, 0}) {
+    Position at = sums ? skipGoingOn(from, limit) : from;
+    while (at < limit) {
         Item const& item = items[at.item];
+        Position behind = {at.item + 1, 0};
         std::optional<Position> found;
         switch (item.kind) {
             case Item::Words:
                 found = takeWords(at, limit);
                 break;
             case Item::Word:
-                found = takeWord(at, items.text(item), {at.item + 1, 0}, limit);
+                found = takeWhole(at, {item.bytes.length, item.bytes.length}, behind, limit);
                 break;
+            case Item::Block: {
+                Dimensions const& box = item.box->dimensions;
+                found = takeWhole(at, {box.content.width, box.marginBox().width}, behind, limit);
+                break;
+            }
             case Item::Open:
-                open(at.item);
+                behind = takeOpen(at.item, limit);
                 break;
             case Item::Close:
                 found = takeClose(at.item, from, limit);
                 break;
         }
         if (found) return *found;
+        at = behind;
     }
     return takeEnd(limit);
+}
+
+/// Takes the outermost element that goes on and fits whole, or all of the line, and returns what is
+/// behind it; `from` where none does.
+Position LineBreaker::skipGoingOn(Position from, Position limit) {
+    std::int64_t edges = 0;
+    for (std::uint32_t const opened : goingOn) edges += sums->edges(opened);
+    if (sums->between(from, limit) + edges <= available) return limit;
+    for (std::size_t i = 0; i < goingOn.size(); ++i) {
+        std::uint32_t const closed = items[goingOn[i]].other;
+        Position const end = std::min(limit, Position{closed, 0});
+        std::int64_t const own = sums->edges(goingOn[i]);
+        edges -= own;
+        std::int64_t const content = sums->between(from, end) + edges;
+        if (content > available) continue;
+        levels.resize(1 + i);
+        take(available - content, content + own);
+        return end < limit ? Position{closed + 1, 0} : limit;
+    }
+    return from;
 }
 
 /// Takes something in whole.
@@ -105,35 +159,56 @@ std::optional<Position> LineBreaker::takeWords(Position at, Position limit) {
         std::string_view const word = Items::firstWord(words);
         Position behind = {at.item, at.offset + static_cast<std::uint32_t>(word.length())};
         if (word.length() == words.length()) behind = {at.item + 1, 0};
-        return takeWord(at, word, behind, limit);
+        auto const width = static_cast<std::int64_t>(word.length());
+        return takeWhole(at, {width, width}, behind, limit);
     }
     take(room - static_cast<std::int64_t>(fitting), static_cast<std::int64_t>(fitting));
     if (fitting == words.length()) return std::nullopt;
     return Position{at.item, at.offset + static_cast<std::uint32_t>(fitting)};
 }
 
-std::optional<Position> LineBreaker::takeWord(Position at, std::string_view word, Position behind,
-                                              Position limit) {
-    auto const width = static_cast<std::int64_t>(word.length());
-    if (width > room) return cut({!levels.back().hasChild, at, behind}, limit);
-    take(room - width, width);
+std::optional<Position> LineBreaker::takeWhole(Position at, Width width, Position behind,
+                                               Position limit) {
+    if (width.content > room) return cut({!levels.back().hasChild, at, behind}, limit);
+    take(room - width.content, width.outer);
     return std::nullopt;
 }
 
-void LineBreaker::open(std::uint32_t item) {
-    levels.push_back({.room = room, .open = item, .isFirst = !levels.back().hasChild});
+/// What is to be looked at behind the start of an element: what is in it, unless it is known to
+/// fit.
+Position LineBreaker::takeOpen(std::uint32_t opened, Position limit) {
+    Position const begin = {opened + 1, 0};
+    if (sums) {
+        std::uint32_t const closed = items[opened].other;
+        Position const end = std::min(limit, Position{closed, 0});
+        std::int64_t const content = sums->between(begin, end);
+        if (content <= room) {
+            take(room - content, content + sums->edges(opened));
+            return end < limit ? Position{closed + 1, 0} : limit;
+        }
+    }
+    levels.push_back({.room = room, .open = opened, .isFirst = !levels.back().hasChild});
+    return begin;
 }
 
 std::optional<Position> LineBreaker::takeClose(std::uint32_t close, Position from, Position limit) {
-    Item const& item = items[close];
-    bool const hasLevel = item.other >= from.item || item.style->isStyled;
     Level const level = levels.back();
-    if (hasLevel) levels.pop_back();
+    std::int64_t const outer = endLevel(close, from);
     if (level.width > level.room) {
-        return cut({level.isFirst, {item.other, 0}, {close + 1, 0}}, limit);
+        return cut({level.isFirst, {items[close].other, 0}, {close + 1, 0}}, limit);
     }
-    take(level.room - level.width, hasLevel ? outerWidth(*item.style, level.width) : 0);
+    take(level.room - level.width, outer);
     return std::nullopt;
+}
+
+/// Ends the level of an element that closes, and returns what it adds to the one around, in
+/// columns.
+std::int64_t LineBreaker::endLevel(std::uint32_t close, Position from) {
+    Item const& item = items[close];
+    if (item.other < from.item && !mayGoOn(item)) return 0;
+    std::int32_t const width = levels.back().width;
+    levels.pop_back();
+    return items.outerWidth(item, width);
 }
 
 /// The elements that are open at `limit`, and opened on the line, end there.
@@ -142,7 +217,7 @@ Position LineBreaker::takeEnd(Position limit) {
         Level const level = levels.back();
         levels.pop_back();
         if (level.width > level.room) return cut({level.isFirst, {level.open, 0}, limit}, limit);
-        take(level.room - level.width, outerWidth(*items[level.open].style, level.width));
+        take(level.room - level.width, items.outerWidth(items[level.open], level.width));
     }
     return limit;
 }

@@ -7,6 +7,7 @@ Walk layOutRow(RowBox& box, LayoutPass pass) {
     Rect& content = box.dimensions.content;
     RightwardRow row = RightwardRow::begin(content);
     box.isSettled = true;
+    box.mayShrink = false;
     for (unsigned i = 0; i < box.children.count; ++i) {
         CellBox& cell = box[i];
         if (cell.isConstrained()) {
@@ -16,13 +17,14 @@ Walk layOutRow(RowBox& box, LayoutPass pass) {
             row.place(content, cell.dimensions, UncoveredMargin());
         }
         std::int32_t& width = cell.dimensions.content.width;
-        if (!pass.again || !cell.isSettled) {
+        if (pass == LayoutPass::First || !cell.isSettled) {
             co_await layOut(cell, box.dimensions, pass);
             cell.naturalWidth = width;
         }
         width = cell.isConstrained() ? cell.columnDimensions.content.width : cell.naturalWidth;
         row.add(content, cell.dimensions);
         box.isSettled = box.isSettled && cell.isSettled;
+        box.mayShrink = box.mayShrink || mayTakeOff(cell);
     }
 }
 

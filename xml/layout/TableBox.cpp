@@ -35,16 +35,18 @@ bool raiseColumns(TableBox& table) {
 }  // namespace
 
 Walk layOutTable(TableBox& table, LayoutPass pass) {
-    if (pass.again && table.isSettled) co_return;
+    if (pass == LayoutPass::Again && table.isSettled) co_return;
     table.dimensions.content.height = 0;
     releaseCells(table);
     bool areCellsSettled = true;
+    table.mayShrink = false;
     for (unsigned i = 0; i < table.children.count; ++i) {
         RowBox& row = table[i];
         row.dimensions.content.x = row.dimensions.edges().left;
         row.dimensions.content.y = 0;
         co_await layOut(row, table.dimensions, pass);
         areCellsSettled = areCellsSettled && row.isSettled;
+        table.mayShrink = table.mayShrink || mayTakeOff(row);
     }
     bool const areColumnsSettled = !raiseColumns(table);
     visitCells(table, [&](CellBox& cell, unsigned column) {
@@ -54,7 +56,7 @@ Walk layOutTable(TableBox& table, LayoutPass pass) {
     for (unsigned i = 0; i < table.children.count; ++i) {
         RowBox& row = table[i];
         stack.place(row.dimensions);
-        co_await layOut(row, table.dimensions, {.again = true});
+        co_await layOut(row, table.dimensions, LayoutPass::Again);
         stack.add(row.dimensions);
     }
     stack.finish();

@@ -27,7 +27,6 @@ Walk layOut(Box& child, Dimensions const& containing, LayoutPass pass) {
     if (isForeign(child)) {
         child.layout(containing);
         child.isSettled = false;
-        child.isMeasured = false;
         return {};
     }
     switch (child.type) {
@@ -47,11 +46,11 @@ Walk layOut(Box& child, Dimensions const& containing, LayoutPass pass) {
 }
 
 void BlockBox::layout(Dimensions const& containing) {
-    Walk::run(layOutBlock(*this, containing, {}));
+    Walk::run(layOutBlock(*this, containing, LayoutPass::First));
 }
-void LineBox::layout(Dimensions const&) { Walk::run(layOutLine(*this, {})); }
-void InlineBox::layout(Dimensions const&) { Walk::run(layOutInline(*this, {})); }
-void TableBox::layout(Dimensions const&) { Walk::run(layOutTable(*this, {})); }
-void RowBox::layout(Dimensions const&) { Walk::run(layOutRow(*this, {})); }
+void LineBox::layout(Dimensions const&) { Walk::run(layOutLine(*this, LayoutPass::First)); }
+void InlineBox::layout(Dimensions const&) { Walk::run(layOutInline(*this, LayoutPass::First)); }
+void TableBox::layout(Dimensions const&) { Walk::run(layOutTable(*this, LayoutPass::First)); }
+void RowBox::layout(Dimensions const&) { Walk::run(layOutRow(*this, LayoutPass::First)); }
 
 }  // namespace CLI::XML

@@ -6,16 +6,11 @@
 namespace CLI::XML {
 
 /// What one layout of a box may leave out.
-struct LayoutPass {
+enum class LayoutPass : bool {
+    First,  ///< Nothing.
     /// The box has been laid out before by the operation that this pass belongs to: what is settled
     /// stays as it is.
-    bool again = false;
-    /// The line is known to be too wide: its layout ends with the first box, at every depth, that
-    /// does not fit into `room` columns behind the content before it, since breaking looks no
-    /// further.
-    bool isLimited = false;
-    /// Where the pass is limited.
-    std::int64_t room = 0;
+    Again,
 };
 
 /// Lays out a child of a box, as a call of its `layout` does, but without recursion.
@@ -29,6 +24,10 @@ Walk layOutInline(Box& element, LayoutPass pass);
 Walk layOutTable(TableBox& table, LayoutPass pass);
 Walk layOutRow(RowBox& box, LayoutPass pass);
 ///@}
+
+/// Whether a box or one below it, as of the last layout, has an edge that takes something off the
+/// width of its parent.
+inline bool mayTakeOff(Box const& box) { return box.mayShrink || box.dimensions.hasNegativeSide(); }
 
 /// Whether a box is of a class that derives from the six of the library: its operations are called
 /// as any virtual operation is.
