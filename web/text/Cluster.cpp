@@ -3,6 +3,7 @@
 #include <utf8proc.h>
 
 #include <cstdint>
+#include <functional>
 
 #include "web/text/utf8.h"
 
@@ -29,10 +30,10 @@ bool isMark(utf8proc_property_t const& properties) {
 }
 
 /// Of a cluster's first code point: nothing of it is printed.
-bool isInvisible(char32_t c) {
-    utf8proc_property_t const& properties = unicode(c);
-    if (properties.boundclass == UTF8PROC_BOUNDCLASS_CONTROL)
+bool isInvisible(char32_t c, utf8proc_property_t const& properties) {
+    if (properties.boundclass == UTF8PROC_BOUNDCLASS_CONTROL) {
         return !isControl(c) && !isSeparator(c);
+    }
     bool const isFormat = properties.category == UTF8PROC_CATEGORY_CF &&
                           properties.boundclass != UTF8PROC_BOUNDCLASS_PREPEND;
     return isMark(properties) || isFormat;
@@ -40,58 +41,59 @@ bool isInvisible(char32_t c) {
 
 /// Behind a base: has a cell of its own, in which case the cluster has two. Halfwidth sound marks
 /// and some vowels are letters.
-bool takesRoom(char32_t c) {
-    if (c >= 0x1F3FB && c <= 0x1F3FF) return true;
-    utf8proc_property_t const& properties = unicode(c);
+bool takesRoom(char32_t c, utf8proc_property_t const& properties) {
     bool const follows = properties.boundclass == UTF8PROC_BOUNDCLASS_EXTEND ||
                          properties.boundclass == UTF8PROC_BOUNDCLASS_SPACINGMARK;
-    return properties.category == UTF8PROC_CATEGORY_MC ||
-           (follows && (properties.category == UTF8PROC_CATEGORY_LM ||
-                        properties.category == UTF8PROC_CATEGORY_LO));
+    bool const isLetter =
+        properties.category == UTF8PROC_CATEGORY_LM || properties.category == UTF8PROC_CATEGORY_LO;
+    bool const isModifier = c >= 0x1F3FB && c <= 0x1F3FF;
+    return properties.category == UTF8PROC_CATEGORY_MC || (follows && isLetter) || isModifier;
 }
 
+/// A code point, and what utf8proc knows of it.
+struct Character {
+    explicit Character(CodePoint c)
+        : value(c.value), length(c.length), properties(unicode(value)) {}
+
+    char32_t value;
+    unsigned length;
+    std::reference_wrapper<utf8proc_property_t const> properties;
+
+    auto kind() const { return properties.get().boundclass; }
+};
+
 /// Whether a cluster ends between two code points of it, the state being 0 at its beginning.
-bool isBoundary(char32_t before, char32_t behind, std::int32_t& state) {
-    // Below U+0300 only CR LF stay together; some above go before anything.
-    if (before < 0x300 && behind < 0x300) return before != '\r' || behind != '\n';
-    return utf8proc_grapheme_break_stateful(static_cast<std::int32_t>(before),
-                                            static_cast<std::int32_t>(behind), &state);
+bool isBoundary(Character const& before, Character const& behind, std::int32_t& state) {
+    bool const isApart =
+        behind.kind() == UTF8PROC_BOUNDCLASS_OTHER && before.kind() != UTF8PROC_BOUNDCLASS_PREPEND;
+    return isApart ||
+           utf8proc_grapheme_break_stateful(static_cast<std::int32_t>(before.value),
+                                            static_cast<std::int32_t>(behind.value), &state);
 }
 
 /// The width of a cluster, which takes its code points one after the other.
 class Width {
 public:
-    Width(char32_t first, Properties properties, bool isAmbiguousWide)
-        : ambiguousIsWide(isAmbiguousWide) {
-        takeBase(first, properties);
+    explicit Width(bool isAmbiguousWide) : ambiguousIsWide(isAmbiguousWide) {}
+
+    /// What is only a prefix is followed by the base.
+    void take(Character const& c, Properties properties) {
+        hasBase = c.kind() != UTF8PROC_BOUNDCLASS_PREPEND;
+        takesEmojiStyle = properties.takesEmojiStyle;
+        isWide |= properties.width == EastAsianWidth::wide ||
+                  (ambiguousIsWide && properties.width == EastAsianWidth::ambiguous) ||
+                  c.kind() == UTF8PROC_BOUNDCLASS_REGIONAL_INDICATOR;
     }
 
-    void take(char32_t next) {
-        if (hasBase) {
-            takeMark(next);
-        } else {
-            takeBase(next, propertiesOf(next));
-        }
+    void take(Character const& c) {
+        if (!hasBase) return take(c, propertiesOf(c.value));
+        isWide |= (c.value == s_emojiStyle && takesEmojiStyle) || takesRoom(c.value, c.properties);
+        takesEmojiStyle = false;
     }
 
     unsigned cells() const { return isWide ? 2 : 1; }
 
 private:
-    /// What is only a prefix is followed by the base.
-    void takeBase(char32_t c, Properties properties) {
-        auto const kind = unicode(c).boundclass;
-        hasBase = kind != UTF8PROC_BOUNDCLASS_PREPEND;
-        takesEmojiStyle = properties.takesEmojiStyle;
-        isWide |= properties.width == EastAsianWidth::wide ||
-                  (ambiguousIsWide && properties.width == EastAsianWidth::ambiguous) ||
-                  kind == UTF8PROC_BOUNDCLASS_REGIONAL_INDICATOR;
-    }
-
-    void takeMark(char32_t c) {
-        isWide |= (c == s_emojiStyle && takesEmojiStyle) || takesRoom(c);
-        takesEmojiStyle = false;
-    }
-
     bool ambiguousIsWide;
     bool hasBase = false;
     /// U+FE0F would follow the base directly.
@@ -129,21 +131,25 @@ void appendCluster(std::string& out, std::string_view cluster) {
 }  // namespace
 
 Cluster clusterAt(std::string_view text, std::size_t at, bool isAmbiguousWide) {
-    CodePoint const first = decodeAt(text, at);
-    char32_t const shown = isControl(first.value) ? s_replacementCharacter : first.value;
-    Cluster cluster = {at, at + first.length, 1, shown, propertiesOf(shown)};
-    if (isPlainAt(text, at)) return cluster;
-    Width width(shown, cluster.properties, isAmbiguousWide);
-    std::int32_t state = 0;
-    char32_t last = first.value;
-    while (cluster.end < text.size()) {
-        CodePoint const next = decodeAt(text, cluster.end);
-        if (isBoundary(last, next.value, state)) break;
-        width.take(next.value);
-        cluster.end += next.length;
-        last = next.value;
+    if (isPlainAt(text, at)) {
+        auto const c = static_cast<unsigned char>(text[at]);
+        return {at, at + 1, 1, c, 1, propertiesOf(c)};
     }
-    cluster.width = isInvisible(first.value) ? 0 : width.cells();
+    Character last(decodeAt(text, at));
+    char32_t const shown = isControl(last.value) ? s_replacementCharacter : last.value;
+    bool const isPrinted = !isInvisible(last.value, last.properties);
+    Cluster cluster = {at, at + last.length, 0, shown, last.length, propertiesOf(shown)};
+    Width width(isAmbiguousWide);
+    width.take(last, cluster.properties);
+    std::int32_t state = 0;
+    while (cluster.end < text.size()) {
+        Character const next(decodeAt(text, cluster.end));
+        if (isBoundary(last, next, state)) break;
+        width.take(next);
+        cluster.end += next.length;
+        last = next;
+    }
+    if (isPrinted) cluster.width = width.cells();
     return cluster;
 }
 

@@ -16,9 +16,11 @@ struct Cluster {
     /// Cells: 1 or 2, and 0 exactly where it is not printed: a soft hyphen, a format character, a
     /// mark or a joiner without a base.
     unsigned width = 0;
-    /// Its first code point, and what is known of it. Controls count as U+FFFD.
+    /// Its first code point, which has so many bytes, and what is known of it. Controls count as
+    /// U+FFFD.
     char32_t first = 0;
-    Properties properties;
+    unsigned firstLength = 0;
+    Properties properties = {};
 };
 
 /// The cluster that begins at byte `at` of a text that is longer. Marks that come first have no

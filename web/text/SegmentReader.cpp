@@ -22,7 +22,7 @@ constexpr char32_t s_softHyphen = 0xAD;
 
 bool isLineFeed(char byte) { return byte == '\n' || byte == '\r'; }
 
-bool isWhiteSpace(char byte) { return s_whiteSpace.find(byte) != std::string_view::npos; }
+bool isWhiteSpace(char byte) { return byte == ' ' || byte == '\t' || isLineFeed(byte); }
 
 bool isLetterOrNumber(char32_t c) {
     utf8proc_category_t const category = utf8proc_category(static_cast<std::int32_t>(c));
@@ -49,63 +49,84 @@ bool SegmentReader::next(Segment& segment) {
     return true;
 }
 
+std::string_view SegmentReader::takeWords() {
+    if (options.wordBreak == WordBreak::breakAll) return {};
+    std::size_t end = scanWords(text, at);
+    // A blank before other white space is part of that.
+    bool const isBehindBlank = end > at && text[end - 1] == ' ';
+    if (isBehindBlank && end < text.size() && isWhiteSpace(text[end])) --end;
+    std::string_view const words = text.substr(at, end - at);
+    std::size_t const lastBlank = words.rfind(' ');
+    if (lastBlank == std::string_view::npos || words.front() == ' ') return {};
+    at += lastBlank + 1;
+    return words.substr(0, lastBlank + 1);
+}
+
 /// Fails at what is neither white space nor printable ASCII.
 bool SegmentReader::readAscii(Segment& segment) const {
-    std::size_t i = scanPlain(text, segment.begin);
-    while (i < text.size() && isPrintableAscii(text[i])) {
-        // Around this character a line may break.
-        std::size_t found = 0;
-        if (i > segment.begin && breaksInAscii(text, i, false)) {
-            found = i;
-        } else if (i + 1 < text.size() && isPrintableAscii(text[i + 1]) &&
-                   breaksInAscii(text, i + 1, false)) {
-            found = i + 1;
-        }
-        if (found > 0) {
-            segment.end = segment.next = found;
-            segment.width = found - segment.begin;
-            segment.behind = Behind::opportunity;
-            return true;
-        }
-        i = scanPlain(text, i + 1);
+    auto const isWord = [&](std::size_t i) { return i < text.size() && isPrintableAscii(text[i]); };
+    std::size_t i = scanPlain(text, at);
+    // Around this character a line may break.
+    for (; isWord(i); i = scanPlain(text, i + 1)) {
+        bool const breaksBefore = i > at && breaksInAscii(text, i, false);
+        if (!breaksBefore && !(isWord(i + 1) && breaksInAscii(text, i + 1, false))) continue;
+        segment.end = segment.next = breaksBefore ? i : i + 1;
+        segment.width = segment.end - at;
+        segment.behind = Behind::opportunity;
+        return true;
     }
     if (i < text.size() && !isWhiteSpace(text[i])) return false;
     segment.end = i;
-    segment.width = i - segment.begin;
-    readBehind(segment);
+    segment.width = i - at;
+    if (i < text.size() && text[i] == ' ' && isWord(i + 1)) {
+        segment.next = i + 1;
+        segment.behind = Behind::space;
+    } else {
+        readBehind(segment);
+    }
     return true;
 }
 
 void SegmentReader::readClusters(Segment& segment) {
-    if (wordEnd < segment.begin || wordEnd == 0) {
-        wordEnd = std::min(text.find_first_of(s_whiteSpace, segment.begin), text.size());
-    }
-    std::string_view const word = text.substr(0, wordEnd);
-    LineBreaks breaks = breaksBehind(segment.begin);
     segment.isPlain = false;
-    Cluster before;
-    for (std::size_t i = segment.begin; i < wordEnd; i = before.end) {
-        Cluster const cluster = clusterAt(word, i, options.isAmbiguousWide);
-        if (i > segment.begin && mayBreakBetween(before, cluster, breaks)) {
-            bool const isHyphen = before.first == s_softHyphen;
+    bool const goesOn = following.begin == at && following.end > at;
+    Cluster cluster = goesOn ? following : startWord();
+    while (cluster.begin < wordEnd) {
+        segment.width += cluster.width;
+        take(cluster);
+        if (cluster.end == wordEnd) break;
+        following = clusterAt(text.substr(0, wordEnd), cluster.end, options.isAmbiguousWide);
+        if (mayBreakBetween(cluster, following)) {
+            bool const isHyphen = cluster.first == s_softHyphen;
             segment.behind = isHyphen ? Behind::softHyphen : Behind::opportunity;
-            segment.end = isHyphen ? before.begin : i;
-            segment.next = i;
+            segment.end = isHyphen ? cluster.begin : cluster.end;
+            segment.next = cluster.end;
             return;
         }
-        segment.width += cluster.width;
-        take(breaks, cluster);
-        before = cluster;
+        cluster = following;
     }
     segment.end = wordEnd;
     readBehind(segment);
 }
 
-bool SegmentReader::mayBreakBetween(Cluster const& before, Cluster const& behind,
-                                    LineBreaks const& breaks) const {
+/// The first cluster of what is read cluster by cluster; none where there is white space.
+Cluster SegmentReader::startWord() {
+    if (wordEnd <= at) {
+        wordEnd = at;
+        while (wordEnd < text.size() && !isWhiteSpace(text[wordEnd])) ++wordEnd;
+    }
+    if (wordEnd == at) return {.begin = at, .end = at};
+    Properties before = {.lineClass = LineClass::SP};
+    if (at > 0 && !isWhiteSpace(text[at - 1])) {
+        before = tailored(propertiesOf(decodeAt(text, startBefore(text, at)).value));
+    }
+    breaks = LineBreaks(before);
+    return clusterAt(text.substr(0, wordEnd), at, options.isAmbiguousWide);
+}
+
+bool SegmentReader::mayBreakBetween(Cluster const& before, Cluster const& behind) const {
     std::size_t const place = behind.begin;
-    bool const isBehindAscii = isPrintableAscii(text[place - 1]);
-    if (isBehindAscii && isPrintableAscii(text[place])) {
+    if (isPrintableAscii(text[place - 1]) && isPrintableAscii(text[place])) {
         return breaksInAscii(text, place, options.wordBreak == WordBreak::breakAll);
     }
     if (text[place - 1] == '-' && hyphensBeginWord(text, place)) return false;
@@ -113,20 +134,13 @@ bool SegmentReader::mayBreakBetween(Cluster const& before, Cluster const& behind
         isLetterOrNumber(behind.first)) {
         return false;
     }
-    std::string_view const rest = text.substr(place + decodeAt(text, place).length);
-    return breaks.mayBreakBefore(tailored(behind.properties), rest);
+    return breaks.mayBreakBefore(tailored(behind.properties),
+                                 text.substr(place + behind.firstLength));
 }
 
-LineBreaks SegmentReader::breaksBehind(std::size_t place) const {
-    bool const isStart = place == 0 || isWhiteSpace(text[place - 1]);
-    if (isStart) return LineBreaks({.lineClass = LineClass::SP});
-    return LineBreaks(tailored(propertiesOf(decodeAt(text, startBefore(text, place)).value)));
-}
-
-void SegmentReader::take(LineBreaks& breaks, Cluster const& cluster) const {
+void SegmentReader::take(Cluster const& cluster) {
     breaks.take(tailored(cluster.properties));
-    std::size_t i = cluster.begin + decodeAt(text, cluster.begin).length;
-    while (i < cluster.end) {
+    for (std::size_t i = cluster.begin + cluster.firstLength; i < cluster.end;) {
         CodePoint const c = decodeAt(text, i);
         breaks.take(tailored(propertiesOf(c.value)));
         i += c.length;

@@ -7,10 +7,15 @@ namespace galley::web {
 
 inline bool isPrintableAscii(char byte) { return byte > ' ' && byte <= '~'; }
 
-/// Whether a line may break before or behind `byte`, printable ASCII, where others are beside it,
-/// unless `word-break` is `break-all`: beside most it never does.
+/// Printable ASCII: where a line may break, one of these is before the place or behind it, unless
+/// `word-break` is `break-all`.
+inline constexpr std::string_view s_breaking = "(-<?[{";
+
 constexpr bool mayBreakAround(char byte) {
-    return std::string_view("(-<?[{").find(byte) != std::string_view::npos;
+    for (char const c : s_breaking) {
+        if (byte == c) return true;
+    }
+    return false;
 }
 
 /// Whether a line may break between the printable ASCII characters at `at - 1` and `at`, as in

@@ -1,6 +1,7 @@
 #include "web/text/properties.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace galley::web {
@@ -13,11 +14,37 @@ constexpr std::uint32_t s_ranges[] = {
 #include "web/text/properties.inc"
 };
 
+constexpr unsigned s_pageBits = 8;
+constexpr std::size_t s_pages = 0x110000 >> s_pageBits;
+
+constexpr std::uint32_t firstOf(std::uint32_t range) { return range >> 11; }
+
+/// For each page of code points the range that its first one is in, and one more for the end.
+constexpr auto s_pageRanges = [] {
+    std::array<std::uint16_t, s_pages + 1> ranges = {};
+    std::uint16_t range = 0;
+    for (std::uint32_t page = 0; page < s_pages; ++page) {
+        std::uint32_t const first = page << s_pageBits;
+        while (range + 1U < std::size(s_ranges) && firstOf(s_ranges[range + 1]) <= first) ++range;
+        ranges[page] = range;
+    }
+    ranges[s_pages] = range;
+    return ranges;
+}();
+
 }  // namespace
 
 Properties propertiesOf(char32_t codePoint) {
-    std::uint32_t const last = static_cast<std::uint32_t>(codePoint) << 11 | 0x7FF;
-    std::uint32_t const range = *std::prev(std::ranges::upper_bound(s_ranges, last));
+    std::size_t const page = codePoint >> s_pageBits;
+    std::uint32_t const* const first = s_ranges + s_pageRanges[page];
+    std::uint32_t const* const last = s_ranges + s_pageRanges[page + 1];
+    auto const isBefore = [](std::uint32_t one, std::uint32_t range) {
+        return one < firstOf(range);
+    };
+    // Most pages of ideographs and syllables are in one range.
+    std::uint32_t const range =
+        first == last ? *first
+                      : *std::prev(std::upper_bound(first + 1, last + 1, codePoint, isBefore));
     return {static_cast<LineClass>(range & 0x3F), static_cast<EastAsianWidth>(range >> 6 & 3),
             (range >> 8 & 1) != 0};
 }

@@ -1,7 +1,7 @@
 #include "web/text/utf8.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <array>
 
 namespace galley::web {
 
@@ -10,14 +10,14 @@ namespace {
 /// What the first byte of a character says of it.
 struct Lead {
     /// Bytes; 0 where no character begins so.
-    unsigned length;
+    unsigned char length = 0;
     /// What the second byte may be: this keeps out overlong forms, surrogates, and what is above
     /// U+10FFFF.
     unsigned char least = 0x80;
     unsigned char most = 0xBF;
 };
 
-Lead leadOf(unsigned char byte) {
+constexpr Lead leadOf(unsigned char byte) {
     if (byte < 0x80) return {1};
     if (byte < 0xC2) return {0};
     if (byte < 0xE0) return {2};
@@ -30,6 +30,13 @@ Lead leadOf(unsigned char byte) {
     return {0};
 }
 
+constexpr auto s_leads = [] {
+    std::array<Lead, 256> leads = {};
+    for (unsigned byte = 0; byte < 256; ++byte)
+        leads[byte] = leadOf(static_cast<unsigned char>(byte));
+    return leads;
+}();
+
 unsigned char byteAt(std::string_view text, std::size_t i) {
     return static_cast<unsigned char>(text[i]);
 }
@@ -38,7 +45,7 @@ unsigned char byteAt(std::string_view text, std::size_t i) {
 
 CodePoint decodeAt(std::string_view text, std::size_t at) {
     unsigned char const first = byteAt(text, at);
-    Lead lead = leadOf(first);
+    Lead lead = s_leads[first];
     if (lead.length == 1) return {first, 1, true};
     if (lead.length == 0) return {};
     // The first byte has as many leading ones as there are bytes, and then a zero.

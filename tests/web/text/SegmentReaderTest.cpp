@@ -226,6 +226,37 @@ TEST(Segments, ALongTextInAsciiIsReadAsItsPairs) {
     }
 }
 
+TEST(Segments, WordsAreWhatSegmentsWouldBe) {
+    std::mt19937 random(1);
+    std::string_view const some = "abcde.,01fgh     \n\t(-?\xC3\x81";
+    for (int round = 0; round < 20000; ++round) {
+        // Of plain words, or of anything.
+        std::size_t const kinds = round % 2 == 0 ? 14 : some.size();
+        std::string text;
+        for (std::size_t i = random() % 70; i > 0; --i) text += some[random() % kinds];
+        TextOptions const options = {.whiteSpace = static_cast<WhiteSpace>(random() % 3)};
+        SegmentReader bySegments(text, options);
+        SegmentReader byWords(text, options);
+        Segment expected;
+        Segment found;
+        for (;;) {
+            std::size_t const start = expected.next;
+            std::string_view const words = byWords.takeWords();
+            for (std::size_t i = 0; i < words.size(); i = expected.next - start) {
+                ASSERT_TRUE(bySegments.next(expected));
+                EXPECT_EQ(text.substr(expected.end, expected.next - expected.end), " ") << text;
+                EXPECT_TRUE(expected.isPlain && expected.width > 0) << text;
+            }
+            bool const isThere = bySegments.next(expected);
+            ASSERT_EQ(byWords.next(found), isThere) << text;
+            if (!isThere) break;
+            EXPECT_EQ(found.begin, expected.begin) << text;
+            EXPECT_EQ(found.next, expected.next) << text;
+            EXPECT_EQ(found.behind, expected.behind) << text;
+        }
+    }
+}
+
 TEST(Segments, CoverWhateverBytesThereAre) {
     std::mt19937 random(1);
     std::vector<std::string> const pieces = {
