@@ -44,7 +44,8 @@ std::size_t behindLineFeed(std::string_view text, std::size_t from) {
 bool SegmentReader::next(Segment& segment) {
     if (at == text.size()) return false;
     segment = {.begin = at};
-    if (options.wordBreak == WordBreak::breakAll || !readAscii(segment)) readClusters(segment);
+    bool const isByClusters = options.wordBreak == WordBreak::breakAll || !isAscii(text[at]);
+    if (isByClusters || !readAscii(segment)) readClusters(segment);
     at = segment.next;
     return true;
 }

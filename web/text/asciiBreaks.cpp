@@ -41,11 +41,12 @@ constexpr Pairs spread(AsciiPairs const (&rows)[Count]) {
 constexpr Pairs s_normal = spread(s_normalPairs);
 constexpr Pairs s_breakAll = spread(s_breakAllPairs);
 
-/// Every pair that breaks has one of those around which that may be.
+constexpr bool isBreaking(char c) { return s_breaking.find(c) != std::string_view::npos; }
+
 constexpr bool areAllNamed() {
     for (char before = '!'; before <= '~'; ++before) {
         for (char behind = '!'; behind <= '~'; ++behind) {
-            bool const isNamed = mayBreakAround(before) || mayBreakAround(behind);
+            bool const isNamed = isBreaking(before) || isBreaking(behind);
             if (has(s_normal, before, behind) && !isNamed) return false;
         }
     }

@@ -11,13 +11,6 @@ inline bool isPrintableAscii(char byte) { return byte > ' ' && byte <= '~'; }
 /// `word-break` is `break-all`.
 inline constexpr std::string_view s_breaking = "(-<?[{";
 
-constexpr bool mayBreakAround(char byte) {
-    for (char const c : s_breaking) {
-        if (byte == c) return true;
-    }
-    return false;
-}
-
 /// Whether a line may break between the printable ASCII characters at `at - 1` and `at`, as in
 /// Chromium, but never behind hyphens that begin a word.
 bool breaksInAscii(std::string_view text, std::size_t at, bool isBreakAll);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -32,7 +33,15 @@ inline unsigned firstOf(Mask mask) {
 }
 
 /// Printable ASCII around which no line breaks.
-inline bool isPlain(char byte) { return isPrintableAscii(byte) && !mayBreakAround(byte); }
+inline constexpr auto s_plain = [] {
+    std::array<bool, 256> arePlain = {};
+    for (char c = '!'; c <= '~'; ++c) {
+        arePlain[static_cast<unsigned char>(c)] = s_breaking.find(c) == std::string_view::npos;
+    }
+    return arePlain;
+}();
+
+inline bool isPlain(char byte) { return s_plain[static_cast<unsigned char>(byte)]; }
 
 inline Mask areNotPlain(Bytes bytes) {
     static_assert(s_breaking.size() == 6);
