@@ -36,7 +36,8 @@ struct Rule {
     Set behind;
 };
 
-/// What stays together whatever stands around it, in the order of the rules LB 6 to 30b.
+/// What stays together whatever stands around it, in the order of the rules LB 6 to 29. What is one
+/// cluster, as letters of a Hangul syllable are, is never asked about.
 constexpr Rule s_together[] = {
     {s_all & ~of(BK), of(BK, ZW)},
     {s_any, of(WJ, GL)},
@@ -56,11 +57,7 @@ constexpr Rule s_together[] = {
     {s_pictures | s_hangul, of(PO)},
     {of(PO), s_letters | of(NU)},
     {of(HY), of(NU)},
-    {of(JL), of(JL, JV, H2, H3)},
-    {of(JV, H2), of(JV, JT)},
-    {of(JT, H3), of(JT)},
     {of(IS), s_letters | of(NU)},
-    {of(EB), of(EM)},
 };
 
 constexpr auto s_behind = [] {

@@ -14,8 +14,8 @@ public:
     /// Behind a code point, or behind white space: class SP.
     explicit LineBreaks(Properties before) : last(before) {}
 
-    /// Whether a line may break between what was taken last and a code point; `behind` is the text
-    /// that follows that. The code point is no white space.
+    /// Whether a line may break between what was taken last and the first code point of the next
+    /// cluster; `behind` is the text that follows that. The code point is no white space.
     bool mayBreakBefore(Properties next, std::string_view behind) const;
 
     void take(Properties next);

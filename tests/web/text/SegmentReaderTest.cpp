@@ -110,6 +110,14 @@ TEST(Segments, EndWhereALineMayBreak) {
          "\U0001F600|\U0001F600|x|\U0001F468\u200D\U0001F469"},
         {"\U0001F1E9\U0001F1EA\U0001F1E9\U0001F1EA", "\U0001F1E9\U0001F1EA|\U0001F1E9\U0001F1EA"},
         {"\u2500\u2502 \u25CF a\u2192b", "\u2500\u2502_\u25CF_a\u2192b"},
+        // What only the surroundings tell.
+        {"z-0 (12)\u20AC (a)\u20AC 1\u300D\u20AC \u6F22\u300D\u20AC 1\u6F22)\u20AC",
+         "z-|0_(12)\u20AC_(a)|\u20AC_1\u300D\u20AC_\u6F22\u300D|\u20AC_1|\u6F22)|\u20AC"},
+        {"\u0663/\u0664 \u00E9/\u0664", "\u0663/\u0664_\u00E9/|\u0664"},
+        {"\u2010\u00E9 a\t\u2010\u00E9\u2010\u00E9", "\u2010\u00E9_a_\u2010\u00E9\u2010|\u00E9"},
+        {"\u20AC(1 \u20AC(\u0301\u0664 \u20AC(\u00E9",
+         "\u20AC(1_\u20AC(\u0301\u0664_\u20AC|(\u00E9"},
+        {"\u6F22\u202A\u3002\u202C\u6F22\u200D\u6F22", "\u6F22\u3002|\u6F22\u200D\u6F22"},
         // Used, never printed.
         {"a\u200Bb a\u2060-\u2060b", "a|b_a-b"},
         {"super\u00ADcali a\u00AD", "super-|cali_a"},
@@ -131,6 +139,7 @@ TEST(Segments, BreakAllWordsOrOnlyWhereMarksAre) {
         {WordBreak::breakAll, "abc1, (d) $5 x%", "a|b|c|1,_(d)_$5_x%"},
         {WordBreak::breakAll, "\u00E9t\u00E9! e\u0301a \u6F22\u3002",
          "\u00E9|t|\u00E9!_e\u0301|a_\u6F22\u3002"},
+        {WordBreak::breakAll, "\u05D0\u05D1", "\u05D0|\u05D1"},
         {WordBreak::breakAll, "--ab a\u00A0b", "--a|b_a b"},
     };
     for (auto const& [wordBreak, text, expected] : cases) {
@@ -234,7 +243,8 @@ TEST(Segments, WordsAreWhatSegmentsWouldBe) {
         std::size_t const kinds = round % 2 == 0 ? 14 : some.size();
         std::string text;
         for (std::size_t i = random() % 70; i > 0; --i) text += some[random() % kinds];
-        TextOptions const options = {.whiteSpace = static_cast<WhiteSpace>(random() % 3)};
+        TextOptions const options = {.whiteSpace = static_cast<WhiteSpace>(random() % 3),
+                                     .wordBreak = static_cast<WordBreak>(random() % 3)};
         SegmentReader bySegments(text, options);
         SegmentReader byWords(text, options);
         Segment expected;
