@@ -17,7 +17,7 @@ using WhiteSpace = TextOptions::WhiteSpace;
 using WordBreak = TextOptions::WordBreak;
 
 constexpr std::string_view s_whiteSpace = " \t\n\r";
-constexpr std::string_view s_zeroWidthSpace = "\u200B";
+constexpr char32_t s_zeroWidthSpace = 0x200B;
 constexpr char32_t s_softHyphen = 0xAD;
 
 bool isLineFeed(char byte) { return byte == '\n' || byte == '\r'; }
@@ -32,6 +32,14 @@ bool isLetterOrNumber(char32_t c) {
 
 std::size_t behindRun(std::string_view text, std::string_view characters, std::size_t from) {
     return std::min(text.find_first_not_of(characters, from), text.size());
+}
+
+/// Behind this cluster a line may break.
+void endBehind(Segment& segment, Cluster const& cluster) {
+    bool const isHyphen = cluster.first == s_softHyphen;
+    segment.behind = isHyphen ? Behind::softHyphen : Behind::opportunity;
+    segment.end = isHyphen ? cluster.begin : cluster.end;
+    segment.next = cluster.end;
 }
 
 /// Behind one line feed.
@@ -97,15 +105,12 @@ void SegmentReader::readClusters(Segment& segment) {
         take(cluster);
         if (cluster.end == wordEnd) break;
         following = clusterAt(text.substr(0, wordEnd), cluster.end, options.isAmbiguousWide);
-        if (mayBreakBetween(cluster, following)) {
-            bool const isHyphen = cluster.first == s_softHyphen;
-            segment.behind = isHyphen ? Behind::softHyphen : Behind::opportunity;
-            segment.end = isHyphen ? cluster.begin : cluster.end;
-            segment.next = cluster.end;
-            return;
-        }
+        if (mayBreakBetween(cluster, following)) return endBehind(segment, cluster);
         cluster = following;
     }
+    // What follows the text may begin a line behind one of these, and else only if it says so.
+    bool const isOpportunity = cluster.first == s_softHyphen || cluster.first == s_zeroWidthSpace;
+    if (cluster.end == text.size() && isOpportunity) return endBehind(segment, cluster);
     segment.end = wordEnd;
     readBehind(segment);
 }
@@ -173,8 +178,9 @@ void SegmentReader::readBehind(Segment& segment) const {
     }
     segment.next = hasLineFeed ? behindRun(text, s_whiteSpace, blanks) : blanks;
     // A line feed beside a place where words may be parted says no more than that.
-    bool const isBesideOpportunity = text.substr(0, segment.end).ends_with(s_zeroWidthSpace) ||
-                                     text.substr(segment.next).starts_with(s_zeroWidthSpace);
+    constexpr std::string_view zeroWidthSpace = "\u200B";
+    bool const isBesideOpportunity = text.substr(0, segment.end).ends_with(zeroWidthSpace) ||
+                                     text.substr(segment.next).starts_with(zeroWidthSpace);
     if (hasLineFeed && isBesideOpportunity) segment.behind = Behind::opportunity;
 }
 

@@ -28,7 +28,7 @@ struct TextOptions {
 struct Segment {
     enum class Behind : std::uint8_t {
         end,          ///< The text's end: a line breaks there only if what follows says so.
-        opportunity,  ///< A line may break, nothing is between this segment and the next one.
+        opportunity,  ///< A line may break, nothing is printed between this segment and the next.
         softHyphen,   ///< A line may break, and then ends with `-`, one more cell.
         space,        ///< White space that may be broken: one blank; if preserved, a blank a byte.
         tab,          ///< One tab, only if preserved.
@@ -44,8 +44,8 @@ struct Segment {
     /// Cells that the bytes take. 0 also where they are there but none is printed.
     std::size_t width = 0;
     Behind behind = Behind::end;
-    /// Printable ASCII: a cell a byte, printed as it is. Else `clusterAt` goes through it, and
-    /// `appendPrinted` prints it.
+    /// Printable ASCII: a cell a byte, printed as it is. Else `clusterAt`, given the text up to
+    /// `end`, goes through it, and `appendPrinted` prints it.
     bool isPlain = true;
 };
 
