@@ -29,7 +29,8 @@ Cluster clusterAt(std::string_view text, std::size_t at, bool isAmbiguousWide);
 
 /// Appends what a terminal is to print of a text: ill-formed parts and controls as U+FFFD, no-break
 /// spaces and separators of lines as blanks, without what is not printed. What is appended is
-/// well-formed, and takes as many cells as the clusters of the text.
+/// well-formed, and takes as many cells as the clusters of the text, unless what is not printed was
+/// between two halves of a flag or of a syllable.
 void appendPrinted(std::string& out, std::string_view text);
 
 }  // namespace galley::web

@@ -102,6 +102,8 @@ TEST(Segments, EndWhereALineMayBreak) {
         {"\u00E9t\u00E9-ci \u00E9/\u00E9?\u00E9", "\u00E9t\u00E9-|ci_\u00E9/|\u00E9?|\u00E9"},
         {"\u6F22\u201C\u5B57\u201D\u6F22 x\u00ABy\u00BB",
          "\u6F22|\u201C\u5B57\u201D|\u6F22_x\u00ABy\u00BB"},
+        {"\u6F22\u201Ca a\u201C\u6F22 a\u2028\u2028\u6F22",
+         "\u6F22\u201Ca_a\u201C\u6F22_a | |\u6F22"},
         {"\u20AC100 100\u20AC/\u00E9 \u6F22(1)", "\u20AC100_100\u20AC/|\u00E9_\u6F22|(1)"},
         {"\u0E20\u0E32\u0E29\u0E32\u0E44\u0E17\u0E22",
          "\u0E20\u0E32\u0E29\u0E32\u0E44\u0E17\u0E22"},
