@@ -34,6 +34,9 @@ public:
     /// takes bounded memory. In use are those of the open elements, and of what is not yet written.
     void letGo(std::span<Style const* const> inUse);
 
+    /// Styles that it owns.
+    std::size_t size() const { return styles.size(); }
+
 private:
     /// What a style depends on.
     struct Source {

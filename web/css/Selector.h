@@ -47,6 +47,9 @@ public:
     /// What is asked about the element itself.
     CompoundSelector const& subject() const { return compounds.front(); }
 
+    /// From the right to the left.
+    std::vector<CompoundSelector> const& all() const { return compounds; }
+
     /// Greater for what comes before others.
     unsigned specificity() const { return weight; }
 
