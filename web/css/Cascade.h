@@ -1,7 +1,9 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <span>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -13,8 +15,11 @@
 
 namespace galley::web {
 
-/// Computes the styles of one document's elements. Elements of the same parents' style that the
-/// same declarations apply to share theirs.
+/// Computes the styles of one document's elements.
+///
+/// Elements share a style if nothing can tell them apart: neither their names and attributes nor
+/// those of the elements around them, nor rules that ask for their places among siblings. So an
+/// element's style says for its children which rules match them, but for such rules.
 class Cascade {
 public:
     /// `defaults` is the sheet under all others, `authors` the others in their order. All of these
@@ -38,33 +43,38 @@ public:
     std::size_t size() const { return styles.size(); }
 
 private:
-    /// What a style depends on.
-    struct Source {
-        Style const* parent;
-        std::vector<Declarations const*> declared;
+    using DeclarationList = std::vector<Declarations const*>;
 
-        bool operator==(Source const&) const = default;
+    /// Elements that only their places among siblings tell apart.
+    struct Family {
+        RuleIndex::Rules matching;
+        /// Rules that match some of them.
+        RuleIndex::Rules placed;
+        /// Without such rules, the style of all.
+        Style const* style = nullptr;
+        /// With such rules, by what is declared.
+        std::map<DeclarationList, Style const*> styles;
     };
 
-    struct SourceHash {
-        std::size_t operator()(Source const& source) const;
-    };
-
-    /// Sets `source` for an element.
-    void collect(Element const& element);
+    Family& familyOf(Element const& element, Style const& parent);
+    Style const* placedStyle(Element const& element, Style const& parent, Family& family);
+    /// What is declared for an element by rules and by its attributes, in ascending order of
+    /// precedence. Sorts the rules.
+    DeclarationList collect(RuleIndex::Rules& matching) const;
+    Style const* addStyle(Style const& parent, DeclarationList const& declared);
 
     RuleIndex rules;
     AttributeReader attributes;
     /// Of the outermost element's parent, so to say.
     Style const initial;
     std::vector<std::unique_ptr<Style const>> styles;
-    /// Those of `styles` that can be shared. The declarations are the sheets' and the attributes'.
-    std::unordered_map<Source, Style const*, SourceHash> shared;
+    /// By all that tells elements apart, as bytes: addresses of the parent's style and of what the
+    /// attributes declare, and names.
+    std::unordered_map<std::string, Family> families;
 
-    /// Kept from one element to the next for their buffers.
-    Source source;
-    std::vector<IndexedRule> matching;
-    AttributeReader::Found declared;
+    /// Of the element at hand.
+    AttributeReader::Found ofAttributes;
+    std::string key;
 };
 
 }  // namespace galley::web

@@ -1,7 +1,5 @@
 #include "web/css/RuleIndex.h"
 
-#include <algorithm>
-
 namespace galley::web {
 
 namespace {
@@ -13,20 +11,6 @@ std::string_view nameIn(CompoundSelector const& compound, SimpleSelector::Kind k
     return {};
 }
 
-void addMatching(std::vector<IndexedRule> const& rules, Element const& element,
-                 std::vector<IndexedRule>& found) {
-    std::copy_if(rules.begin(), rules.end(), std::back_inserter(found),
-                 [&element](IndexedRule const& rule) { return rule.selector->matches(element); });
-}
-
-template <class RulesByName>
-void addNamed(RulesByName const& rules, std::string_view name, Element const& element,
-              std::vector<IndexedRule>& found) {
-    if (name.empty() || rules.empty()) return;
-    auto const named = rules.find(name);
-    if (named != rules.end()) addMatching(named->second, element, found);
-}
-
 }  // namespace
 
 void RuleIndex::add(Sheet const& sheet, Media const& media, Origin origin) {
@@ -36,22 +20,36 @@ void RuleIndex::add(Sheet const& sheet, Media const& media, Origin origin) {
             std::uint64_t const precedence = static_cast<std::uint64_t>(origin) << 62U |
                                              std::uint64_t{selector.specificity()} << 32U | count;
             rulesLike(selector.subject()).push_back({&selector, &rule->block, precedence});
+            for (CompoundSelector const& compound : selector.all()) {
+                for (SimpleSelector const& part : compound.parts) {
+                    if (part.kind == SimpleSelector::Kind::id) ids.insert(part.name);
+                }
+            }
         }
     }
 }
 
-void RuleIndex::find(Element const& element, std::vector<IndexedRule>& found) const {
-    found.clear();
-    addMatching(ofAll, element, found);
-    addNamed(byType, element.name, element, found);
-    addNamed(byId, valueOf(element, "id"), element, found);
+void RuleIndex::find(Element const& element, Rules& matching, Rules& placed) const {
+    auto const add = [&](Rules const& rules) {
+        for (IndexedRule const& rule : rules) {
+            if (rule.selector->asksForPlace()) {
+                placed.push_back(rule);
+            } else if (rule.selector->matches(element)) {
+                matching.push_back(rule);
+            }
+        }
+    };
+    auto const addNamed = [&add](RulesByName const& rules, std::string_view name) {
+        auto const named = rules.find(name);
+        if (named != rules.end()) add(named->second);
+    };
+    add(ofAll);
+    addNamed(byType, element.name);
+    addNamed(byId, valueOf(element, "id"));
     std::string_view classes = valueOf(element, "class");
     for (auto name = takeWord(classes); !name.empty(); name = takeWord(classes)) {
-        addNamed(byClass, name, element, found);
+        addNamed(byClass, name);
     }
-    std::sort(found.begin(), found.end(), [](IndexedRule const& a, IndexedRule const& b) {
-        return a.precedence < b.precedence;
-    });
 }
 
 RuleIndex::Rules& RuleIndex::rulesLike(CompoundSelector const& subject) {

@@ -33,6 +33,14 @@ unsigned specificityOf(std::vector<CompoundSelector> const& compounds) {
     return digit(ids) << 20 | digit(classes) << 10 | digit(types);
 }
 
+bool hasPart(std::vector<CompoundSelector> const& compounds, Kind kind) {
+    return std::any_of(
+        compounds.begin(), compounds.end(), [kind](CompoundSelector const& compound) {
+            return std::any_of(compound.parts.begin(), compound.parts.end(),
+                               [kind](SimpleSelector const& part) { return part.kind == kind; });
+        });
+}
+
 }  // namespace
 
 bool Nth::has(unsigned index) const {
@@ -63,7 +71,9 @@ bool CompoundSelector::matches(Element const& element) const {
 }
 
 Selector::Selector(std::vector<CompoundSelector> parts)
-    : compounds(std::move(parts)), weight(specificityOf(compounds)) {}
+    : compounds(std::move(parts)),
+      weight(specificityOf(compounds)),
+      isPlaced(hasPart(compounds, Kind::nthChild) || hasPart(compounds, Kind::lastChild)) {}
 
 bool Selector::matches(Element const& element) const {
     // Compounds between two descendant combinators are a chain from child to parent. That each is
@@ -88,14 +98,7 @@ bool Selector::matches(Element const& element) const {
     return true;
 }
 
-bool Selector::asksForLastChild() const {
-    auto const isLastChild = [](SimpleSelector const& part) {
-        return part.kind == Kind::lastChild;
-    };
-    return std::any_of(compounds.begin(), compounds.end(), [&](CompoundSelector const& compound) {
-        return std::any_of(compound.parts.begin(), compound.parts.end(), isLastChild);
-    });
-}
+bool Selector::asksForLastChild() const { return hasPart(compounds, Kind::lastChild); }
 
 std::string_view valueOf(Element const& element, std::string_view name) {
     auto const found =

@@ -53,11 +53,15 @@ public:
     /// Greater for what comes before others.
     unsigned specificity() const { return weight; }
 
+    /// Whether it depends on the place of the element, or of one around it, among its siblings.
+    bool asksForPlace() const { return isPlaced; }
+
     bool asksForLastChild() const;
 
 private:
     std::vector<CompoundSelector> compounds;
     unsigned weight = 0;
+    bool isPlaced = false;
 };
 
 /// The value of an attribute; empty without it.

@@ -49,7 +49,7 @@ SheetParser::Tokens SheetParser::parseRule(Tokens tokens, std::size_t condition)
         return {};
     }
     tokens = tokens.subspan(length);
-    std::vector<Selector> selectors = parseSelectors(prelude, problems);
+    std::vector<Selector> selectors = parseSelectors(prelude, tokens.front().offset, problems);
     Tokens const content = contentOf(tokens);
     if (!selectors.empty()) {
         sheet.rules.push_back({std::move(selectors), declarations.parse(content), condition});

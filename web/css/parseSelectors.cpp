@@ -194,27 +194,31 @@ private:
 
 }  // namespace
 
-std::vector<Selector> parseSelectors(Tokens tokens, std::vector<Problem>& problems) {
+std::vector<Selector> parseSelectors(Tokens tokens, std::size_t end,
+                                     std::vector<Problem>& problems) {
+    using Outcome = SelectorParser::Outcome;
     std::vector<Selector> selectors;
     for (bool isLast = false; !isLast;) {
         std::size_t const length = lengthBefore(tokens, Kind::comma);
         isLast = length == tokens.size();
+        std::size_t const behind = isLast ? end : tokens[length].offset;
         Tokens const part = trimmed(tokens.first(length));
-        Token const* const place = !part.empty()     ? &part[0]
-                                   : !tokens.empty() ? &tokens[0]
-                                                     : nullptr;
-        std::size_t const offset = place == nullptr ? 0 : place->offset;
-        SelectorParser parser(part);
-        auto const outcome = parser.parse();
-        if (outcome == SelectorParser::Outcome::known) {
-            selectors.push_back(parser.take());
-        } else if (outcome == SelectorParser::Outcome::unknown) {
-            warn(problems, offset, "selector " + quoted(excerpt(part)) + " has no effect");
-        } else {
-            warn(problems, offset, quoted(excerpt(part)) + " is no selector");
+        if (!isLast) tokens = tokens.subspan(length + 1);
+        if (part.empty()) {
+            warn(problems, behind, "missing selector");
             return {};
         }
-        if (!isLast) tokens = tokens.subspan(length + 1);
+        SelectorParser parser(part);
+        Outcome const outcome = parser.parse();
+        if (outcome == Outcome::known) {
+            selectors.push_back(parser.take());
+            continue;
+        }
+        std::string const name = quoted(excerpt(part));
+        bool const isWrong = outcome == Outcome::wrong;
+        warn(problems, part.front().offset,
+             isWrong ? name + " is no selector" : "selector " + name + " has no effect");
+        if (isWrong) return {};
     }
     return selectors;
 }

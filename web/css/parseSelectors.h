@@ -10,8 +10,10 @@
 namespace galley::web {
 
 /// Reads the selectors before the braces of a rule. None of them stands where one is no selector;
-/// one of a kind that is not known here is left out alone. Both are warned about.
-std::vector<Selector> parseSelectors(std::span<Token const> tokens, std::vector<Problem>& problems);
+/// one of a kind that is not known here is left out alone. Both are warned about. `end` is where
+/// the braces begin in the source.
+std::vector<Selector> parseSelectors(std::span<Token const> tokens, std::size_t end,
+                                     std::vector<Problem>& problems);
 
 /// `odd`, `even`, or `an+b` as its tokens say it; false where they say something else.
 bool parseNth(std::span<Token const> tokens, Nth& nth);

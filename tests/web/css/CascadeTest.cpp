@@ -133,21 +133,29 @@ TEST(Cascade, TakesAttributesForDeclarations) {
     }
 }
 
-TEST(Cascade, SharesStylesOfTheSameDeclarations) {
-    Sheet const sheet = parsed(".a{color:red}.a .b{color:blue}p:first-child{margin:1}");
+TEST(Cascade, SharesStylesOfElementsThatNothingTellsApart) {
+    Sheet const sheet = parsed(".a p{color:red}p:nth-child(2n){margin:1}#y{color:blue}");
     Sheet const* const sheets[] = {&sheet};
     std::vector<Problem> problems;
     Cascade cascade(Sheet(), sheets, Media(), problems);
     Tree tree(
-        "<div><p class=\"a\"/><p class=\"a\"/><p class=\" a\"/><p class=\"b\" style=\"width:1\"/>"
-        "<p style=\"width:1\"/><p/></div>");
+        "<div><p/><p/><p id=\"x\"/><p/><p id=\"y\"/>"
+        "<b class=\"c\"/><b/><b style=\"width:1\"/><b style=\"width:1\"/></div>");
     tree.styleWith(cascade);
     std::vector<Style const*> styles;
     for (Element const& element : tree.elements()) styles.push_back(element.style);
-    EXPECT_NE(styles[1], styles[2]) << "the first child has a margin";
-    EXPECT_EQ(styles[2], styles[3]);
-    EXPECT_EQ(styles[4], styles[5]);
-    EXPECT_EQ(std::set(styles.begin(), styles.end()).size(), 5U);
+    EXPECT_NE(styles[1], styles[2]);
+    EXPECT_EQ(styles[1], styles[3]) << "no rule asks for x";
+    EXPECT_EQ(styles[2], styles[4]);
+    EXPECT_EQ(styles[8], styles[9]);
+    EXPECT_EQ(std::set(styles.begin(), styles.end()).size(), 7U);
+}
+
+TEST(Cascade, TellsEqualStylesOfDifferentElementsApart) {
+    EXPECT_EQ(styleOf("", {".a p{color:red}"}, "<i><b/><b class=\"a\"><p id=\"x\"/></b></i>"),
+              "colour=palette 1;");
+    EXPECT_EQ(styleOf("", {"b:last-child p{color:red}"}, "<i><b><p/></b><b><p id=\"x\"/></b></i>"),
+              "colour=palette 1;");
 }
 
 TEST(Cascade, KeepsBoundedMemoryForADocumentWithoutAnEnd) {
