@@ -10,8 +10,6 @@ struct Colour {
         /// The terminal's own for text, or for its background.
         terminal,
         transparent,
-        /// That of the text, in declarations. Computed styles have none of it.
-        current,
         /// One of the terminal's 16: `red` is its number, from black to white and on to the bright.
         palette,
         rgb,
@@ -21,8 +19,12 @@ struct Colour {
     std::uint8_t red = 0;
     std::uint8_t green = 0;
     std::uint8_t blue = 0;
+    /// Whether it was declared as that of the text, which it is in computed styles. An element that
+    /// inherits it has that of its own text.
+    bool isCurrent = false;
 
-    static constexpr Colour ofPalette(std::uint8_t number) { return {Kind::palette, number, 0, 0}; }
+    static constexpr Colour ofPalette(std::uint8_t number) { return {Kind::palette, number}; }
+    static constexpr Colour current() { return {Kind::terminal, 0, 0, 0, true}; }
     static constexpr Colour rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
         return {Kind::rgb, red, green, blue};
     }

@@ -10,9 +10,9 @@ struct Problem {
     /// A warning leaves a page, an error none.
     enum class Kind { error, warning };
 
-    Kind kind;
+    Kind kind = Kind::warning;
     /// Bytes from the start of the source.
-    std::size_t offset;
+    std::size_t offset = 0;
     /// Names what it is about in quotes, as the source has it.
     std::string message;
 

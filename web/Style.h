@@ -28,14 +28,15 @@ struct Length {
 
 template <class T>
 struct Edges {
-    T left;
-    T right;
-    T top;
-    T bottom;
+    T left = {};
+    T right = {};
+    T top = {};
+    T bottom = {};
 
     bool operator==(Edges const&) const = default;
 };
 
+/// The first two are no line.
 enum class LineKind : std::uint8_t { none, hidden, solid, twofold, dashed, dotted, text };
 enum class Thickness : std::uint8_t { none, thin, thick };
 
@@ -50,12 +51,11 @@ struct Line {
 
 struct Border {
     Line line;
-    /// None in computed styles where the kind is `none` or `hidden`.
     Thickness thickness = Thickness::thin;
-    Colour colour = {Colour::Kind::current};
+    Colour colour = Colour::current();
 
     /// Whether it takes a cell.
-    bool isThere() const { return thickness != Thickness::none; }
+    bool isThere() const { return line.kind > LineKind::hidden && thickness != Thickness::none; }
     bool operator==(Border const&) const = default;
 };
 
@@ -83,8 +83,6 @@ enum class WordBreak : std::uint8_t { normal, keepAll, breakAll };
 enum class MarkerPosition : std::uint8_t { outside, inside };
 enum class CaptionSide : std::uint8_t { top, bottom };
 enum class Visibility : std::uint8_t { visible, hidden, collapse };
-/// The last two are declared only: computed, they are one of the first three.
-enum class FontWeight : std::uint8_t { faint, normal, bold, lighter, bolder };
 
 enum class MarkerKind : std::uint8_t {
     none,
@@ -109,6 +107,21 @@ struct Marker {
     bool operator==(Marker const&) const = default;
 };
 
+/// From 1 to 1000.
+struct FontWeight {
+    std::uint16_t value = 400;
+
+    /// Declared only, for what depends on the parent's.
+    static constexpr FontWeight lighter() { return {0}; }
+    static constexpr FontWeight bolder() { return {1001}; }
+
+    /// Thinner than what CSS calls normal by a face or more.
+    bool isFaint() const { return value <= 300; }
+    /// From where on fonts without a bold face get strokes of double width.
+    bool isBold() const { return value >= 600; }
+    bool operator==(FontWeight const&) const = default;
+};
+
 struct BorderSpacing {
     std::int32_t across = 0;
     std::int32_t down = 0;
@@ -127,7 +140,7 @@ struct Decoration {
 /// The properties that an element has from its parent where nothing is declared.
 struct InheritedStyle {
     Colour colour;
-    FontWeight fontWeight = FontWeight::normal;
+    FontWeight fontWeight;
     bool isItalic = false;
     TextAlign textAlign = TextAlign::left;
     TextTransform textTransform = TextTransform::none;

@@ -40,7 +40,7 @@ private:
     struct Condition {
         MediaList list;
         /// Of the rule around it, as in `Rule`. It comes before.
-        std::size_t outer;
+        std::size_t outer = 0;
     };
 
     std::vector<Rule> rules;

@@ -34,7 +34,8 @@ double toNumber(std::string_view digits) {
         std::from_chars(digits.data(), digits.data() + digits.length(), number);
     // As large as that, or as small: an exponent tells.
     if (fault == std::errc::result_out_of_range) {
-        bool const isTiny = digits.find("e-") != digits.npos || digits.find("E-") != digits.npos;
+        bool const isTiny = digits.find("e-") != std::string_view::npos ||
+                            digits.find("E-") != std::string_view::npos;
         number = isTiny ? 0 : std::numeric_limits<double>::max();
     }
     return isNegative ? -number : number;
@@ -189,8 +190,8 @@ void Tokenizer::readEscape(std::string& text) {
 bool Tokenizer::skipComment() {
     if (!skip("/*")) return false;
     std::size_t const end = source.find("*/", position);
-    if (end == source.npos) commentStart = position - 2;
-    position = end == source.npos ? source.length() : end + 2;
+    if (end == std::string_view::npos) commentStart = position - 2;
+    position = end == std::string_view::npos ? source.length() : end + 2;
     return true;
 }
 

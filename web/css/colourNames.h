@@ -26,7 +26,7 @@ constexpr Keyword<Colour> s_colourNames[] = {
     {"bright-magenta", Colour::ofPalette(13)},
     {"bright-cyan", Colour::ofPalette(14)},
     {"bright-white", Colour::ofPalette(15)},
-    {"currentcolor", {Colour::Kind::current}},
+    {"currentcolor", Colour::current()},
     {"transparent", {Colour::Kind::transparent}},
     {"canvastext", {}},
     {"canvas", {}},

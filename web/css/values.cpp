@@ -1,6 +1,6 @@
 #include "web/css/values.h"
 
-#include <algorithm>
+#include <cmath>
 
 #include "web/css/keywords.h"
 
@@ -108,16 +108,11 @@ constexpr Keyword<bool> s_tableLayouts[] = {{"auto", false}, {"fixed", true}};
 constexpr Keyword<bool> s_fontStyles[] = {{"normal", false}, {"italic", true}, {"oblique", true}};
 
 constexpr Keyword<FontWeight> s_fontWeights[] = {
-    {"normal", FontWeight::normal},
-    {"bold", FontWeight::bold},
-    {"lighter", FontWeight::lighter},
-    {"bolder", FontWeight::bolder},
+    {"normal", {400}},
+    {"bold", {700}},
+    {"lighter", FontWeight::lighter()},
+    {"bolder", FontWeight::bolder()},
 };
-
-/// The last that is thin, and the first that is shown with strokes of double width where a font has
-/// no bold face of its own.
-constexpr double s_lastFaint = 300;
-constexpr double s_firstBold = 600;
 
 constexpr Keyword<Decoration> s_decorationLines[] = {
     {"underline", {true, false}},
@@ -191,10 +186,9 @@ bool readFontWeight(ValueReader& reader, FontWeight& weight) {
     if (readKeyword<s_fontWeights>(reader, weight)) return true;
     if (!reader.isNext(Kind::number)) return false;
     double const number = reader.take().number;
-    weight = number <= s_lastFaint   ? FontWeight::faint
-             : number >= s_firstBold ? FontWeight::bold
-                                     : FontWeight::normal;
-    return number >= 1 && number <= 1000;
+    if (!(number >= 1 && number <= 1000)) return false;
+    weight = {static_cast<std::uint16_t>(std::lround(number))};
+    return true;
 }
 
 bool readDecorationLine(ValueReader& reader, Decoration& decoration) {

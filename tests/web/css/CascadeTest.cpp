@@ -79,19 +79,21 @@ TEST(Cascade, HandsDownWhatIsInherited) {
              {"div{list-style:inside square}p{list-style:unset}", "marker=3;marker-position=1;"},
              {"div{color:red}p{color:currentcolor}", "colour=palette 1;"},
              {"div{color:red;border-left:solid}p{color:blue;border-left:inherit}",
-              "colour=palette 4;border-left=solid/thin/palette 1;"},
+              "colour=palette 4;border-left=solid/thin/palette 4;"},
              {"div{border-left:none thick}p{border-left-width:inherit;border-left-style:solid}",
-              "border-left=solid/none/terminal;"},
+              "border-left=solid/thick/terminal;"},
              {"div{border:solid}p{border-color:lime;border:inherit;border-left-color:red}",
               "border-left=solid/thin/palette 1;border-right=solid/thin/terminal;"
               "border-top=solid/thin/terminal;border-bottom=solid/thin/terminal;"},
              {"div{text-decoration:underline}p{text-decoration:none}", "drawn=underlined;"},
              {"div{text-decoration:underline}p{text-decoration:line-through}",
               "drawn=underlinedstruck;"},
-             {"p{font-weight:lighter}", "weight=0;"},
+             {"p{font-weight:lighter}", "weight=100;"},
+             {"div{font-weight:900}p{font-weight:lighter}", "weight=700;"},
+             {"div{font-weight:bold}p{font-weight:bolder}", "weight=900;"},
              {"div{font-weight:bold}p{font-weight:lighter}", ""},
              {"div{font-weight:lighter}p{font-weight:bolder}", ""},
-             {"div{font-weight:bolder}", "weight=2;"},
+             {"div{font-weight:bolder}", "weight=700;"},
          }) {
         EXPECT_EQ(styleOf("", {c.sheet}, "<div><p id=\"x\"/></div>"), c.style) << c.sheet;
     }

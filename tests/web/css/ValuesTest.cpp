@@ -100,7 +100,7 @@ TEST(CssValues, BordersAreThereWithAStyleAndAWidth) {
         {"border-left:1ch solid", "border-left=solid/thin/terminal;", ""},
         {"border-left:0 solid", "border-left=solid/none/terminal;", ""},
         {"border-left:3px", "", ""},
-        {"border-left:hidden", "border-left=hidden/none/terminal;", ""},
+        {"border-left:hidden", "border-left=hidden/thin/terminal;", ""},
         {"border-left:\"| \" blue", "border-left=text| /thin/palette 4;", ""},
         {"border-left:'\\1b[2J'", "border-left=text\xEF\xBF\xBD[2J/thin/terminal;", ""},
         {"border-left:'\\9b\x7F\\A'",
@@ -167,8 +167,8 @@ TEST(CssValues, WordsOfOtherLayoutsStandInTheFlow) {
 
 TEST(CssValues, TextIsAsItsPropertiesSay) {
     check({
-        {"font-weight:600;font-style:oblique", "weight=2;italic=1;", ""},
-        {"font-weight:300", "weight=0;", ""},
+        {"font-weight:600;font-style:oblique", "weight=600;italic=1;", ""},
+        {"font-weight:300", "weight=300;", ""},
         {"font-weight:0", "", "14 '0' is no value of 'font-weight'\n"},
         {"text-align:center;text-indent:2em", "align=2;indent=4;", ""},
         {"white-space:pre-wrap;overflow-wrap:anywhere;word-break:keep-all",

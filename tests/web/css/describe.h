@@ -22,8 +22,6 @@ inline std::string textOf(Colour const& colour) {
             return "terminal";
         case Colour::Kind::transparent:
             return "transparent";
-        case Colour::Kind::current:
-            return "current";
         case Colour::Kind::palette:
             return "palette " + std::to_string(colour.red);
         case Colour::Kind::rgb:
@@ -54,6 +52,8 @@ inline std::string textOf(Decoration const& decoration) {
            (decoration.isStruckThrough ? "struck" : "");
 }
 
+inline std::string textOf(FontWeight const& weight) { return std::to_string(weight.value); }
+
 template <class T>
 std::string textOf(T const& value) {
     return std::to_string(static_cast<int>(value));
@@ -65,8 +65,8 @@ inline std::string describe(Style const& style) {
     Style initial;
     for (Border* const side : {&initial.border.left, &initial.border.right, &initial.border.top,
                                &initial.border.bottom}) {
-        side->thickness = Thickness::none;
         side->colour = style.colour;
+        side->colour.isCurrent = true;
     }
     std::string text;
     auto const add = [&text](std::string_view name, auto const& value, auto const& otherwise) {
