@@ -82,20 +82,40 @@ bool readFeature(ValueReader& reader, MediaQuery& query) {
     return true;
 }
 
-bool readQuery(ValueReader reader, MediaQuery& query) {
+/// Words that are no types.
+constexpr Keyword<bool> s_reserved[] = {{"not", true}, {"only", true}, {"and", true}, {"or", true}};
+
+enum class Outcome {
+    known,
+    /// A query for a type that nothing is of.
+    unknown,
+    wrong,
+};
+
+/// Reads a type, which must be there.
+Outcome readType(ValueReader& reader, MediaQuery& query) {
+    if (readKeyword<s_types>(reader, query.isForType)) return Outcome::known;
+    query.isForType = false;
+    return findWord(s_reserved, reader.take().text) != nullptr ? Outcome::wrong : Outcome::unknown;
+}
+
+Outcome readQuery(ValueReader reader, MediaQuery& query) {
+    auto outcome = Outcome::known;
     query.isNegated = reader.takeWord("not");
-    bool const hasWord = query.isNegated || reader.takeWord("only");
+    bool const needsType = !query.isNegated && reader.takeWord("only");
     if (reader.isNext(Kind::identifier)) {
-        if (!readKeyword<s_types>(reader, query.isForType)) return false;
-        if (reader.atEnd()) return true;
-        if (!reader.takeWord("and")) return false;
-    } else if (hasWord && !query.isNegated) {
-        return false;
+        outcome = readType(reader, query);
+        if (reader.atEnd()) return outcome;
+        if (!reader.takeWord("and")) return Outcome::wrong;
+    } else if (needsType) {
+        return Outcome::wrong;
     }
     do {
-        if (!reader.take(Kind::openParenthesis) || !readFeature(reader, query)) return false;
+        if (!reader.take(Kind::openParenthesis) || !readFeature(reader, query)) {
+            return Outcome::wrong;
+        }
     } while (reader.takeWord("and"));
-    return reader.atEnd();
+    return reader.atEnd() ? outcome : Outcome::wrong;
 }
 
 }  // namespace
@@ -115,11 +135,12 @@ MediaList MediaList::parse(Tokens tokens, std::vector<Problem>& problems) {
         std::size_t const length = lengthBefore(tokens, Kind::comma);
         Tokens const part = trimmed(tokens.first(length));
         MediaQuery query;
-        if (!readQuery(ValueReader(part, "@media", problems), query)) {
+        Outcome const outcome = readQuery(ValueReader(part, "@media", problems), query);
+        if (outcome != Outcome::known) {
             std::size_t const offset = (part.empty() ? tokens : part).front().offset;
             warn(problems, offset, "unknown media query " + quoted(excerpt(part)));
-            query = {false, false, {}};
         }
+        if (outcome == Outcome::wrong) query = {false, false, {}};
         list.queries.push_back(std::move(query));
         tokens = tokens.subspan(std::min(length + 1, tokens.size()));
     }

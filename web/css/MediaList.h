@@ -29,7 +29,7 @@ struct MediaFeature {
 /// Holds if all of it does.
 struct MediaQuery {
     bool isNegated = false;
-    /// Whether the type is ours. An unknown query is for no type.
+    /// Whether the type is ours. A query that is wrong is for no type.
     bool isForType = true;
     std::vector<MediaFeature> features;
 
@@ -39,8 +39,8 @@ struct MediaQuery {
 /// The condition of an `@media` rule. It holds if one of its queries does, or if there are none.
 class MediaList {
 public:
-    /// Reads what is before the braces. A query that is wrong or unknown holds for nothing, with a
-    /// warning.
+    /// Reads what is before the braces. A query that is wrong holds for nothing, with a warning, and
+    /// nothing is of a type that is not known.
     static MediaList parse(std::span<Token const> tokens, std::vector<Problem>& problems);
 
     bool matches(Media const& media) const;

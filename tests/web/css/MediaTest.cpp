@@ -53,11 +53,19 @@ TEST(CssMedia, AsksForColours) {
     }
 }
 
+TEST(CssMedia, NothingIsOfATypeThatIsUnknown) {
+    std::vector<Problem> problems;
+    Sheet::parse("@media not scren{}", problems);
+    EXPECT_EQ(textOf(problems), "7 unknown media query 'not scren'\n");
+    EXPECT_TRUE(holds("not scren", {}));
+    EXPECT_TRUE(holds("not print", {}));
+}
+
 TEST(CssMedia, WhatIsUnknownHoldsForNothing) {
     for (std::string const query :
          {"scren", "(hover)", "(min-width)", "(min-width:1vw)", "screen (color)", "(color:dark)",
-          "not", "only (color)", "(color) or (width)", "not scren", "(prefers-color-scheme:red)",
-          "screen and"}) {
+          "not", "only (color)", "(color) or (width)", "not and", "not (hover)",
+          "(prefers-color-scheme:red)", "screen and"}) {
         std::vector<Problem> problems;
         Sheet::parse("@media " + query + "{p{color:red}}", problems);
         EXPECT_EQ(textOf(problems), "7 unknown media query '" + query + "'\n");
