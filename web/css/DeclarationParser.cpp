@@ -27,8 +27,9 @@ bool takeImportant(Tokens& value) {
 /// are behind it.
 std::size_t lengthOfItem(Tokens tokens) {
     std::size_t const length = lengthBefore(tokens, Kind::semicolon);
-    std::size_t const brace = lengthBefore(tokens, Kind::openBrace);
-    if (brace >= length) return length;
+    // Looking farther for every declaration would take quadratic time.
+    std::size_t const brace = lengthBefore(tokens.first(length), Kind::openBrace);
+    if (brace == length) return length;
     return std::min(brace + tokens[brace].extent, tokens.size());
 }
 

@@ -39,8 +39,8 @@ struct MediaQuery {
 /// The condition of an `@media` rule. It holds if one of its queries does, or if there are none.
 class MediaList {
 public:
-    /// Reads what is before the braces. A query that is wrong holds for nothing, with a warning, and
-    /// nothing is of a type that is not known.
+    /// Reads what is before the braces. A query that is wrong holds for nothing, with a warning,
+    /// and nothing is of a type that is not known.
     static MediaList parse(std::span<Token const> tokens, std::vector<Problem>& problems);
 
     bool matches(Media const& media) const;

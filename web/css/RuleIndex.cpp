@@ -1,5 +1,8 @@
 #include "web/css/RuleIndex.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace galley::web {
 
 namespace {
@@ -46,10 +49,20 @@ void RuleIndex::find(Element const& element, Rules& matching, Rules& placed) con
     add(ofAll);
     addNamed(byType, element.name);
     addNamed(byId, valueOf(element, "id"));
+    for (Rules const* const ofClass : rulesOfClasses(element)) add(*ofClass);
+}
+
+std::vector<RuleIndex::Rules const*> RuleIndex::rulesOfClasses(Element const& element) const {
+    std::vector<Rules const*> found;
     std::string_view classes = valueOf(element, "class");
     for (auto name = takeWord(classes); !name.empty(); name = takeWord(classes)) {
-        addNamed(byClass, name);
+        auto const named = byClass.find(name);
+        if (named != byClass.end()) found.push_back(&named->second);
     }
+    // A class may be there any number of times.
+    std::sort(found.begin(), found.end(), std::less<>());
+    found.erase(std::unique(found.begin(), found.end()), found.end());
+    return found;
 }
 
 RuleIndex::Rules& RuleIndex::rulesLike(CompoundSelector const& subject) {

@@ -16,6 +16,16 @@ using Kind = Token::Kind;
 /// Rules in rules in rules, with one in each, would otherwise take the whole stack.
 constexpr unsigned s_deepest = 32;
 
+/// Tokens of an at-rule before its block or its semicolon.
+std::size_t lengthOfPrelude(std::span<Token const> tokens) {
+    std::size_t i = 0;
+    while (i < tokens.size() && tokens[i].kind != Kind::semicolon &&
+           tokens[i].kind != Kind::openBrace) {
+        i += tokens[i].extent;
+    }
+    return std::min(i, tokens.size());
+}
+
 }  // namespace
 
 Sheet SheetParser::parse(std::string_view text) {
@@ -59,19 +69,18 @@ SheetParser::Tokens SheetParser::parseRule(Tokens tokens, std::size_t condition)
 
 SheetParser::Tokens SheetParser::parseAtRule(Tokens tokens, std::size_t condition, unsigned depth) {
     Token const& name = tokens.front();
-    std::size_t const end = lengthBefore(tokens, Kind::semicolon);
-    std::size_t const brace = lengthBefore(tokens, Kind::openBrace);
-    bool const hasBlock = brace < end;
+    std::size_t const end = lengthOfPrelude(tokens);
+    bool const hasBlock = end < tokens.size() && tokens[end].kind == Kind::openBrace;
     if (isSameWord(name.text, "media")) {
         if (hasBlock) {
-            parseMedia(tokens.subspan(1, brace - 1), tokens.subspan(brace), condition, depth);
+            parseMedia(tokens.subspan(1, end - 1), tokens.subspan(end), condition, depth);
         } else {
             warn(problems, name.offset, "missing '{' behind " + quoted(name.source));
         }
     } else if (!isSameWord(name.text, "charset")) {
         warn(problems, name.offset, "unknown at-rule " + quoted(name.source));
     }
-    std::size_t const length = hasBlock ? brace + tokens[brace].extent : end + 1;
+    std::size_t const length = hasBlock ? end + tokens[end].extent : end + 1;
     return tokens.subspan(std::min(length, tokens.size()));
 }
 

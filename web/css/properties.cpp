@@ -6,6 +6,7 @@
 #include "web/css/keywords.h"
 #include "web/css/lengths.h"
 #include "web/css/shorthands.h"
+#include "web/css/valueWords.h"
 #include "web/css/values.h"
 
 namespace galley::web {
@@ -34,6 +35,15 @@ constexpr Property property(std::string_view name) {
             s_isInherited<path...>};
 }
 
+/// The same for one of the words in a table.
+template <auto const& table, auto field>
+constexpr Property ofWords(std::string_view name) {
+    return {
+        name,
+        [](ValueReader& reader, Style& style) { return readKeyword<table>(reader, style.*field); },
+        [](Style const& from, Style& to) { to.*field = from.*field; }, s_isInherited<field>};
+}
+
 /// The property that sets a part of each side of a border.
 template <auto readValue, auto part>
 constexpr Property ofAllSides(std::string_view name) {
@@ -56,7 +66,7 @@ using Lengths = Edges<Length>;
 using Borders = Edges<Border>;
 
 constexpr Property s_properties[] = {
-    property<readDisplay, &Style::display>("display"),
+    ofWords<s_displays, &Style::display>("display"),
     property<readMargins, &Style::margin>("margin"),
     property<readMargin<Axis::across>, &Style::margin, &Lengths::left>("margin-left"),
     property<readMargin<Axis::across>, &Style::margin, &Lengths::right>("margin-right"),
@@ -91,33 +101,33 @@ constexpr Property s_properties[] = {
     property<readColour, &Style::border, &Borders::top, &Border::colour>("border-top-color"),
     property<readColour, &Style::border, &Borders::bottom, &Border::colour>("border-bottom-color"),
     property<readBorderRadius, &Style::isRounded>("border-radius"),
-    property<readBorderCollapse, &Style::collapsesBorders>("border-collapse"),
+    ofWords<s_borderCollapses, &Style::collapsesBorders>("border-collapse"),
     property<readBorderSpacing, &Style::borderSpacing>("border-spacing"),
     property<readWidth, &Style::width>("width"),
     property<readWidth, &Style::minWidth>("min-width"),
     property<readMaxWidth, &Style::maxWidth>("max-width"),
-    property<readTextAlign, &Style::textAlign>("text-align"),
+    ofWords<s_textAligns, &Style::textAlign>("text-align"),
     property<readTextIndent, &Style::textIndent>("text-indent"),
-    property<readTextTransform, &Style::textTransform>("text-transform"),
-    property<readVerticalAlign, &Style::verticalAlign>("vertical-align"),
-    property<readWhiteSpace, &Style::whiteSpace>("white-space"),
-    property<readOverflowWrap, &Style::overflowWrap>("overflow-wrap"),
-    property<readOverflowWrap, &Style::overflowWrap>("word-wrap"),
-    property<readWordBreak, &Style::wordBreak>("word-break"),
+    ofWords<s_textTransforms, &Style::textTransform>("text-transform"),
+    ofWords<s_verticalAligns, &Style::verticalAlign>("vertical-align"),
+    ofWords<s_whiteSpaces, &Style::whiteSpace>("white-space"),
+    ofWords<s_overflowWraps, &Style::overflowWrap>("overflow-wrap"),
+    ofWords<s_overflowWraps, &Style::overflowWrap>("word-wrap"),
+    ofWords<s_wordBreaks, &Style::wordBreak>("word-break"),
     property<readTabSize, &Style::tabSize>("tab-size"),
     {"list-style", readListStyle, copyListStyle, true},
     property<readMarker, &Style::marker>("list-style-type"),
-    property<readMarkerPosition, &Style::markerPosition>("list-style-position"),
-    property<readCaptionSide, &Style::captionSide>("caption-side"),
-    property<readTableLayout, &Style::hasFixedColumns>("table-layout"),
+    ofWords<s_markerPositions, &Style::markerPosition>("list-style-position"),
+    ofWords<s_captionSides, &Style::captionSide>("caption-side"),
+    ofWords<s_tableLayouts, &Style::hasFixedColumns>("table-layout"),
     property<readColour, &Style::colour>("color"),
     property<readBackground, &Style::background>("background"),
     property<readColour, &Style::background>("background-color"),
     property<readFontWeight, &Style::fontWeight>("font-weight"),
-    property<readFontStyle, &Style::isItalic>("font-style"),
+    ofWords<s_fontStyles, &Style::isItalic>("font-style"),
     property<readTextDecoration, &Style::decoration>("text-decoration"),
     property<readDecorationLine, &Style::decoration>("text-decoration-line"),
-    property<readVisibility, &Style::visibility>("visibility"),
+    ofWords<s_visibilities, &Style::visibility>("visibility"),
 };
 
 }  // namespace

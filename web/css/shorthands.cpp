@@ -5,6 +5,7 @@
 #include "web/css/colours.h"
 #include "web/css/keywords.h"
 #include "web/css/lengths.h"
+#include "web/css/valueWords.h"
 #include "web/css/values.h"
 
 namespace galley::web {
@@ -187,7 +188,8 @@ bool readListStyle(ValueReader& reader, Style& style) {
     bool hasImage = false;
     while (!reader.atEnd()) {
         if (readOnce(reader, readMarker, hasMarker, style.marker) ||
-            readOnce(reader, readMarkerPosition, hasPosition, style.markerPosition)) {
+            readOnce(reader, readKeyword<s_markerPositions, MarkerPosition>, hasPosition,
+                     style.markerPosition)) {
             continue;
         }
         bool const isImage = reader.isNext(Kind::url) || reader.isNext(Kind::function);

@@ -119,6 +119,14 @@ TEST(CssSheet, IsReadToSomeDepth) {
               stylesBy(""));
 }
 
+TEST(CssSheet, TakesTimeInProportionToItsLength) {
+    std::string sheet = "p{";
+    for (int i = 0; i < 50'000; ++i) sheet += "color:red;";
+    sheet += "}";
+    for (int i = 0; i < 50'000; ++i) sheet += "@media all{p{}}";
+    EXPECT_EQ(stylesBy(sheet), stylesBy("p{color:red}"));
+}
+
 /// A selector, and the identifiers of the elements that it matches.
 struct Match {
     std::string selector;
