@@ -1,0 +1,87 @@
+"""What a page looks like in Chromium, as rows of text: the answer that galley has to give."""
+import dataclasses
+import html
+import pathlib
+import re
+
+import picture
+from chromium import Chromium
+
+HERE = pathlib.Path(__file__).parent
+DEFAULT_SHEET = HERE.parent.parent / "web" / "default.css"
+# How many frames one screenshot holds: it must not become higher than Chromium can paint.
+BATCH = 12
+HIGHEST = 16000
+
+
+@dataclasses.dataclass
+class Answer:
+    """`rows` are those of the page, blanks at their ends left out, borders as picture.BORDER.
+    `between`: Chromium lays at fractions of cells; then `rows` say what fits, not where it is."""
+    rows: list
+    between: bool
+    paint: list
+
+
+class Browser:
+    """Answers for pages; starts Chromium. Use it in a `with` statement."""
+
+    def __init__(self):
+        self._chromium = Chromium()
+
+    def __enter__(self):
+        legend = "".join(f"<div>{html.escape(cluster)}</div>" for cluster in picture.CLUSTERS)
+        legend = f"<html><head/><body>{legend}</body></html>"
+        self._glyphs = picture.Glyphs(self._chromium.lay([(for_browser(legend), 2)])[0]["picture"])
+        self.version = self._chromium.version
+        return self
+
+    def __exit__(self, *error):
+        self._chromium.__exit__(*error)
+
+    def answer(self, pages):
+        """One answer for each (source, width in cells)."""
+        answers = []
+        for start in range(0, len(pages), BATCH):
+            batch = [(for_browser(source), width) for source, width in pages[start:start + BATCH]]
+            laid = self._chromium.lay(batch)
+            answers += [self._read(one, width) for one, (_, width) in zip(laid, batch)]
+        return answers
+
+    def _read(self, laid, width):
+        rows, whole = self._glyphs.read(laid["picture"])
+        between = not whole or laid["exact"] % 16 != 0
+        for cluster, left, top in laid["clusters"]:
+            between = between or left % 8 != 0 or top % 16 != 0
+            # What sticks out is not in the picture.
+            if left >= 8 * width:
+                put(rows, int(top // 16), int(left // 8), cluster)
+        rows = ["".join(cells).rstrip() for cells in rows]
+        if between:
+            rows = ["".join(cluster for cluster, _, _ in laid["clusters"])]
+        return Answer(rows, between, [] if between else picture.backgrounds(laid["picture"]))
+
+
+def put(rows, row, column, cluster):
+    while len(rows) <= row:
+        rows.append([])
+    cells = rows[row]
+    cells += [" "] * (column + picture.cells_of(cluster) - len(cells))
+    cells[column:column + picture.cells_of(cluster)] = (
+        [cluster, ""] if picture.cells_of(cluster) == 2 else [cluster])
+
+
+def for_browser(source):
+    """The page with our sheet before its own and that of the check behind them. A browser draws
+    the symbols of lists as it likes; it is given the characters instead."""
+    default = f"<style>{escape(DEFAULT_SHEET.read_text())}</style>"
+    check = f"<style>{escape((HERE / 'check.css').read_text())}</style>"
+    source = source.replace("<html>", '<html xmlns="http://www.w3.org/1999/xhtml">', 1)
+    source = re.sub(r"<head */>", "<head></head>", source, 1)
+    source = source.replace("<head>", "<head>" + default, 1).replace("</head>", check + "</head>", 1)
+    return re.sub(r"(list-style[a-z-]*:[^;}\"]*?)\b(disc|circle|square)\b",
+                  lambda found: f"{found[1]}'{picture.SYMBOLS[found[2]]} '", source)
+
+
+def escape(sheet):
+    return sheet.replace("&", "&amp;").replace("<", "&lt;")

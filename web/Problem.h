@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace galley::web {
+
+/// What is wrong in a source, or ignored.
+struct Problem {
+    /// A warning leaves a page, an error none.
+    enum class Kind { error, warning };
+
+    Kind kind = Kind::warning;
+    /// Bytes from the start of the source.
+    std::size_t offset = 0;
+    /// Names what it is about in quotes, as the source has it.
+    std::string message;
+
+    bool operator==(Problem const&) const = default;
+};
+
+}  // namespace galley::web

@@ -1,0 +1,110 @@
+#include "web/css/Cascade.h"
+
+#include <algorithm>
+#include <functional>
+#include <iterator>
+
+#include "web/css/computeStyle.h"
+
+namespace galley::web {
+
+namespace {
+
+/// Values of attributes that are remembered, and styles that are kept without being in use: half a
+/// kilobyte each.
+constexpr std::size_t s_many = 4096;
+
+void append(std::string& key, void const* address) {
+    key.append(reinterpret_cast<char const*>(&address), sizeof address);
+}
+
+}  // namespace
+
+Cascade::Cascade(Sheet const& defaults, std::span<Sheet const* const> authors, Media const& media,
+                 std::vector<Problem>& found)
+    : attributes(found) {
+    rules.add(defaults, media, Origin::defaults);
+    for (Sheet const* const sheet : authors) rules.add(*sheet, media, Origin::author);
+}
+
+Style const* Cascade::styleOf(Element const& element) {
+    if (attributes.size() >= s_many) {
+        // Families have the addresses of what the attributes declare.
+        families.clear();
+        attributes.clear();
+    }
+    attributes.read(element, ofAttributes);
+    Style const& parent = element.parent == nullptr ? initial : *element.parent->style;
+    Family& family = familyOf(element, parent);
+    if (!family.placed.empty()) return placedStyle(element, parent, family);
+    if (family.style == nullptr) family.style = addStyle(parent, collect(family.matching));
+    return family.style;
+}
+
+void Cascade::letGo(std::span<Style const* const> inUse) {
+    if (styles.size() < s_many) return;
+    std::vector<Style const*> kept(inUse.begin(), inUse.end());
+    std::sort(kept.begin(), kept.end(), std::less<>());
+    // Families have the addresses of parents' styles.
+    families.clear();
+    std::erase_if(styles, [&kept](std::unique_ptr<Style const> const& style) {
+        return !std::binary_search(kept.begin(), kept.end(), style.get(), std::less<>());
+    });
+}
+
+Cascade::Family& Cascade::familyOf(Element const& element, Style const& parent) {
+    key.clear();
+    append(key, &parent);
+    // No name has a zero byte.
+    key.append(element.name).append(1, '\0');
+    key.append(valueOf(element, "class")).append(1, '\0');
+    std::string_view const id = valueOf(element, "id");
+    if (rules.asksFor(id)) key.append(id);
+    key.append(1, '\0');
+    for (Declarations const* const declarations : ofAttributes.presentational) {
+        append(key, declarations);
+    }
+    append(key, ofAttributes.style);
+    auto found = families.find(key);
+    if (found != families.end()) return found->second;
+    Family& family = families[key];
+    rules.find(element, family.matching, family.placed);
+    return family;
+}
+
+Style const* Cascade::placedStyle(Element const& element, Style const& parent, Family& family) {
+    RuleIndex::Rules matching = family.matching;
+    std::copy_if(family.placed.begin(), family.placed.end(), std::back_inserter(matching),
+                 [&element](IndexedRule const& rule) { return rule.selector->matches(element); });
+    DeclarationList const declared = collect(matching);
+    Style const*& style = family.styles[declared];
+    if (style == nullptr) style = addStyle(parent, declared);
+    return style;
+}
+
+Cascade::DeclarationList Cascade::collect(RuleIndex::Rules& matching) const {
+    std::sort(matching.begin(), matching.end());
+    auto const author = std::find_if(matching.begin(), matching.end(), [](IndexedRule const& rule) {
+        return rule.origin() == Origin::author;
+    });
+    DeclarationList list;
+    auto const add = [&list](Declarations const& declarations) {
+        if (!declarations.isEmpty()) list.push_back(&declarations);
+    };
+    // What is important has the reverse order of origins.
+    for (auto rule = matching.begin(); rule != author; ++rule) add(rule->block->normal);
+    for (Declarations const* const hint : ofAttributes.presentational) add(*hint);
+    for (auto rule = author; rule != matching.end(); ++rule) add(rule->block->normal);
+    if (ofAttributes.style != nullptr) add(ofAttributes.style->normal);
+    for (auto rule = author; rule != matching.end(); ++rule) add(rule->block->important);
+    if (ofAttributes.style != nullptr) add(ofAttributes.style->important);
+    for (auto rule = matching.begin(); rule != author; ++rule) add(rule->block->important);
+    return list;
+}
+
+Style const* Cascade::addStyle(Style const& parent, DeclarationList const& declared) {
+    styles.push_back(std::make_unique<Style const>(computeStyle(parent, declared)));
+    return styles.back().get();
+}
+
+}  // namespace galley::web

@@ -1,0 +1,48 @@
+#include "web/css/Declarations.h"
+
+#include "web/css/keywords.h"
+
+namespace galley::web {
+
+namespace {
+
+enum class Default { initial, inherited, either };
+
+constexpr Keyword<Default> s_defaults[] = {
+    {"initial", Default::initial},
+    {"inherit", Default::inherited},
+    {"unset", Default::either},
+};
+
+}  // namespace
+
+bool Declarations::declare(Property const& property, ValueReader value) {
+    auto source = Default::initial;
+    ValueReader rest = value;
+    if (readKeyword<s_defaults>(rest, source)) {
+        if (!rest.atEnd()) return false;
+        bool const isParents =
+            source == Default::inherited || (source == Default::either && property.isInherited);
+        if (!isParents) property.copy({}, values);
+        add(property, isParents);
+        return true;
+    }
+    Style read = values;
+    if (value.atEnd() || !property.read(value, read) || !value.atEnd()) return false;
+    property.copy(read, values);
+    add(property, false);
+    return true;
+}
+
+void Declarations::applyTo(Style& style, Style const& parent) const {
+    for (auto const [property, isParents] : entries) {
+        property->copy(isParents ? parent : values, style);
+    }
+}
+
+void Declarations::add(Property const& property, bool isParents) {
+    std::erase_if(entries, [&](Entry const& entry) { return entry.property == &property; });
+    entries.push_back({&property, isParents});
+}
+
+}  // namespace galley::web

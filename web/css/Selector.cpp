@@ -1,0 +1,120 @@
+#include "web/css/Selector.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "web/css/characters.h"
+
+namespace galley::web {
+
+namespace {
+
+using Kind = SimpleSelector::Kind;
+
+bool hasClass(Element const& element, std::string_view name) {
+    std::string_view words = valueOf(element, "class");
+    while (true) {
+        std::string_view const word = takeWord(words);
+        if (word.empty() || word == name) return !word.empty();
+    }
+}
+
+/// Specificity has three digits; none overflows into the next.
+unsigned specificityOf(std::vector<CompoundSelector> const& compounds) {
+    unsigned ids = 0;
+    unsigned classes = 0;
+    unsigned types = 0;
+    for (CompoundSelector const& compound : compounds) {
+        for (SimpleSelector const& part : compound.parts) {
+            ++(part.kind == Kind::id ? ids : part.kind == Kind::type ? types : classes);
+        }
+    }
+    auto const digit = [](unsigned count) { return std::min(count, 1023U); };
+    return digit(ids) << 20 | digit(classes) << 10 | digit(types);
+}
+
+bool hasPart(std::vector<CompoundSelector> const& compounds, Kind kind) {
+    return std::any_of(
+        compounds.begin(), compounds.end(), [kind](CompoundSelector const& compound) {
+            return std::any_of(compound.parts.begin(), compound.parts.end(),
+                               [kind](SimpleSelector const& part) { return part.kind == kind; });
+        });
+}
+
+}  // namespace
+
+bool Nth::has(unsigned index) const {
+    long const steps = static_cast<long>(index) - offset;
+    if (step == 0) return steps == 0;
+    return steps % step == 0 && steps / step >= 0;
+}
+
+bool SimpleSelector::matches(Element const& element) const {
+    switch (kind) {
+        case Kind::type:
+            return element.name == name;
+        case Kind::className:
+            return hasClass(element, name);
+        case Kind::id:
+            return valueOf(element, "id") == name;
+        case Kind::nthChild:
+            return nth.has(element.index);
+        case Kind::lastChild:
+            return element.isLast;
+    }
+    return false;
+}
+
+bool CompoundSelector::matches(Element const& element) const {
+    return std::all_of(parts.begin(), parts.end(),
+                       [&element](SimpleSelector const& part) { return part.matches(element); });
+}
+
+Selector::Selector(std::vector<CompoundSelector> parts)
+    : compounds(std::move(parts)),
+      weight(specificityOf(compounds)),
+      isPlaced(hasPart(compounds, Kind::nthChild) || hasPart(compounds, Kind::lastChild)) {}
+
+bool Selector::matches(Element const& element) const {
+    // Compounds between two descendant combinators are a chain from child to parent. That each is
+    // found as deep as it can be leaves most room to what is left of it.
+    Element const* bottom = &element;
+    for (std::size_t first = 0; first < compounds.size();) {
+        std::size_t i = first;
+        Element const* at = bottom;
+        while (at != nullptr && compounds[i].matches(*at)) {
+            at = at->parent;
+            if (!compounds[i++].isChild) break;
+        }
+        bool const isWhole = i > first && !compounds[i - 1].isChild;
+        if (isWhole) {
+            first = i;
+            bottom = at;
+        } else {
+            if (first == 0 || bottom == nullptr) return false;
+            bottom = bottom->parent;
+        }
+    }
+    return true;
+}
+
+bool Selector::asksForLastChild() const { return hasPart(compounds, Kind::lastChild); }
+
+std::string_view valueOf(Element const& element, std::string_view name) {
+    auto const found =
+        std::find_if(element.attributes.begin(), element.attributes.end(),
+                     [name](Attribute const& attribute) { return attribute.name == name; });
+    return found == element.attributes.end() ? std::string_view() : found->value;
+}
+
+std::string_view takeWord(std::string_view& words) {
+    std::size_t start = 0;
+    while (start < words.length() && isWhitespace(words[start])) ++start;
+    std::size_t end = start;
+    while (end < words.length() && !isWhitespace(words[end])) ++end;
+    std::string_view const word = words.substr(start, end - start);
+    words.remove_prefix(end);
+    return word;
+}
+
+}  // namespace galley::web

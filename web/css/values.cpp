@@ -1,0 +1,87 @@
+#include "web/css/values.h"
+
+#include <cmath>
+
+#include "web/css/keywords.h"
+
+namespace galley::web {
+
+namespace {
+
+using Kind = Token::Kind;
+
+constexpr Keyword<MarkerKind> s_markerKinds[] = {
+    {"none", MarkerKind::none},
+    {"disc", MarkerKind::disc},
+    {"circle", MarkerKind::circle},
+    {"square", MarkerKind::square},
+    {"decimal", MarkerKind::decimal},
+    {"decimal-leading-zero", MarkerKind::decimalLeadingZero},
+    {"lower-alpha", MarkerKind::lowerAlpha},
+    {"lower-latin", MarkerKind::lowerAlpha},
+    {"upper-alpha", MarkerKind::upperAlpha},
+    {"upper-latin", MarkerKind::upperAlpha},
+    {"lower-roman", MarkerKind::lowerRoman},
+    {"upper-roman", MarkerKind::upperRoman},
+    {"lower-greek", MarkerKind::lowerGreek},
+};
+
+constexpr Keyword<FontWeight> s_fontWeights[] = {
+    {"normal", {400}},
+    {"bold", {700}},
+    {"lighter", FontWeight::lighter()},
+    {"bolder", FontWeight::bolder()},
+};
+
+constexpr Keyword<Decoration> s_decorationLines[] = {
+    {"underline", {true, false}},
+    {"line-through", {false, true}},
+    {"overline", {}, true},
+    {"blink", {}, true},
+};
+
+constexpr Keyword<LineKind> s_lineKinds[] = {
+    {"none", LineKind::none},      {"hidden", LineKind::hidden}, {"solid", LineKind::solid},
+    {"double", LineKind::twofold}, {"dashed", LineKind::dashed}, {"dotted", LineKind::dotted},
+    {"groove", LineKind::solid},   {"ridge", LineKind::solid},   {"inset", LineKind::solid},
+    {"outset", LineKind::solid},
+};
+
+}  // namespace
+
+bool readFontWeight(ValueReader& reader, FontWeight& weight) {
+    if (readKeyword<s_fontWeights>(reader, weight)) return true;
+    if (!reader.isNext(Kind::number)) return false;
+    double const number = reader.take().number;
+    if (!(number >= 1 && number <= 1000)) return false;
+    weight = {static_cast<std::uint16_t>(std::lround(number))};
+    return true;
+}
+
+bool readDecorationLine(ValueReader& reader, Decoration& decoration) {
+    decoration = {};
+    if (reader.takeWord("none")) return true;
+    bool hasLine = false;
+    for (Decoration line; readKeyword<s_decorationLines>(reader, line); hasLine = true) {
+        decoration.isUnderlined |= line.isUnderlined;
+        decoration.isStruckThrough |= line.isStruckThrough;
+    }
+    return hasLine;
+}
+
+bool readMarker(ValueReader& reader, Marker& marker) {
+    marker = {};
+    if (!reader.isNext(Kind::string)) return readKeyword<s_markerKinds>(reader, marker.kind);
+    marker = {MarkerKind::text, withoutControls(reader.take().text)};
+    return true;
+}
+
+bool readLine(ValueReader& reader, Line& line) {
+    line = {};
+    if (!reader.isNext(Kind::string)) return readKeyword<s_lineKinds>(reader, line.kind);
+    line.text = withoutControls(reader.take().text);
+    line.kind = line.text.empty() ? LineKind::none : LineKind::text;
+    return true;
+}
+
+}  // namespace galley::web
