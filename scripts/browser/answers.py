@@ -33,12 +33,12 @@ class Browser:
         """One answer for each (source, width in cells)."""
         answers = []
         for start in range(0, len(pages), BATCH):
-            batch = [(for_browser(source), width) for source, width in pages[start:start + BATCH]]
-            laid = self._chromium.lay(batch)
-            answers += [self._read(one, width) for one, (_, width) in zip(laid, batch)]
+            batch = pages[start:start + BATCH]
+            laid = self._chromium.lay([(for_browser(source), width) for source, width in batch])
+            answers += [self._read(one, *page) for one, page in zip(laid, batch)]
         return answers
 
-    def _read(self, laid, width):
+    def _read(self, laid, source, width):
         rows = self._glyphs.read(laid["picture"])
         between, fits = laid["between"] or laid["exact"] % 16 != 0, True
         for cluster, left, top in laid["clusters"]:
@@ -47,6 +47,7 @@ class Browser:
             if left + 8 * picture.cells_of(cluster) > 8 * width:
                 put(rows, int(top // 16), int(left // 8), cluster)
                 fits = False
+                between = between or "capitalize" in source
         if between or any(picture.UNKNOWN in cells for cells in rows):
             letters = "".join(cluster for cluster, _, _ in laid["clusters"])
             return Answer([letters], between=True, fits=fits)
@@ -70,7 +71,8 @@ def for_browser(source):
     check = f"<style>{escape((HERE / 'check.css').read_text())}</style>"
     source = source.replace("<html>", '<html xmlns="http://www.w3.org/1999/xhtml">', 1)
     source = re.sub(r"<head */>", "<head></head>", source, 1)
-    source = source.replace("<head>", "<head>" + default, 1).replace("</head>", check + "</head>", 1)
+    source = source.replace("<head>", "<head>" + default, 1)
+    source = source.replace("</head>", check + "</head>", 1)
     return re.sub(r"(list-style[a-z-]*:[^;}\"]*?)\b(disc|circle|square)\b",
                   lambda found: f"{found[1]}'{picture.SYMBOLS[found[2]]} '", source)
 

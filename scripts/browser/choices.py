@@ -6,8 +6,9 @@ COLOURS = "#ffe0c0 #c0ffc0 #e0e0ff #ffff80".split()
 CLASSES = "one two three".split()
 BLOCK_KINDS = ("margin margin margin padding padding border border width width limits auto "
                "percentage background").split()
-TEXT_KINDS = ("align align align indent indent white-space white-space overflow-wrap overflow-wrap "
-              "word-break word-break transform visibility display inherit").split()
+TEXT_KINDS = ("align align align text-indent text-indent white-space white-space white-space "
+              "overflow-wrap overflow-wrap word-break word-break text-transform visibility display "
+              "inherit").split()
 
 
 class Choices:
@@ -38,7 +39,8 @@ class Choices:
 
     def rows(self, most):
         rows = self.number(0, most)
-        return self.pick([f"{rows}lh", f"{rows}lh", f"{16 * rows}px", f"{rows}em", f"{12 * rows}pt"])
+        return self.pick([f"{rows}lh", f"{rows}lh", f"{16 * rows}px", f"{rows}em",
+                          f"{12 * rows}pt"])
 
     def edge_declaration(self):
         """For an inline element."""
@@ -72,16 +74,17 @@ class Choices:
         kind = self.pick(TEXT_KINDS)
         values = {
             "align": ("text-align", ["right", "right", "center", "justify", "justify"]),
-            "indent": ("text-indent", [self.cells(6), self.cells(6), "50%"]),
-            "white-space": ("white-space", ["nowrap", "pre", "pre-wrap", "pre-line"]),
+            "text-indent": ("text-indent", [self.cells(6), self.cells(6), "50%"]),
+            "white-space": ("white-space", ["nowrap", "nowrap", "pre", "pre-wrap", "pre-line"]),
             "overflow-wrap": ("overflow-wrap", ["normal", "normal", "anywhere"]),
             "word-break": ("word-break", ["keep-all", "break-all"]),
-            "transform": ("text-transform", ["uppercase", "lowercase"]),
+            "text-transform": ("text-transform", ["uppercase", "uppercase", "capitalize"]),
             "visibility": ("visibility", ["hidden"]),
             "display": ("display", ["none", "block", "block", "inline"]),
             "inherit": (self.pick(["margin", "padding-left", "text-align", "text-indent"]),
                         ["inherit", "initial", "unset"])}
         name, options = values[kind]
         value = self.pick(options)
-        self.use(f"{name}: {value}" if kind in ("align", "white-space", "word-break") else name)
+        exact = kind in ("align", "white-space", "word-break")
+        self.use(f"{name}: {value}" if exact else kind)
         return f"{name}: {value}"

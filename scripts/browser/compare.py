@@ -79,12 +79,12 @@ def visible(row, width):
 def misfit(page, answer, actual):
     """For pages that a browser lays between cells: are the letters there, in order, and inside?
     Where columns stand side by side, any order will do."""
-    letters = unicodedata.normalize("NFC", answer.rows[0])
-    printed = [cell for row in actual for cell in row if cell.strip()]
+    letters = unicodedata.normalize("NFC", answer.rows[0]).casefold()
+    printed = "".join(cell for row in actual for cell in row if cell.strip()).casefold()
     if "<table" in page.source:
-        missing = collections.Counter(letters) - collections.Counter("".join(printed))
+        missing = collections.Counter(letters) - collections.Counter(printed)
     else:
-        rest = iter("".join(printed))
+        rest = iter(printed)
         missing = [letter for letter in letters if letter not in rest]
     if missing:
         return f"without {''.join(missing)!r}"
@@ -140,9 +140,8 @@ def side_by_side(page, answer, rows):
     """Both pages, their differing rows marked."""
     width = min(max(page.width, 8), 100)
     lines = [f"  {'expected':{width}}   actual"]
-    for expected, actual in itertools.zip_longest(answer.rows, rows, fillvalue=None):
-        left, right = cells(expected or ""), cells(actual or "")
-        same = None not in (expected, actual) and visible(left, page.width) == visible(right, page.width)
-        left = "".join(left) + " " * (width - len(left))
-        lines.append(f"{' ' if same else '!'} {left} | {actual if actual is not None else '(none)'}")
+    for expected, actual in itertools.zip_longest(answer.rows, rows, fillvalue="(none)"):
+        left, right = cells(expected), cells(actual)
+        mark = " " if visible(left, page.width) == visible(right, page.width) else "!"
+        lines.append(f"{mark} {''.join(left)}{' ' * (width - len(left))} | {actual}")
     return "\n".join(lines)

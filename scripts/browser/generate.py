@@ -82,12 +82,15 @@ class Blocks:
         self._tables = Tables(chosen, self._words, self.blocks)
 
     def blocks(self, depth, count):
-        return "".join(self._chosen.pick(["", " ", "\n"]) + self._block(depth) for _ in range(count))
+        spaces = ["", " ", "\n"]
+        return "".join(self._chosen.pick(spaces) + self._block(depth) for _ in range(count))
 
     def _block(self, depth):
-        makers = [self._paragraph] * 5 + [self._aligned, self._empty, self._line, self._pre, self._terms]
+        makers = [self._paragraph] * 5 + [self._aligned, self._empty, self._line, self._pre]
+        makers.append(self._terms)
         if depth < 3:
-            makers += [self._nest] * 3 + [self._list] * 3 + [self._tables.table] * 4
+            makers += [self._nest] * 3 + [self._list] * 4 + [self._tables.table] * 4
+            makers.append(self._tables.boxes)
         return self._chosen.pick(makers)(depth)
 
     def _attributes(self, declarations=(), share=0.35):
@@ -95,7 +98,7 @@ class Blocks:
         chosen, style = self._chosen, [*declarations]
         while chosen.chance(share):
             style.append(chosen.block_declaration())
-        if chosen.chance(share / 2):
+        if chosen.chance(share * 0.7):
             style.append(chosen.text_declaration())
         text = f' class="{chosen.pick(CLASSES)}"' if chosen.chance(0.4) else ""
         text += f' id="{chosen.pick(CLASSES)}"' if chosen.chance(0.1) else ""
@@ -119,10 +122,12 @@ class Blocks:
     def _nest(self, depth):
         chosen, words = self._chosen, self._words
         if chosen.chance(0.2):
+            block = f"<p{self._attributes()}>{words.words(2)}</p>"
             return chosen.use("block in inline", f"<div>{words.words(2)}<b>{words.words(1)}"
-                              f"<p{self._attributes()}>{words.words(2)}</p>{words.text(2)}</b></div>")
+                              f"{block}{words.text(2)}</b></div>")
         loose = chosen.use("text beside blocks", words.text(3)) if chosen.chance(0.3) else ""
-        return f"<div{self._attributes()}>{loose}{self.blocks(depth + 1, chosen.number(1, 3))}</div>"
+        inner = self.blocks(depth + 1, chosen.number(1, 3))
+        return f"<div{self._attributes()}>{loose}{inner}</div>"
 
     def _empty(self, _):
         inner = self._chosen.pick(["", " ", "<p></p>", '<div style="margin: 2lh 0"></div>'])
@@ -150,7 +155,7 @@ class Blocks:
     def _list(self, depth):
         chosen, style, start = self._chosen, [], ""
         tag, kind = chosen.pick(["ul", "ol", "ol"]), chosen.pick(MARKERS)
-        if chosen.chance(0.6):
+        if chosen.chance(0.8):
             style.append(chosen.use(f"list: {kind}", f"list-style-type: {kind}"))
         if chosen.chance(0.25):
             style.append(chosen.use("list inside", "list-style-position: inside"))

@@ -1,10 +1,10 @@
 """Reads the picture of a page in Unifont back into characters, cell by cell."""
 BORDER = "#"
-UNKNOWN = "?"
+UNKNOWN = "\ufffd"
 SYMBOLS = {"disc": "\u2022", "circle": "\u25e6", "square": "\u25aa"}
 WIDE = "日本語中文字幅漢水火木金土月山川田石花空雨海、。「」！かなカナ"
 MARKED = [base + mark for base in "aeounxz" for mark in ("\u0301", "\u0308")]
-ASCII = [chr(code) for code in range(0x21, 0x7f) if chr(code) not in BORDER + UNKNOWN]
+ASCII = [chr(code) for code in range(0x21, 0x7f) if chr(code) != BORDER]
 CLUSTERS = [*ASCII, "\u201c", "\u201d", "\u2018", "\u2019", *SYMBOLS.values(), *MARKED,
             *(cluster.upper() for cluster in MARKED), *WIDE]
 WHITE = "#ffffff"

@@ -1,5 +1,6 @@
 """Whether the comparison notices what is wrong: pages laid out with a feature taken away, and rows
 with one thing changed."""
+import copy
 import random
 import re
 
@@ -69,7 +70,37 @@ def self_test(browser, pairs):
         noticed, tried = count_changed(pairs, change)
         good = good and noticed == tried > 0
         print(f"{change.__name__}: {noticed} of {tried} noticed")
+    good = test_paint(pairs) and good
     return good
+
+
+def test_paint(pairs):
+    """Backgrounds as sequences: right ones, and one of them a cell longer."""
+    pairs = [(page, answer) for page, answer in pairs if any(answer.paint)]
+    right = [compare.paint_difference(page, answer, painted(answer)) is None
+             for page, answer in pairs]
+    noticed = 0
+    for page, answer in pairs:
+        other = copy.deepcopy(answer)
+        run = next(runs[-1] for runs in other.paint if runs)
+        run[0] -= 1 if run[0] else -1
+        noticed += compare.paint_difference(page, answer, painted(other)) is not None
+    print(f"backgrounds: {sum(right)} of {len(pairs)} right, {noticed} wrong ones noticed")
+    return all(right) and noticed > 0
+
+
+def painted(answer):
+    """Rows in which only the backgrounds are right."""
+    rows = []
+    for runs in answer.paint:
+        row, end = "", 0
+        for start, stop, colour in runs:
+            red, green, blue = (int(colour[at:at + 2], 16) for at in (1, 3, 5))
+            row += " " * (start - end)
+            row += f"\x1b[1;48;2;{red};{green};{blue};31m{' ' * (stop - start)}\x1b[0m"
+            end = stop
+        rows.append(row)
+    return rows
 
 
 def printed(page, answer):

@@ -27,8 +27,15 @@ class Tables:
         spans = cell in ("border: solid", "") and chosen.chance(0.7)
         body = self._rows(depth, columns, rows, cell, spans)
         caption = self._caption() if chosen.chance(0.25) else ""
-        chosen.use(f"table depth {min(depth, 2)}")
+        chosen.use("table")
         return f'<table style="{"; ".join(style)}">{caption}{body}</table>'
+
+    def boxes(self, _):
+        """A table of other elements."""
+        cells = " ".join(f'<span style="display: table-cell">{self._words.words(1)}</span>'
+                         for _ in range(self._choices.number(1, 3)))
+        row = f'<div style="display: table-row">{cells}</div>'
+        return self._choices.use("display: table", f'<div style="display: table">{row}{row}</div>')
 
     def _widths(self, columns):
         chosen = self._choices
@@ -65,9 +72,9 @@ class Tables:
             parts.append(f"<tr>{cells}</tr>")
         if not self._choices.chance(0.15):
             return "".join(parts)
-        head = self._cell(depth, style, columns, 1)
-        return self._choices.use("thead and tfoot", f"<tfoot><tr>{head}</tr></tfoot>{''.join(parts)}"
-                                 f"<thead><tr>{self._cell(depth, style, columns, 1)}</tr></thead>")
+        self._choices.use("thead and tfoot")
+        head, foot = (f"<tr>{self._cell(depth, style, columns, 1)}</tr>" for _ in range(2))
+        return f"<tfoot>{foot}</tfoot>{''.join(parts)}<thead>{head}</thead>"
 
     def _span(self, taken, row, column, columns, rows):
         if not self._choices.chance(0.4):
@@ -86,6 +93,8 @@ class Tables:
         if chosen.chance(0.2):
             side = chosen.pick(["top", "bottom", "bottom", "middle"])
             style.append(chosen.use("vertical-align", f"vertical-align: {side}"))
+        if chosen.chance(0.1):
+            style.append(chosen.text_declaration())
         attribute = f' style="{"; ".join(style)}"' if style else ""
         attribute += f' class="{chosen.pick(["one", "two"])}"' if chosen.chance(0.2) else ""
         tag = chosen.pick(["td", "td", "td", "th"])
@@ -97,6 +106,8 @@ class Tables:
         # What makes a spanning cell higher than its rows is shared among them in another way.
         if down == 1 and chosen.chance(0.15):
             return chosen.use("broken cell", f"{text}<br/>{self._words.words(2)}")
+        if down == 1 and depth < 2 and chosen.chance(0.05):
+            return chosen.use("table in a cell", self.table(depth + 1))
         if down == 1 and depth < 2 and chosen.chance(0.06):
             return chosen.use("blocks in a cell", self._blocks(depth + 1, 1))
         return text

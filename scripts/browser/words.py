@@ -1,7 +1,8 @@
 """Text with inline elements: words of random letters, so that each has its own place."""
 import picture
 
-INLINE = "a abbr b strong i em cite var dfn u ins s del code kbd samp mark small q span sub sup".split()
+INLINE = ("a abbr b strong i em cite var dfn u ins s del code kbd samp mark small q span sub "
+          "sup").split()
 WORDS = "long hyphen wide wide marked shy zwsp nbsp punctuation punctuation".split()
 PUNCTUATION = "1, 1. (1) 1/2 1! 1:2 “1” 1's 1;2 1.2 1=2 1% 1?2 1+2 1&amp;2".split()
 RUNS = "inline inline inline joined nested edge edge empty br wbr".split()
@@ -34,7 +35,8 @@ class Words:
             style = chosen.edge_declaration()
             return f'<{tag} style="{style}">{words}</{tag}>{chosen.pick([space, ""])}'
         known = f' class="{chosen.pick(["one", "two", "three"])}"' if chosen.chance(0.4) else ""
-        return {"inline": f"<{tag}{known}>{words}</{tag}>{space}", "joined": f"<{tag}>{words}</{tag}>",
+        return {"inline": f"<{tag}{known}>{words}</{tag}>{space}",
+                "joined": f"<{tag}>{words}</{tag}>",
                 "empty": f"<{tag}></{tag}>{space}", "wbr": f"{words}<wbr/>{words}{space}",
                 "br": chosen.pick(["<br/>", " <br/> ", "<br/><br/>"])}[kind]
 
