@@ -85,6 +85,6 @@ class Choices:
                         ["inherit", "initial", "unset"])}
         name, options = values[kind]
         value = self.pick(options)
-        exact = kind in ("align", "white-space", "word-break")
+        exact = kind in ("align", "white-space", "word-break", "overflow-wrap")
         self.use(f"{name}: {value}" if exact else kind)
         return f"{name}: {value}"

@@ -29,13 +29,18 @@ class Galley:
         with tempfile.NamedTemporaryFile("w", suffix=".xml", encoding="utf-8") as file:
             file.write(page.source)
             file.flush()
-            run = subprocess.run(
-                [self._path, "--dialect", "web", "--format", output, "--width", str(page.width),
-                 *(["--color", "always"] if output == "ansi" else []), file.name], check=False,
-                capture_output=True, timeout=60, env={**os.environ, "COLORTERM": "truecolor"})
+            command = [self._path, "--dialect", "web", "--format", output,
+                       *(["--color", "always"] if output == "ansi" else []),
+                       "--width", str(page.width), file.name]
+            try:
+                run = subprocess.run(command, check=False, capture_output=True, timeout=60,
+                                     env={**os.environ, "COLORTERM": "truecolor"})
+            except subprocess.TimeoutExpired as late:
+                raise GalleyFailed("no end within a minute") from late
         if run.returncode != 0:
             raise GalleyFailed(f"status {run.returncode}: {run.stderr.decode(errors='replace')}")
-        return run.stdout.decode().removesuffix("\n").split("\n") if run.stdout else []
+        text = run.stdout.decode(errors="replace")
+        return text.removesuffix("\n").split("\n") if text else []
 
 
 def cells(row):
@@ -87,7 +92,7 @@ def misfit(page, answer, actual):
         rest = iter(printed)
         missing = [letter for letter in letters if letter not in rest]
     if missing:
-        return f"without {''.join(missing)!r}"
+        return f"without {''.join(missing)[:20]!r} in its place"
     longest = max((len(visible(row, page.width)) for row in actual), default=0)
     if longest > page.width and answer.fits:
         return f"{longest} cells wide, which fits into {page.width}"
@@ -137,7 +142,9 @@ def next_background(colour, parameters):
 
 
 def side_by_side(page, answer, rows):
-    """Both pages, their differing rows marked."""
+    """Both pages, their differing rows marked; of a page between cells, galley's."""
+    if answer.between:
+        return "\n".join(f"  {row}" for row in rows)
     width = min(max(page.width, 8), 100)
     lines = [f"  {'expected':{width}}   actual"]
     for expected, actual in itertools.zip_longest(answer.rows, rows, fillvalue="(none)"):

@@ -86,7 +86,7 @@ class Blocks:
         return "".join(self._chosen.pick(spaces) + self._block(depth) for _ in range(count))
 
     def _block(self, depth):
-        makers = [self._paragraph] * 5 + [self._aligned, self._empty, self._line, self._pre]
+        makers = [self._paragraph] * 5 + [self._narrow, self._empty, self._line, self._pre]
         makers.append(self._terms)
         if depth < 3:
             makers += [self._nest] * 3 + [self._list] * 4 + [self._tables.table] * 4
@@ -108,16 +108,18 @@ class Blocks:
         tag = self._chosen.pick(BLOCKS)
         return f"<{tag}{self._attributes()}>{self._words.text()}</{tag}>"
 
-    def _aligned(self, _):
-        """Lines that a browser mostly lays at whole cells."""
+    def _narrow(self, _):
+        """A paragraph whose lines break; where that matters, a browser mostly lays it at whole
+        cells."""
         chosen, words = self._chosen, self._words
-        kind = chosen.pick(["center", "justify"])
-        chosen.use(f"text-align: {kind}")
-        if kind == "center":
-            text = "<br/>".join(words.even_word() for _ in range(chosen.number(1, 3)))
-        else:
-            text = " ".join(words.even_word() for _ in range(chosen.number(3, 5)))
-        return f'<p style="width: {2 * chosen.number(4, 8)}ch; text-align: {kind}">{text}</p>'
+        style = chosen.pick(["text-align: center", "text-align: justify", "text-align: justify",
+                             "overflow-wrap: normal", "word-break: break-all",
+                             "word-break: keep-all"])
+        chosen.use(style)
+        texts = {"text-align: center": "<br/>".join(words.even_word() for _ in range(2)),
+                 "text-align: justify": " ".join(words.even_word() for _ in range(5))}
+        text = texts.get(style) or words.text(4) + words.long_word()
+        return f'<p style="width: {2 * chosen.number(4, 8)}ch; {style}">{text}</p>'
 
     def _nest(self, depth):
         chosen, words = self._chosen, self._words
@@ -143,9 +145,10 @@ class Blocks:
         if chosen.chance(0.4):
             kind = chosen.pick(["pre-wrap", "pre-wrap", "pre-line"])
             style.append(chosen.use(f"white-space: {kind}", f"white-space: {kind}"))
-        spaces = [" ", " ", "\t", "\t", "   ", "\n", "\n\n", " \n "]
+        spaces = [" ", "   ", "\t", "\t", "\t", "\n", "\n\n", " \n "]
         text = "".join(self._words.word() + chosen.pick(spaces) for _ in range(chosen.number(1, 8)))
-        return chosen.use("pre", f"<pre{self._attributes(style, 0.15)}>x{text}</pre>")
+        end = chosen.pick(["x", "", ""])
+        return chosen.use("pre", f"<pre{self._attributes(style, 0.15)}>x{text}{end}</pre>")
 
     def _terms(self, _):
         pairs = "".join(f"<dt>{self._words.words(2)}</dt><dd>{self._words.words(5)}</dd>"

@@ -3,7 +3,7 @@ import picture
 
 INLINE = ("a abbr b strong i em cite var dfn u ins s del code kbd samp mark small q span sub "
           "sup").split()
-WORDS = "long hyphen wide wide marked shy zwsp nbsp punctuation punctuation".split()
+WORDS = "long long hyphen marked shy zwsp nbsp punctuation punctuation".split()
 PUNCTUATION = "1, 1. (1) 1/2 1! 1:2 “1” 1's 1;2 1.2 1=2 1% 1?2 1+2 1&amp;2".split()
 RUNS = "inline inline inline joined nested edge edge empty br wbr".split()
 
@@ -47,15 +47,19 @@ class Words:
         kind = chosen.pick(WORDS)
         one, two = self._letters(6), self._letters(6)
         chosen.use(f"text: {kind}")
-        if kind == "wide":
-            return "".join(chosen.pick(picture.WIDE) for _ in range(chosen.number(1, 8)))
         if kind == "punctuation":
             return chosen.pick(PUNCTUATION).replace("1", one).replace("2", two)
         if kind == "long":
-            return self._letters(40)
+            return self.long_word()
         between = {"hyphen": "-", "marked": chosen.pick(picture.MARKED), "shy": "\u00ad",
                    "zwsp": "\u200b", "nbsp": "\u00a0"}
         return one + between[kind] + two
+
+    def long_word(self):
+        """Of Latin letters, or of wide ones."""
+        if self._choices.chance(0.5):
+            return self._letters(40)
+        return "".join(self._choices.pick(picture.WIDE) for _ in range(self._choices.number(1, 16)))
 
     def even_word(self):
         """Of an even number of letters."""
