@@ -1,26 +1,16 @@
 """What a page looks like in Chromium, as rows of text: the answer that galley has to give."""
-import dataclasses
 import html
 import pathlib
 import re
 
 import picture
 from chromium import Chromium
+from page import Answer
 
 HERE = pathlib.Path(__file__).parent
 DEFAULT_SHEET = HERE.parent.parent / "web" / "default.css"
-# How many frames one screenshot holds: it must not become higher than Chromium can paint.
+# Pages in one screenshot.
 BATCH = 12
-HIGHEST = 16000
-
-
-@dataclasses.dataclass
-class Answer:
-    """`rows` are those of the page, blanks at their ends left out, borders as picture.BORDER.
-    `between`: Chromium lays at fractions of cells; then `rows` say what fits, not where it is."""
-    rows: list
-    between: bool
-    paint: list
 
 
 class Browser:
@@ -43,23 +33,26 @@ class Browser:
         """One answer for each (source, width in cells)."""
         answers = []
         for start in range(0, len(pages), BATCH):
-            batch = [(for_browser(source), width) for source, width in pages[start:start + BATCH]]
-            laid = self._chromium.lay(batch)
-            answers += [self._read(one, width) for one, (_, width) in zip(laid, batch)]
+            batch = pages[start:start + BATCH]
+            laid = self._chromium.lay([(for_browser(source), width) for source, width in batch])
+            answers += [self._read(one, *page) for one, page in zip(laid, batch)]
         return answers
 
-    def _read(self, laid, width):
-        rows, whole = self._glyphs.read(laid["picture"])
-        between = not whole or laid["exact"] % 16 != 0
+    def _read(self, laid, source, width):
+        rows = self._glyphs.read(laid["picture"])
+        between, fits = laid["between"] or laid["exact"] % 16 != 0, True
         for cluster, left, top in laid["clusters"]:
             between = between or left % 8 != 0 or top % 16 != 0
-            # What sticks out is not in the picture.
-            if left >= 8 * width:
+            # What sticks out is not in the picture, or not wholly.
+            if left + 8 * picture.cells_of(cluster) > 8 * width:
                 put(rows, int(top // 16), int(left // 8), cluster)
+                fits = False
+                between = between or "capitalize" in source
+        if between or any(picture.UNKNOWN in cells for cells in rows):
+            letters = "".join(cluster for cluster, _, _ in laid["clusters"])
+            return Answer([letters], between=True, fits=fits)
         rows = ["".join(cells).rstrip() for cells in rows]
-        if between:
-            rows = ["".join(cluster for cluster, _, _ in laid["clusters"])]
-        return Answer(rows, between, [] if between else picture.backgrounds(laid["picture"]))
+        return Answer(rows, fits=fits, paint=picture.backgrounds(laid["picture"]))
 
 
 def put(rows, row, column, cluster):
@@ -78,7 +71,8 @@ def for_browser(source):
     check = f"<style>{escape((HERE / 'check.css').read_text())}</style>"
     source = source.replace("<html>", '<html xmlns="http://www.w3.org/1999/xhtml">', 1)
     source = re.sub(r"<head */>", "<head></head>", source, 1)
-    source = source.replace("<head>", "<head>" + default, 1).replace("</head>", check + "</head>", 1)
+    source = source.replace("<head>", "<head>" + default, 1)
+    source = source.replace("</head>", check + "</head>", 1)
     return re.sub(r"(list-style[a-z-]*:[^;}\"]*?)\b(disc|circle|square)\b",
                   lambda found: f"{found[1]}'{picture.SYMBOLS[found[2]]} '", source)
 

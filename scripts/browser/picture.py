@@ -1,10 +1,13 @@
 """Reads the picture of a page in Unifont back into characters, cell by cell."""
 BORDER = "#"
+UNKNOWN = "\ufffd"
 SYMBOLS = {"disc": "\u2022", "circle": "\u25e6", "square": "\u25aa"}
 WIDE = "日本語中文字幅漢水火木金土月山川田石花空雨海、。「」！かなカナ"
 MARKED = [base + mark for base in "aeounxz" for mark in ("\u0301", "\u0308")]
-NARROW = [chr(code) for code in range(0x21, 0x7f) if chr(code) != BORDER] + ["\u201c", "\u201d", "\u2018", "\u2019"]
-CLUSTERS = [*NARROW, *SYMBOLS.values(), *MARKED, *(c.upper() for c in MARKED), *WIDE]
+ASCII = [chr(code) for code in range(0x21, 0x7f) if chr(code) != BORDER]
+CLUSTERS = [*ASCII, "\u201c", "\u201d", "\u2018", "\u2019", *SYMBOLS.values(), *MARKED,
+            *(cluster.upper() for cluster in MARKED), *WIDE]
+WHITE = "#ffffff"
 
 
 def cells_of(cluster):
@@ -12,52 +15,60 @@ def cells_of(cluster):
     return 2 if cluster in WIDE else 1
 
 
+class Mask:
+    """The pixels of a picture that are dark in one channel, a byte for each row of a cell."""
+
+    def __init__(self, channel):
+        dark = channel.point(lambda value: 255 * (value < 100)).convert("1", dither=0)
+        self._data = dark.tobytes()
+        self._columns = channel.width // 8
+
+    def cell(self, column, row, cells=1):
+        """The pixels of so many cells; of fewer at the end of the row."""
+        strip = self._data[16 * self._columns * row:16 * self._columns * (row + 1)]
+        return b"".join(strip[one::self._columns]
+                        for one in range(column, min(column + cells, self._columns)))
+
+
+def masks(picture):
+    """Of letters, and of letters and borders. Letters are black, borders are magenta, and
+    backgrounds have much red and much green."""
+    red, green, _ = picture.split()
+    return Mask(red), Mask(green)
+
+
 class Glyphs:
     """The clusters by the pixels of their cells, learned from a picture with one a row."""
 
     def __init__(self, picture):
         self._known = {bytes(16): " "}
-        inks, _ = separate(picture)
+        letters, _ = masks(picture)
         for row, cluster in enumerate(CLUSTERS):
-            key = pixels(inks, 0, row, cells_of(cluster))
+            key = letters.cell(0, row, cells_of(cluster))
             if key in self._known:
                 raise RuntimeError(f"{cluster} looks like {self._known[key]}")
             self._known[key] = cluster
 
     def read(self, picture):
-        """(rows of cells, whether all of them are whole). The second cell of a wide cluster is
-        empty; a cell that is painted in part, or holds no known cluster, is a "?"."""
-        inks, dark = separate(picture)
-        rows, whole = [], True
+        """Rows of cells. The second cell of a wide cluster is empty; one that is painted in part,
+        or holds nothing known, is UNKNOWN."""
+        letters, inks = masks(picture)
+        rows = []
         for row in range(picture.height // 16):
             cells = []
             while len(cells) < picture.width // 8:
-                cells += self._read_cell(inks, dark, len(cells), row)
-            whole = whole and "?" not in cells
+                cells += self._read_cell(letters, inks, len(cells), row)
             rows.append(cells)
-        return rows, whole
+        return rows
 
-    def _read_cell(self, inks, dark, column, row):
-        wide = self._known.get(pixels(inks, column, row, 2))
-        if wide:
+    def _read_cell(self, letters, inks, column, row):
+        wide = self._known.get(letters.cell(column, row, 2))
+        if wide and cells_of(wide) == 2:
             return [wide, ""]
-        key = pixels(inks, column, row)
-        painted = pixels(dark, column, row)
-        if painted != key and key == bytes(16):
-            return [BORDER if painted == b"\xff" * 16 else "?"]
-        return [self._known.get(key, "?")]
-
-
-def separate(picture):
-    """Two masks: the pixels of letters, and those of letters and borders. Letters are black and
-    borders magenta; backgrounds have much red and much green."""
-    red, green, _ = picture.split()
-    return (channel.point(lambda value: 255 * (value < 100)).convert("1", dither=0)
-            for channel in (red, green))
-
-
-def pixels(mask, column, row, cells=1):
-    return mask.crop((8 * column, 16 * row, 8 * (column + cells), 16 * row + 16)).tobytes()
+        key, ink = letters.cell(column, row), inks.cell(column, row)
+        if key == bytes(16) and ink != key:
+            return [BORDER if ink == b"\xff" * 16 else UNKNOWN]
+        return [self._known.get(key, UNKNOWN)]
 
 
 def backgrounds(picture):
@@ -65,17 +76,22 @@ def backgrounds(picture):
     rows = []
     for row in range(picture.height // 16):
         runs = []
-        for column in range(picture.width // 8):
-            colour = background(picture, column, row)
+        strip = picture.crop((0, 16 * row, picture.width, 16 * row + 16))
+        for column in range(picture.width // 8 if has_background(strip) else 0):
+            colour = background(strip.crop((8 * column, 0, 8 * column + 8, 16)))
             if runs and runs[-1][1:] == [column, colour]:
                 runs[-1][1] += 1
             else:
                 runs.append([column, column + 1, colour])
-        rows.append([run for run in runs if run[2] != "#ffffff"])
+        rows.append([run for run in runs if run[2] != WHITE])
     return rows
 
 
-def background(picture, column, row):
-    cell = picture.crop((8 * column, 16 * row, 8 * column + 8, 16 * row + 16))
+def has_background(strip):
+    return any(min(colour[:2]) >= 128 and min(colour) < 255
+               for _, colour in strip.getcolors(strip.width * 16))
+
+
+def background(cell):
     light = [(count, colour) for count, colour in cell.getcolors(128) if min(colour[:2]) >= 128]
-    return "#%02x%02x%02x" % max(light)[1] if light else "#ffffff"
+    return "#%02x%02x%02x" % max(light)[1] if light else WHITE

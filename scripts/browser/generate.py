@@ -1,0 +1,184 @@
+"""Makes pages from seeds: each uses a few of the features of the web dialect.
+
+No word begins with a hyphen, and markers have room at the page's left edge: there galley means to
+differ from browsers.
+"""
+import re
+import xml.etree.ElementTree as tree
+
+from choices import CLASSES, Choices
+from page import Page
+from tables import Tables
+from words import INLINE, Words
+
+BLOCKS = ("p p p p div div section header footer main nav article aside address figure blockquote "
+          "h1 h2 h3 h4 h5 h6").split()
+MARKERS = ("disc circle square decimal lower-alpha upper-alpha lower-latin upper-latin lower-roman "
+           "upper-roman none").split()
+SELECTORS = "type class id list descendant child first last nth both".split()
+
+
+def make_page(seed):
+    chosen = Choices(seed)
+    narrow = chosen.number(1, chosen.pick([12, 30, 40, 60, 80, 200]))
+    width = chosen.pick([20, 40, 60, 80, 100]) if chosen.chance(0.4) else narrow
+    blocks = Blocks(chosen)
+    body = f"<body>{blocks.blocks(0, chosen.number(1, 4))}</body>"
+    rules = make_rules(chosen, width, body) if chosen.chance(0.5) else ""
+    head = f"<head><style>{rules}</style></head>" if rules else "<head/>"
+    return Page(seed, width, f"<html>{head}{body}</html>", sorted(chosen.features))
+
+
+def make_rules(chosen, width, body):
+    """Rules whose selectors are taken from elements of the page."""
+    root = tree.fromstring(body)
+    parents = {child: parent for parent in root.iter() for child in parent}
+    rules = ""
+    for _ in range(chosen.number(1, 4)):
+        element = chosen.pick(list(parents))
+        for declaration in make_declarations(chosen, element):
+            rule = f"{make_selector(chosen, element, parents)} {{ {declaration} }}"
+            if chosen.chance(0.2):
+                bound = chosen.use("@media by width", chosen.pick(["min-width", "max-width"]))
+                near = 8 * max(1, width + chosen.number(-2, 2))
+                rule = f"@media ({bound}: {near}px) {{ {rule} }}"
+            rules += rule + "\n"
+    return rules
+
+
+def make_declarations(chosen, element):
+    """For one rule, or for several that contend about one property, also with the element."""
+    if chosen.chance(0.5):
+        block = element.tag not in INLINE
+        kind = chosen.block_declaration if block else chosen.edge_declaration
+        return [chosen.pick([chosen.text_declaration, kind])()]
+    chosen.use("cascade")
+    styled = re.findall(r"(?:margin|padding)[\w-]*(?=:)", element.get("style", ""))
+    name = chosen.pick(styled or ["margin-left", "padding-left"])
+    return [f"{name}: {16 * chosen.number(0, 3)}px"
+            + (chosen.use("!important", " !important") if chosen.chance(0.4) else "")
+            for _ in range(chosen.number(1, 3))]
+
+
+def make_selector(chosen, element, parents):
+    kind, tag, parent = chosen.pick(SELECTORS), element.tag, parents[element]
+    one = "." + element.get("class", chosen.pick(CLASSES))
+    nth = chosen.pick([str(list(parent).index(element) + 1), "odd", "even", "3n+1", "-n+2", "n+2"])
+    chosen.use(f"selector: {kind}")
+    above = parents.get(parent, parent).tag
+    near = chosen.pick([parent.tag, above])
+    return {"type": tag, "class": one, "id": f"#{element.get('id', 'one')}", "list": f"hr, {one}",
+            "descendant": f"{above} {tag}", "child": f"{near} > {tag}",
+            "first": f"{tag}:first-child", "last": f"{tag}:last-child",
+            "nth": f"{tag}:nth-child({nth})", "both": tag + one}[kind]
+
+
+class Blocks:
+    """Makes blocks by the choices that it is given."""
+
+    def __init__(self, chosen):
+        self._chosen = chosen
+        self._words = Words(chosen)
+        self._tables = Tables(chosen, self._words, self.blocks)
+
+    def blocks(self, depth, count):
+        spaces = ["", " ", "\n"]
+        return "".join(self._chosen.pick(spaces) + self._block(depth) for _ in range(count))
+
+    def _block(self, depth):
+        makers = [self._paragraph] * 5 + [self._narrow, self._empty, self._line, self._pre]
+        makers.append(self._terms)
+        if depth < 3:
+            makers += [self._nest] * 3 + [self._list] * 4 + [self._tables.table] * 4
+            makers.append(self._tables.boxes)
+        return self._chosen.pick(makers)(depth)
+
+    def _attributes(self, declarations=(), share=0.35):
+        """Attributes of a block: a class, an id, and a style with some of its own."""
+        chosen, style = self._chosen, [*declarations]
+        while chosen.chance(share):
+            style.append(chosen.block_declaration())
+        if chosen.chance(share * 0.7):
+            style.append(chosen.text_declaration())
+        text = f' class="{chosen.pick(CLASSES)}"' if chosen.chance(0.4) else ""
+        text += f' id="{chosen.pick(CLASSES)}"' if chosen.chance(0.1) else ""
+        return text + (f' style="{"; ".join(style)}"' if style else "")
+
+    def _paragraph(self, _):
+        tag = self._chosen.pick(BLOCKS)
+        return f"<{tag}{self._attributes()}>{self._words.text()}</{tag}>"
+
+    def _narrow(self, _):
+        """A paragraph whose lines break; where that matters, a browser mostly lays it at whole
+        cells."""
+        chosen, words = self._chosen, self._words
+        style = chosen.pick(["text-align: center", "text-align: justify", "text-align: justify",
+                             "overflow-wrap: normal", "word-break: break-all",
+                             "word-break: keep-all"])
+        chosen.use(style)
+        texts = {"text-align: center": "<br/>".join(words.even_word() for _ in range(2)),
+                 "text-align: justify": " ".join(words.even_word() for _ in range(5))}
+        text = texts.get(style) or words.text(4) + words.long_word()
+        return f'<p style="width: {2 * chosen.number(4, 8)}ch; {style}">{text}</p>'
+
+    def _nest(self, depth):
+        chosen, words = self._chosen, self._words
+        if chosen.chance(0.2):
+            block = f"<p{self._attributes()}>{words.words(2)}</p>"
+            return chosen.use("block in inline", f"<div>{words.words(2)}<b>{words.words(1)}"
+                              f"{block}{words.text(2)}</b></div>")
+        loose = chosen.use("text beside blocks", words.text(3)) if chosen.chance(0.3) else ""
+        inner = self.blocks(depth + 1, chosen.number(1, 3))
+        return f"<div{self._attributes()}>{loose}{inner}</div>"
+
+    def _empty(self, _):
+        inner = self._chosen.pick(["", " ", "<p></p>", '<div style="margin: 2lh 0"></div>'])
+        return self._chosen.use("empty block", f"<div{self._attributes(share=0.6)}>{inner}</div>")
+
+    def _line(self, _):
+        return self._chosen.use("hr", f"<hr{self._attributes(share=0.2)}/>")
+
+    def _pre(self, _):
+        chosen, style = self._chosen, []
+        if chosen.chance(0.5):
+            style.append(chosen.use("tab-size", f"tab-size: {chosen.pick([1, 2, 4, 5])}"))
+        if chosen.chance(0.4):
+            kind = chosen.pick(["pre-wrap", "pre-wrap", "pre-line"])
+            style.append(chosen.use(f"white-space: {kind}", f"white-space: {kind}"))
+        spaces = [" ", "   ", "\t", "\t", "\t", "\n", "\n\n", " \n "]
+        text = "".join(self._words.word() + chosen.pick(spaces) for _ in range(chosen.number(1, 8)))
+        end = chosen.pick(["x", "", ""])
+        return chosen.use("pre", f"<pre{self._attributes(style, 0.15)}>x{text}{end}</pre>")
+
+    def _terms(self, _):
+        pairs = "".join(f"<dt>{self._words.words(2)}</dt><dd>{self._words.words(5)}</dd>"
+                        for _ in range(self._chosen.number(1, 2)))
+        return self._chosen.use("dl", f"<dl>{pairs}</dl>")
+
+    def _list(self, depth):
+        chosen, style, start = self._chosen, [], ""
+        tag, kind = chosen.pick(["ul", "ol", "ol"]), chosen.pick(MARKERS)
+        if chosen.chance(0.8):
+            style.append(chosen.use(f"list: {kind}", f"list-style-type: {kind}"))
+        if chosen.chance(0.25):
+            style.append(chosen.use("list inside", "list-style-position: inside"))
+        if tag == "ol" and chosen.chance(0.3):
+            start = chosen.use("list start", f' start="{chosen.pick([0, 1, 3, 8, 9])}"')
+        # Room for "viii." and the blank behind it.
+        style.append("padding-left: 7ch")
+        items = "".join(self._item(depth) for _ in range(chosen.number(1, 4)))
+        chosen.use(f"list depth {min(depth, 2)}")
+        return f"<{tag}{start}{self._attributes(style, 0.1)}>{items}</{tag}>"
+
+    def _item(self, depth):
+        chosen, value = self._chosen, ""
+        if chosen.chance(0.1):
+            value = chosen.use("list value", f' value="{chosen.number(1, 12)}"')
+        if chosen.chance(0.1):
+            return chosen.use("empty item", f"<li{value}></li>")
+        inner = self._words.text(6)
+        if chosen.chance(0.2):
+            inner = f"<p>{inner}</p>"
+        if chosen.chance(0.2) and depth < 2:
+            inner += self._list(depth + 1)
+        return f"<li{value}{self._attributes(share=0.1)}>{inner}</li>"

@@ -1,0 +1,113 @@
+"""Tables, whose collapsed borders run along whole lines of their grid: where they do not, galley
+means to differ from browsers."""
+
+
+class Tables:
+    """Makes tables by the choices that it is given; `blocks` makes so many blocks for a cell of a
+    table at a depth."""
+
+    def __init__(self, choices, words, blocks):
+        self._choices, self._words, self._blocks = choices, words, blocks
+
+    def table(self, depth):
+        chosen = self._choices
+        columns, rows = chosen.number(1, 4), chosen.number(1, 3)
+        style = self._widths(columns)
+        if chosen.chance(0.4):
+            style.append(chosen.use("border-collapse", "border-collapse: collapse"))
+            cell = chosen.pick(["border: solid", "border: solid", "", "border-bottom: solid",
+                                "border-left: solid"])
+            style += ["border: solid"] if chosen.chance(0.3) else []
+        else:
+            cell = chosen.pick(["border: solid", "border: solid", "", "", "padding: 0",
+                                "padding: 1lh 2ch"])
+            if chosen.chance(0.3):
+                spacing = f"border-spacing: {chosen.cells(2)} {chosen.rows(1)}"
+                style.append(chosen.use("border-spacing", spacing))
+        spans = cell in ("border: solid", "") and chosen.chance(0.7)
+        body = self._rows(depth, columns, rows, cell, spans)
+        caption = self._caption() if chosen.chance(0.25) else ""
+        chosen.use("table")
+        return f'<table style="{"; ".join(style)}">{caption}{body}</table>'
+
+    def boxes(self, _):
+        """A table of other elements."""
+        cells = " ".join(f'<span style="display: table-cell">{self._words.words(1)}</span>'
+                         for _ in range(self._choices.number(1, 3)))
+        row = f'<div style="display: table-row">{cells}</div>'
+        return self._choices.use("display: table", f'<div style="display: table">{row}{row}</div>')
+
+    def _widths(self, columns):
+        chosen = self._choices
+        if chosen.chance(0.2):
+            width = columns * chosen.number(3, 12)
+            return [chosen.use("table-layout: fixed", f"table-layout: fixed; width: {width}ch")]
+        style = []
+        if chosen.chance(0.3):
+            width = chosen.pick([f"{chosen.number(4, 60)}ch", "100%", "50%"])
+            style.append(chosen.use("table width", f"width: {width}"))
+        if chosen.chance(0.15):
+            margin = chosen.pick(["margin-left: auto", "margin: 1lh auto",
+                                  f"margin: {chosen.rows(1)} {chosen.cells(3)}"])
+            style.append(chosen.use("table margin", margin))
+        return style
+
+    def _caption(self):
+        style = "text-align: left"
+        if self._choices.chance(0.4):
+            style += self._choices.use("caption at the bottom", "; caption-side: bottom")
+        return self._choices.use("caption",
+                                 f'<caption style="{style}">{self._words.words(2)}</caption>')
+
+    def _rows(self, depth, columns, rows, style, spans):
+        taken, parts = set(), []
+        for row in range(rows):
+            cells = ""
+            for column in range(columns):
+                if (row, column) in taken:
+                    continue
+                across, down = self._span(taken, row, column, columns, rows) if spans else (1, 1)
+                taken |= {(row + y, column + x) for y in range(down) for x in range(across)}
+                cells += self._cell(depth, style, across, down)
+            parts.append(f"<tr>{cells}</tr>")
+        if not self._choices.chance(0.15):
+            return "".join(parts)
+        self._choices.use("thead and tfoot")
+        head, foot = (f"<tr>{self._cell(depth, style, columns, 1)}</tr>" for _ in range(2))
+        return f"<tfoot>{foot}</tfoot>{''.join(parts)}<thead>{head}</thead>"
+
+    def _span(self, taken, row, column, columns, rows):
+        if not self._choices.chance(0.4):
+            return 1, 1
+        free = next((x for x in range(column, columns) if (row, x) in taken), columns)
+        return self._choices.number(1, free - column), self._choices.number(1, rows - row)
+
+    def _cell(self, depth, own, across, down):
+        chosen = self._choices
+        style = [own] if own else []
+        spans = chosen.use("colspan", f' colspan="{across}"') if across > 1 else ""
+        spans += chosen.use("rowspan", f' rowspan="{down}"') if down > 1 else ""
+        if chosen.chance(0.1):
+            width = chosen.pick([f"{chosen.number(1, 12)}ch", "50%", "25%"])
+            style.append(chosen.use("cell width", f"width: {width}"))
+        if chosen.chance(0.2):
+            side = chosen.pick(["top", "bottom", "bottom", "middle"])
+            style.append(chosen.use("vertical-align", f"vertical-align: {side}"))
+        if chosen.chance(0.1):
+            style.append(chosen.text_declaration())
+        attribute = f' style="{"; ".join(style)}"' if style else ""
+        attribute += f' class="{chosen.pick(["one", "two"])}"' if chosen.chance(0.2) else ""
+        tag = chosen.pick(["td", "td", "td", "th"])
+        return f"<{tag}{spans}{attribute}>{self._content(depth, down)}</{tag}>"
+
+    def _content(self, depth, down):
+        chosen = self._choices
+        text = self._words.words(chosen.number(0, 3))
+        # What makes a spanning cell higher than its rows is shared among them in another way.
+        if down == 1 and chosen.chance(0.15):
+            return chosen.use("broken cell", f"{text}<br/>{self._words.words(2)}")
+        if down == 1 and depth < 2 and chosen.chance(0.05):
+            return chosen.use("table in a cell", self.table(depth + 1))
+        if down == 1 and depth < 2 and chosen.chance(0.06):
+            return chosen.use("blocks in a cell", self._blocks(depth + 1, 1))
+        return text

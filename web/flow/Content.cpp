@@ -1,0 +1,91 @@
+#include "web/flow/Content.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "web/flow/LineBreaker.h"
+#include "web/flow/Table.h"
+#include "web/flow/lengths.h"
+
+namespace galley::web {
+
+void Content::open(Style const& block, OutsideMarker marker) {
+    entries.emplace_back(Open{&block, std::move(marker)});
+    openStyles.push_back(&block);
+    measured.emplace_back();
+}
+
+void Content::close() {
+    entries.emplace_back(Close{});
+    Widths const content = measured.back();
+    measured.pop_back();
+    take(withEdges(content, *openStyles.back()));
+    openStyles.pop_back();
+}
+
+void Content::add(Paragraph&& paragraph) {
+    take(measure(paragraph));
+    entries.emplace_back(std::move(paragraph));
+}
+
+void Content::add(std::unique_ptr<Table> table) {
+    take(table->outerWidths());
+    entries.emplace_back(std::move(table));
+}
+
+void Content::take(Widths const& child) {
+    Widths& around = measured.back();
+    around.least = std::max(around.least, child.least);
+    around.most = std::max(around.most, child.most);
+}
+
+void Content::moveTo(BlockSink& sink) {
+    for (auto& entry : entries) {
+        if (auto* const opened = std::get_if<Open>(&entry)) {
+            sink.open(*opened->style, std::move(opened->marker));
+        } else if (std::holds_alternative<Close>(entry)) {
+            sink.close();
+        } else if (auto* const paragraph = std::get_if<Paragraph>(&entry)) {
+            sink.add(std::move(*paragraph));
+        } else {
+            sink.add(std::move(std::get<std::unique_ptr<Table>>(entry)));
+        }
+    }
+    entries.clear();
+}
+
+Widths measure(Paragraph const& paragraph) {
+    constexpr int s_unlimited = std::numeric_limits<int>::max() / 2;
+    auto const widest = [&](int cells) {
+        LineBreaker breaker(paragraph, 0, LineBreaker::Purpose::measuring);
+        int const indent = across(paragraph.block().textIndent, 0);
+        int result = 0;
+        for (Place at; !breaker.isAtEnd(at);) {
+            TextLine const line = breaker.next(at, cells);
+            result = std::max(result, line.width + (at == Place() ? indent : 0));
+            at = line.end;
+        }
+        return result;
+    };
+    return {widest(0), widest(s_unlimited)};
+}
+
+Widths withEdges(Widths content, Style const& style) {
+    int const edges =
+        innerEdges(style, 0) + across(style.margin.left, 0) + across(style.margin.right, 0);
+    if (style.width.kind == Length::Kind::cells) {
+        content.least = content.most = style.width.value;
+    }
+    if (style.maxWidth.kind == Length::Kind::cells) {
+        content.least = std::min(content.least, style.maxWidth.value);
+        content.most = std::min(content.most, style.maxWidth.value);
+    }
+    if (style.minWidth.kind == Length::Kind::cells) {
+        content.least = std::max(content.least, style.minWidth.value);
+        content.most = std::max(content.most, style.minWidth.value);
+    }
+    return {content.least + edges, content.most + edges};
+}
+
+}  // namespace galley::web

@@ -1,0 +1,199 @@
+#include "web/flow/Flow.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "web/flow/Border.h"
+#include "web/flow/Table.h"
+#include "web/flow/lengths.h"
+#include "web/flow/paintLine.h"
+
+namespace galley::web {
+
+namespace {
+
+bool isVisible(Colour background) { return background.kind != Colour::Kind::terminal; }
+
+}  // namespace
+
+Flow::Flow(RowSink& rows, int columns, Colour background, OuterMargins outer)
+    : sink(rows),
+      width(columns),
+      ground(background),
+      dropsMargins(outer == OuterMargins::dropped) {}
+
+void Flow::open(Style const& style, OutsideMarker marker) {
+    int const container = columns();
+    HorizontalPlace const place = placeBlock(style, container);
+    int const left = contentLeft() + place.marginLeft;
+    int const edge = (style.border.left.isThere() ? 1 : 0) + across(style.padding.left, container);
+    int const right = left + place.width + innerEdges(style, container);
+    pending = std::max(pending, down(style.margin.top, container));
+    blocks.push_back({.style = &style,
+                      .marker = std::move(marker),
+                      .left = left,
+                      .right = right,
+                      .contentLeft = left + edge,
+                      .contentWidth = place.width,
+                      .around = background(),
+                      .background = backgroundOf(style, background()),
+                      .hasStarted = false});
+    int const padding = down(style.padding.top, container);
+    if (!style.border.top.isThere() && padding == 0) return;
+    start();
+    if (style.border.top.isThere()) addBorder(true);
+    addBlanks(padding);
+}
+
+void Flow::close() {
+    Style const& style = *blocks.back().style;
+    int const container = blocks.size() > 1 ? blocks[blocks.size() - 2].contentWidth : width;
+    int const padding = down(style.padding.bottom, container);
+    bool const hasMarker = !blocks.back().marker.text.empty();
+    if (hasMarker) {
+        // An item without a line has the row of its marker.
+        start();
+        beginRow();
+        endRow();
+    }
+    bool const hasBottom = style.border.bottom.isThere() || padding > 0;
+    if (hasBottom) {
+        start();
+        addBlanks(padding);
+        if (style.border.bottom.isThere()) addBorder(false);
+    }
+    blocks.pop_back();
+    pending = std::max(pending, down(style.margin.bottom, container));
+}
+
+void Flow::addLines(Paragraph const& paragraph) {
+    int const container = columns();
+    LineBreaker breaker(paragraph, container, LineBreaker::Purpose::layingOut);
+    Style const& style = paragraph.block();
+    int indent = across(style.textIndent, container);
+    start();
+    for (Place at; !breaker.isAtEnd(at);) {
+        TextLine const line = breaker.next(at, container - indent);
+        int const spare = std::max(0, container - indent - line.width);
+        int offset = indent;
+        if (style.textAlign == TextAlign::right) offset += spare;
+        if (style.textAlign == TextAlign::centre) offset += spare / 2;
+        bool const isSpread = style.textAlign == TextAlign::justify && !line.isLast;
+        int const column = contentLeft() + offset;
+        beginRow();
+        row.fill(column, blankOn(background()));
+        paintLine(row, paragraph, line, container, contentLeft(), isSpread ? spare : 0);
+        endRow();
+        at = line.end;
+        indent = 0;
+    }
+}
+
+void Flow::add(std::unique_ptr<Table> table) {
+    int const container = columns();
+    Style const& style = table->style();
+    pending = std::max(pending, down(style.margin.top, container));
+    TableRows const made = table->layOut(container, background());
+    if (!made.rows.empty()) {
+        start();
+        for (Row const& tableRow : made.rows) {
+            int const column = contentLeft() + made.left;
+            beginRow();
+            row.fill(column, blankOn(background()));
+            row.add(tableRow);
+            endRow();
+        }
+    }
+    pending = std::max(pending, down(style.margin.bottom, container));
+}
+
+void Flow::finish() {
+    if (!dropsMargins) addBlanks(std::exchange(pending, 0));
+}
+
+/// Makes the rows of the margin that waits. From now on rows are those of all open blocks.
+void Flow::start() {
+    if (pending > 0) {
+        int const rows = std::exchange(pending, 0);
+        if (hasRows || !dropsMargins) addBlanks(rows);
+    }
+    for (Block& block : blocks) block.hasStarted = true;
+}
+
+void Flow::addBlanks(int rows) {
+    for (; rows > 0; --rows) {
+        row.clear();
+        addLeftEdges(blocks.size(), false);
+        endRow();
+    }
+}
+
+/// Begins a row of content.
+void Flow::beginRow() {
+    row.clear();
+    addLeftEdges(blocks.size(), true);
+}
+
+/// Adds what is left of the content of the outermost blocks, so many, as far as they have started;
+/// in a row of content the markers that have not been shown.
+void Flow::addLeftEdges(std::size_t count, bool isContent) {
+    for (std::size_t i = 0; i < count; ++i) {
+        Block& block = blocks[i];
+        if (!block.hasStarted) break;
+        if (isContent && !block.marker.text.empty()) addMarker(block);
+        if (block.style->border.left.isThere() || isVisible(block.around) || isVisible(block.background)) {
+            row.fill(block.left, blankOn(block.around));
+        }
+        if (block.style->border.left.isThere()) addVertical(row, block.style->border.left, block.background);
+        if (isVisible(block.background)) row.fill(block.contentLeft, blankOn(block.background));
+    }
+}
+
+/// Adds a marker to the left of its block, or where that begins further left than there is room,
+/// before it.
+void Flow::addMarker(Block& block) {
+    row.fill(block.left - 1 - block.marker.columns, blankOn(block.around));
+    Look look = lookOf(*block.style, block.around);
+    look.isUnderlined = look.isStruckThrough = false;
+    if (block.style->visibility == Visibility::visible) {
+        row.add(block.marker.text, block.marker.columns, look);
+    } else {
+        row.fill(row.width() + block.marker.columns, look);
+    }
+    row.fill(row.width() + 1, blankOn(block.around));
+    block.marker.text.clear();
+}
+
+void Flow::endRow() {
+    addRightEdges(blocks.size());
+    sink.take(row);
+    hasRows = true;
+}
+
+/// Adds what is right of the content of the outermost blocks, so many.
+void Flow::addRightEdges(std::size_t count) {
+    for (std::size_t i = count; i-- > 0;) {
+        Block const& block = blocks[i];
+        if (!block.hasStarted) continue;
+        Border const& border = block.style->border.right;
+        int const column = block.right - (border.isThere() ? 1 : 0);
+        if (border.isThere() || isVisible(block.background)) {
+            row.fill(column, blankOn(block.background));
+        }
+        if (border.isThere() && row.width() == column) addVertical(row, border, block.background);
+    }
+}
+
+/// Adds the border at the top or the bottom of the innermost block.
+void Flow::addBorder(bool isTop) {
+    Block const& block = blocks.back();
+    row.clear();
+    addLeftEdges(blocks.size() - 1, false);
+    row.fill(block.left, blankOn(block.around));
+    addHorizontal(row, *block.style, isTop, block.right - block.left, block.background);
+    addRightEdges(blocks.size() - 1);
+    sink.take(row);
+    hasRows = true;
+}
+
+}  // namespace galley::web

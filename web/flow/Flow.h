@@ -1,0 +1,73 @@
+#pragma once
+
+#include <vector>
+
+#include "web/flow/BlockSink.h"
+#include "web/flow/LineBreaker.h"
+#include "web/flow/Row.h"
+
+namespace galley::web {
+
+/// Lays out the content of a block container while it comes in, row by row: blocks below one
+/// another, as wide as what is around them, with margins that collapse.
+///
+/// 1. A margin waits in `pending` until it is known what it collapses with: the larger counts.
+/// 2. A block has *started* once a row of it has been made. Rows of a margin that waits stand
+///    outside of the blocks that have not started, and of those that have closed.
+class Flow final : public BlockSink {
+public:
+    /// How margins at the top and the bottom of the content show.
+    enum class OuterMargins { shown, dropped };
+
+    /// Of so many columns on a background. The sink outlives it.
+    Flow(RowSink& rows, int columns, Colour background, OuterMargins outer);
+
+    void open(Style const& block, OutsideMarker marker) override;
+    void close() override;
+    void add(Paragraph&& paragraph) override { addLines(paragraph); }
+    void add(std::unique_ptr<Table> table) override;
+    /// The same as `add`, without taking it.
+    void addLines(Paragraph const& paragraph);
+    /// To be called behind all content.
+    void finish();
+
+private:
+    /// A block that is open. Columns are counted from the left of the container.
+    struct Block {
+        Style const* style;
+        OutsideMarker marker;
+        /// Of the border box.
+        int left;
+        int right;
+        /// Of the content box.
+        int contentLeft;
+        int contentWidth;
+        Colour around;
+        Colour background;
+        bool hasStarted;
+    };
+
+    int columns() const { return blocks.empty() ? width : blocks.back().contentWidth; }
+    int contentLeft() const { return blocks.empty() ? 0 : blocks.back().contentLeft; }
+    Colour background() const { return blocks.empty() ? ground : blocks.back().background; }
+    void start();
+    void addBlanks(int rows);
+    void beginRow();
+    void endRow();
+    void addLeftEdges(std::size_t count, bool isContent);
+    void addMarker(Block& block);
+    void addRightEdges(std::size_t count);
+    void addBorder(bool isTop);
+
+    RowSink& sink;
+    int width;
+    Colour ground;
+    bool dropsMargins;
+    bool hasRows = false;
+    /// Rows of margins that wait.
+    int pending = 0;
+    std::vector<Block> blocks;
+    Row row;
+};
+
+}  // namespace galley::web

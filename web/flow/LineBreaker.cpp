@@ -1,0 +1,208 @@
+#include "web/flow/LineBreaker.h"
+
+#include <algorithm>
+
+#include "web/flow/lengths.h"
+#include "web/text/Cluster.h"
+
+namespace galley::web {
+
+namespace {
+
+bool wraps(Style const& style) {
+    return style.whiteSpace != WhiteSpace::nowrap && style.whiteSpace != WhiteSpace::pre;
+}
+
+}  // namespace
+
+bool LineBreaker::mayPart(Style const& style) const {
+    if (!wraps(style)) return false;
+    if (style.overflowWrap == OverflowWrap::anywhere) return true;
+    return style.overflowWrap == OverflowWrap::breakWord && purpose == Purpose::layingOut;
+}
+
+TextLine LineBreaker::next(Place from, int cells) {
+    line = {.begin = from};
+    available = cells;
+    at = from;
+    used = printed = 0;
+    hasText = false;
+    fitting = newest = {};
+    while (!isAtEnd(at)) {
+        if (step()) return line;
+    }
+    if (printed > available && fitting.isThere) {
+        end(fitting);
+    } else {
+        end({at, printed, false, true});
+        line.isLast = true;
+    }
+    return line;
+}
+
+/// Takes what is at `at`. Returns whether that ends the line.
+bool LineBreaker::step() {
+    Item const& item = paragraph.items()[at.item];
+    Place const behind = {at.item + 1, 0};
+    if (item.kind == Item::Kind::close) {
+        int const edge = paragraph.element(item).rightEdge(container);
+        if (newest.isThere && newest.place == at) {
+            newest.place = behind;
+            newest.width += edge;
+        }
+        used += edge;
+        printed += edge;
+        at = behind;
+        return false;
+    }
+    if (commit()) return true;
+    Style const& style = styleOf(item);
+    switch (item.kind) {
+        case Item::Kind::words:
+            return takeWords(item);
+        case Item::Kind::word:
+            return takeWord(item);
+        case Item::Kind::blank:
+            if (hasText) ++used;
+            if (hasText && wraps(style)) offer(behind, printed);
+            break;
+        case Item::Kind::blanks:
+        case Item::Kind::tab:
+            used += item.kind == Item::Kind::tab ? cellsToTabStop(style) : static_cast<int>(item.width);
+            hasText = true;
+            if (wraps(style)) {
+                offer(behind, printed);
+            } else {
+                printed = used;
+            }
+            break;
+        case Item::Kind::lineFeed:
+            end({behind, printed, false, true});
+            line.isLast = true;
+            return true;
+        case Item::Kind::breakable:
+            if (wraps(style)) offer(behind, printed);
+            break;
+        case Item::Kind::open:
+            used += paragraph.element(item).leftEdge(container);
+            printed += paragraph.element(item).leftEdge(container);
+            break;
+        case Item::Kind::close:
+            break;
+    }
+    at = behind;
+    return false;
+}
+
+int LineBreaker::cellsToTabStop(Style const& style) const {
+    if (style.tabSize == 0) return 0;
+    int const column = container - available + used;
+    return style.tabSize - column % style.tabSize;
+}
+
+bool LineBreaker::takeWords(Item const& item) {
+    std::string_view const words = paragraph.textOf(item).substr(at.offset);
+    auto const length = static_cast<int>(words.size());
+    int const room = available - used;
+    hasText = true;
+    if (length - 1 <= room) {
+        used += length;
+        printed = used - 1;
+        at = {at.item + 1, 0};
+        offer(at, printed);
+        return false;
+    }
+    // The blank behind the last word that fits.
+    std::size_t const blank =
+        room > 0 ? words.rfind(' ', static_cast<std::size_t>(room)) : std::string_view::npos;
+    if (blank != std::string_view::npos) return endInWords(blank);
+    if (fitting.isThere) return end(fitting);
+    if (mayPart(styleOf(item))) return part(item);
+    return endInWords(words.find(' '));
+}
+
+/// Ends the line behind a blank in words, which are at `at`.
+bool LineBreaker::endInWords(std::size_t blank) {
+    auto const length = static_cast<std::uint32_t>(blank);
+    Item const& item = paragraph.items()[at.item];
+    Place place = {at.item, at.offset + length + 1};
+    if (item.begin + place.offset == item.end) place = {at.item + 1, 0};
+    return end({place, used + static_cast<int>(length), false, true});
+}
+
+bool LineBreaker::takeWord(Item const& item) {
+    int const width = at.offset == 0 ? static_cast<int>(item.width) : restWidth(item);
+    if (used + width > available) {
+        if (fitting.isThere) return end(fitting);
+        if (mayPart(styleOf(item))) return part(item);
+    }
+    hasText = true;
+    used += width;
+    printed = used;
+    at = {at.item + 1, 0};
+    if (item.mayBreakBehind && wraps(styleOf(item))) {
+        offer(at, printed + (item.hyphenates ? 1 : 0), item.hyphenates);
+    }
+    return false;
+}
+
+/// Cells of what is left of a word that was parted, or more than there is room for.
+int LineBreaker::restWidth(Item const& item) const {
+    std::string_view const rest = paragraph.textOf(item).substr(at.offset);
+    if (item.isPlain) return static_cast<int>(rest.size());
+    int width = 0;
+    for (std::size_t i = 0; i < rest.size() && used + width <= available;) {
+        Cluster const cluster = clusterAt(rest, i, false);
+        width += static_cast<int>(cluster.width);
+        i = cluster.end;
+    }
+    return width;
+}
+
+/// Ends the line within a word, or before it: behind the last cluster that fits. A line has one at
+/// least.
+bool LineBreaker::part(Item const& item) {
+    std::string_view const rest = paragraph.textOf(item).substr(at.offset);
+    int width = 0;
+    std::size_t taken = 0;
+    while (taken < rest.size() && rest[taken] != ' ') {
+        Cluster const cluster = clusterAt(rest, taken, false);
+        auto const cells = static_cast<int>(cluster.width);
+        bool const isFirst = taken == 0 && printed == 0;
+        if (used + width + cells > available && !isFirst) break;
+        width += cells;
+        taken = cluster.end;
+    }
+    if (taken == 0) return end({at, printed, false, true});
+    Place place = {at.item, at.offset + static_cast<std::uint32_t>(taken)};
+    if (item.begin + place.offset == item.end) place = {at.item + 1, 0};
+    return end({place, used + width, false, true});
+}
+
+void LineBreaker::offer(Place place, int width, bool hyphenates) {
+    newest = {place, width, hyphenates, true};
+}
+
+/// Something comes behind the newest opportunity. Returns whether the line ends there, or at one
+/// before it.
+bool LineBreaker::commit() {
+    if (!newest.isThere) return false;
+    Opportunity const opportunity = newest;
+    newest.isThere = false;
+    if (opportunity.width <= available) {
+        fitting = opportunity;
+        return false;
+    }
+    // A soft hyphen for which there is no room is none.
+    if (opportunity.hyphenates && opportunity.width - 1 <= available) return false;
+    return end(fitting.isThere ? fitting : opportunity);
+}
+
+bool LineBreaker::end(Opportunity const& where) {
+    line.end = where.place;
+    line.width = where.width;
+    line.hyphenates = where.hyphenates;
+    return true;
+}
+
+}  // namespace galley::web

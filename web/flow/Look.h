@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+
+#include "web/Colour.h"
+#include "web/Style.h"
+
+namespace galley::web {
+
+/// Where a link leads.
+struct Link {
+    /// Of a scheme that may be followed, without controls.
+    std::string address;
+    /// Not that of any other link of the page: tells a terminal which parts of rows are one link.
+    unsigned number = 0;
+};
+
+/// How cells look.
+struct Look {
+    Colour text;
+    /// Never transparent: what shows through is the terminal's own.
+    Colour background;
+    bool isBold = false;
+    bool isFaint = false;
+    bool isItalic = false;
+    bool isUnderlined = false;
+    bool isStruckThrough = false;
+    /// Null for none. It outlives the look.
+    Link const* link = nullptr;
+
+    bool operator==(Look const&) const = default;
+};
+
+/// The background of an element that stands on another one.
+inline Colour backgroundOf(Style const& style, Colour around) {
+    return style.background.kind == Colour::Kind::transparent ? around : style.background;
+}
+
+/// How text of an element looks on a background.
+inline Look lookOf(Style const& style, Colour background, Link const* link = nullptr) {
+    return {.text = style.colour,
+            .background = background,
+            .isBold = style.fontWeight.isBold(),
+            .isFaint = style.fontWeight.isFaint(),
+            .isItalic = style.isItalic,
+            .isUnderlined = style.drawn.isUnderlined,
+            .isStruckThrough = style.drawn.isStruckThrough,
+            .link = link};
+}
+
+/// How blanks look on a background.
+inline Look blankOn(Colour background) { return {.text = {}, .background = background}; }
+
+}  // namespace galley::web

@@ -1,0 +1,206 @@
+#include "web/flow/Paragraph.h"
+
+#include <utility>
+
+#include "web/flow/lengths.h"
+#include "web/flow/transformText.h"
+
+namespace galley::web {
+
+namespace {
+
+TextOptions optionsFor(Style const& style) {
+    TextOptions options;
+    switch (style.whiteSpace) {
+        case WhiteSpace::normal:
+        case WhiteSpace::nowrap:
+            options.whiteSpace = TextOptions::WhiteSpace::collapsed;
+            break;
+        case WhiteSpace::preLine:
+            options.whiteSpace = TextOptions::WhiteSpace::lines;
+            break;
+        case WhiteSpace::pre:
+        case WhiteSpace::preWrap:
+            options.whiteSpace = TextOptions::WhiteSpace::preserved;
+            break;
+    }
+    switch (style.wordBreak) {
+        case WordBreak::normal:
+            options.wordBreak = TextOptions::WordBreak::normal;
+            break;
+        case WordBreak::keepAll:
+            options.wordBreak = TextOptions::WordBreak::keepAll;
+            break;
+        case WordBreak::breakAll:
+            options.wordBreak = TextOptions::WordBreak::breakAll;
+            break;
+    }
+    return options;
+}
+
+}  // namespace
+
+int Inline::leftEdge(int columns) const {
+    if (!begins) return 0;
+    return across(style->margin.left, columns) + (style->border.left.isThere() ? 1 : 0) +
+           across(style->padding.left, columns);
+}
+
+int Inline::rightEdge(int columns) const {
+    if (!ends) return 0;
+    return across(style->margin.right, columns) + (style->border.right.isThere() ? 1 : 0) +
+           across(style->padding.right, columns);
+}
+
+void Paragraph::begin(Style const& block, Colour background) {
+    text.clear();
+    all.clear();
+    openElements.clear();
+    elements.assign(1, {.style = &block, .look = lookOf(block, background), .around = background});
+    current = 0;
+    isBehindBlank = true;
+    hasContent = false;
+}
+
+Item& Paragraph::add(Item::Kind kind) {
+    auto const at = static_cast<std::uint32_t>(text.size());
+    return all.emplace_back(Item{.kind = kind, .element = current, .begin = at, .end = at});
+}
+
+void Paragraph::open(Style const& style, Link const* link) {
+    Inline const& around = elements[current];
+    Colour const ground = around.look.background;
+    Inline const opened = {.style = &style,
+                           .look = lookOf(style, backgroundOf(style, ground),
+                                          link != nullptr ? link : around.look.link),
+                           .around = ground,
+                           .parent = current};
+    // An edge makes a line, even without text.
+    hasContent = hasContent || opened.leftEdge(1000) > 0 || opened.rightEdge(1000) > 0;
+    current = static_cast<std::uint32_t>(elements.size());
+    openElements.push_back(current);
+    elements.push_back(opened);
+    add(Item::Kind::open);
+}
+
+void Paragraph::close() {
+    add(Item::Kind::close);
+    openElements.pop_back();
+    current = elements[current].parent;
+}
+
+void Paragraph::partInto(Paragraph& done) {
+    for (std::uint32_t const opened : openElements) elements[opened].ends = false;
+    std::vector<std::uint32_t> const parted = openElements;
+    done = *this;
+    // Innermost last, as they were opened.
+    std::vector<Inline> const kept = std::move(elements);
+    begin(*kept.front().style, kept.front().look.background);
+    for (std::uint32_t const opened : parted) {
+        open(*kept[opened].style, kept[opened].look.link);
+        elements.back().begins = false;
+        elements.back().ends = true;
+    }
+    hasContent = false;
+}
+
+void Paragraph::addLineFeed() {
+    hasContent = true;
+    isBehindBlank = true;
+    add(Item::Kind::lineFeed);
+}
+
+void Paragraph::addBreakable() { add(Item::Kind::breakable); }
+
+void Paragraph::addBlank() {
+    if (std::exchange(isBehindBlank, true)) return;
+    Item& blank = add(Item::Kind::blank);
+    blank.width = 1;
+}
+
+void Paragraph::addText(std::string_view decoded) {
+    if (style().textTransform != TextTransform::none) {
+        transformText(transformed, decoded, style().textTransform);
+        decoded = transformed;
+    }
+    TextOptions const options = optionsFor(style());
+    bool const isWrapped = style().whiteSpace == WhiteSpace::normal;
+    SegmentReader reader(decoded, options);
+    Segment segment;
+    for (;;) {
+        if (isWrapped) {
+            std::string_view const words = reader.takeWords();
+            if (!words.empty()) addWords(words);
+        }
+        if (!reader.next(segment)) return;
+        bool const isWord = isWrapped && segment.isPlain && segment.end > segment.begin &&
+                            segment.behind == Segment::Behind::space;
+        std::string_view const bytes =
+            decoded.substr(segment.begin, segment.end - segment.begin);
+        if (isWord) {
+            addWords(bytes);
+            text += ' ';
+            ++all.back().end;
+        } else {
+            if (!bytes.empty()) addWord(bytes, segment);
+            addBehind(segment);
+        }
+    }
+}
+
+/// Adds words with a blank behind each, or one whose blank is added next.
+void Paragraph::addWords(std::string_view words) {
+    hasContent = true;
+    isBehindBlank = true;
+    bool const goesOn = !all.empty() && all.back().kind == Item::Kind::words &&
+                        all.back().element == current;
+    if (!goesOn) add(Item::Kind::words);
+    text += words;
+    all.back().end = static_cast<std::uint32_t>(text.size());
+}
+
+void Paragraph::addWord(std::string_view bytes, Segment const& segment) {
+    hasContent = true;
+    isBehindBlank = false;
+    Item& word = add(Item::Kind::word);
+    text += bytes;
+    word.end = static_cast<std::uint32_t>(text.size());
+    word.width = static_cast<std::uint32_t>(segment.width);
+    word.isPlain = segment.isPlain;
+    word.hyphenates = segment.behind == Segment::Behind::softHyphen;
+    word.mayBreakBehind = word.hyphenates || segment.behind == Segment::Behind::opportunity;
+}
+
+void Paragraph::addBehind(Segment const& segment) {
+    bool const isPreserved =
+        style().whiteSpace == WhiteSpace::pre || style().whiteSpace == WhiteSpace::preWrap;
+    switch (segment.behind) {
+        case Segment::Behind::space:
+            if (isPreserved) {
+                Item& blanks = add(Item::Kind::blanks);
+                blanks.width = static_cast<std::uint32_t>(segment.next - segment.end);
+                hasContent = true;
+                isBehindBlank = false;
+            } else {
+                addBlank();
+            }
+            break;
+        case Segment::Behind::tab:
+            add(Item::Kind::tab);
+            hasContent = true;
+            isBehindBlank = false;
+            break;
+        case Segment::Behind::lineFeed:
+            addLineFeed();
+            break;
+        case Segment::Behind::opportunity:
+        case Segment::Behind::softHyphen:
+            // Without a word before it, as at the beginning of a text.
+            if (segment.begin == segment.end) addBreakable();
+            break;
+        case Segment::Behind::end:
+            break;
+    }
+}
+
+}  // namespace galley::web

@@ -1,0 +1,113 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "web/flow/Look.h"
+#include "web/text/SegmentReader.h"
+
+namespace galley::web {
+
+/// An inline element in a paragraph, or as the first one the block that the paragraph is in.
+struct Inline {
+    Style const* style = nullptr;
+    Look look;
+    /// What its margins stand on.
+    Colour around;
+    std::uint32_t parent = 0;
+    /// It begins here, and ends here: a block in it parts it, and its edges are at its ends.
+    ///@{
+    bool begins = true;
+    bool ends = true;
+    ///@}
+
+    /// Columns of margin, border and padding at either end, in a container of so many columns.
+    ///@{
+    int leftEdge(int columns) const;
+    int rightEdge(int columns) const;
+    ///@}
+};
+
+/// A part of a paragraph.
+struct Item {
+    enum class Kind : std::uint8_t {
+        words,     ///< Plain ASCII, each word with one blank behind it, where a line may break.
+        word,      ///< No line breaks in it unless it has to.
+        blank,     ///< Of collapsed white space, which nothing shows of at either end of a line.
+        blanks,    ///< That count.
+        tab,       ///< That counts.
+        lineFeed,  ///< The line ends here.
+        open,
+        close,
+        breakable,  ///< A line may break here, whatever is around.
+    };
+
+    Kind kind;
+    /// Of a word: it is printed as it is, a cell a byte.
+    bool isPlain = true;
+    /// Of a word: a line may break behind it, and whether that then shows a hyphen.
+    ///@{
+    bool mayBreakBehind = false;
+    bool hyphenates = false;
+    ///@}
+    /// The innermost element that it is in; of one that opens or closes, that element.
+    std::uint32_t element = 0;
+    /// Bytes of the text.
+    std::uint32_t begin = 0;
+    std::uint32_t end = 0;
+    /// In cells.
+    std::uint32_t width = 0;
+};
+
+/// Text and inline elements between two blocks: what lines are made of. White space is collapsed
+/// when it is added, but for what depends on where lines break.
+class Paragraph {
+public:
+    /// Begins the paragraph of a block, with no element in it.
+    void begin(Style const& block, Colour background);
+    void open(Style const& style, Link const* link);
+    void close();
+    /// Adds text of the innermost element.
+    void addText(std::string_view decoded);
+    /// Ends the line, whatever white space means here.
+    void addLineFeed();
+    /// Lets a line break here.
+    void addBreakable();
+
+    /// Parts the open elements: what has been added becomes `done`, and this one goes on with them.
+    void partInto(Paragraph& done);
+
+    Style const& block() const { return *elements.front().style; }
+    /// Whether it makes lines: text, or an edge of an element, is there.
+    bool isEmpty() const { return !hasContent; }
+    std::vector<Item> const& items() const { return all; }
+    Inline const& element(Item const& item) const { return elements[item.element]; }
+    std::string_view textOf(Item const& item) const {
+        return std::string_view(text).substr(item.begin, item.end - item.begin);
+    }
+    std::size_t depth() const { return openElements.size(); }
+
+private:
+    void addWord(std::string_view bytes, Segment const& segment);
+    void addWords(std::string_view words);
+    void addBehind(Segment const& segment);
+    void addBlank();
+    Item& add(Item::Kind kind);
+    Style const& style() const { return *elements[current].style; }
+
+    std::string text;
+    std::vector<Item> all;
+    std::vector<Inline> elements;
+    std::vector<std::uint32_t> openElements;
+    /// The innermost one that is open.
+    std::uint32_t current = 0;
+    /// White space that comes now is no more than what is there: behind a blank, or at the start of
+    /// a line.
+    bool isBehindBlank = true;
+    bool hasContent = false;
+    std::string transformed;
+};
+
+}  // namespace galley::web

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "web/flow/Look.h"
+
+namespace galley::web {
+
+/// A row of a page, from its left edge to the last column that is drawn.
+///
+/// 1. The spans cover the text from left to right, none is empty, and neighbours differ in looks.
+/// 2. The text is well-formed UTF-8 without controls, and takes `width()` cells.
+class Row {
+public:
+    /// Cells that look alike.
+    struct Span {
+        /// Bytes of the text.
+        std::size_t begin;
+        std::size_t end;
+        Look look;
+    };
+
+    /// In cells.
+    int width() const { return cells; }
+    std::string_view text() const { return bytes; }
+    std::string_view textOf(Span const& span) const {
+        return std::string_view(bytes).substr(span.begin, span.end - span.begin);
+    }
+    std::vector<Span> const& spans() const { return all; }
+
+    /// Adds text behind what is there; `printed` takes that many cells.
+    void add(std::string_view printed, int columns, Look const& look);
+    /// Adds blanks up to a column, where that is not reached yet.
+    void fill(int column, Look const& look);
+    /// Adds another row behind what is there.
+    void add(Row const& other);
+    void clear();
+
+private:
+    void close(Look const& look);
+
+    std::string bytes;
+    std::vector<Span> all;
+    int cells = 0;
+};
+
+/// Takes the rows of a page, or of a part of one, from the top down.
+class RowSink {
+public:
+    virtual ~RowSink() = default;
+    virtual void take(Row const& row) = 0;
+};
+
+}  // namespace galley::web
