@@ -10,7 +10,7 @@ EmbeddedSheet::EmbeddedSheet(Piece const& startTag, std::vector<Problem>& proble
     : marks{{0, startTag.offset}} {
     for (Attribute const& attribute : startTag.attributes) {
         if (attribute.name != "media") continue;
-        decodeReferences(attribute.value, attribute.valueOffset, mediaList, problems);
+        decodeValue(attribute.value, attribute.valueOffset, mediaList, problems);
     }
 }
 

@@ -26,6 +26,8 @@ constexpr std::uint32_t s_lastCodePoint = 0x10FFFF;
 
 constexpr bool continuesReference(char c) { return isLetter(c) || isDigit(c) || c == '#'; }
 
+constexpr bool isValueSpace(char c) { return c == '\t' || c == '\n' || c == '\r'; }
+
 bool isCharacter(std::uint32_t number) {
     bool const isSurrogate = number >= 0xD800 && number <= 0xDFFF;
     return number > 0 && number <= s_lastCodePoint && !isSurrogate;
@@ -59,7 +61,8 @@ std::optional<std::uint32_t> parseNumber(std::string_view digits) {
 bool References::next(Part& part) {
     if (at == source.size()) return false;
     part.offset = sourceOffset + at;
-    if (source[at] == '&' && readReference()) {
+    part.isReference = source[at] == '&' && readReference();
+    if (part.isReference) {
         part.text = decoded;
         return true;
     }
@@ -102,6 +105,22 @@ void decodeReferences(std::string_view text, std::size_t offset, std::string& de
                       std::vector<Problem>& problems) {
     References references(text, offset, problems);
     for (References::Part part; references.next(part);) decoded += part.text;
+}
+
+bool isEncodedValue(std::string_view value) {
+    return std::ranges::any_of(value, [](char c) { return c == '&' || isValueSpace(c); });
+}
+
+void decodeValue(std::string_view value, std::size_t offset, std::string& decoded,
+                 std::vector<Problem>& problems) {
+    References references(value, offset, problems);
+    for (References::Part part; references.next(part);) {
+        std::size_t const start = decoded.size();
+        decoded += part.text;
+        if (part.isReference) continue;
+        std::replace_if(decoded.begin() + static_cast<std::ptrdiff_t>(start), decoded.end(),
+                        isValueSpace, ' ');
+    }
 }
 
 }  // namespace galley::web

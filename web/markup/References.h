@@ -24,6 +24,7 @@ public:
         std::string_view text;
         /// In bytes from the start of the document.
         std::size_t offset = 0;
+        bool isReference = false;
     };
 
     /// False once there is none.
@@ -47,5 +48,13 @@ bool hasReferences(std::string_view text);
 /// Appends the text with its references replaced, which is not longer.
 void decodeReferences(std::string_view text, std::size_t offset, std::string& decoded,
                       std::vector<Problem>& problems);
+
+/// Whether the value of an attribute is not what is written.
+bool isEncodedValue(std::string_view value);
+
+/// The same of the value of an attribute. There each tab and each byte of a line end is a blank,
+/// unless it is a reference.
+void decodeValue(std::string_view value, std::size_t offset, std::string& decoded,
+                 std::vector<Problem>& problems);
 
 }  // namespace galley::web

@@ -92,14 +92,14 @@ private:
         std::size_t length = 0;
         for (Attribute const& attribute : opened.attributes) {
             utf8.check(attribute.value, attribute.valueOffset);
-            if (hasReferences(attribute.value)) length += attribute.value.size();
+            if (isEncodedValue(attribute.value)) length += attribute.value.size();
         }
         // Decoded values are not longer, and have to stay where they are.
         if (length > 0) opened.decoded.reserve(length);
         for (Attribute& attribute : opened.attributes) {
-            if (!hasReferences(attribute.value)) continue;
+            if (!isEncodedValue(attribute.value)) continue;
             std::size_t const start = opened.decoded.size();
-            decodeReferences(attribute.value, attribute.valueOffset, opened.decoded, problems);
+            decodeValue(attribute.value, attribute.valueOffset, opened.decoded, problems);
             attribute.value = std::string_view(opened.decoded).substr(start);
         }
     }

@@ -23,7 +23,7 @@ TEST(ReadDocument, HandsOverElementsAndTextAsTheyStand) {
              {" a\n\tb ", "[ a\n\tb ]"},
              {"<p>a<b>b</b>c</p>\n<p/>", "<p>[a]<b>[b]</b>[c]</p>[\n]<p></p>"},
              {"<p a='1' b = \"'2>\"\n\tc=''\r></p\n>", "<p a=\"1\" b=\"'2>\" c=\"\"></p>"},
-             {"<p a='1'/>", "<p a=\"1\"></p>"},
+             {"<p a='&lt;b\n&#10;\tc' b='&gt;' c='d'/>", "<p a=\"<b \n c\" b=\">\" c=\"d\"></p>"},
              {"a<br/>b<br></br>", "[a]<br></br>[b]<br></br>"},
              {"\xEF\xBB\xBF<?xml version=\"1.0\"?><!DOCTYPE html>\n<p>a</p>", "[\n]<p>[a]</p>"},
              {"<!doctype a '>' [<!ENTITY b \"]>\"><!-- '> --> ]>c", "[c]"},
