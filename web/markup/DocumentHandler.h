@@ -13,8 +13,8 @@ class DocumentHandler {
 public:
     virtual ~DocumentHandler() = default;
 
-    /// A `style` element, wherever it stands: its rules are for the whole document. The views of
-    /// `sheet` are valid during the call.
+    /// A `style` element, wherever it stands: its rules are for the whole document. The sheet is
+    /// there during the call only.
     virtual void styleSheet(EmbeddedSheet const& sheet) = 0;
     /// Asked once all sheets are known: whether `Element::isLast` has to be right. This takes a
     /// pass over the document.

@@ -13,7 +13,7 @@ namespace galley::web {
 /// The text of a `style` element, of which it remembers what came from where.
 class EmbeddedSheet {
 public:
-    /// Of the start tag `style`. Views of the document are kept.
+    /// Begins with the start tag of the element. The sheet owns all that it has.
     EmbeddedSheet(Piece const& startTag, std::vector<Problem>& problems);
 
     /// Adds a piece of text that is in the element itself.

@@ -45,7 +45,10 @@ std::optional<int> integerAttribute(Element const& element, std::string_view nam
         warn(problems, found->valueOffset, quoted(found->value) + what);
     };
     auto const integer = parseInteger(found->value);
-    if (!integer) return say(" is no value of " + quoted(name)), std::nullopt;
+    if (!integer) {
+        say(" is no value of " + quoted(name));
+        return std::nullopt;
+    }
     if (integer->value < limits.least) {
         say(" is less than " + std::to_string(limits.least) + ", the least " + quoted(name));
         return std::nullopt;

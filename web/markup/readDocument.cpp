@@ -111,7 +111,10 @@ private:
                         "End tag </" + shortened(tag.name) + "> closes no element");
         }
         OpenElement const& innermost = open.innermost();
-        if (tag.name == innermost.element.name) return close(), true;
+        if (tag.name == innermost.element.name) {
+            close();
+            return true;
+        }
         return failUnclosed(tag.offset, "End tag </" + shortened(tag.name) +
                                             "> does not match start tag <" +
                                             shortened(innermost.element.name) + ">");

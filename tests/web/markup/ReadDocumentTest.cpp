@@ -24,6 +24,11 @@ TEST(ReadDocument, HandsOverElementsAndTextAsTheyStand) {
              {"<p>a<b>b</b>c</p>\n<p/>", "<p>[a]<b>[b]</b>[c]</p>[\n]<p></p>"},
              {"<p a='1' b = \"'2>\"\n\tc=''\r></p\n>", "<p a=\"1\" b=\"'2>\" c=\"\"></p>"},
              {"<p a='&lt;b\n&#10;\tc' b='&gt;' c='d'/>", "<p a=\"<b \n c\" b=\">\" c=\"d\"></p>"},
+             {"<p a='first &gt; value' b='another &gt; one'/><p c='&#70;' d='&lt;third "
+              "value&gt;'/>",
+              "<p a=\"first > value\" b=\"another > one\"></p>"
+              "<p c=\"F\" d=\"<third value>\"></p>"},
+             {"<p x:y.z-1_='a'/>", "<p x:y.z-1_=\"a\"></p>"},
              {"a<br/>b<br></br>", "[a]<br></br>[b]<br></br>"},
              {"\xEF\xBB\xBF<?xml version=\"1.0\"?><!DOCTYPE html>\n<p>a</p>", "[\n]<p>[a]</p>"},
              {"<!doctype a '>' [<!ENTITY b \"]>\"><!-- '> --> ]>c", "[c]"},
@@ -63,6 +68,7 @@ TEST(ReadDocument, HandsOverSheetsFirst) {
              {"<script><style>a</style></script><template><p><style>b</style></p></template>"
               "<style>c</style>",
               "{c}"},
+             {"<template><script>a</script><style>b</style></template>", ""},
              {"<style/><p>a<style></style></p>", "{}<p>[a]</p>"},
              {"<p><![CDATA[<style>]]><styles/></p>", "<p>[<style>]<styles></styles></p>"},
          }) {
@@ -91,6 +97,8 @@ TEST(ReadDocument, KnowsWhereInTheDocumentASheetIs) {
 TEST(ReadDocument, NumbersElementsAndKnowsTheLast) {
     EXPECT_EQ(Reading("a<p><i/><script/><b><u/></b>c</p><q/><style/>", true).events,
               "[a]<p 1><i 1></i><b 3!><u 1!></u></b>[c]</p><q 2></q>");
+    EXPECT_EQ(Reading("<p><i/></p><p><i/></p>", true).events,
+              "<p 1><i 1!></i></p><p 2!><i 1!></i></p>");
     EXPECT_EQ(Reading("<p/><q><i/>", true).events, "<p 1></p><q 2!><i 1!></i>");
 }
 
@@ -143,8 +151,9 @@ TEST(ReadDocument, WarnsOfWhatItDoesNotKnow) {
              {"a<blink>b</blink><P/><blink/>",
               "1 warning: unknown element 'blink'\n17 warning: unknown element 'P'\n"},
              // Once a line.
-             {"a\xFF\xFF<p>\xFF</p>\nb\n\xC3\xA9\xC3<p b='\xFF'>\n\xFF</p>",
-              "1 warning: " + utf8 + "16 warning: " + utf8 + "27 warning: " + utf8},
+             {"a\xFF\xFF<p>\xFF</p>\nb\n\xC3\xA9\xC3 \xC3\n\xC3",
+              "1 warning: " + utf8 + "16 warning: " + utf8 + "20 warning: " + utf8},
+             {"<p b='\xFF' c='\n\xFF'/>", "6 warning: " + utf8 + "13 warning: " + utf8},
              {"<!-- \xFF --><script>\xFF</script><style>\xFF\n</style>\xFF",
               "35 warning: " + utf8 + "45 warning: " + utf8},
              {"<style>&x;</style>", "7 warning: unknown reference '&x;'\n"},
