@@ -82,6 +82,7 @@ TEST(CssValues, ShorthandsSetTheirSides) {
         {"margin:1 2 3 4 5", "", "9 '1 2 3 4 5' is no value of 'margin'\n"},
         {"margin:0 auto", "margin-left=auto;margin-right=auto;", ""},
         {"margin:-1 0", "", "9 '-1' has no effect as a value of 'margin'\n"},
+        {"margin:-1 x", "", "9 '-1 x' is no value of 'margin'\n"},
         {"padding:1 x", "", "10 '1 x' is no value of 'padding'\n"},
         {"margin:1;margin-left:3", "margin-left=3;margin-right=1;margin-top=1;margin-bottom=1;",
          ""},
