@@ -106,6 +106,7 @@ TEST(CssValues, BordersAreThereWithAStyleAndAWidth) {
         {"border-left:'\\1b[2J'", "border-left=text\xEF\xBF\xBD[2J/thin/terminal;", ""},
         {"border-left:'\\9b\x7F\\A'",
          "border-left=text\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD/thin/terminal;", ""},
+        {"border-left:'\xE2\x94!'", "border-left=text\xEF\xBF\xBD!/thin/terminal;", ""},
         {"border-left:''", "", ""},
         {"border-left:solid solid", "", "14 'solid solid' is no value of 'border-left'\n"},
         {"border:solid;border-width:0 1 0 0;border-color:lime",

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace galley::web {
+
+inline bool isPrintableAscii(char byte) { return byte > ' ' && byte <= '~'; }
+
+/// Printable ASCII: where a line may break, one of these is before the place or behind it, unless
+/// `word-break` is `break-all`.
+inline constexpr std::string_view s_breaking = "(-<?[{";
+
+/// Whether a line may break between the printable ASCII characters at `at - 1` and `at`, as in
+/// Chromium, but never behind hyphens that begin a word.
+bool breaksInAscii(std::string_view text, std::size_t at, bool isBreakAll);
+
+/// Whether one hyphen or two, the last of them at `at - 1`, begin a word, as those of options do:
+/// before them, and before a quotation mark there, are white space, what opens or parts, or
+/// nothing. A third one makes a dash of them.
+bool hyphensBeginWord(std::string_view text, std::size_t at);
+
+}  // namespace galley::web

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#include "web/text/asciiBreaks.h"
+
+namespace galley::web {
+
+/// Sixteen bytes that are looked at together.
+using Bytes = unsigned char __attribute__((vector_size(16)));
+/// Of each of them whether something holds: all bits, or none.
+using Mask = signed char __attribute__((vector_size(16)));
+
+inline Bytes bytesAt(char const* text) {
+    Bytes bytes;
+    std::memcpy(&bytes, text, sizeof(bytes));
+    return bytes;
+}
+
+/// The first byte for which something holds, 16 without one.
+inline unsigned firstOf(Mask mask) {
+    std::uint64_t halves[2];
+    std::memcpy(halves, &mask, sizeof(halves));
+    std::uint64_t const half = halves[0] != 0 ? halves[0] : halves[1];
+    bool const isLittle = std::endian::native == std::endian::little;
+    int const zeros = isLittle ? std::countr_zero(half) : std::countl_zero(half);
+    return (halves[0] != 0 ? 0U : 8U) + static_cast<unsigned>(zeros) / 8;
+}
+
+/// Printable ASCII around which no line breaks.
+inline constexpr auto s_plain = [] {
+    std::array<bool, 256> arePlain = {};
+    for (char c = '!'; c <= '~'; ++c) {
+        arePlain[static_cast<unsigned char>(c)] = s_breaking.find(c) == std::string_view::npos;
+    }
+    return arePlain;
+}();
+
+inline bool isPlain(char byte) { return s_plain[static_cast<unsigned char>(byte)]; }
+
+inline Mask areNotPlain(Bytes bytes) {
+    static_assert(s_breaking.size() == 6);
+    auto const are = [&](std::size_t i) {
+        return bytes == static_cast<unsigned char>(s_breaking[i]);
+    };
+    return (bytes - static_cast<unsigned char>('!') > '~' - '!') | are(0) | are(1) | are(2) |
+           are(3) | are(4) | are(5);
+}
+
+/// The first byte at `from` or behind it that is not plain, where a word may end. The text's size
+/// without one.
+inline std::size_t scanPlain(std::string_view text, std::size_t from) {
+    for (; text.size() - from >= 16; from += 16) {
+        unsigned const count = firstOf(areNotPlain(bytesAt(text.data() + from)));
+        if (count < 16) return from + count;
+    }
+    while (from < text.size() && isPlain(text[from])) ++from;
+    return from;
+}
+
+/// The first byte at `from` or behind it that is neither plain nor a blank, or that is a blank and
+/// has another one behind it. It may be found up to 17 bytes before the text's end where nothing
+/// is.
+inline std::size_t scanWords(std::string_view text, std::size_t from) {
+    for (; text.size() - from > 16; from += 16) {
+        Bytes const bytes = bytesAt(text.data() + from);
+        Mask const areBlanks = bytes == static_cast<unsigned char>(' ');
+        Mask const areBeforeBlanks =
+            bytesAt(text.data() + from + 1) == static_cast<unsigned char>(' ');
+        Mask const areOthers = areNotPlain(bytes) & ~areBlanks;
+        unsigned const count = firstOf(areOthers | (areBlanks & areBeforeBlanks));
+        if (count < 16) return from + count;
+    }
+    return from;
+}
+
+}  // namespace galley::web

@@ -1,0 +1,80 @@
+#include "web/text/utf8.h"
+
+#include <algorithm>
+#include <array>
+
+namespace galley::web {
+
+namespace {
+
+/// What the first byte of a character says of it.
+struct Lead {
+    /// Bytes; 0 where no character begins so.
+    unsigned char length = 0;
+    /// What the second byte may be: this keeps out overlong forms, surrogates, and what is above
+    /// U+10FFFF.
+    unsigned char least = 0x80;
+    unsigned char most = 0xBF;
+};
+
+constexpr Lead leadOf(unsigned char byte) {
+    if (byte < 0x80) return {1};
+    if (byte < 0xC2) return {0};
+    if (byte < 0xE0) return {2};
+    if (byte == 0xE0) return {3, 0xA0};
+    if (byte == 0xED) return {3, 0x80, 0x9F};
+    if (byte < 0xF0) return {3};
+    if (byte == 0xF0) return {4, 0x90};
+    if (byte < 0xF4) return {4};
+    if (byte == 0xF4) return {4, 0x80, 0x8F};
+    return {0};
+}
+
+constexpr auto s_leads = [] {
+    std::array<Lead, 256> leads = {};
+    for (unsigned byte = 0; byte < 256; ++byte)
+        leads[byte] = leadOf(static_cast<unsigned char>(byte));
+    return leads;
+}();
+
+unsigned char byteAt(std::string_view text, std::size_t i) {
+    return static_cast<unsigned char>(text[i]);
+}
+
+}  // namespace
+
+CodePoint decodeAt(std::string_view text, std::size_t at) {
+    unsigned char const first = byteAt(text, at);
+    Lead lead = s_leads[first];
+    if (lead.length == 1) return {first, 1, true};
+    if (lead.length == 0) return {};
+    // The first byte has as many leading ones as there are bytes, and then a zero.
+    char32_t value = first & (0x7FU >> lead.length);
+    for (unsigned i = 1; i < lead.length; ++i) {
+        unsigned char const byte = at + i < text.size() ? byteAt(text, at + i) : 0;
+        if (byte < lead.least || byte > lead.most) return {s_replacementCharacter, i, false};
+        value = value << 6 | (byte & 0x3FU);
+        lead.least = 0x80;
+        lead.most = 0xBF;
+    }
+    return {value, lead.length, true};
+}
+
+std::size_t startBefore(std::string_view text, std::size_t at) {
+    for (std::size_t length = 2; length <= std::min<std::size_t>(4, at); ++length) {
+        CodePoint const found = decodeAt(text, at - length);
+        if (found.isWellFormed && found.length == length) return at - length;
+    }
+    return at - 1;
+}
+
+std::size_t findIllFormed(std::string_view text, std::size_t from) {
+    while (from < text.size()) {
+        CodePoint const found = decodeAt(text, from);
+        if (!found.isWellFormed) return from;
+        from += found.length;
+    }
+    return std::string_view::npos;
+}
+
+}  // namespace galley::web
