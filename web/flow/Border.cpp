@@ -155,10 +155,12 @@ std::string_view joint(Edges<Border const*> const& lines, bool isRounded) {
     return find(key());
 }
 
-void addVertical(Row& row, Border const& border, Colour background) {
+void addVertical(Row& row, Style const& style, bool isLeft, Colour background) {
+    Border const& border = isLeft ? style.border.left : style.border.right;
+    if (!border.isThere()) return;
     Look look = blankOn(background);
     look.text = border.colour;
-    repeat(row, straight(border, true), row.width() + 1, look);
+    repeat(row, isVisible(style) ? straight(border, true) : " ", row.width() + 1, look);
 }
 
 void addHorizontal(Row& row, Style const& style, bool isTop, int columns, Colour background) {
@@ -166,6 +168,7 @@ void addHorizontal(Row& row, Style const& style, bool isTop, int columns, Colour
     Look look = blankOn(background);
     look.text = border.colour;
     int const end = row.width() + columns;
+    if (!isVisible(style)) return row.fill(end, look);
     addCorner(row, style, isTop, true, look);
     int const corner = style.border.right.isThere() ? 1 : 0;
     repeat(row, straight(border, false), end - corner, look);

@@ -45,6 +45,8 @@ private:
         Colour around;
         Colour background;
         bool hasStarted;
+        /// Only text that comes first is indented.
+        bool hasContent = false;
     };
 
     int columns() const { return blocks.empty() ? width : blocks.back().contentWidth; }
@@ -64,6 +66,7 @@ private:
     Colour ground;
     bool dropsMargins;
     bool hasRows = false;
+    bool hasOwnContent = false;
     /// Rows of margins that wait.
     int pending = 0;
     std::vector<Block> blocks;
