@@ -16,11 +16,12 @@ bool isVisible(Colour background) { return background.kind != Colour::Kind::term
 
 }  // namespace
 
-Flow::Flow(RowSink& rows, int columns, Colour background, OuterMargins outer)
+Flow::Flow(RowSink& rows, int columns, Colour background, OuterMargins outer, Wrapping wrapped)
     : sink(rows),
       width(columns),
       ground(background),
-      dropsMargins(outer == OuterMargins::dropped) {}
+      dropsMargins(outer == OuterMargins::dropped),
+      wrapping(wrapped) {}
 
 void Flow::open(Style const& style, OutsideMarker marker) {
     int const container = columns();
@@ -68,7 +69,7 @@ void Flow::close() {
 
 void Flow::addLines(Paragraph const& paragraph) {
     int const container = columns();
-    LineBreaker breaker(paragraph, container, LineBreaker::Purpose::layingOut);
+    LineBreaker breaker(paragraph, container, LineBreaker::Purpose::layingOut, wrapping);
     Style const& style = paragraph.block();
     int indent = across(style.textIndent, container);
     start();
@@ -93,7 +94,7 @@ void Flow::add(std::unique_ptr<Table> table) {
     int const container = columns();
     Style const& style = table->style();
     pending = std::max(pending, down(style.margin.top, container));
-    TableRows const made = table->layOut(container, background());
+    TableRows const made = table->layOut(container, wrapping);
     if (!made.rows.empty()) {
         start();
         for (Row const& tableRow : made.rows) {

@@ -17,7 +17,7 @@ bool wraps(Style const& style) {
 
 bool LineBreaker::mayPart(Style const& style) const {
     if (!wraps(style)) return false;
-    if (style.overflowWrap == OverflowWrap::anywhere) return true;
+    if (wrapping == Wrapping::anywhere || style.overflowWrap == OverflowWrap::anywhere) return true;
     return style.overflowWrap == OverflowWrap::breakWord && purpose == Purpose::layingOut;
 }
 
@@ -68,7 +68,8 @@ bool LineBreaker::step() {
             break;
         case Item::Kind::blanks:
         case Item::Kind::tab:
-            used += item.kind == Item::Kind::tab ? cellsToTabStop(style) : static_cast<int>(item.width);
+            used +=
+                item.kind == Item::Kind::tab ? cellsToTabStop(style) : static_cast<int>(item.width);
             hasText = true;
             if (wraps(style)) {
                 offer(behind, printed);
