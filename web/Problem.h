@@ -7,8 +7,8 @@ namespace galley::web {
 
 /// What is wrong in a source, or ignored.
 struct Problem {
-    /// A warning leaves a page, an error none.
-    enum class Kind { error, warning };
+    /// A warning leaves a page, an error none. A note is another place of the problem before it.
+    enum class Kind { error, warning, note };
 
     Kind kind = Kind::warning;
     /// Bytes from the start of the source.

@@ -7,12 +7,6 @@
 
 namespace galley::web {
 
-std::string quoted(std::string_view word) { return "'" + std::string(word) + "'"; }
-
-void warn(std::vector<Problem>& problems, std::size_t offset, std::string message) {
-    problems.push_back({Problem::Kind::warning, offset, std::move(message)});
-}
-
 Token const& ValueReader::take() {
     Token const& token = tokens.front();
     drop(1);

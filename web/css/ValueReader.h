@@ -5,15 +5,10 @@
 #include <string_view>
 #include <vector>
 
-#include "web/Problem.h"
 #include "web/css/Token.h"
+#include "web/wording.h"
 
 namespace galley::web {
-
-/// The word in quotes, as problems have it.
-std::string quoted(std::string_view word);
-
-void warn(std::vector<Problem>& problems, std::size_t offset, std::string message);
 
 /// Reads what is between two tokens, without white space. What reads a value with it returns
 /// whether there was one, and may have read on where there was none; copies can be tried.

@@ -22,7 +22,8 @@ bool LineBreaker::mayPart(Style const& style) const {
 }
 
 TextLine LineBreaker::next(Place from, int cells) {
-    line = {.begin = from};
+    line = TextLine();
+    line.begin = from;
     available = cells;
     at = from;
     used = printed = 0;

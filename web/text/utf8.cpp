@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 namespace galley::web {
 
@@ -41,6 +43,18 @@ unsigned char byteAt(std::string_view text, std::size_t i) {
     return static_cast<unsigned char>(text[i]);
 }
 
+/// The first byte at `from` or behind it that is none of ASCII; the text's size without one.
+std::size_t skipAscii(std::string_view text, std::size_t from) {
+    constexpr std::uint64_t s_highBits = 0x8080808080808080;
+    std::uint64_t bytes = 0;
+    for (; text.size() - from >= sizeof(bytes); from += sizeof(bytes)) {
+        std::memcpy(&bytes, text.data() + from, sizeof(bytes));
+        if ((bytes & s_highBits) != 0) break;
+    }
+    while (from < text.size() && isAscii(text[from])) ++from;
+    return from;
+}
+
 }  // namespace
 
 CodePoint decodeAt(std::string_view text, std::size_t at) {
@@ -69,7 +83,7 @@ std::size_t startBefore(std::string_view text, std::size_t at) {
 }
 
 std::size_t findIllFormed(std::string_view text, std::size_t from) {
-    while (from < text.size()) {
+    while ((from = skipAscii(text, from)) < text.size()) {
         CodePoint const found = decodeAt(text, from);
         if (!found.isWellFormed) return from;
         from += found.length;

@@ -1,0 +1,303 @@
+#include "web/PageBuilder.h"
+
+#include <algorithm>
+#include <limits>
+#include <string>
+#include <utility>
+
+#include "web/flow/markers.h"
+#include "web/markup/attributes.h"
+#include "web/text/Cluster.h"
+
+namespace galley::web {
+
+namespace {
+
+constexpr std::string_view s_whiteSpace = " \t\n\r";
+
+bool isBlank(std::string_view text) {
+    return text.find_first_not_of(s_whiteSpace) == std::string_view::npos;
+}
+
+std::string_view attribute(Element const& element, std::string_view name) {
+    for (Attribute const& each : element.attributes) {
+        if (each.name == name) return each.value;
+    }
+    return {};
+}
+
+/// Where a terminal may be sent.
+bool mayFollow(std::string_view address) {
+    constexpr std::string_view s_schemes[] = {"http:", "https:", "mailto:", "file:"};
+    return std::any_of(std::begin(s_schemes), std::end(s_schemes),
+                       [&](std::string_view scheme) { return address.starts_with(scheme); });
+}
+
+int columnsOf(std::string_view text) {
+    int columns = 0;
+    for (std::size_t i = 0; i < text.size();) {
+        Cluster const cluster = clusterAt(text, i, false);
+        columns += static_cast<int>(cluster.width);
+        i = cluster.end;
+    }
+    return columns;
+}
+
+constexpr Limits s_numbers = {std::numeric_limits<int>::min(), 1'000'000'000};
+
+}  // namespace
+
+PageBuilder::PageBuilder(Sheet const& defaults, std::span<Sheet const* const> authors,
+                         Media const& shownOn, RowSink& rows, std::vector<Problem>& found)
+    : defaultSheet(defaults),
+      sheets(authors.begin(), authors.end()),
+      media(shownOn),
+      problems(found),
+      page(rows, static_cast<int>(shownOn.width), {}, Flow::OuterMargins::dropped) {}
+
+void PageBuilder::styleSheet(EmbeddedSheet const& sheet) {
+    std::string text(sheet.text());
+    std::size_t before = 0;
+    if (!sheet.media().empty()) {
+        std::string const condition = "@media " + std::string(sheet.media()) + "{";
+        before = condition.size();
+        text.insert(0, condition).append("}");
+    }
+    std::vector<Problem> found;
+    embedded.push_back(Sheet::parse(text, found));
+    sheets.push_back(&embedded.back());
+    for (Problem& problem : found) {
+        problem.offset = sheet.offsetOf(std::max(problem.offset, before) - before);
+        problems.push_back(std::move(problem));
+    }
+}
+
+bool PageBuilder::asksForLastChild() {
+    cascade.emplace(defaultSheet, sheets, media, problems);
+    return std::any_of(sheets.begin(), sheets.end(),
+                       [](Sheet const* sheet) { return sheet->asksForLastChild(); });
+}
+
+/// A fragment, which begins with another element or with text, stands in `html` and `body`.
+void PageBuilder::openRoot(std::string_view name) {
+    if (depth > 0) return;
+    Style const* const none = nullptr;
+    static_cast<void>(none);
+    static Style const s_initial;
+    push(page, s_initial);
+    if (name == "html") return;
+    openImplied(html, "html");
+    if (name == "body") return;
+    body.parent = &html;
+    openImplied(body, "body");
+}
+
+void PageBuilder::openImplied(Element& element, std::string_view name) {
+    element.name = name;
+    element.style = cascade->styleOf(element);
+    open.push_back({openElement(element, *element.style), element.style});
+}
+
+void PageBuilder::startElement(Element& element) {
+    openRoot(element.name);
+    if (element.parent == nullptr && element.name != "html") {
+        element.parent = element.name == "body" ? &html : &body;
+    }
+    Style const* const style = cascade->styleOf(element);
+    element.style = style;
+    bool const isHidden = !open.empty() && open.back().role == Role::hidden;
+    Role role = Role::hidden;
+    if (!isHidden && style->display != Display::none) role = openElement(element, *style);
+    OpenElement& opened = open.emplace_back(OpenElement{role, style});
+    opened.isList = !isHidden && (element.name == "ol" || element.name == "ul");
+    if (opened.isList) {
+        opened.nextNumber = integerAttribute(element, "start", s_numbers, problems).value_or(1);
+    }
+}
+
+PageBuilder::Role PageBuilder::openElement(Element const& element, Style const& style) {
+    switch (style.display) {
+        case Display::inlined:
+            return openInline(element, style);
+        case Display::table:
+            if (isInTable()) openCell(nullptr, style);
+            endParagraph();
+            tables.push_back(std::make_unique<Table>(style));
+            hasAnonymousCell.push_back(false);
+            return Role::table;
+        case Display::block:
+        case Display::listItem:
+            openBlock(element, style);
+            return Role::block;
+        default:
+            return openTablePart(element, style);
+    }
+}
+
+PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& style) {
+    if (isInTable()) openCell(nullptr, style);
+    Paragraph& paragraph = frame().paragraph;
+    if (element.name == "br") {
+        paragraph.addLineFeed();
+        return Role::point;
+    }
+    if (element.name == "wbr") {
+        paragraph.addBreakable();
+        return Role::point;
+    }
+    Link const* link = nullptr;
+    std::string_view const address = attribute(element, "href");
+    if (element.name == "a" && mayFollow(address)) {
+        link = &links.emplace_back(Link{std::string(address), ++linkCount});
+    }
+    paragraph.open(style, link);
+    if (element.name != "q") return Role::inlined;
+    paragraph.addText(quoteDepth++ % 2 == 0 ? "“" : "‘");
+    return Role::quote;
+}
+
+void PageBuilder::openBlock(Element const& element, Style const& style) {
+    if (isInTable()) openCell(nullptr, style);
+    endParagraph();
+    OutsideMarker marker;
+    std::string inside;
+    if (style.display == Display::listItem) {
+        std::string text = markerText(style.marker, numberOf(element));
+        if (style.markerPosition == MarkerPosition::inside) {
+            inside = text + " ";
+        } else {
+            int const columns = columnsOf(text);
+            marker = {std::move(text), columns};
+        }
+    }
+    BlockSink& sink = *frame().sink;
+    sink.open(style, std::move(marker));
+    push(sink, style);
+    if (inside.size() > 1) frame().paragraph.addText(inside);
+}
+
+/// The number of a list item: its own, or the next one of the list around it.
+int PageBuilder::numberOf(Element const& element) {
+    auto const list = std::find_if(open.rbegin(), open.rend(),
+                                   [](OpenElement const& each) { return each.isList; });
+    int& next = list == open.rend() ? looseNumber : list->nextNumber;
+    int const number = integerAttribute(element, "value", s_numbers, problems).value_or(next);
+    next = number + 1;
+    return number;
+}
+
+/// Whether what comes now stands between the parts of a table.
+bool PageBuilder::isInTable() const {
+    if (open.empty() || hasAnonymousCell.empty() || hasAnonymousCell.back()) return false;
+    Role const around = open.back().role;
+    return around == Role::table || around == Role::tablePart || around == Role::row;
+}
+
+PageBuilder::Role PageBuilder::openTablePart(Element const& element, Style const& style) {
+    static_cast<void>(element);
+    openBlock(element, style);
+    return Role::block;
+}
+
+void PageBuilder::openCell(Element const* element, Style const& style) {
+    static_cast<void>(element);
+    static_cast<void>(style);
+}
+
+void PageBuilder::text(std::string_view decoded) {
+    if (depth == 0 && isBlank(decoded)) return;
+    openRoot({});
+    if (!open.empty() && open.back().role == Role::hidden) return;
+    if (isInTable()) {
+        if (isBlank(decoded)) return;
+        openCell(nullptr, *frame().style);
+    }
+    frame().paragraph.addText(decoded);
+}
+
+void PageBuilder::endElement(Element& element) {
+    static_cast<void>(element);
+    Role const role = open.back().role;
+    open.pop_back();
+    closeElement(role);
+}
+
+void PageBuilder::closeElement(Role role) {
+    switch (role) {
+        case Role::quote:
+            frame().paragraph.addText(--quoteDepth % 2 == 0 ? "”" : "’");
+            frame().paragraph.close();
+            break;
+        case Role::inlined:
+            frame().paragraph.close();
+            break;
+        case Role::block:
+            endParagraph();
+            frame().sink->close();
+            pop();
+            letGo();
+            break;
+        case Role::table:
+            closeTable();
+            break;
+        case Role::hidden:
+        case Role::point:
+        case Role::tablePart:
+        case Role::row:
+        case Role::cell:
+            break;
+    }
+}
+
+void PageBuilder::closeTable() {
+    std::unique_ptr<Table> table = std::move(tables.back());
+    tables.pop_back();
+    hasAnonymousCell.pop_back();
+    frame().sink->add(std::move(table));
+    letGo();
+}
+
+void PageBuilder::finish() {
+    while (!open.empty()) {
+        Role const role = open.back().role;
+        open.pop_back();
+        closeElement(role);
+    }
+    if (depth > 0) endParagraph();
+    page.finish();
+}
+
+void PageBuilder::push(BlockSink& sink, Style const& style) {
+    Colour const around = depth > 0 ? frame().background : Colour();
+    if (depth == frames.size()) frames.emplace_back();
+    Frame& opened = frames[depth++];
+    opened.sink = &sink;
+    opened.style = &style;
+    opened.background = backgroundOf(style, around);
+    opened.paragraph.begin(style, opened.background);
+}
+
+void PageBuilder::pop() { --depth; }
+
+/// Hands on what has been read since the last block. Inline elements that are open go on behind it.
+void PageBuilder::endParagraph() {
+    Frame& current = frame();
+    if (current.paragraph.depth() > 0) {
+        current.paragraph.partInto(done);
+        if (!done.isEmpty()) current.sink->add(std::move(done));
+        return;
+    }
+    if (!current.paragraph.isEmpty()) current.sink->add(std::move(current.paragraph));
+    current.paragraph.begin(*current.style, current.background);
+}
+
+/// Where nothing of the document waits any more but what is open, drops the rest.
+void PageBuilder::letGo() {
+    if (!tables.empty() || frame().paragraph.depth() > 0) return;
+    links.clear();
+    std::vector<Style const*> inUse = {html.style, body.style};
+    for (OpenElement const& each : open) inUse.push_back(each.style);
+    cascade->letGo(inUse);
+}
+
+}  // namespace galley::web

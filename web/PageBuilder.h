@@ -1,0 +1,104 @@
+#pragma once
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "web/css/Cascade.h"
+#include "web/css/MediaList.h"
+#include "web/flow/Flow.h"
+#include "web/flow/Table.h"
+#include "web/markup/DocumentHandler.h"
+
+namespace galley::web {
+
+/// Puts a page together while its document is read: what is between two blocks is a paragraph, which
+/// goes where it stands, to the page or into the cell of a table.
+class PageBuilder final : public DocumentHandler {
+public:
+    /// The sheets and the sink outlive the builder. Warnings are appended to `found`.
+    PageBuilder(Sheet const& defaults, std::span<Sheet const* const> authors, Media const& shownOn,
+                RowSink& rows, std::vector<Problem>& found);
+
+    void styleSheet(EmbeddedSheet const& sheet) override;
+    bool asksForLastChild() override;
+    void startElement(Element& element) override;
+    void text(std::string_view decoded) override;
+    void endElement(Element& element) override;
+    /// To be called at the end of the document.
+    void finish();
+
+private:
+    enum class Role { hidden, inlined, quote, point, block, table, tablePart, row, cell };
+
+    struct OpenElement {
+        Role role;
+        Style const* style;
+        /// It numbers the list items in it, and has the number of the next one.
+        ///@{
+        bool isList = false;
+        int nextNumber = 1;
+        ///@}
+    };
+
+    /// A block, a cell or a caption whose content is being read.
+    struct Frame {
+        BlockSink* sink = nullptr;
+        Colour background;
+        Style const* style = nullptr;
+        /// What has been read since the last block in it.
+        Paragraph paragraph;
+    };
+
+    void openRoot(std::string_view name);
+    void openImplied(Element& element, std::string_view name);
+    Role openElement(Element const& element, Style const& style);
+    Role openInline(Element const& element, Style const& style);
+    void openBlock(Element const& element, Style const& style);
+    OutsideMarker openItem(Element const& element, Style const& style);
+    Role openTablePart(Element const& element, Style const& style);
+    void openCell(Element const* element, Style const& style);
+    bool isInTable() const;
+    void closeElement(Role role);
+    void closeTable();
+    void closeAnonymousCell();
+    int numberOf(Element const& element);
+    void push(BlockSink& sink, Style const& style);
+    void pop();
+    void endParagraph();
+    void letGo();
+
+    Frame& frame() { return frames[depth - 1]; }
+
+    Sheet const& defaultSheet;
+    std::vector<Sheet const*> sheets;
+    std::deque<Sheet> embedded;
+    Media media;
+    std::vector<Problem>& problems;
+    std::optional<Cascade> cascade;
+    Flow page;
+    /// What a fragment stands in.
+    ///@{
+    Element html;
+    Element body;
+    ///@}
+    std::vector<OpenElement> open;
+    /// Those in use come first; the others are kept for their memory.
+    std::deque<Frame> frames;
+    std::size_t depth = 0;
+    /// Innermost last.
+    std::vector<std::unique_ptr<Table>> tables;
+    /// Loose content of the innermost table stands in a cell of its own.
+    std::vector<bool> hasAnonymousCell;
+    std::deque<Link> links;
+    unsigned linkCount = 0;
+    unsigned quoteDepth = 0;
+    /// Of the next item in no list.
+    int looseNumber = 1;
+    Paragraph done;
+};
+
+}  // namespace galley::web

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "web/Style.h"
+
+namespace galley::web {
+
+/// The marker of a list item with a number, without the blank behind it; empty for none. A number
+/// that a kind has no form for is decimal.
+std::string markerText(Marker const& marker, int number);
+
+}  // namespace galley::web

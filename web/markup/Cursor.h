@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace galley::web {
+
+/// A place in a document, from which it is read on.
+class Cursor {
+public:
+    /// The document must outlive the cursor and what is taken with it.
+    explicit Cursor(std::string_view markup) : source(markup) {}
+
+    /// In bytes from the start of the document; never more than there are.
+    std::size_t position() const { return at; }
+    bool atEnd() const { return at == source.size(); }
+
+    /// The next byte, which must be there.
+    char peek() const { return source[at]; }
+    bool startsWith(std::string_view text) const { return source.substr(at).starts_with(text); }
+
+    std::string_view between(std::size_t start, std::size_t end) const {
+        return source.substr(start, end - start);
+    }
+
+    /// Steps behind the text if it is next.
+    bool take(std::string_view text);
+    /// Takes the bytes before the next one that is `end`, or all.
+    std::string_view takeUntil(char end);
+    /// Steps behind the next `end`, if there is one.
+    bool skipThrough(std::string_view end);
+    /// Steps before the next byte that is one of these, if there is one.
+    bool skipUntilAnyOf(std::string_view bytes);
+    /// Whether there was any.
+    bool skipWhitespace();
+    /// Takes the name of an element or an attribute; empty where none begins.
+    std::string_view takeName();
+
+private:
+    bool goTo(std::size_t found);
+
+    std::string_view source;
+    std::size_t at = 0;
+};
+
+}  // namespace galley::web

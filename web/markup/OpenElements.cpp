@@ -1,0 +1,24 @@
+#include "web/markup/OpenElements.h"
+
+namespace galley::web {
+
+OpenElement& OpenElements::push(Piece& startTag) {
+    OpenElement* const parent = depth > 0 ? &innermost() : nullptr;
+    unsigned& siblings = parent != nullptr ? parent->children : children;
+    if (depth == elements.size()) elements.emplace_back();
+    OpenElement& opened = elements[depth++];
+    opened.attributes.swap(startTag.attributes);
+    opened.decoded.clear();
+    opened.offset = startTag.offset;
+    opened.isHidden = parent != nullptr && parent->isHidden;
+    opened.children = 0;
+    opened.element = {parent != nullptr ? &parent->element : nullptr,
+                      startTag.name,
+                      opened.attributes,
+                      ++siblings,
+                      false,
+                      nullptr};
+    return opened;
+}
+
+}  // namespace galley::web

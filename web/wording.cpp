@@ -1,0 +1,34 @@
+#include "web/wording.h"
+
+#include <utility>
+
+namespace galley::web {
+
+namespace {
+
+/// In bytes.
+constexpr std::size_t s_longest = 40;
+
+bool continuesCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80; }
+
+}  // namespace
+
+std::string shortened(std::string_view text) {
+    if (text.length() <= s_longest) return std::string(text);
+    std::size_t length = s_longest;
+    while (length > 0 && continuesCharacter(text[length])) --length;
+    return std::string(text.substr(0, length)) + "...";
+}
+
+std::string quoted(std::string_view text) { return "'" + shortened(text) + "'"; }
+
+void warn(std::vector<Problem>& problems, std::size_t offset, std::string message) {
+    problems.push_back({Problem::Kind::warning, offset, std::move(message)});
+}
+
+bool fail(std::vector<Problem>& problems, std::size_t offset, std::string message) {
+    problems.push_back({Problem::Kind::error, offset, std::move(message)});
+    return false;
+}
+
+}  // namespace galley::web

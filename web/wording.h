@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "web/Problem.h"
+
+/// How problems are worded.
+namespace galley::web {
+
+/// All of the text if it is short, else its beginning, up to a character, and "...".
+std::string shortened(std::string_view text);
+
+/// The text in quotes, not all of it where it is long.
+std::string quoted(std::string_view text);
+
+void warn(std::vector<Problem>& problems, std::size_t offset, std::string message);
+
+/// Appends an error. Always false, as what was tried is.
+bool fail(std::vector<Problem>& problems, std::size_t offset, std::string message);
+
+}  // namespace galley::web
