@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "web/css/computeStyle.h"
 #include "web/flow/markers.h"
 #include "web/markup/attributes.h"
 #include "web/text/Cluster.h"
@@ -43,6 +44,8 @@ int columnsOf(std::string_view text) {
     return columns;
 }
 
+constexpr Limits s_columnSpans = {1, 1000};
+constexpr Limits s_rowSpans = {0, 65'534};
 constexpr Limits s_numbers = {std::numeric_limits<int>::min(), 1'000'000'000};
 
 }  // namespace
@@ -84,7 +87,7 @@ void PageBuilder::openRoot(std::string_view name) {
     Style const* const none = nullptr;
     static_cast<void>(none);
     static Style const s_initial;
-    push(page, s_initial);
+    push(page, s_initial, {});
     if (name == "html") return;
     openImplied(html, "html");
     if (name == "body") return;
@@ -120,9 +123,9 @@ PageBuilder::Role PageBuilder::openElement(Element const& element, Style const& 
         case Display::inlined:
             return openInline(element, style);
         case Display::table:
-            if (isInTable()) openCell(nullptr, style);
+            if (isInTable()) openAnonymousCell();
             endParagraph();
-            tables.push_back(std::make_unique<Table>(style));
+            tables.push_back(std::make_unique<Table>(style, frame().background));
             hasAnonymousCell.push_back(false);
             return Role::table;
         case Display::block:
@@ -135,7 +138,7 @@ PageBuilder::Role PageBuilder::openElement(Element const& element, Style const& 
 }
 
 PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& style) {
-    if (isInTable()) openCell(nullptr, style);
+    if (isInTable()) openAnonymousCell();
     Paragraph& paragraph = frame().paragraph;
     if (element.name == "br") {
         paragraph.addLineFeed();
@@ -157,7 +160,7 @@ PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& s
 }
 
 void PageBuilder::openBlock(Element const& element, Style const& style) {
-    if (isInTable()) openCell(nullptr, style);
+    if (isInTable()) openAnonymousCell();
     endParagraph();
     OutsideMarker marker;
     std::string inside;
@@ -172,7 +175,7 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
     }
     BlockSink& sink = *frame().sink;
     sink.open(style, std::move(marker));
-    push(sink, style);
+    push(sink, style, backgroundOf(style, frame().background));
     if (inside.size() > 1) frame().paragraph.addGenerated(inside);
 }
 
@@ -190,27 +193,76 @@ int PageBuilder::numberOf(Element const& element) {
 bool PageBuilder::isInTable() const {
     if (open.empty() || hasAnonymousCell.empty() || hasAnonymousCell.back()) return false;
     Role const around = open.back().role;
-    return around == Role::table || around == Role::tablePart || around == Role::row;
+    return around == Role::table || around == Role::rowGroup || around == Role::row;
 }
 
 PageBuilder::Role PageBuilder::openTablePart(Element const& element, Style const& style) {
-    static_cast<void>(element);
-    openBlock(element, style);
-    return Role::block;
+    if (!isInTable()) closeAnonymousCell();
+    bool const isOfGroup = !open.empty() && open.back().role == Role::columnGroup;
+    if (!isInTable() && !isOfGroup) {
+        openBlock(element, style);
+        return Role::block;
+    }
+    Table& table = *tables.back();
+    switch (style.display) {
+        case Display::caption:
+            push(table.addCaption(style), style, backgroundOf(style, frame().background));
+            return Role::cell;
+        case Display::columnGroup:
+            table.beginColumnGroup(style, spanOf(element, "span", s_columnSpans));
+            return Role::columnGroup;
+        case Display::column:
+            table.addColumn(style, spanOf(element, "span", s_columnSpans));
+            return Role::hidden;
+        case Display::row:
+            table.beginRow(style);
+            return Role::row;
+        case Display::cell:
+            return openCell(element, style);
+        default:
+            table.beginGroup(style, style.display);
+            return Role::rowGroup;
+    }
 }
 
-void PageBuilder::openCell(Element const* element, Style const& style) {
-    static_cast<void>(element);
-    static_cast<void>(style);
+int PageBuilder::spanOf(Element const& element, std::string_view attributeName, Limits limits) {
+    return integerAttribute(element, attributeName, limits, problems).value_or(1);
+}
+
+PageBuilder::Role PageBuilder::openCell(Element const& element, Style const& style) {
+    Table& table = *tables.back();
+    int const columns = spanOf(element, "colspan", s_columnSpans);
+    Content& content = table.addCell(style, columns, spanOf(element, "rowspan", s_rowSpans));
+    push(content, style, table.cellBackground());
+    return Role::cell;
+}
+
+/// For what stands between the parts of a table.
+void PageBuilder::openAnonymousCell() {
+    Table& table = *tables.back();
+    Style const& style = anonymousStyles.emplace_back(computeStyle(*open.back().style, {}));
+    Content& content = table.addCell(style, 1, 1);
+    push(content, style, table.cellBackground());
+    hasAnonymousCell.back() = true;
+}
+
+void PageBuilder::closeAnonymousCell() {
+    if (hasAnonymousCell.empty() || !hasAnonymousCell.back()) return;
+    Role const around = open.back().role;
+    if (around != Role::table && around != Role::rowGroup && around != Role::row) return;
+    endParagraph();
+    pop();
+    hasAnonymousCell.back() = false;
 }
 
 void PageBuilder::text(std::string_view decoded) {
     if (depth == 0 && isBlank(decoded)) return;
     openRoot({});
     if (!open.empty() && open.back().role == Role::hidden) return;
+    if (!open.empty() && open.back().role == Role::columnGroup) return;
     if (isInTable()) {
         if (isBlank(decoded)) return;
-        openCell(nullptr, *frame().style);
+        openAnonymousCell();
     }
     frame().paragraph.addText(decoded);
 }
@@ -218,6 +270,7 @@ void PageBuilder::text(std::string_view decoded) {
 void PageBuilder::endElement(Element& element) {
     static_cast<void>(element);
     Role const role = open.back().role;
+    closeAnonymousCell();
     open.pop_back();
     closeElement(role);
 }
@@ -240,11 +293,21 @@ void PageBuilder::closeElement(Role role) {
         case Role::table:
             closeTable();
             break;
+        case Role::columnGroup:
+            tables.back()->endColumnGroup();
+            break;
+        case Role::rowGroup:
+            tables.back()->endGroup();
+            break;
+        case Role::row:
+            tables.back()->endRow();
+            break;
+        case Role::cell:
+            endParagraph();
+            pop();
+            break;
         case Role::hidden:
         case Role::point:
-        case Role::tablePart:
-        case Role::row:
-        case Role::cell:
             break;
     }
 }
@@ -267,13 +330,12 @@ void PageBuilder::finish() {
     page.finish();
 }
 
-void PageBuilder::push(BlockSink& sink, Style const& style) {
-    Colour const around = depth > 0 ? frame().background : Colour();
+void PageBuilder::push(BlockSink& sink, Style const& style, Colour background) {
     if (depth == frames.size()) frames.emplace_back();
     Frame& opened = frames[depth++];
     opened.sink = &sink;
     opened.style = &style;
-    opened.background = backgroundOf(style, around);
+    opened.background = background;
     opened.paragraph.begin(style, opened.background);
 }
 
@@ -295,6 +357,7 @@ void PageBuilder::endParagraph() {
 void PageBuilder::letGo() {
     if (!tables.empty() || frame().paragraph.depth() > 0) return;
     links.clear();
+    anonymousStyles.clear();
     std::vector<Style const*> inUse = {html.style, body.style};
     for (OpenElement const& each : open) inUse.push_back(each.style);
     cascade->letGo(inUse);

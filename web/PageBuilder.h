@@ -12,6 +12,7 @@
 #include "web/flow/Flow.h"
 #include "web/flow/Table.h"
 #include "web/markup/DocumentHandler.h"
+#include "web/markup/attributes.h"
 
 namespace galley::web {
 
@@ -32,7 +33,18 @@ public:
     void finish();
 
 private:
-    enum class Role { hidden, inlined, quote, point, block, table, tablePart, row, cell };
+    enum class Role {
+        hidden,
+        inlined,
+        quote,
+        point,
+        block,
+        table,
+        columnGroup,
+        rowGroup,
+        row,
+        cell,
+    };
 
     struct OpenElement {
         Role role;
@@ -60,13 +72,15 @@ private:
     void openBlock(Element const& element, Style const& style);
     OutsideMarker openItem(Element const& element, Style const& style);
     Role openTablePart(Element const& element, Style const& style);
-    void openCell(Element const* element, Style const& style);
+    Role openCell(Element const& element, Style const& style);
+    void openAnonymousCell();
+    int spanOf(Element const& element, std::string_view attribute, Limits limits);
     bool isInTable() const;
     void closeElement(Role role);
     void closeTable();
     void closeAnonymousCell();
     int numberOf(Element const& element);
-    void push(BlockSink& sink, Style const& style);
+    void push(BlockSink& sink, Style const& style, Colour background);
     void pop();
     void endParagraph();
     void letGo();
@@ -93,6 +107,7 @@ private:
     std::vector<std::unique_ptr<Table>> tables;
     /// Loose content of the innermost table stands in a cell of its own.
     std::vector<bool> hasAnonymousCell;
+    std::deque<Style> anonymousStyles;
     std::deque<Link> links;
     unsigned linkCount = 0;
     unsigned quoteDepth = 0;

@@ -100,6 +100,12 @@ std::string_view straight(Border const& border, bool isVertical) {
     }
 }
 
+Look lookOf(Border const& border, Colour background) {
+    Look look = blankOn(background);
+    look.text = border.colour;
+    return look;
+}
+
 int cellsOf(std::string_view text) {
     int cells = 0;
     for (std::size_t i = 0; i < text.size();) {
@@ -155,24 +161,37 @@ std::string_view joint(Edges<Border const*> const& lines, bool isRounded) {
     return find(key());
 }
 
-void addVertical(Row& row, Style const& style, bool isLeft, Colour background) {
-    Border const& border = isLeft ? style.border.left : style.border.right;
+void addVertical(Row& row, Border const& border, Colour background, bool isVisible) {
     if (!border.isThere()) return;
-    Look look = blankOn(background);
-    look.text = border.colour;
-    repeat(row, isVisible(style) ? straight(border, true) : " ", row.width() + 1, look);
+    repeat(row, isVisible ? straight(border, true) : " ", row.width() + 1,
+           lookOf(border, background));
+}
+
+void addLine(Row& row, Border const& border, int columns, Colour background) {
+    repeat(row, straight(border, false), row.width() + columns, lookOf(border, background));
+}
+
+void addJoint(Row& row, Edges<Border const*> const& lines, Border const& coloured,
+              Colour background) {
+    Look const look = lookOf(coloured, background);
+    for (Border const* const line : {lines.left, lines.right, lines.top, lines.bottom}) {
+        if (line == nullptr || line->line.kind != LineKind::text) continue;
+        repeat(row, line->line.text, row.width() + 1, look);
+        return;
+    }
+    bool const isAcross = lines.left != nullptr || lines.right != nullptr;
+    bool const isDown = lines.top != nullptr || lines.bottom != nullptr;
+    row.add(isAcross && isDown ? joint(lines, false) : straight(coloured, isDown), 1, look);
 }
 
 void addHorizontal(Row& row, Style const& style, bool isTop, int columns, Colour background) {
     Border const& border = isTop ? style.border.top : style.border.bottom;
-    Look look = blankOn(background);
-    look.text = border.colour;
     int const end = row.width() + columns;
-    if (!isVisible(style)) return row.fill(end, look);
-    addCorner(row, style, isTop, true, look);
+    if (!isVisible(style)) return row.fill(end, lookOf(border, background));
+    addCorner(row, style, isTop, true, lookOf(border, background));
     int const corner = style.border.right.isThere() ? 1 : 0;
-    repeat(row, straight(border, false), end - corner, look);
-    if (row.width() < end) addCorner(row, style, isTop, false, look);
+    addLine(row, border, end - corner - row.width(), background);
+    if (row.width() < end) addCorner(row, style, isTop, false, lookOf(border, background));
 }
 
 }  // namespace galley::web

@@ -10,34 +10,61 @@
 
 namespace galley::web {
 
+namespace {
+
+void widen(Widths& around, Widths const& child) {
+    around.least = std::max(around.least, child.least);
+    around.most = std::max(around.most, child.most);
+}
+
+}  // namespace
+
+Content::Content() = default;
+Content::Content(Content&& other) noexcept = default;
+Content::~Content() = default;
+
 void Content::open(Style const& block, OutsideMarker marker) {
     entries.emplace_back(Open{&block, std::move(marker)});
-    openStyles.push_back(&block);
-    measured.emplace_back();
+    openBlocks.push_back({&block, {}});
 }
 
 void Content::close() {
     entries.emplace_back(Close{});
-    Widths const content = measured.back();
-    measured.pop_back();
-    take(withEdges(content, *openStyles.back()));
-    openStyles.pop_back();
+    Measured const block = openBlocks.back();
+    openBlocks.pop_back();
+    take(withEdges(block.content, *block.style));
 }
 
 void Content::add(Paragraph&& paragraph) {
-    take(measure(paragraph));
+    take(measure(paragraph, Wrapping::asStyled));
     entries.emplace_back(std::move(paragraph));
 }
 
 void Content::add(std::unique_ptr<Table> table) {
-    take(table->outerWidths());
+    take(table->outerWidths(Wrapping::asStyled));
     entries.emplace_back(std::move(table));
 }
 
 void Content::take(Widths const& child) {
-    Widths& around = measured.back();
-    around.least = std::max(around.least, child.least);
-    around.most = std::max(around.most, child.most);
+    widen(openBlocks.empty() ? measured : openBlocks.back().content, child);
+}
+
+Widths Content::partedWidths() const {
+    std::vector<Measured> blocks = {{nullptr, {}}};
+    for (auto const& entry : entries) {
+        if (auto const* const opened = std::get_if<Open>(&entry)) {
+            blocks.push_back({opened->style, {}});
+        } else if (auto const* const paragraph = std::get_if<Paragraph>(&entry)) {
+            widen(blocks.back().content, measure(*paragraph, Wrapping::anywhere));
+        } else if (auto const* const table = std::get_if<std::unique_ptr<Table>>(&entry)) {
+            widen(blocks.back().content, (*table)->outerWidths(Wrapping::anywhere));
+        } else {
+            Measured const block = blocks.back();
+            blocks.pop_back();
+            widen(blocks.back().content, withEdges(block.content, *block.style));
+        }
+    }
+    return blocks.front().content;
 }
 
 void Content::moveTo(BlockSink& sink) {
@@ -55,10 +82,10 @@ void Content::moveTo(BlockSink& sink) {
     entries.clear();
 }
 
-Widths measure(Paragraph const& paragraph) {
+Widths measure(Paragraph const& paragraph, Wrapping wrapping) {
     constexpr int s_unlimited = std::numeric_limits<int>::max() / 2;
     auto const widest = [&](int cells) {
-        LineBreaker breaker(paragraph, 0, LineBreaker::Purpose::measuring);
+        LineBreaker breaker(paragraph, 0, LineBreaker::Purpose::measuring, wrapping);
         int const indent = across(paragraph.block().textIndent, 0);
         int result = 0;
         for (Place at; !breaker.isAtEnd(at);) {
@@ -71,9 +98,7 @@ Widths measure(Paragraph const& paragraph) {
     return {widest(0), widest(s_unlimited)};
 }
 
-Widths withEdges(Widths content, Style const& style) {
-    int const edges =
-        innerEdges(style, 0) + across(style.margin.left, 0) + across(style.margin.right, 0);
+Widths withLimits(Widths content, Style const& style) {
     if (style.width.kind == Length::Kind::cells) {
         content.least = content.most = style.width.value;
     }
@@ -85,7 +110,14 @@ Widths withEdges(Widths content, Style const& style) {
         content.least = std::max(content.least, style.minWidth.value);
         content.most = std::max(content.most, style.minWidth.value);
     }
-    return {content.least + edges, content.most + edges};
+    return content;
+}
+
+Widths withEdges(Widths content, Style const& style) {
+    Widths const limited = withLimits(content, style);
+    int const edges =
+        innerEdges(style, 0) + across(style.margin.left, 0) + across(style.margin.right, 0);
+    return {limited.least + edges, limited.most + edges};
 }
 
 }  // namespace galley::web

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "web/flow/BlockSink.h"
+#include "web/flow/LineBreaker.h"
 
 namespace galley::web {
 
@@ -21,6 +22,13 @@ struct Widths {
 /// What is in a table's cell or caption, kept until the table is complete, and measured meanwhile.
 class Content final : public BlockSink {
 public:
+    Content();
+    Content(Content&& other) noexcept;
+    Content(Content const&) = delete;
+    Content& operator=(Content&&) = delete;
+    Content& operator=(Content const&) = delete;
+    ~Content() override;
+
     void open(Style const& block, OutsideMarker marker) override;
     void close() override;
     void add(Paragraph&& paragraph) override;
@@ -28,9 +36,10 @@ public:
 
     /// Hands all of it on. Its tables have been moved away then: once only.
     void moveTo(BlockSink& sink);
-    /// Of all that has been added; per cent count nothing. `partsWords`: as if all words could be
-    /// parted anywhere.
-    Widths widths() const { return measured.front(); }
+    /// Of all that has been added; per cent count nothing.
+    Widths widths() const { return measured; }
+    /// The same where words are parted anywhere. Walks through all of it.
+    Widths partedWidths() const;
 
 private:
     struct Open {
@@ -39,16 +48,24 @@ private:
     };
     struct Close {};
 
+    /// A block that is open, and how wide what is in it is so far.
+    struct Measured {
+        Style const* style;
+        Widths content;
+    };
+
     void take(Widths const& child);
 
     std::vector<std::variant<Open, Close, Paragraph, std::unique_ptr<Table>>> entries;
-    /// Of what is around, and of each open block.
-    std::vector<Widths> measured = std::vector<Widths>(1);
-    std::vector<Style const*> openStyles;
+    Widths measured;
+    std::vector<Measured> openBlocks;
 };
 
 /// How wide the lines of a paragraph are.
-Widths measure(Paragraph const& paragraph);
+Widths measure(Paragraph const& paragraph, Wrapping wrapping);
+
+/// How wide a box is for which its style sets a width in cells, or limits.
+Widths withLimits(Widths content, Style const& style);
 
 /// How wide a block is with its edges, whose content is that wide.
 Widths withEdges(Widths content, Style const& style);

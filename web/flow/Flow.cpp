@@ -16,11 +16,12 @@ bool isShown(Colour background) { return background.kind != Colour::Kind::termin
 
 }  // namespace
 
-Flow::Flow(RowSink& rows, int columns, Colour background, OuterMargins outer)
+Flow::Flow(RowSink& rows, int columns, Colour background, OuterMargins outer, Wrapping wrapped)
     : sink(rows),
       width(columns),
       ground(background),
-      dropsMargins(outer == OuterMargins::dropped) {}
+      dropsMargins(outer == OuterMargins::dropped),
+      wrapping(wrapped) {}
 
 void Flow::open(Style const& style, OutsideMarker marker) {
     int const container = columns();
@@ -69,7 +70,7 @@ void Flow::close() {
 
 void Flow::addLines(Paragraph const& paragraph) {
     int const container = columns();
-    LineBreaker breaker(paragraph, container, LineBreaker::Purpose::layingOut);
+    LineBreaker breaker(paragraph, container, LineBreaker::Purpose::layingOut, wrapping);
     Style const& style = paragraph.block();
     bool& hasContent = blocks.empty() ? hasOwnContent : blocks.back().hasContent;
     int indent = std::exchange(hasContent, true) ? 0 : across(style.textIndent, container);
@@ -96,7 +97,7 @@ void Flow::add(std::unique_ptr<Table> table) {
     (blocks.empty() ? hasOwnContent : blocks.back().hasContent) = true;
     Style const& style = table->style();
     pending = std::max(pending, down(style.margin.top, container));
-    TableRows const made = table->layOut(container, background());
+    TableRows const made = table->layOut(container, wrapping);
     if (!made.rows.empty()) {
         start();
         for (Row const& tableRow : made.rows) {
@@ -148,7 +149,7 @@ void Flow::addLeftEdges(std::size_t count, bool isContent) {
             isShown(block.background)) {
             row.fill(block.left, blankOn(block.around));
         }
-        addVertical(row, *block.style, true, block.background);
+        addVertical(row, block.style->border.left, block.background, isVisible(*block.style));
         if (isShown(block.background)) row.fill(block.contentLeft, blankOn(block.background));
     }
 }
@@ -184,7 +185,8 @@ void Flow::addRightEdges(std::size_t count) {
         if (border.isThere() || isShown(block.background)) {
             row.fill(column, blankOn(block.background));
         }
-        if (row.width() == column) addVertical(row, *block.style, false, block.background);
+        if (row.width() == column)
+            addVertical(row, border, block.background, isVisible(*block.style));
     }
 }
 

@@ -20,7 +20,8 @@ public:
     enum class OuterMargins { shown, dropped };
 
     /// Of so many columns on a background. The sink outlives it.
-    Flow(RowSink& rows, int columns, Colour background, OuterMargins outer);
+    Flow(RowSink& rows, int columns, Colour background, OuterMargins outer,
+         Wrapping wrapping = Wrapping::asStyled);
 
     void open(Style const& block, OutsideMarker marker) override;
     void close() override;
@@ -65,6 +66,7 @@ private:
     int width;
     Colour ground;
     bool dropsMargins;
+    Wrapping wrapping;
     bool hasRows = false;
     bool hasOwnContent = false;
     /// Rows of margins that wait.

@@ -17,7 +17,7 @@ bool wraps(Style const& style) {
 
 bool LineBreaker::mayPart(Style const& style) const {
     if (!wraps(style)) return false;
-    if (style.overflowWrap == OverflowWrap::anywhere) return true;
+    if (wrapping == Wrapping::anywhere || style.overflowWrap == OverflowWrap::anywhere) return true;
     return style.overflowWrap == OverflowWrap::breakWord && purpose == Purpose::layingOut;
 }
 

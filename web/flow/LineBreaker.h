@@ -26,6 +26,10 @@ struct TextLine {
     bool isLast = false;
 };
 
+/// Where words may be parted: where their style says so, or as if it said `overflow-wrap:
+/// anywhere`.
+enum class Wrapping : std::uint8_t { asStyled, anywhere };
+
 /// Breaks a paragraph into lines, each as long as fits: at the last opportunity for which all
 /// before it fits. Where there is none a word is parted anywhere, if its style says so, or sticks
 /// out.
@@ -38,8 +42,8 @@ public:
     enum class Purpose { layingOut, measuring };
 
     /// For a container of that many columns, of which per cent count.
-    LineBreaker(Paragraph const& broken, int columns, Purpose what)
-        : paragraph(broken), container(columns), purpose(what) {}
+    LineBreaker(Paragraph const& broken, int columns, Purpose what, Wrapping wrapped)
+        : paragraph(broken), container(columns), purpose(what), wrapping(wrapped) {}
 
     /// The line that begins at `from`, of at most that many cells where it can be.
     TextLine next(Place from, int cells);
@@ -75,6 +79,7 @@ private:
     Paragraph const& paragraph;
     int container;
     Purpose purpose;
+    Wrapping wrapping;
     int available = 0;
     TextLine line;
     Place at;

@@ -1,5 +1,9 @@
 #include "web/flow/Row.h"
 
+#include <utility>
+
+#include "web/text/Cluster.h"
+
 namespace galley::web {
 
 void Row::add(std::string_view printed, int columns, Look const& look) {
@@ -21,6 +25,38 @@ void Row::add(Row const& other) {
         close(span.look);
     }
     cells += other.cells;
+}
+
+void Row::draw(int column, Row const& other, Colour background) {
+    if (column >= cells) {
+        if (other.cells == 0) return;
+        fill(column, blankOn(background));
+        add(other);
+        return;
+    }
+    Row result;
+    result.addPart(*this, 0, column);
+    result.add(other);
+    result.addPart(*this, column + other.cells, cells);
+    *this = std::move(result);
+}
+
+void Row::addPart(Row const& other, int begin, int end) {
+    int column = 0;
+    for (Span const& span : other.all) {
+        std::string_view const text = other.textOf(span);
+        for (std::size_t i = 0; i < text.size() && column < end;) {
+            Cluster const cluster = clusterAt(text, i, false);
+            int const next = column + static_cast<int>(cluster.width);
+            if (column >= begin && next <= end) {
+                add(text.substr(i, cluster.end - i), next - column, span.look);
+            } else if (next > begin) {
+                fill(cells + 1, span.look);
+            }
+            column = next;
+            i = cluster.end;
+        }
+    }
 }
 
 void Row::clear() {

@@ -1,11 +1,130 @@
 #include "web/flow/Table.h"
 
+#include <algorithm>
+#include <utility>
+
+#include "web/flow/Flow.h"
+#include "web/flow/RowList.h"
+#include "web/flow/TablePainter.h"
+#include "web/flow/columnNeeds.h"
+#include "web/flow/lengths.h"
+
 namespace galley::web {
 
-TableRows Table::layOut(int columns, Colour background) {
-    static_cast<void>(columns);
-    static_cast<void>(background);
-    return {};
+Table::Table(Style const& tableStyle, Colour around)
+    : ownStyle(tableStyle), ground(around), grid(backgroundOf(tableStyle, around)) {}
+
+Content& Table::addCaption(Style const& caption) {
+    return captions.emplace_back(Caption{&caption, {}}).content;
+}
+
+void Table::beginColumnGroup(Style const& group, int span) {
+    endColumnGroup();
+    columnGroup = {&group, span, false};
+}
+
+void Table::addColumn(Style const& column, int span) {
+    if (!columnGroup) {
+        grid.addColumns(&column, nullptr, true, span);
+        return;
+    }
+    bool const isFirst = !std::exchange(columnGroup->hasColumns, true);
+    grid.addColumns(&column, columnGroup->style, isFirst, span);
+}
+
+void Table::endColumnGroup() {
+    if (columnGroup && !columnGroup->hasColumns) {
+        grid.addColumns(nullptr, columnGroup->style, true, columnGroup->span);
+    }
+    columnGroup.reset();
+}
+
+void Table::beginGroup(Style const& group, Display kind) { grid.beginGroup(&group, kind); }
+
+void Table::beginRow(Style const& row) {
+    if (!grid.hasOpenGroup()) grid.beginGroup(nullptr, Display::rowGroup);
+    grid.beginRow(&row);
+}
+
+Content& Table::addCell(Style const& cell, int columnSpan, int rowSpan) {
+    if (!grid.hasOpenGroup()) grid.beginGroup(nullptr, Display::rowGroup);
+    if (!grid.hasOpenRow()) grid.beginRow(nullptr);
+    return grid.addCell(cell, columnSpan, rowSpan).content;
+}
+
+void Table::complete() {
+    if (frame) return;
+    endColumnGroup();
+    grid.complete();
+    frame.emplace(grid, ownStyle);
+}
+
+std::vector<ColumnNeed> const& Table::needs(Wrapping wrapping) {
+    auto& known = wrapping == Wrapping::anywhere ? needsAnywhere : needsAsStyled;
+    if (!known) {
+        known = isFixed() ? fixedNeeds(grid, *frame) : automaticNeeds(grid, *frame, wrapping);
+    }
+    return *known;
+}
+
+/// Of the border box, by its content alone. The longest word of a caption widens it.
+Widths Table::innerWidths(Wrapping wrapping, int container) {
+    Widths widths = sumOf(needs(wrapping));
+    int const edges = frame->edges(container);
+    widths.least += edges;
+    for (Caption const& caption : captions) {
+        Widths const around = withEdges(caption.content.widths(), *caption.style);
+        widths.least = std::max(widths.least, around.least);
+    }
+    widths.most = std::max(widths.most + edges, widths.least);
+    return widths;
+}
+
+Widths Table::outerWidths(Wrapping wrapping) {
+    complete();
+    Widths const content = innerWidths(wrapping, 0);
+    Widths widths = withLimits(content, ownStyle);
+    int const margins = across(ownStyle.margin.left, 0) + across(ownStyle.margin.right, 0);
+    return {std::max(widths.least, content.least) + margins,
+            std::max(widths.most, content.least) + margins};
+}
+
+/// The width that the style asks for is that of the border box.
+int Table::usedWidth(Widths const& content, int container) const {
+    int const margins =
+        across(ownStyle.margin.left, container) + across(ownStyle.margin.right, container);
+    int const wanted = isAutomatic(ownStyle.width) ? std::min(content.most, container - margins)
+                                                   : across(ownStyle.width, container);
+    return std::max(limitWidth(wanted, ownStyle, container), content.least);
+}
+
+TableRows Table::layOut(int columns, Wrapping wrapping) {
+    complete();
+    int const margins =
+        across(ownStyle.margin.left, columns) + across(ownStyle.margin.right, columns);
+    // Where its words do not fit, a cell parts them.
+    if (innerWidths(wrapping, columns).least + margins > columns) wrapping = Wrapping::anywhere;
+    int const width = usedWidth(innerWidths(wrapping, columns), columns);
+    int const spare = std::max(0, columns - margins - width);
+    TableRows made;
+    made.left = leftMargin(ownStyle, columns, spare);
+    std::vector<int> const shared = shareWidth(needs(wrapping), width - frame->edges(columns));
+    layOutCaptions(CaptionSide::top, width, made.rows);
+    TablePainter(grid, *frame, ownStyle, made.rows).paint(width, shared, columns, wrapping);
+    layOutCaptions(CaptionSide::bottom, width, made.rows);
+    return made;
+}
+
+void Table::layOutCaptions(CaptionSide side, int width, std::vector<Row>& rows) {
+    for (Caption& caption : captions) {
+        if (caption.style->captionSide != side) continue;
+        RowList list(rows);
+        Flow flow(list, width, ground, Flow::OuterMargins::shown);
+        flow.open(*caption.style, {});
+        caption.content.moveTo(flow);
+        flow.close();
+        flow.finish();
+    }
 }
 
 }  // namespace galley::web

@@ -1,33 +1,89 @@
 #pragma once
 
+#include <deque>
+#include <memory>
+#include <optional>
 #include <vector>
 
 #include "web/flow/Content.h"
 #include "web/flow/Row.h"
+#include "web/flow/TableFrame.h"
+#include "web/flow/TableGrid.h"
+#include "web/flow/columnWidths.h"
 
 namespace galley::web {
 
 /// A table that has been laid out.
 struct TableRows {
-    /// Of its margin box, in columns from the left of its container to the first row's first cell.
+    /// From the left of its container to the first cells of the rows.
     int left = 0;
     /// Of the table and its captions.
     std::vector<Row> rows;
 };
 
-/// A table with all that is in it, which is measured while it is put together.
+/// A table with all that is in it, which is measured while it is put together. Styles outlive it.
 class Table {
 public:
-    explicit Table(Style const& tableStyle) : ownStyle(&tableStyle) {}
+    /// On the background of what is around it.
+    Table(Style const& tableStyle, Colour around);
 
-    Style const& style() const { return *ownStyle; }
-    /// With its margins.
-    Widths outerWidths() const { return {}; }
-    /// In a container of so many columns, on a background. Once only.
-    TableRows layOut(int columns, Colour background);
+    Style const& style() const { return ownStyle; }
+
+    /// Parts are added in the order of the document, captions and columns anywhere among them. What
+    /// comes without its parent gets one: a cell a row, a row a group. Each part ends what is open
+    /// of its kind, and all parts within that.
+    ///@{
+    Content& addCaption(Style const& caption);
+    /// Of so many columns, if none are added to it.
+    void beginColumnGroup(Style const& group, int span);
+    void addColumn(Style const& column, int span);
+    void endColumnGroup();
+    /// Of rows: a head, a foot or another one.
+    void beginGroup(Style const& group, Display kind);
+    void endGroup() { grid.endGroup(); }
+    void beginRow(Style const& row);
+    void endRow() { grid.endRow(); }
+    /// Spans are cut to what they can be; 0 rows are all that follow in the group. The content
+    /// stays where it is.
+    Content& addCell(Style const& cell, int columnSpan, int rowSpan);
+    ///@}
+    /// Of the cell that was added last.
+    Colour cellBackground() const { return grid.cells().back().background; }
+
+    /// With its margins. To be called when all parts have been added.
+    Widths outerWidths(Wrapping wrapping);
+    /// In a container of so many columns. Once only.
+    TableRows layOut(int columns, Wrapping wrapping);
 
 private:
-    Style const* ownStyle;
+    struct Caption {
+        Style const* style;
+        Content content;
+    };
+    struct OpenColumnGroup {
+        Style const* style;
+        int span;
+        bool hasColumns;
+    };
+
+    void complete();
+    bool isFixed() const { return ownStyle.hasFixedColumns && !isAutomatic(ownStyle.width); }
+    std::vector<ColumnNeed> const& needs(Wrapping wrapping);
+    Widths innerWidths(Wrapping wrapping, int container);
+    int usedWidth(Widths const& content, int container) const;
+    void layOutCaptions(CaptionSide side, int width, std::vector<Row>& rows);
+
+    Style const& ownStyle;
+    Colour ground;
+    TableGrid grid;
+    std::deque<Caption> captions;
+    std::optional<OpenColumnGroup> columnGroup;
+    /// There once all parts have been added, and what has been asked for.
+    ///@{
+    std::optional<TableFrame> frame;
+    std::optional<std::vector<ColumnNeed>> needsAsStyled;
+    std::optional<std::vector<ColumnNeed>> needsAnywhere;
+    ///@}
 };
 
 }  // namespace galley::web

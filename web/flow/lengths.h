@@ -52,8 +52,14 @@ struct HorizontalPlace {
     int width;
 };
 
-/// A block that is as wide as its container where its style does not say otherwise. `auto` margins
-/// share what is left, a right margin is what it is.
+/// The left margin of a box that leaves so many columns of its container free: `auto` margins share
+/// them, a right margin is what it is.
+inline int leftMargin(Style const& style, int columns, int spare) {
+    if (!isAutomatic(style.margin.left)) return across(style.margin.left, columns);
+    return isAutomatic(style.margin.right) ? spare / 2 : spare;
+}
+
+/// A block that is as wide as its container where its style does not say otherwise.
 inline HorizontalPlace placeBlock(Style const& style, int columns) {
     // What content has to fit into is rounded down as a whole.
     std::int64_t edges =
@@ -67,10 +73,7 @@ inline HorizontalPlace placeBlock(Style const& style, int columns) {
     bool const isFilling = isAutomatic(style.width);
     int const wanted = isFilling ? filling : across(style.width, columns);
     int const width = limitWidth(wanted, style, columns);
-    int const spare = std::max(0, filling - width);
-    int left = across(style.margin.left, columns);
-    if (isAutomatic(style.margin.left)) left = isAutomatic(style.margin.right) ? spare / 2 : spare;
-    return {left, width};
+    return {leftMargin(style, columns, std::max(0, filling - width)), width};
 }
 
 }  // namespace galley::web

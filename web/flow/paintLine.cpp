@@ -169,7 +169,7 @@ private:
         Style const& style = *element.style;
         row.fill(row.width() + across(style.margin.left, container), blankOn(element.around));
         Colour const ground = element.look.background;
-        addVertical(row, style, true, ground);
+        addVertical(row, style.border.left, ground, isVisible(style));
         row.fill(row.width() + across(style.padding.left, container), blankOn(ground));
     }
 
@@ -178,7 +178,7 @@ private:
         Style const& style = *element.style;
         Colour const ground = element.look.background;
         row.fill(row.width() + across(style.padding.right, container), blankOn(ground));
-        addVertical(row, style, false, ground);
+        addVertical(row, style.border.right, ground, isVisible(style));
         row.fill(row.width() + across(style.margin.right, container), blankOn(element.around));
     }
 

@@ -1,0 +1,114 @@
+#include "web/flow/TableBand.h"
+
+#include <algorithm>
+
+#include "web/flow/Flow.h"
+#include "web/flow/RowList.h"
+#include "web/flow/lengths.h"
+
+namespace galley::web {
+
+namespace {
+
+/// The row of the first text, which lies on the baseline of the cell.
+int firstTextRow(std::vector<Row> const& rows) {
+    auto const text = std::find_if(rows.begin(), rows.end(), [](Row const& row) {
+        return row.text().find_first_not_of(' ') != std::string_view::npos;
+    });
+    return text == rows.end() ? 0 : static_cast<int>(text - rows.begin());
+}
+
+}  // namespace
+
+TableBand::TableBand(TableGrid& banded, TableFrame const& tableFrame,
+                     ColumnPlaces const& columnPlaces, int firstRow, Wrapping wrapping)
+    : grid(banded), frame(tableFrame), places(columnPlaces), first(firstRow) {
+    int end = first + 1;
+    for (int row = first; row < end; ++row) end = std::max(end, layOutRow(row, wrapping));
+    heights.assign(static_cast<std::size_t>(end - first), 0);
+    tops.assign(heights.size(), 0);
+    placeRows();
+    for (LaidCell& cell : laid) placeContent(cell);
+}
+
+/// Returns the first row that no cell reaches into.
+int TableBand::layOutRow(int row, Wrapping wrapping) {
+    TableRow const& tableRow = grid.rows()[static_cast<std::size_t>(row)];
+    std::size_t const firstOfRow = laid.size();
+    int end = row + 1;
+    for (std::size_t i = tableRow.firstCell; i < tableRow.endCell; ++i) {
+        layOut(grid.cells()[i], row, wrapping);
+        end = std::max(end, laid.back().endRow);
+    }
+    alignBaselines(firstOfRow);
+    return end;
+}
+
+void TableBand::layOut(TableCell& cell, int row, Wrapping wrapping) {
+    Style const& style = *cell.style;
+    LaidCell& placed = laid.emplace_back(
+        LaidCell{.cell = &cell, .firstRow = row, .endRow = row + cell.rowSpan, .content = {}});
+    placed.left = places.left[static_cast<std::size_t>(cell.column)];
+    placed.right = places.right[static_cast<std::size_t>(cell.endColumn()) - 1];
+    int const edges = frame.cellEdges(style, places.width);
+    int const width = std::max(0, placed.right - placed.left - edges);
+    RowList list(placed.content);
+    Flow flow(list, width, cell.background, Flow::OuterMargins::shown, wrapping);
+    cell.content.moveTo(flow);
+    flow.finish();
+    placed.above =
+        (frame.hasBorder(style.border.top) ? 1 : 0) + down(style.padding.top, places.width);
+    placed.needed = placed.above + static_cast<int>(placed.content.size()) +
+                    down(style.padding.bottom, places.width) +
+                    (frame.hasBorder(style.border.bottom) ? 1 : 0);
+}
+
+/// Moves content down so that first texts are in one row.
+void TableBand::alignBaselines(std::size_t firstOfRow) {
+    int lowest = 0;
+    auto const isAligned = [](LaidCell const& cell) {
+        return cell.cell->style->verticalAlign == VerticalAlign::baseline;
+    };
+    for (std::size_t i = firstOfRow; i < laid.size(); ++i) {
+        if (!isAligned(laid[i])) continue;
+        lowest = std::max(lowest, laid[i].above + firstTextRow(laid[i].content));
+    }
+    for (std::size_t i = firstOfRow; i < laid.size(); ++i) {
+        LaidCell& cell = laid[i];
+        if (!isAligned(cell)) continue;
+        int const shift = lowest - cell.above - firstTextRow(cell.content);
+        cell.above += shift;
+        cell.needed += shift;
+    }
+}
+
+/// Makes rows as high as the cells that end in them need: what the rows above lack of a spanning
+/// cell, its last row has.
+void TableBand::placeRows() {
+    std::vector<LaidCell*> byEnd;
+    for (LaidCell& cell : laid) byEnd.push_back(&cell);
+    std::stable_sort(byEnd.begin(), byEnd.end(),
+                     [](LaidCell const* a, LaidCell const* b) { return a->endRow < b->endRow; });
+    auto next = byEnd.begin();
+    for (int row = first; row < endRow(); ++row) {
+        int const gap = row > first ? height(row - 1) + frame.rowGap(row) : 0;
+        tops[index(row)] = (row > first ? top(row - 1) : 0) + gap;
+        int& height = heights[index(row)];
+        for (; next != byEnd.end() && (*next)->endRow == row + 1; ++next) {
+            (*next)->top = top((*next)->firstRow);
+            height = std::max(height, (*next)->top + (*next)->needed - top(row));
+        }
+    }
+    for (LaidCell& cell : laid)
+        cell.height = top(cell.endRow - 1) + height(cell.endRow - 1) - cell.top;
+}
+
+/// Moves content down where the cell is higher than it needs.
+void TableBand::placeContent(LaidCell& cell) const {
+    int const spare = cell.height - cell.needed;
+    VerticalAlign const align = cell.cell->style->verticalAlign;
+    if (align == VerticalAlign::bottom) cell.above += spare;
+    if (align == VerticalAlign::middle) cell.above += spare / 2;
+}
+
+}  // namespace galley::web

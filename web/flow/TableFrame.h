@@ -1,0 +1,61 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "web/flow/CollapsedBorders.h"
+#include "web/flow/TableGrid.h"
+#include "web/flow/lengths.h"
+
+namespace galley::web {
+
+/// What is around the cells of a table and between them, in cells: its edges, and the lines of its
+/// grid, which are spacing, or borders that collapse.
+class TableFrame {
+public:
+    /// Of a grid that is complete. All outlive the frame.
+    TableFrame(TableGrid const& framed, Style const& tableStyle) : grid(framed), table(tableStyle) {
+        if (table.collapsesBorders) collapsed.emplace(grid, table);
+    }
+
+    /// Null where each cell has its own.
+    CollapsedBorders* borders() { return collapsed ? &*collapsed : nullptr; }
+    bool collapses() const { return collapsed.has_value(); }
+    bool hasBorder(Border const& side) const { return !collapsed && side.isThere(); }
+
+    int columnGap(int line) const {
+        if (collapsed) return collapsed->hasVertical(line) ? 1 : 0;
+        return grid.columns().empty() ? 0 : table.borderSpacing.across;
+    }
+    int rowGap(int line) const {
+        if (collapsed) return collapsed->hasHorizontal(line) ? 1 : 0;
+        return grid.rows().empty() ? 0 : table.borderSpacing.down;
+    }
+    /// Between lines, without these.
+    int columnGaps(int begin, int end) const {
+        int sum = 0;
+        for (int line = begin + 1; line < end; ++line) sum += columnGap(line);
+        return sum;
+    }
+    /// Of all that is not columns, in a container of so many.
+    int edges(int container) const {
+        int const gaps = columnGaps(-1, static_cast<int>(grid.columns().size()) + 1);
+        return gaps + (collapsed ? 0 : innerEdges(table, container));
+    }
+    int leftEdge(int container) const {
+        if (collapsed) return 0;
+        return (table.border.left.isThere() ? 1 : 0) + across(table.padding.left, container);
+    }
+    /// Columns of a cell's border and padding, in a table that is so wide.
+    int cellEdges(Style const& cell, int width) const {
+        if (!collapsed) return innerEdges(cell, width);
+        return across(cell.padding.left, width) + across(cell.padding.right, width);
+    }
+
+private:
+    TableGrid const& grid;
+    Style const& table;
+    std::optional<CollapsedBorders> collapsed;
+};
+
+}  // namespace galley::web

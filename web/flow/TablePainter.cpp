@@ -1,0 +1,251 @@
+#include "web/flow/TablePainter.h"
+
+#include <algorithm>
+
+#include "web/flow/Border.h"
+#include "web/flow/lengths.h"
+
+namespace galley::web {
+
+namespace {
+
+bool isDrawn(Colour background) { return background.kind != Colour::Kind::terminal; }
+
+/// Cells of the background at the beginning of a row.
+int leadingBlanks(Row const& row, Colour background) {
+    if (row.spans().empty() || row.spans().front().look != blankOn(background)) return 0;
+    std::string_view const text = row.textOf(row.spans().front());
+    return static_cast<int>(std::min(text.find_first_not_of(' '), text.size()));
+}
+
+}  // namespace
+
+TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
+                           std::vector<Row>& output)
+    : grid(painted), frame(tableFrame), table(tableStyle), rows(output) {}
+
+void TablePainter::paint(int width, std::vector<int> const& columns, int container,
+                         Wrapping wrapping) {
+    placeColumns(width, columns, container);
+    auto const end = static_cast<int>(grid.rows().size());
+    paintEdge(true, down(table.padding.top, container));
+    for (int next = 0; next < end;) {
+        paintGap(next, frame.rowGap(next), 0);
+        TableBand band(grid, frame, places, next, wrapping);
+        paintBand(band);
+        next = band.endRow();
+    }
+    paintGap(end, frame.rowGap(end), 0);
+    paintEdge(false, down(table.padding.bottom, container));
+}
+
+void TablePainter::placeColumns(int width, std::vector<int> const& columns, int container) {
+    places.width = width;
+    int column = frame.leftEdge(container) + frame.columnGap(0);
+    int line = 0;
+    for (int const cells : columns) {
+        places.left.push_back(column);
+        places.right.push_back(column + cells);
+        column += cells + frame.columnGap(++line);
+    }
+    places.left.push_back(column);
+}
+
+/// Paints the table's border and padding above its rows or below them.
+void TablePainter::paintEdge(bool isTop, int padding) {
+    if (frame.collapses()) return;
+    if (!isTop) paintBlanks(padding);
+    if ((isTop ? table.border.top : table.border.bottom).isThere()) {
+        row.clear();
+        addHorizontal(row, table, isTop, places.width, grid.background());
+        rows.push_back(row);
+    }
+    if (isTop) paintBlanks(padding);
+}
+
+void TablePainter::paintBlanks(int count) {
+    for (; count > 0; --count) {
+        beginRow();
+        endRow();
+    }
+}
+
+void TablePainter::paintBand(TableBand& band) {
+    auto next = band.cells().begin();
+    for (int at = band.firstRow(); at < band.endRow(); ++at) {
+        std::erase_if(active, [at](LaidCell const* cell) { return cell->endRow <= at; });
+        if (at > band.firstRow()) {
+            int const gap = frame.rowGap(at);
+            paintGap(at, gap, band.top(at) - gap);
+        }
+        for (; next != band.cells().end() && next->firstRow == at; ++next) active.push_back(&*next);
+        std::stable_sort(active.begin(), active.end(), [](LaidCell const* a, LaidCell const* b) {
+            return a->cell->column < b->cell->column;
+        });
+        paintRow(band, at);
+        if (frame.collapses()) frame.borders()->next();
+    }
+    active.clear();
+}
+
+void TablePainter::paintRow(TableBand const& band, int at) {
+    currentRow = at;
+    for (int i = 0; i < band.height(at); ++i) {
+        beginRow();
+        paintCells(band.top(at) + i, false);
+        endRow();
+    }
+}
+
+/// Paints a line of the grid that is so high, through which the active cells go.
+void TablePainter::paintGap(int line, int height, int top) {
+    currentRow = line;
+    for (int i = 0; i < height; ++i) {
+        beginRow();
+        paintCells(top + i, true);
+        endRow();
+    }
+}
+
+void TablePainter::beginRow() {
+    row.clear();
+    overlays.clear();
+    Border const& border = table.border.left;
+    if (frame.hasBorder(border)) addVertical(row, border, grid.background());
+}
+
+void TablePainter::endRow() {
+    Border const& border = table.border.right;
+    bool const hasBorder = frame.hasBorder(border);
+    if (hasBorder || isDrawn(grid.background())) {
+        row.fill(places.width - (hasBorder ? 1 : 0), blankOn(grid.background()));
+    }
+    if (hasBorder) addVertical(row, border, grid.background());
+    paintOverlays();
+    rows.push_back(row);
+}
+
+void TablePainter::paintCells(int y, bool isGap) {
+    nextLine = 0;
+    Colour const* before = nullptr;
+    for (LaidCell const* const cell : active) {
+        Colour const& background = cell->cell->background;
+        bool const isAlike =
+            before != nullptr && nextLine == cell->cell->column && *before == background;
+        paintLines(cell->cell->column, isGap, isAlike ? before : nullptr);
+        paintCell(*cell, y);
+        nextLine = std::max(nextLine, cell->cell->endColumn());
+        before = &background;
+    }
+    paintLines(static_cast<int>(grid.columns().size()), isGap, nullptr);
+}
+
+/// Paints the lines of borders that collapse, up to one, and what is between them where no cell is.
+/// `alike` is the background of the cells on both sides of the only one.
+void TablePainter::paintLines(int end, bool isGap, Colour const* alike) {
+    if (!frame.collapses() && (isGap || nextLine == end)) return;
+    Colour const ground = isGap
+                              ? grid.background()
+                              : grid.background(grid.rows()[static_cast<std::size_t>(currentRow)]);
+    for (; nextLine <= end; ++nextLine) {
+        if (frame.columnGap(nextLine) > 0 && frame.collapses()) {
+            paintVertical(nextLine, isGap, alike == nullptr ? ground : *alike);
+        }
+        if (nextLine == end) return;
+        auto const column = static_cast<std::size_t>(nextLine);
+        Border const* const border =
+            isGap && frame.collapses() ? frame.borders()->horizontal(nextLine) : nullptr;
+        if (border != nullptr) {
+            row.fill(places.left[column], blankOn(grid.background()));
+            addLine(row, *border, places.right[column] - places.left[column], ground);
+        } else if (isDrawn(ground)) {
+            row.fill(places.left[column], blankOn(grid.background()));
+            row.fill(places.right[column], blankOn(ground));
+        }
+    }
+}
+
+/// Paints a cell of a line of borders: a joint in lines above a row, else a part of it.
+void TablePainter::paintVertical(int line, bool isGap, Colour background) {
+    CollapsedBorders const& borders = *frame.borders();
+    Edges<Border const*> lines = {};
+    if (isGap) {
+        lines = borders.around(line);
+    } else {
+        lines.top = lines.bottom = borders.vertical(line);
+    }
+    Border const* const drawn = strongest(lines);
+    if (drawn == nullptr && !isDrawn(background)) return;
+    row.fill(places.left[static_cast<std::size_t>(line)] - 1, blankOn(grid.background()));
+    if (drawn == nullptr) {
+        row.fill(row.width() + 1, blankOn(background));
+    } else {
+        addJoint(row, lines, *drawn, background);
+    }
+}
+
+/// Adds a cell where it stands, or puts it over others on which it stands.
+void TablePainter::paintCell(LaidCell const& cell, int y) {
+    if (row.width() <= cell.left) {
+        paintPiece(row, cell, cell.left, y);
+        return;
+    }
+    Row piece;
+    paintPiece(piece, cell, 0, y);
+    row.draw(cell.left, piece, cell.cell->background);
+}
+
+/// Adds what a cell has in a row of text, from column `left` on.
+void TablePainter::paintPiece(Row& piece, LaidCell const& cell, int left, int y) {
+    Style const& style = *cell.cell->style;
+    Edges<Border> const& border = style.border;
+    Colour const background = cell.cell->background;
+    int const right = left + cell.right - cell.left;
+    int const line = y - cell.top;
+    bool const isVisible = cell.cell->isVisible();
+    bool const isTop = line == 0 && frame.hasBorder(border.top);
+    bool const isBottom = line == cell.height - 1 && frame.hasBorder(border.bottom);
+    auto const begin = [&] { piece.fill(left, blankOn(grid.background())); };
+    if (isVisible && (isTop || isBottom)) {
+        begin();
+        addHorizontal(piece, style, isTop, right - left, background);
+        return;
+    }
+    if (isVisible && (isDrawn(background) || frame.hasBorder(border.left))) begin();
+    if (isVisible && frame.hasBorder(border.left)) addVertical(piece, border.left, background);
+    paintContent(piece, cell, left, line - cell.above);
+    bool const hasRight = frame.hasBorder(border.right);
+    if (!isVisible || (!hasRight && !isDrawn(background))) return;
+    piece.fill(right - (hasRight ? 1 : 0), blankOn(background));
+    if (hasRight) addVertical(piece, border.right, background);
+}
+
+/// Adds a row of a cell's content, if there is such a one, where nothing sticks out.
+void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int line) {
+    if (line < 0 || static_cast<std::size_t>(line) >= cell.content.size()) return;
+    Row const& content = cell.content[static_cast<std::size_t>(line)];
+    if (content.width() == 0) return;
+    Style const& style = *cell.cell->style;
+    int const edge =
+        (frame.hasBorder(style.border.left) ? 1 : 0) + across(style.padding.left, places.width);
+    int const room = cell.right - cell.left - frame.cellEdges(style, places.width);
+    Colour const background = cell.cell->background;
+    if (!overlays.empty() || content.width() > room || left != cell.left) {
+        overlays.push_back({cell.left + edge, &content, background});
+        return;
+    }
+    piece.fill(left + edge, blankOn(background));
+    piece.add(content);
+}
+
+void TablePainter::paintOverlays() {
+    for (Overlay const& overlay : overlays) {
+        int const blanks = leadingBlanks(*overlay.content, overlay.background);
+        if (blanks == overlay.content->width()) continue;
+        Row text;
+        text.addPart(*overlay.content, blanks, overlay.content->width());
+        row.draw(overlay.column + blanks, text, overlay.background);
+    }
+}
+
+}  // namespace galley::web

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "web/flow/TableBand.h"
+#include "web/flow/TableFrame.h"
+#include "web/flow/TableGrid.h"
+
+namespace galley::web {
+
+/// Makes the rows of a table's border box, from the left edge of that, each from left to right.
+///
+/// What sticks out of a cell lies over the edges of those to its right, and below their text: such
+/// rows are first made without content.
+class TablePainter {
+public:
+    /// Takes the content of cells from the grid, appends rows.
+    TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
+                 std::vector<Row>& output);
+
+    /// The table is that wide, with columns of those widths; per cent count of `container`. Once
+    /// only.
+    void paint(int width, std::vector<int> const& columns, int container, Wrapping wrapping);
+
+private:
+    /// Content that lies over what has been made of the row.
+    struct Overlay {
+        int column;
+        Row const* content;
+        Colour background;
+    };
+
+    void placeColumns(int width, std::vector<int> const& columns, int container);
+    void paintEdge(bool isTop, int padding);
+    void paintBlanks(int count);
+    void paintBand(TableBand& band);
+    void paintRow(TableBand const& band, int row);
+    void paintGap(int line, int height, int top);
+    void beginRow();
+    void endRow();
+    void paintCells(int y, bool isGap);
+    void paintCell(LaidCell const& cell, int y);
+    void paintPiece(Row& piece, LaidCell const& cell, int left, int y);
+    void paintContent(Row& piece, LaidCell const& cell, int left, int y);
+    void paintLines(int end, bool isGap, Colour const* alike);
+    void paintVertical(int line, bool isGap, Colour background);
+    void paintOverlays();
+
+    TableGrid& grid;
+    TableFrame& frame;
+    Style const& table;
+    std::vector<Row>& rows;
+    ColumnPlaces places;
+    /// Cells of the row by their columns.
+    std::vector<LaidCell const*> active;
+    std::vector<Overlay> overlays;
+    Row row;
+    /// The first line that has not been painted.
+    int nextLine = 0;
+    int currentRow = 0;
+};
+
+}  // namespace galley::web

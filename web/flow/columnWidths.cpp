@@ -1,0 +1,184 @@
+#include "web/flow/columnWidths.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <numeric>
+
+namespace galley::web {
+
+namespace {
+
+constexpr int s_whole = 100'000;
+/// As far as percentages widen a table.
+constexpr std::int64_t s_widest = 1'000'000;
+
+bool isPercent(ColumnNeed const& column) { return column.percent > 0; }
+bool isFixed(ColumnNeed const& column) { return column.isFixed && !isPercent(column); }
+bool isAutomatic(ColumnNeed const& column) { return !column.isFixed && !isPercent(column); }
+
+int partOf(int width, int percent) {
+    return static_cast<int>(std::int64_t{width} * percent / s_whole);
+}
+
+/// Shares an amount in proportion to weights, of which one is not 0.
+std::vector<int> inProportion(std::vector<std::int64_t> const& weights, int amount) {
+    std::int64_t const sum = std::accumulate(weights.begin(), weights.end(), std::int64_t{0});
+    std::vector<int> parts;
+    parts.reserve(weights.size());
+    int rest = amount;
+    for (std::int64_t const weight : weights) {
+        parts.push_back(static_cast<int>(amount * weight / sum));
+        rest -= parts.back();
+    }
+    for (std::size_t i = 0; rest > 0; i = i + 1 == parts.size() ? 0 : i + 1) {
+        if (weights[i] == 0) continue;
+        ++parts[i];
+        --rest;
+    }
+    return parts;
+}
+
+/// The widths of columns while they grow.
+class Shares {
+public:
+    Shares(std::span<ColumnNeed const> shared, int total) : columns(shared) {
+        rest = total;
+        for (ColumnNeed const& column : columns) {
+            widths.push_back(column.least);
+            rest -= column.least;
+        }
+    }
+
+    bool isDone() const { return rest <= 0; }
+
+    /// Lets columns of a kind grow to what `wish` says; all by the same part where room is short.
+    template <class Wish>
+    void grow(bool (*isOfKind)(ColumnNeed const&), Wish const& wish) {
+        if (isDone()) return;
+        std::vector<std::int64_t> missing(widths.size());
+        std::int64_t sum = 0;
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            if (isOfKind(columns[i])) missing[i] = std::max(0, wish(columns[i]) - widths[i]);
+            sum += missing[i];
+        }
+        if (sum > 0)
+            add(inProportion(missing, static_cast<int>(std::min<std::int64_t>(sum, rest))));
+    }
+
+    /// Gives all that is left to columns of a kind, if there are any.
+    template <class Weight>
+    void spend(bool (*isOfKind)(ColumnNeed const&), Weight const& weight) {
+        if (isDone()) return;
+        std::vector<std::int64_t> weights(widths.size());
+        std::vector<std::int64_t> counts(widths.size());
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            if (!isOfKind(columns[i])) continue;
+            weights[i] = weight(columns[i]);
+            counts[i] = columns[i].count;
+        }
+        auto const isThere = [](std::int64_t amount) { return amount > 0; };
+        if (std::any_of(weights.begin(), weights.end(), isThere)) {
+            add(inProportion(weights, rest));
+        } else if (std::any_of(counts.begin(), counts.end(), isThere)) {
+            add(inProportion(counts, rest));
+        }
+    }
+
+    std::vector<int> take() { return std::move(widths); }
+
+private:
+    void add(std::vector<int> const& parts) {
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            widths[i] += parts[i];
+            rest -= parts[i];
+        }
+    }
+
+    std::span<ColumnNeed const> columns;
+    std::vector<int> widths;
+    int rest;
+};
+
+/// Shares a cell's percentage, less what columns have of it, among those that have none.
+void widenPercentages(std::span<ColumnNeed> columns, int percent) {
+    std::vector<std::int64_t> weights;
+    std::vector<std::int64_t> counts;
+    for (ColumnNeed const& column : columns) {
+        percent -= column.percent;
+        weights.push_back(isPercent(column) ? 0 : column.most);
+        counts.push_back(isPercent(column) ? 0 : column.count);
+    }
+    auto const sum = [](auto const& all) {
+        return std::accumulate(all.begin(), all.end(), std::int64_t{0});
+    };
+    if (percent <= 0 || sum(counts) == 0) return;
+    std::vector<int> const parts = inProportion(sum(weights) > 0 ? weights : counts, percent);
+    for (std::size_t i = 0; i < columns.size(); ++i) columns[i].percent += parts[i];
+}
+
+}  // namespace
+
+void widen(ColumnNeed& column, ColumnNeed const& cell) {
+    column.least = std::max(column.least, cell.least);
+    column.most = std::max({column.most, cell.most, column.least});
+    column.percent = std::max(column.percent, cell.percent);
+    column.isFixed = column.isFixed || cell.isFixed;
+}
+
+void widen(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
+    if (cell.percent > 0) widenPercentages(columns, cell.percent);
+    std::vector<int> const least = shareWidth(columns, cell.least);
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        columns[i].least = std::max(columns[i].least, least[i]);
+        columns[i].most = std::max(columns[i].most, columns[i].least);
+    }
+    std::vector<int> const most = shareWidth(columns, cell.most);
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        columns[i].most = std::max(columns[i].most, most[i]);
+    }
+}
+
+void limitPercentages(std::span<ColumnNeed> columns) {
+    int left = s_whole;
+    for (ColumnNeed& column : columns) {
+        column.percent = std::min(column.percent, left);
+        left -= column.percent;
+    }
+}
+
+Widths sumOf(std::span<ColumnNeed const> columns) {
+    Widths sum;
+    std::int64_t widest = 0;
+    std::int64_t others = 0;
+    std::int64_t left = s_whole;
+    for (ColumnNeed const& column : columns) {
+        sum.least += column.least;
+        sum.most += column.most;
+        left -= column.percent;
+        if (isPercent(column)) {
+            widest = std::max(widest, std::int64_t{column.most} * s_whole / column.percent);
+        } else {
+            others += column.most;
+        }
+    }
+    if (left < s_whole && others > 0) {
+        widest = std::max(widest, left > 0 ? others * s_whole / left : s_widest);
+    }
+    sum.most = std::max(sum.most, static_cast<int>(std::min(widest, s_widest)));
+    return sum;
+}
+
+std::vector<int> shareWidth(std::span<ColumnNeed const> columns, int width) {
+    auto const most = [](ColumnNeed const& column) { return column.most; };
+    auto const percent = [](ColumnNeed const& column) { return column.percent; };
+    Shares shares(columns, width);
+    shares.grow(isPercent, [=](ColumnNeed const& column) { return partOf(width, column.percent); });
+    shares.grow(isFixed, most);
+    shares.grow(isAutomatic, most);
+    shares.spend(isAutomatic, most);
+    shares.spend(isFixed, most);
+    shares.spend(isPercent, percent);
+    return shares.take();
+}
+
+}  // namespace galley::web
