@@ -176,6 +176,8 @@ bool LineBreaker::part(Item const& item) {
         taken = cluster.end;
     }
     if (taken == 0) return end({at, printed, false, true});
+    // The blank behind a whole word hangs.
+    if (taken < rest.size() && rest[taken] == ' ') ++taken;
     Place place = {at.item, at.offset + static_cast<std::uint32_t>(taken)};
     if (item.begin + place.offset == item.end) place = {at.item + 1, 0};
     return end({place, used + width, false, true});
