@@ -155,7 +155,7 @@ PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& s
     }
     paragraph.open(style, link);
     if (element.name != "q") return Role::inlined;
-    paragraph.addText(quoteDepth++ % 2 == 0 ? "“" : "‘");
+    paragraph.addGenerated(quoteDepth++ % 2 == 0 ? "“" : "‘");
     return Role::quote;
 }
 
@@ -176,7 +176,7 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
     BlockSink& sink = *frame().sink;
     sink.open(style, std::move(marker));
     push(sink, style, backgroundOf(style, frame().background));
-    if (inside.size() > 1) frame().paragraph.addText(inside);
+    if (inside.size() > 1) frame().paragraph.addGenerated(inside);
 }
 
 /// The number of a list item: its own, or the next one of the list around it.
@@ -278,7 +278,7 @@ void PageBuilder::endElement(Element& element) {
 void PageBuilder::closeElement(Role role) {
     switch (role) {
         case Role::quote:
-            frame().paragraph.addText(--quoteDepth % 2 == 0 ? "”" : "’");
+            frame().paragraph.addGenerated(--quoteDepth % 2 == 0 ? "”" : "’");
             frame().paragraph.close();
             break;
         case Role::inlined:

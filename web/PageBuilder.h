@@ -16,8 +16,8 @@
 
 namespace galley::web {
 
-/// Puts a page together while its document is read: what is between two blocks is a paragraph, which
-/// goes where it stands, to the page or into the cell of a table.
+/// Puts a page together while its document is read: what is between two blocks is a paragraph,
+/// which goes where it stands, to the page or into the cell of a table.
 class PageBuilder final : public DocumentHandler {
 public:
     /// The sheets and the sink outlive the builder. Warnings are appended to `found`.

@@ -43,7 +43,8 @@ enum class Thickness : std::uint8_t { none, thin, thick };
 /// How the line of a border is drawn.
 struct Line {
     LineKind kind = LineKind::none;
-    /// Repeated along the border where the kind is `text`, else empty. Without controls.
+    /// Repeated along the border where the kind is `text`, else empty. Without controls, and
+    /// well-formed.
     std::string text;
 
     bool operator==(Line const&) const = default;
@@ -101,7 +102,7 @@ enum class MarkerKind : std::uint8_t {
 
 struct Marker {
     MarkerKind kind = MarkerKind::disc;
-    /// The marker where the kind is `text`, else empty. Without controls.
+    /// The marker where the kind is `text`, else empty. Without controls, and well-formed.
     std::string text;
 
     bool operator==(Marker const&) const = default;

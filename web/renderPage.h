@@ -11,9 +11,9 @@
 
 namespace galley::web {
 
-/// Hands the rows of a document's page to `rows`. Appends what is wrong with the document, or has no
-/// effect, in the order in which it is found; false after an error, when the rows are worth nothing.
-/// Throws std::bad_alloc where there is no memory.
+/// Hands the rows of a document's page to `rows`. Appends what is wrong with the document, or has
+/// no effect, in the order in which it is found; false after an error, when the rows are worth
+/// nothing. Throws std::bad_alloc where there is no memory.
 bool renderPage(std::string_view markup, std::span<Sheet const* const> sheets, Media const& media,
                 RowSink& rows, std::vector<Problem>& problems);
 

@@ -68,7 +68,7 @@ def difference(page, answer, rows):
     if len(actual) != len(answer.rows):
         return f"{len(actual)} rows instead of {len(answer.rows)}"
     for number, (expected, row) in enumerate(zip(map(cells, answer.rows), actual)):
-        if visible(expected, page.width) != visible(row, page.width):
+        if visible(expected, page.width) != shown(expected, row, page.width):
             return f"row {number}"
     return None
 
@@ -79,6 +79,22 @@ def visible(row, width):
     while kept and kept[-1] == " ":
         kept.pop()
     return kept
+
+
+def shown(expected, row, width):
+    """The same of a row that galley printed, without what no picture shows beyond the page: what is
+    no letter, and markers."""
+    return visible([" " if column >= width and cell != "" and expected[column:column + 1] in ([], [" "])
+                    and not (cell.isalpha() and not in_marker(row, column)) else cell
+                    for column, cell in enumerate(row)], width)
+
+
+def in_marker(row, column):
+    """Whether the word that a cell is in may be a marker, which ends with a dot."""
+    end = column
+    while end < len(row) and row[end] != " ":
+        end += 1
+    return row[end - 1] == "."
 
 
 def misfit(page, answer, actual):

@@ -41,6 +41,7 @@ void Declarations::applyTo(Style& style, Style const& parent) const {
 }
 
 void Declarations::add(Property const& property, bool isParents) {
+    // The last one says it all, and there are no more of them than there are properties.
     std::erase_if(entries, [&](Entry const& entry) { return entry.property == &property; });
     entries.push_back({&property, isParents});
 }

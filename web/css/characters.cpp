@@ -1,5 +1,7 @@
 #include "web/css/characters.h"
 
+#include "web/text/utf8.h"
+
 namespace galley::web {
 
 namespace {
@@ -8,12 +10,7 @@ constexpr std::string_view s_replacement = "\xEF\xBF\xBD";
 
 char byte(std::uint32_t bits) { return static_cast<char>(bits); }
 
-bool isControl(char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }
-
-/// U+0080 to U+009F are two bytes long.
-bool isLatinControl(std::string_view text) {
-    return text.length() >= 2 && text[0] == '\xC2' && static_cast<unsigned char>(text[1]) < 0xA0;
-}
+bool isControl(char32_t c) { return c < ' ' || (c >= 0x7F && c < 0xA0); }
 
 }  // namespace
 
@@ -31,18 +28,15 @@ void appendUtf8(std::string& text, std::uint32_t codePoint) {
     }
 }
 
-std::string withoutControls(std::string_view text) {
-    std::string printable;
-    for (std::size_t i = 0; i < text.length(); ++i) {
-        bool const isLatin = isLatinControl(text.substr(i));
-        if (isLatin || isControl(text[i])) {
-            printable += s_replacement;
-        } else {
-            printable += text[i];
-        }
-        if (isLatin) ++i;
+std::string printable(std::string_view text) {
+    std::string clean;
+    for (std::size_t at = 0; at < text.length();) {
+        CodePoint const c = decodeAt(text, at);
+        bool const isPrintable = c.isWellFormed && !isControl(c.value);
+        clean += isPrintable ? text.substr(at, c.length) : s_replacement;
+        at += c.length;
     }
-    return printable;
+    return clean;
 }
 
 }  // namespace galley::web

@@ -39,7 +39,7 @@ constexpr bool isSameWord(std::string_view a, std::string_view b) {
 /// Appends a code point as UTF-8; U+FFFD for 0, surrogates and what is no code point.
 void appendUtf8(std::string& text, std::uint32_t codePoint);
 
-/// The text with a U+FFFD for each control of ASCII and of Latin-1, so that it can be printed.
-std::string withoutControls(std::string_view text);
+/// The text with a U+FFFD for each control of ASCII and of Latin-1, and for each ill-formed part.
+std::string printable(std::string_view text);
 
 }  // namespace galley::web

@@ -9,7 +9,7 @@ namespace {
 
 /// Of parents' weights below `end`.
 struct Step {
-    unsigned end;
+    unsigned end = 0;
     FontWeight lighter;
     FontWeight bolder;
 };

@@ -72,14 +72,14 @@ bool readDecorationLine(ValueReader& reader, Decoration& decoration) {
 bool readMarker(ValueReader& reader, Marker& marker) {
     marker = {};
     if (!reader.isNext(Kind::string)) return readKeyword<s_markerKinds>(reader, marker.kind);
-    marker = {MarkerKind::text, withoutControls(reader.take().text)};
+    marker = {MarkerKind::text, printable(reader.take().text)};
     return true;
 }
 
 bool readLine(ValueReader& reader, Line& line) {
     line = {};
     if (!reader.isNext(Kind::string)) return readKeyword<s_lineKinds>(reader, line.kind);
-    line.text = withoutControls(reader.take().text);
+    line.text = printable(reader.take().text);
     line.kind = line.text.empty() ? LineKind::none : LineKind::text;
     return true;
 }

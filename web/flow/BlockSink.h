@@ -16,8 +16,8 @@ struct OutsideMarker {
     int columns = 0;
 };
 
-/// Takes what is in a block container, in the order of the document: blocks that open and close, and
-/// between them paragraphs and tables. Styles outlive it.
+/// Takes what is in a block container, in the order of the document: blocks that open and close,
+/// and between them paragraphs and tables. Styles outlive it.
 class BlockSink {
 public:
     virtual ~BlockSink() = default;

@@ -161,8 +161,10 @@ std::string_view joint(Edges<Border const*> const& lines, bool isRounded) {
     return find(key());
 }
 
-void addVertical(Row& row, Border const& border, Colour background) {
-    repeat(row, straight(border, true), row.width() + 1, lookOf(border, background));
+void addVertical(Row& row, Border const& border, Colour background, bool isVisible) {
+    if (!border.isThere()) return;
+    repeat(row, isVisible ? straight(border, true) : " ", row.width() + 1,
+           lookOf(border, background));
 }
 
 void addLine(Row& row, Border const& border, int columns, Colour background) {
@@ -185,6 +187,7 @@ void addJoint(Row& row, Edges<Border const*> const& lines, Border const& coloure
 void addHorizontal(Row& row, Style const& style, bool isTop, int columns, Colour background) {
     Border const& border = isTop ? style.border.top : style.border.bottom;
     int const end = row.width() + columns;
+    if (!isVisible(style)) return row.fill(end, lookOf(border, background));
     addCorner(row, style, isTop, true, lookOf(border, background));
     int const corner = style.border.right.isThere() ? 1 : 0;
     addLine(row, border, end - corner - row.width(), background);

@@ -11,8 +11,8 @@ namespace galley::web {
 /// With one line, or two opposite ones, that is how it is drawn. Empty where there is none.
 std::string_view joint(Edges<Border const*> const& lines, bool isRounded);
 
-/// Adds the cell of a border at the left or the right of a box, in row `row` of it.
-void addVertical(Row& row, Border const& border, Colour background);
+/// Adds the cell of a border at the left or the right of a box, if it has one.
+void addVertical(Row& row, Border const& border, Colour background, bool isVisible = true);
 
 /// Adds so many cells of a border along a row.
 void addLine(Row& row, Border const& border, int columns, Colour background);

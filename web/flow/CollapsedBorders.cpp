@@ -125,7 +125,8 @@ Border const* CollapsedBorders::findVertical(std::size_t line) const {
     if (leftColumn != nullptr) contest.offer(leftColumn->style, s_right);
     if (rightColumn != nullptr) contest.offer(rightColumn->style, s_left);
     if (leftColumn != nullptr && leftColumn->endsGroup) contest.offer(leftColumn->group, s_right);
-    if (rightColumn != nullptr && rightColumn->beginsGroup) contest.offer(rightColumn->group, s_left);
+    if (rightColumn != nullptr && rightColumn->beginsGroup)
+        contest.offer(rightColumn->group, s_left);
     if (isOutermost) contest.offer(&table, outerSide);
     return contest.winner();
 }

@@ -12,7 +12,7 @@ namespace galley::web {
 
 namespace {
 
-bool isVisible(Colour background) { return background.kind != Colour::Kind::terminal; }
+bool isShown(Colour background) { return background.kind != Colour::Kind::terminal; }
 
 }  // namespace
 
@@ -25,6 +25,7 @@ Flow::Flow(RowSink& rows, int columns, Colour background, OuterMargins outer, Wr
 
 void Flow::open(Style const& style, OutsideMarker marker) {
     int const container = columns();
+    (blocks.empty() ? hasOwnContent : blocks.back().hasContent) = true;
     HorizontalPlace const place = placeBlock(style, container);
     int const left = contentLeft() + place.marginLeft;
     int const edge = (style.border.left.isThere() ? 1 : 0) + across(style.padding.left, container);
@@ -71,7 +72,8 @@ void Flow::addLines(Paragraph const& paragraph) {
     int const container = columns();
     LineBreaker breaker(paragraph, container, LineBreaker::Purpose::layingOut, wrapping);
     Style const& style = paragraph.block();
-    int indent = across(style.textIndent, container);
+    bool& hasContent = blocks.empty() ? hasOwnContent : blocks.back().hasContent;
+    int indent = std::exchange(hasContent, true) ? 0 : across(style.textIndent, container);
     start();
     for (Place at; !breaker.isAtEnd(at);) {
         TextLine const line = breaker.next(at, container - indent);
@@ -92,6 +94,7 @@ void Flow::addLines(Paragraph const& paragraph) {
 
 void Flow::add(std::unique_ptr<Table> table) {
     int const container = columns();
+    (blocks.empty() ? hasOwnContent : blocks.back().hasContent) = true;
     Style const& style = table->style();
     pending = std::max(pending, down(style.margin.top, container));
     TableRows const made = table->layOut(container, wrapping);
@@ -142,11 +145,12 @@ void Flow::addLeftEdges(std::size_t count, bool isContent) {
         Block& block = blocks[i];
         if (!block.hasStarted) break;
         if (isContent && !block.marker.text.empty()) addMarker(block);
-        if (block.style->border.left.isThere() || isVisible(block.around) || isVisible(block.background)) {
+        if (block.style->border.left.isThere() || isShown(block.around) ||
+            isShown(block.background)) {
             row.fill(block.left, blankOn(block.around));
         }
-        if (block.style->border.left.isThere()) addVertical(row, block.style->border.left, block.background);
-        if (isVisible(block.background)) row.fill(block.contentLeft, blankOn(block.background));
+        addVertical(row, block.style->border.left, block.background, isVisible(*block.style));
+        if (isShown(block.background)) row.fill(block.contentLeft, blankOn(block.background));
     }
 }
 
@@ -156,7 +160,7 @@ void Flow::addMarker(Block& block) {
     row.fill(block.left - 1 - block.marker.columns, blankOn(block.around));
     Look look = lookOf(*block.style, block.around);
     look.isUnderlined = look.isStruckThrough = false;
-    if (block.style->visibility == Visibility::visible) {
+    if (isVisible(*block.style)) {
         row.add(block.marker.text, block.marker.columns, look);
     } else {
         row.fill(row.width() + block.marker.columns, look);
@@ -178,10 +182,11 @@ void Flow::addRightEdges(std::size_t count) {
         if (!block.hasStarted) continue;
         Border const& border = block.style->border.right;
         int const column = block.right - (border.isThere() ? 1 : 0);
-        if (border.isThere() || isVisible(block.background)) {
+        if (border.isThere() || isShown(block.background)) {
             row.fill(column, blankOn(block.background));
         }
-        if (border.isThere() && row.width() == column) addVertical(row, border, block.background);
+        if (row.width() == column)
+            addVertical(row, border, block.background, isVisible(*block.style));
     }
 }
 

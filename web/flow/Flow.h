@@ -46,6 +46,8 @@ private:
         Colour around;
         Colour background;
         bool hasStarted;
+        /// Only text that comes first is indented.
+        bool hasContent = false;
     };
 
     int columns() const { return blocks.empty() ? width : blocks.back().contentWidth; }
@@ -66,6 +68,7 @@ private:
     bool dropsMargins;
     Wrapping wrapping;
     bool hasRows = false;
+    bool hasOwnContent = false;
     /// Rows of margins that wait.
     int pending = 0;
     std::vector<Block> blocks;

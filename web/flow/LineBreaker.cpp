@@ -35,8 +35,8 @@ TextLine LineBreaker::next(Place from, int cells) {
     if (printed > available && fitting.isThere) {
         end(fitting);
     } else {
-        end({at, printed, false, true});
         line.isLast = true;
+        end({at, printed, false, true});
     }
     return line;
 }
@@ -53,6 +53,7 @@ bool LineBreaker::step() {
         }
         used += edge;
         printed += edge;
+        if (edge > 0 && printed > available && !fitting.isThere && partLastWord()) return true;
         at = behind;
         return false;
     }
@@ -79,11 +80,10 @@ bool LineBreaker::step() {
             }
             break;
         case Item::Kind::lineFeed:
-            end({behind, printed, false, true});
             line.isLast = true;
-            return true;
+            return end({behind, printed, false, true});
         case Item::Kind::breakable:
-            if (wraps(style)) offer(behind, printed);
+            if (wraps(style) || item.mayBreakBehind) offer(behind, printed);
             break;
         case Item::Kind::open:
             used += paragraph.element(item).leftEdge(container);
@@ -106,8 +106,8 @@ bool LineBreaker::takeWords(Item const& item) {
     std::string_view const words = paragraph.textOf(item).substr(at.offset);
     auto const length = static_cast<int>(words.size());
     int const room = available - used;
-    hasText = true;
     if (length - 1 <= room) {
+        hasText = true;
         used += length;
         printed = used - 1;
         at = {at.item + 1, 0};
@@ -139,6 +139,8 @@ bool LineBreaker::takeWord(Item const& item) {
         if (mayPart(styleOf(item))) return part(item);
     }
     hasText = true;
+    lastWord = at;
+    usedBeforeWord = used;
     used += width;
     printed = used;
     at = {at.item + 1, 0};
@@ -163,24 +165,49 @@ int LineBreaker::restWidth(Item const& item) const {
 
 /// Ends the line within a word, or before it: behind the last cluster that fits. A line has one at
 /// least.
-bool LineBreaker::part(Item const& item) {
+bool LineBreaker::part(Item const& item, bool isAll) {
     std::string_view const rest = paragraph.textOf(item).substr(at.offset);
     int width = 0;
     std::size_t taken = 0;
     while (taken < rest.size() && rest[taken] != ' ') {
         Cluster const cluster = clusterAt(rest, taken, false);
         auto const cells = static_cast<int>(cluster.width);
-        bool const isFirst = taken == 0 && printed == 0;
+        bool const isFirst = taken == 0 && !hasText;
         if (used + width + cells > available && !isFirst) break;
+        if (!isAll && cluster.end == rest.size()) break;
         width += cells;
         taken = cluster.end;
     }
-    if (taken == 0) return end({at, printed, false, true});
-    // The blank behind a whole word hangs.
+    if (taken == 0) return endBefore(at);
+    // A blank behind the word hangs.
     if (taken < rest.size() && rest[taken] == ' ') ++taken;
     Place place = {at.item, at.offset + static_cast<std::uint32_t>(taken)};
     if (item.begin + place.offset == item.end) place = {at.item + 1, 0};
     return end({place, used + width, false, true});
+}
+
+/// Parts the word before the end of an element, whose edge has no room behind it: its last cluster
+/// goes on with the edge. Returns whether there is more than one.
+bool LineBreaker::partLastWord() {
+    if (lastWord.item + 1 != at.item) return false;
+    Item const& word = paragraph.items()[lastWord.item];
+    std::string_view const text = paragraph.textOf(word).substr(lastWord.offset);
+    if (!mayPart(styleOf(word)) || clusterAt(text, 0, false).end == text.size()) return false;
+    at = lastWord;
+    used = usedBeforeWord;
+    hasText = false;
+    return part(word, false);
+}
+
+/// Ends the line before a place; starts of elements there go with what is in them.
+bool LineBreaker::endBefore(Place place) {
+    int width = printed;
+    while (place.item > line.begin.item + 1 &&
+           paragraph.items()[place.item - 1].kind == Item::Kind::open) {
+        --place.item;
+        width -= paragraph.element(paragraph.items()[place.item]).leftEdge(container);
+    }
+    return end({place, width, false, true});
 }
 
 void LineBreaker::offer(Place place, int width, bool hyphenates) {
@@ -206,7 +233,25 @@ bool LineBreaker::end(Opportunity const& where) {
     line.end = where.place;
     line.width = where.width;
     line.hyphenates = where.hyphenates;
+    takeLineFeed();
     return true;
+}
+
+/// A line feed behind what did not fit ends this line, not an empty one.
+void LineBreaker::takeLineFeed() {
+    auto const& items = paragraph.items();
+    if (line.end.offset > 0) return;
+    for (std::uint32_t i = line.end.item; i < items.size(); ++i) {
+        Item const& item = items[i];
+        bool const isNothing =
+            item.kind == Item::Kind::blank || item.kind == Item::Kind::breakable ||
+            (item.kind == Item::Kind::close && paragraph.element(item).rightEdge(container) == 0);
+        if (item.kind == Item::Kind::lineFeed && line.end.item > line.begin.item && !line.isLast) {
+            line.end = {i + 1, 0};
+            line.isLast = true;
+        }
+        if (!isNothing) return;
+    }
 }
 
 }  // namespace galley::web

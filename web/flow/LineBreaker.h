@@ -48,7 +48,7 @@ public:
     /// The line that begins at `from`, of at most that many cells where it can be.
     TextLine next(Place from, int cells);
 
-    bool isAtEnd(Place place) const { return place.item == paragraph.items().size(); }
+    bool isAtEnd(Place place) const { return place.item >= paragraph.end(); }
 
 private:
     /// A place where the line may end.
@@ -63,7 +63,10 @@ private:
     bool takeWords(Item const& item);
     bool endInWords(std::size_t blank);
     bool takeWord(Item const& item);
-    bool part(Item const& item);
+    bool part(Item const& item, bool isAll = true);
+    bool partLastWord();
+    bool endBefore(Place place);
+    void takeLineFeed();
     int restWidth(Item const& item) const;
     int cellsToTabStop(Style const& style) const;
     void offer(Place place, int width, bool hyphenates = false);
@@ -87,6 +90,11 @@ private:
     ///@}
     /// There is more than edges.
     bool hasText = false;
+    /// The last word that is whole, and the cells before it.
+    ///@{
+    Place lastWord;
+    int usedBeforeWord = 0;
+    ///@}
     /// The last one that fits, and the newest one, which the ends of elements may still join.
     ///@{
     Opportunity fitting;

@@ -31,9 +31,12 @@ struct Look {
     bool operator==(Look const&) const = default;
 };
 
+inline bool isVisible(Style const& style) { return style.visibility == Visibility::visible; }
+
 /// The background of an element that stands on another one.
 inline Colour backgroundOf(Style const& style, Colour around) {
-    return style.background.kind == Colour::Kind::transparent ? around : style.background;
+    bool const isSeen = style.background.kind != Colour::Kind::transparent && isVisible(style);
+    return isSeen ? style.background : around;
 }
 
 /// How text of an element looks on a background.

@@ -1,5 +1,6 @@
 #include "web/flow/Paragraph.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "web/flow/lengths.h"
@@ -38,6 +39,9 @@ TextOptions optionsFor(Style const& style) {
     return options;
 }
 
+/// A container in which any per cent are columns.
+constexpr int s_wide = 100'000;
+
 }  // namespace
 
 int Inline::leftEdge(int columns) const {
@@ -59,7 +63,8 @@ void Paragraph::begin(Style const& block, Colour background) {
     elements.assign(1, {.style = &block, .look = lookOf(block, background), .around = background});
     current = 0;
     isBehindBlank = true;
-    hasContent = false;
+    isInWord = false;
+    contentEnd = 0;
 }
 
 Item& Paragraph::add(Item::Kind kind) {
@@ -75,16 +80,18 @@ void Paragraph::open(Style const& style, Link const* link) {
                                           link != nullptr ? link : around.look.link),
                            .around = ground,
                            .parent = current};
-    // An edge makes a line, even without text.
-    hasContent = hasContent || opened.leftEdge(1000) > 0 || opened.rightEdge(1000) > 0;
+    bool const hasEdge = opened.leftEdge(s_wide) > 0;
     current = static_cast<std::uint32_t>(elements.size());
     openElements.push_back(current);
     elements.push_back(opened);
     add(Item::Kind::open);
+    // An edge makes a line, even without text.
+    if (hasEdge) contentEnd = all.size();
 }
 
 void Paragraph::close() {
     add(Item::Kind::close);
+    if (elements[current].rightEdge(s_wide) > 0) contentEnd = all.size();
     openElements.pop_back();
     current = elements[current].parent;
 }
@@ -101,16 +108,16 @@ void Paragraph::partInto(Paragraph& done) {
         elements.back().begins = false;
         elements.back().ends = true;
     }
-    hasContent = false;
+    contentEnd = 0;
 }
 
 void Paragraph::addLineFeed() {
-    hasContent = true;
     isBehindBlank = true;
     add(Item::Kind::lineFeed);
+    contentEnd = all.size();
 }
 
-void Paragraph::addBreakable() { add(Item::Kind::breakable); }
+void Paragraph::addBreakable() { add(Item::Kind::breakable).mayBreakBehind = true; }
 
 void Paragraph::addBlank() {
     if (std::exchange(isBehindBlank, true)) return;
@@ -120,9 +127,14 @@ void Paragraph::addBlank() {
 
 void Paragraph::addText(std::string_view decoded) {
     if (style().textTransform != TextTransform::none) {
-        transformText(transformed, decoded, style().textTransform);
+        transformText(transformed, decoded, style().textTransform, isInWord);
         decoded = transformed;
     }
+    addGenerated(decoded);
+}
+
+void Paragraph::addGenerated(std::string_view decoded) {
+    joinTo(decoded);
     TextOptions const options = optionsFor(style());
     bool const isWrapped = style().whiteSpace == WhiteSpace::normal;
     SegmentReader reader(decoded, options);
@@ -135,8 +147,7 @@ void Paragraph::addText(std::string_view decoded) {
         if (!reader.next(segment)) return;
         bool const isWord = isWrapped && segment.isPlain && segment.end > segment.begin &&
                             segment.behind == Segment::Behind::space;
-        std::string_view const bytes =
-            decoded.substr(segment.begin, segment.end - segment.begin);
+        std::string_view const bytes = decoded.substr(segment.begin, segment.end - segment.begin);
         if (isWord) {
             addWords(bytes);
             text += ' ';
@@ -148,21 +159,43 @@ void Paragraph::addText(std::string_view decoded) {
     }
 }
 
+/// Lets a line break between the last word and a text, if it may where both are one text.
+void Paragraph::joinTo(std::string_view decoded) {
+    constexpr std::size_t s_context = 16;
+    auto last = all.rbegin();
+    while (last != all.rend() &&
+           (last->kind == Item::Kind::open || last->kind == Item::Kind::close)) {
+        ++last;
+    }
+    if (last == all.rend() || last->kind != Item::Kind::word || last->mayBreakBehind) return;
+    std::string_view const word = textOf(*last);
+    std::size_t from = word.size() - std::min(word.size(), s_context);
+    while (from < word.size() && (static_cast<unsigned char>(word[from]) & 0xC0U) == 0x80U) ++from;
+    joint.assign(word.substr(from)).append(decoded.substr(0, s_context));
+    std::size_t const place = word.size() - from;
+    SegmentReader reader(joint, optionsFor(style()));
+    Segment segment;
+    while (reader.next(segment) && segment.next <= place) {
+        bool const isOpportunity = segment.behind == Segment::Behind::opportunity;
+        if (segment.next == place && isOpportunity) last->mayBreakBehind = true;
+    }
+}
+
 /// Adds words with a blank behind each, or one whose blank is added next.
 void Paragraph::addWords(std::string_view words) {
-    hasContent = true;
     isBehindBlank = true;
-    bool const goesOn = !all.empty() && all.back().kind == Item::Kind::words &&
-                        all.back().element == current;
+    bool const goesOn =
+        !all.empty() && all.back().kind == Item::Kind::words && all.back().element == current;
     if (!goesOn) add(Item::Kind::words);
+    contentEnd = all.size();
     text += words;
     all.back().end = static_cast<std::uint32_t>(text.size());
 }
 
 void Paragraph::addWord(std::string_view bytes, Segment const& segment) {
-    hasContent = true;
     isBehindBlank = false;
     Item& word = add(Item::Kind::word);
+    contentEnd = all.size();
     text += bytes;
     word.end = static_cast<std::uint32_t>(text.size());
     word.width = static_cast<std::uint32_t>(segment.width);
@@ -179,7 +212,7 @@ void Paragraph::addBehind(Segment const& segment) {
             if (isPreserved) {
                 Item& blanks = add(Item::Kind::blanks);
                 blanks.width = static_cast<std::uint32_t>(segment.next - segment.end);
-                hasContent = true;
+                contentEnd = all.size();
                 isBehindBlank = false;
             } else {
                 addBlank();
@@ -187,7 +220,7 @@ void Paragraph::addBehind(Segment const& segment) {
             break;
         case Segment::Behind::tab:
             add(Item::Kind::tab);
-            hasContent = true;
+            contentEnd = all.size();
             isBehindBlank = false;
             break;
         case Segment::Behind::lineFeed:
@@ -196,7 +229,7 @@ void Paragraph::addBehind(Segment const& segment) {
         case Segment::Behind::opportunity:
         case Segment::Behind::softHyphen:
             // Without a word before it, as at the beginning of a text.
-            if (segment.begin == segment.end) addBreakable();
+            if (segment.begin == segment.end) add(Item::Kind::breakable);
             break;
         case Segment::Behind::end:
             break;

@@ -41,13 +41,14 @@ struct Item {
         lineFeed,  ///< The line ends here.
         open,
         close,
-        breakable,  ///< A line may break here, whatever is around.
+        breakable,  ///< A line may break here.
     };
 
     Kind kind;
     /// Of a word: it is printed as it is, a cell a byte.
     bool isPlain = true;
-    /// Of a word: a line may break behind it, and whether that then shows a hyphen.
+    /// A line may break behind a word, or where `white-space` says otherwise, and whether that then
+    /// shows a hyphen.
     ///@{
     bool mayBreakBehind = false;
     bool hyphenates = false;
@@ -71,6 +72,8 @@ public:
     void close();
     /// Adds text of the innermost element.
     void addText(std::string_view decoded);
+    /// Adds text that is not from the document: its letters stay as they are.
+    void addGenerated(std::string_view printed);
     /// Ends the line, whatever white space means here.
     void addLineFeed();
     /// Lets a line break here.
@@ -81,7 +84,9 @@ public:
 
     Style const& block() const { return *elements.front().style; }
     /// Whether it makes lines: text, or an edge of an element, is there.
-    bool isEmpty() const { return !hasContent; }
+    bool isEmpty() const { return contentEnd == 0; }
+    /// Behind the last item that makes a line.
+    std::size_t end() const { return contentEnd; }
     std::vector<Item> const& items() const { return all; }
     Inline const& element(Item const& item) const { return elements[item.element]; }
     std::string_view textOf(Item const& item) const {
@@ -90,6 +95,7 @@ public:
     std::size_t depth() const { return openElements.size(); }
 
 private:
+    void joinTo(std::string_view decoded);
     void addWord(std::string_view bytes, Segment const& segment);
     void addWords(std::string_view words);
     void addBehind(Segment const& segment);
@@ -106,8 +112,11 @@ private:
     /// White space that comes now is no more than what is there: behind a blank, or at the start of
     /// a line.
     bool isBehindBlank = true;
-    bool hasContent = false;
+    std::size_t contentEnd = 0;
+    /// A letter that comes now goes on with a word.
+    bool isInWord = false;
     std::string transformed;
+    std::string joint;
 };
 
 }  // namespace galley::web

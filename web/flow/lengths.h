@@ -7,13 +7,21 @@
 
 namespace galley::web {
 
-/// Cells of a length in a container of that many columns; 0 for `auto`. Parts of a cell are dropped
-/// of a percentage.
+/// Of a cell: per cent have so many.
+inline constexpr std::int64_t s_parts = 100'000;
+
+/// A length in a container of that many columns; 0 for `auto`.
 ///@{
-inline int across(Length length, int columns) {
+/// In parts of a cell.
+inline std::int64_t exactlyAcross(Length length, int columns) {
     if (length.kind == Length::Kind::automatic) return 0;
-    if (length.kind == Length::Kind::cells) return length.value;
-    return static_cast<int>(std::int64_t{columns} * length.value / 100'000);
+    std::int64_t const factor = length.kind == Length::Kind::cells ? s_parts : columns;
+    return factor * length.value;
+}
+
+/// In cells: parts of one are dropped.
+inline int across(Length length, int columns) {
+    return static_cast<int>(exactlyAcross(length, columns) / s_parts);
 }
 
 /// A percentage is of the container's width, of which two columns are as wide as a row is high.
@@ -53,9 +61,15 @@ inline int leftMargin(Style const& style, int columns, int spare) {
 
 /// A block that is as wide as its container where its style does not say otherwise.
 inline HorizontalPlace placeBlock(Style const& style, int columns) {
-    int const edges = innerEdges(style, columns);
-    int const margins = across(style.margin.left, columns) + across(style.margin.right, columns);
-    int const filling = columns - edges - margins;
+    // What content has to fit into is rounded down as a whole.
+    std::int64_t edges =
+        (style.border.left.isThere() ? s_parts : 0) + (style.border.right.isThere() ? s_parts : 0);
+    for (Length const length :
+         {style.margin.left, style.margin.right, style.padding.left, style.padding.right}) {
+        edges += exactlyAcross(length, columns);
+    }
+    int const filling =
+        static_cast<int>(std::max<std::int64_t>(0, columns * s_parts - edges) / s_parts);
     bool const isFilling = isAutomatic(style.width);
     int const wanted = isFilling ? filling : across(style.width, columns);
     int const width = limitWidth(wanted, style, columns);

@@ -97,8 +97,7 @@ private:
             case Item::Kind::tab:
                 if (element.style->tabSize > 0) {
                     int const column = row.width() - start;
-                    row.fill(row.width() + element.style->tabSize -
-                                 column % element.style->tabSize,
+                    row.fill(row.width() + element.style->tabSize - column % element.style->tabSize,
                              element.look);
                 }
                 isBegun = true;
@@ -140,7 +139,7 @@ private:
 
     void addPlain(std::string_view text, Inline const& element) {
         auto const cells = static_cast<int>(text.size());
-        if (element.style->visibility == Visibility::visible) {
+        if (isVisible(*element.style)) {
             row.add(text, cells, element.look);
         } else {
             row.fill(row.width() + cells, element.look);
@@ -156,7 +155,7 @@ private:
             cells += static_cast<int>(cluster.width);
             i = cluster.end;
         }
-        if (element.style->visibility != Visibility::visible) {
+        if (!isVisible(*element.style)) {
             row.fill(row.width() + cells, element.look);
             return;
         }
@@ -170,7 +169,7 @@ private:
         Style const& style = *element.style;
         row.fill(row.width() + across(style.margin.left, container), blankOn(element.around));
         Colour const ground = element.look.background;
-        if (style.border.left.isThere()) addVertical(row, style.border.left, ground);
+        addVertical(row, style.border.left, ground, isVisible(style));
         row.fill(row.width() + across(style.padding.left, container), blankOn(ground));
     }
 
@@ -179,7 +178,7 @@ private:
         Style const& style = *element.style;
         Colour const ground = element.look.background;
         row.fill(row.width() + across(style.padding.right, container), blankOn(ground));
-        if (style.border.right.isThere()) addVertical(row, style.border.right, ground);
+        addVertical(row, style.border.right, ground, isVisible(style));
         row.fill(row.width() + across(style.margin.right, container), blankOn(element.around));
     }
 

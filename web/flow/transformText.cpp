@@ -23,9 +23,9 @@ bool isMark(std::int32_t c) {
 
 }  // namespace
 
-void transformText(std::string& out, std::string_view text, TextTransform transform) {
+void transformText(std::string& out, std::string_view text, TextTransform transform,
+                   bool& isInWord) {
     out.clear();
-    bool isInWord = false;
     for (std::size_t at = 0; at < text.size();) {
         CodePoint const decoded = decodeAt(text, at);
         std::string_view const bytes = text.substr(at, decoded.length);

@@ -174,6 +174,7 @@ TEST(Cascade, KeepsBoundedMemoryForADocumentWithoutAnEnd) {
         ASSERT_EQ(style->margin.left, (Length{Length::Kind::cells, i}));
         ASSERT_EQ(style->colour, Colour::ofPalette(1));
         cascade.letGo(inUse);
+        ASSERT_EQ(cascade.styleOf(element)->margin.left, (Length{Length::Kind::cells, i}));
         ASSERT_LE(cascade.size(), 4096U);
     }
 }
