@@ -85,6 +85,8 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         {"a-b ab-cd", 5, "|a-b|ab-cd"},
         {"漢字漢字", 5, "|漢字|漢字"},
         {"<b>漢</b><i>字</i>", 3, "|漢|字"},
+        {"abcd <b style='padding-right: 1ch'>efgh</b>ij", 4, "|abcd|efg|h ij"},
+        {"ab cd<b style='padding-left: 1ch'/>", 2, "|ab|cd"},
         {"ab<wbr/>cd", 3, "|ab|cd"},
         {"aaa <b style='padding-right: 2ch'>bbb</b>", 8, "|aaa|bbb"},
         {"aaa <b style='padding-right: 1ch'>bbb</b>c", 8, "|aaa|bbb c"},
