@@ -179,7 +179,11 @@ bool LineBreaker::part(Item const& item, bool isAll) {
         width += cells;
         taken = cluster.end;
     }
-    if (taken == 0) return endBefore(at);
+    if (taken == 0) {
+        // A soft hyphen for which there is no room: the letter before it goes on, too.
+        bool const isHyphenated = lastWord && paragraph.items()[lastWord->item].hyphenates;
+        return (isHyphenated && partLastWord()) || endBefore(at);
+    }
     // A blank behind the word hangs.
     if (taken < rest.size() && rest[taken] == ' ') ++taken;
     Place place = {at.item, at.offset + static_cast<std::uint32_t>(taken)};

@@ -82,6 +82,7 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         {"<p style='overflow-wrap: normal'>abcdefgh ij</p>", 4, "|abcdefgh|ij"},
         {"ab&#173;cd", 3, "|ab-|cd"},
         {"ab&#173;cd", 4, "|abcd"},
+        {"abc&#173;def", 3, "|ab|c-|def"},
         {"a-b ab-cd", 5, "|a-b|ab-cd"},
         {"漢字漢字", 5, "|漢字|漢字"},
         {"<b>漢</b><i>字</i>", 3, "|漢|字"},
@@ -121,7 +122,15 @@ TEST(Pages, NumberListsAndPutMarkersBeside) {
         {"<ul><li><p>a</p></li><li><ul><li>b</li></ul></li></ul>", 40, "|  • a||  •   ◦ b"},
         {"<ol style='list-style: inside upper-roman'><li>a</li></ol>", 40, "|    I. a"},
         {"<ol style='padding: 0'><li>a b</li></ol>", 9, "|1. a b"},
+        {"<div style='background: red'><ol><li>a</li></ol></div>", 9, "| 1. a"},
     });
+}
+
+TEST(Pages, TransformWordsAcrossElementsAndHyphens) {
+    expectPages({{"<p style='text-transform: capitalize'>ab<b>cd</b> it's e&#173;f (gh)</p>", 40,
+                  "|Abcd It's Ef (Gh)"},
+                 {"<p style='text-transform: uppercase'>stra&#xE9; &#x1C6;</p>", 40, "|STRAÉ Ǆ"},
+                 {"<p style='text-transform: lowercase'>ABC</p>", 40, "|abc"}});
 }
 
 TEST(Pages, PartInlineElementsAroundBlocks) {
