@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/append.h"
 #include "galley/Places.h"
 #include "galley/SheetAccess.h"
 #include "galley/failure.h"
+#include "galley/formats/PageWriter.h"
+#include "galley/terminal/terminal.h"
 #include "web/renderPage.h"
-#include "web/write/PlainWriter.h"
 
 namespace galley {
 
@@ -56,15 +56,16 @@ web::Media mediaFor(Options const& options) {
 }
 
 /// All that is said of a document; its page goes to `page` where there is no error.
-std::vector<Diagnostic> convert(std::string& page, std::string_view markup, Sheet const& sheet,
+std::vector<Diagnostic> convert(String& page, std::string_view markup, Sheet const& sheet,
                                 Options const& options) {
     std::vector<Diagnostic> misfits = SheetAccess::misfits(sheet, Dialect::web);
     if (!misfits.empty()) return misfits;
     std::string_view const text = withoutMark(markup);
     std::vector<web::Sheet const*> const sheets = SheetAccess::webSheets(sheet);
     std::vector<Problem> problems;
-    web::PlainWriter writer(page);
-    web::renderPage(text, sheets, mediaFor(options), writer, problems);
+    auto const writer = makePageWriter(page, options, {colourDepthOfTerminal(), true});
+    web::renderPage(text, sheets, mediaFor(options), *writer, problems);
+    writer->finish();
     return diagnose(std::move(problems), {options.name, text});
 }
 
@@ -79,17 +80,17 @@ std::string_view withoutMark(std::string_view source) {
 Result<void> makeWebPage(String& page, std::string_view markup, Sheet const& sheet,
                          Options const& options) {
     return guarded(options.name, [&]() -> Result<void> {
-        std::string text;
-        std::vector<Diagnostic> errors = errorsOf(convert(text, markup, sheet, options));
+        String made;
+        std::vector<Diagnostic> errors = errorsOf(convert(made, markup, sheet, options));
         if (!errors.empty()) return Result<void>(std::move(errors));
-        CLI::XML::append(page, text);
+        page = std::move(made);
         return {};
     });
 }
 
 std::vector<Diagnostic> checkWebMarkup(std::string_view markup, Sheet const& sheet,
                                        Options const& options) {
-    std::string page;
+    String page;
     return convert(page, markup, sheet, options);
 }
 

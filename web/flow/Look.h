@@ -25,6 +25,10 @@ struct Look {
     bool isItalic = false;
     bool isUnderlined = false;
     bool isStruckThrough = false;
+    /// Pages of the core alone have these.
+    bool isBlinking = false;
+    bool isInverse = false;
+    bool isHidden = false;
     /// Null for none. It outlives the look.
     Link const* link = nullptr;
 

@@ -6,25 +6,27 @@
 #include <vector>
 
 #include "web/renderPage.h"
-#include "web/write/PlainWriter.h"
 
 namespace galley::web {
 namespace {
 
+class Picture final : public RowSink {
+public:
+    std::string shown;
+
+    void take(Row const& row) override {
+        std::string_view const text = row.text();
+        shown.append("|").append(text.substr(0, text.find_last_not_of(' ') + 1));
+    }
+};
+
 std::string pageOf(std::string const& markup, unsigned width) {
-    std::string page;
+    Picture picture;
     std::vector<Problem> problems;
     Media media;
     media.width = width;
-    PlainWriter writer(page);
-    EXPECT_TRUE(renderPage(markup, {}, media, writer, problems)) << markup;
-    std::string shown;
-    for (std::size_t i = 0; i < page.size();) {
-        std::size_t const end = page.find('\n', i);
-        shown += "|" + page.substr(i, end - i);
-        i = end + 1;
-    }
-    return shown;
+    EXPECT_TRUE(renderPage(markup, {}, media, picture, problems)) << markup;
+    return picture.shown;
 }
 
 struct PageCase {
