@@ -29,7 +29,7 @@ public:
     }
     int rowGap(int line) const {
         if (collapsed) return collapsed->hasHorizontal(line) ? 1 : 0;
-        return grid.rows().empty() ? 0 : table.borderSpacing.down;
+        return grid.columns().empty() ? 0 : table.borderSpacing.down;
     }
     /// Between lines, without these.
     int columnGaps(int begin, int end) const {
