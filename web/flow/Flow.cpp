@@ -144,12 +144,17 @@ void Flow::addLeftEdges(std::size_t count, bool isContent) {
         Block& block = blocks[i];
         if (!block.hasStarted) break;
         if (isContent && !block.marker.text.empty()) addMarker(block);
+        // The next block's marker stands before it, on what is around that.
+        bool const isBeforeMarker =
+            isContent && i + 1 < count && !blocks[i + 1].marker.text.empty();
         if (block.style->border.left.isThere() || isShown(block.around) ||
             isShown(block.background)) {
             row.fill(block.left, blankOn(block.around));
         }
         addVertical(row, block.style->border.left, block.background, isVisible(*block.style));
-        if (isShown(block.background)) row.fill(block.contentLeft, blankOn(block.background));
+        if (isShown(block.background) && !isBeforeMarker) {
+            row.fill(block.contentLeft, blankOn(block.background));
+        }
     }
 }
 
