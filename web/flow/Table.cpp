@@ -12,7 +12,10 @@
 namespace galley::web {
 
 Table::Table(Style const& tableStyle, Colour around)
-    : ownStyle(tableStyle), ground(around), grid(backgroundOf(tableStyle, around)) {}
+    : ownStyle(tableStyle),
+      ground(around),
+      grid(tableStyle.visibility == Visibility::visible ? backgroundOf(tableStyle, around)
+                                                        : around) {}
 
 Content& Table::addCaption(Style const& caption) {
     return captions.emplace_back(Caption{&caption, {}}).content;

@@ -10,12 +10,13 @@ namespace galley::web {
 
 namespace {
 
-/// The row of the first text, which lies on the baseline of the cell.
+/// The row of the first text, which lies on the baseline of the cell, or the last one.
 int firstTextRow(std::vector<Row> const& rows) {
     auto const text = std::find_if(rows.begin(), rows.end(), [](Row const& row) {
         return row.text().find_first_not_of(' ') != std::string_view::npos;
     });
-    return text == rows.end() ? 0 : static_cast<int>(text - rows.begin());
+    auto const row = static_cast<int>(text - rows.begin());
+    return text == rows.end() ? row - 1 : row;
 }
 
 }  // namespace
@@ -65,7 +66,7 @@ void TableBand::layOut(TableCell& cell, int row, Wrapping wrapping) {
 
 /// Moves content down so that first texts are in one row.
 void TableBand::alignBaselines(std::size_t firstOfRow) {
-    int lowest = 0;
+    int lowest = -1;
     auto const isAligned = [](LaidCell const& cell) {
         return cell.cell->style->verticalAlign == VerticalAlign::baseline;
     };

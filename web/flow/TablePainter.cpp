@@ -22,7 +22,11 @@ int leadingBlanks(Row const& row, Colour background) {
 
 TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
                            std::vector<Row>& output)
-    : grid(painted), frame(tableFrame), table(tableStyle), rows(output) {}
+    : grid(painted),
+      frame(tableFrame),
+      table(tableStyle),
+      rows(output),
+      isVisible(table.visibility == Visibility::visible) {}
 
 void TablePainter::paint(int width, std::vector<int> const& columns, int container,
                          Wrapping wrapping) {
@@ -57,7 +61,7 @@ void TablePainter::paintEdge(bool isTop, int padding) {
     if (!isTop) paintBlanks(padding);
     if ((isTop ? table.border.top : table.border.bottom).isThere()) {
         row.clear();
-        addHorizontal(row, table, isTop, places.width, grid.background());
+        if (isVisible) addHorizontal(row, table, isTop, places.width, grid.background());
         rows.push_back(row);
     }
     if (isTop) paintBlanks(padding);
@@ -111,12 +115,12 @@ void TablePainter::beginRow() {
     row.clear();
     overlays.clear();
     Border const& border = table.border.left;
-    if (frame.hasBorder(border)) addVertical(row, border, grid.background());
+    if (isVisible && frame.hasBorder(border)) addVertical(row, border, grid.background());
 }
 
 void TablePainter::endRow() {
     Border const& border = table.border.right;
-    bool const hasBorder = frame.hasBorder(border);
+    bool const hasBorder = isVisible && frame.hasBorder(border);
     if (hasBorder || isDrawn(grid.background())) {
         row.fill(places.width - (hasBorder ? 1 : 0), blankOn(grid.background()));
     }
@@ -153,8 +157,9 @@ void TablePainter::paintLines(int end, bool isGap, Colour const* alike) {
         }
         if (nextLine == end) return;
         auto const column = static_cast<std::size_t>(nextLine);
-        Border const* const border =
-            isGap && frame.collapses() ? frame.borders()->horizontal(nextLine) : nullptr;
+        Border const* const border = isGap && isVisible && frame.collapses()
+                                         ? frame.borders()->horizontal(nextLine)
+                                         : nullptr;
         if (border != nullptr) {
             row.fill(places.left[column], blankOn(grid.background()));
             addLine(row, *border, places.right[column] - places.left[column], ground);
@@ -174,7 +179,7 @@ void TablePainter::paintVertical(int line, bool isGap, Colour background) {
     } else {
         lines.top = lines.bottom = borders.vertical(line);
     }
-    Border const* const drawn = strongest(lines);
+    Border const* const drawn = isVisible ? strongest(lines) : nullptr;
     if (drawn == nullptr && !isDrawn(background)) return;
     row.fill(places.left[static_cast<std::size_t>(line)] - 1, blankOn(grid.background()));
     if (drawn == nullptr) {
@@ -202,20 +207,20 @@ void TablePainter::paintPiece(Row& piece, LaidCell const& cell, int left, int y)
     Colour const background = cell.cell->background;
     int const right = left + cell.right - cell.left;
     int const line = y - cell.top;
-    bool const isVisible = cell.cell->isVisible();
+    bool const isShown = cell.cell->isVisible();
     bool const isTop = line == 0 && frame.hasBorder(border.top);
     bool const isBottom = line == cell.height - 1 && frame.hasBorder(border.bottom);
     auto const begin = [&] { piece.fill(left, blankOn(grid.background())); };
-    if (isVisible && (isTop || isBottom)) {
+    if (isShown && (isTop || isBottom)) {
         begin();
         addHorizontal(piece, style, isTop, right - left, background);
         return;
     }
-    if (isVisible && (isDrawn(background) || frame.hasBorder(border.left))) begin();
-    if (isVisible && frame.hasBorder(border.left)) addVertical(piece, border.left, background);
+    if (isShown && (isDrawn(background) || frame.hasBorder(border.left))) begin();
+    if (isShown && frame.hasBorder(border.left)) addVertical(piece, border.left, background);
     paintContent(piece, cell, left, line - cell.above);
     bool const hasRight = frame.hasBorder(border.right);
-    if (!isVisible || (!hasRight && !isDrawn(background))) return;
+    if (!isShown || (!hasRight && !isDrawn(background))) return;
     piece.fill(right - (hasRight ? 1 : 0), blankOn(background));
     if (hasRight) addVertical(piece, border.right, background);
 }

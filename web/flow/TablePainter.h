@@ -51,6 +51,7 @@ private:
     TableFrame& frame;
     Style const& table;
     std::vector<Row>& rows;
+    bool isVisible;
     ColumnPlaces places;
     /// Cells of the row by their columns.
     std::vector<LaidCell const*> active;

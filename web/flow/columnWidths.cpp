@@ -120,7 +120,13 @@ void widenPercentages(std::span<ColumnNeed> columns, int percent) {
 
 void widen(ColumnNeed& column, ColumnNeed const& cell) {
     column.least = std::max(column.least, cell.least);
-    column.most = std::max({column.most, cell.most, column.least});
+    // A fixed width stands for all that cells of its column would like.
+    if (column.isFixed == cell.isFixed) {
+        column.most = std::max(column.most, cell.most);
+    } else if (cell.isFixed) {
+        column.most = cell.most;
+    }
+    column.most = std::max(column.most, column.least);
     column.percent = std::max(column.percent, cell.percent);
     column.isFixed = column.isFixed || cell.isFixed;
 }
@@ -172,7 +178,9 @@ std::vector<int> shareWidth(std::span<ColumnNeed const> columns, int width) {
     auto const most = [](ColumnNeed const& column) { return column.most; };
     auto const percent = [](ColumnNeed const& column) { return column.percent; };
     Shares shares(columns, width);
-    shares.grow(isPercent, [=](ColumnNeed const& column) { return partOf(width, column.percent); });
+    shares.grow(isPercent, [=](ColumnNeed const& column) {
+        return partOf(width, column.percent) + column.percentEdges;
+    });
     shares.grow(isFixed, most);
     shares.grow(isAutomatic, most);
     shares.spend(isAutomatic, most);

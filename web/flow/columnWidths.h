@@ -14,6 +14,8 @@ struct ColumnNeed {
     int most = 0;
     /// Of the width that all columns share; thousandths.
     int percent = 0;
+    /// Cells that come to its percentage.
+    int percentEdges = 0;
     bool isFixed = false;
     /// How many columns of the document it stands for.
     int count = 1;
