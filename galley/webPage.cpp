@@ -16,6 +16,28 @@ namespace {
 
 using web::Problem;
 
+Severity severityOf(Problem::Kind kind) {
+    switch (kind) {
+        case Problem::Kind::error:
+            return Severity::error;
+        case Problem::Kind::warning:
+            return Severity::warning;
+        case Problem::Kind::note:
+            break;
+    }
+    return Severity::note;
+}
+
+Diagnostic tell(Problem& problem, std::string_view name, Places& places) {
+    Severity const severity = severityOf(problem.kind);
+    if (problem.offset == Problem::s_nowhere) {
+        return Diagnostic(severity, std::move(problem.message), std::string(name));
+    }
+    auto const [line, column] = places.at(problem.offset);
+    return Diagnostic(severity, std::move(problem.message), std::string(name), line, column,
+                      places.excerpt(problem.offset));
+}
+
 /// What was found, in the order of the source, with its places as a person names them.
 std::vector<Diagnostic> diagnose(std::vector<Problem> problems, Source const& source) {
     std::stable_sort(problems.begin(), problems.end(), [](Problem const& a, Problem const& b) {
@@ -25,14 +47,8 @@ std::vector<Diagnostic> diagnose(std::vector<Problem> problems, Source const& so
     Places places(source.text);
     std::vector<Diagnostic> diagnostics;
     for (Problem& problem : problems) {
-        std::size_t const position = std::min(problem.offset, source.text.size());
-        auto const [line, column] = places.at(position);
-        Severity severity = Severity::warning;
-        if (problem.kind == Problem::Kind::error) severity = Severity::error;
-        if (problem.kind == Problem::Kind::note) severity = Severity::note;
-        Diagnostic told(severity, std::move(problem.message), std::string(source.name), line,
-                        column, places.excerpt(position));
-        if (severity == Severity::note && !diagnostics.empty()) {
+        Diagnostic told = tell(problem, source.name, places);
+        if (problem.kind == Problem::Kind::note && !diagnostics.empty()) {
             diagnostics.back().addNote(std::move(told));
         } else {
             diagnostics.push_back(std::move(told));

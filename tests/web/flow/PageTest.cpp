@@ -147,5 +147,19 @@ TEST(Pages, HideWhatIsNotVisibleAndKeepItsRoom) {
                  {"a<b style='display: none'>b</b>c", 9, "|ac"}});
 }
 
+TEST(Pages, AreRefusedWhereTheyWouldBeTooLarge) {
+    for (char const* const markup :
+         {"<div style='padding-top: 900000lh; padding-left: 99ch; background: red'>a</div>",
+          "<div style='border: solid; width: 2000000ch'>a</div>",
+          "<table style='width: 90ch; border: solid'><tr><td style='padding-top: 900000lh'/></tr>"
+          "</table>"}) {
+        Picture picture;
+        std::vector<Problem> problems;
+        EXPECT_FALSE(renderPage(markup, {}, Media(), picture, problems)) << markup;
+        ASSERT_EQ(problems.size(), 1U);
+        EXPECT_EQ(problems[0].message, "Page too large: more than 67108864 cells");
+    }
+}
+
 }  // namespace
 }  // namespace galley::web
