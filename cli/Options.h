@@ -20,6 +20,7 @@ struct Options {
     std::optional<unsigned> width;
     /// In columns.
     std::optional<unsigned> maxWidth;
+    galley::Dialect dialect = galley::Dialect::core;
     Product product = Product::Page;
     galley::Format format = galley::Format::ansi;
     galley::Color color = galley::Color::automatic;

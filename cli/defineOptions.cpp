@@ -53,6 +53,11 @@ CLI::Option* addChoice(CLI::App& app, std::string const& names, Target& target,
 }
 
 void definePage(CLI::App& app, Options& options) {
+    addChoice<galley::Dialect>(
+        app, "--dialect", options.dialect,
+        {{"core", galley::Dialect::core}, {"web", galley::Dialect::web}},
+        "The language of documents and sheets: a small one with rules of its own (the default), or "
+        "elements and style sheets as a browser shows them");
     app.add_option("-s,--css", options.sheets,
                    "A style sheet; any number of them, their rules in the order given")
         ->option_text("FILE")

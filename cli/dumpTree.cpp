@@ -30,6 +30,10 @@ XCode dump(String& tree, String const& markup, Product product, CLI::XML::StyleL
 
 galley::Result<void> dumpTree(String& tree, String& markup, Product product,
                               galley::Sheet const& sheet, galley::Options const& options) {
+    if (options.dialect != galley::Dialect::core) {
+        return galley::Result<void>(
+            galley::failure(options.name, "There are trees of the dialect core only"));
+    }
     return galley::convert(tree, markup, options, [&](String const& cleaned) {
         CLI::XML::StyleList const& rules = galley::SheetAccess::rules(sheet, options.raw);
         return dump(tree, cleaned, product, rules, options.width);

@@ -47,6 +47,7 @@ Manner::Manner(Options const& options)
     page.width = options.width.value_or(0);
     page.format = options.format;
     page.color = options.color;
+    page.dialect = options.dialect;
     page.theme = options.theme;
     page.raw = options.isRaw;
     page.standalone = !options.files.empty();

@@ -14,10 +14,11 @@ ExitStatus readSheet(std::string const& file, Options const& options, galley::Sh
         output.report(errorText(inputName(file), std::strerror(fault)));
         return ExitStatus::FileAtFault;
     }
-    auto const added = galley::Sheet::parse(css.view(), inputName(file));
+    auto const added = galley::Sheet::parse(css.view(), inputName(file), options.dialect);
     if (added) sheet += *added;
-    auto const found =
-        options.isCheck ? galley::checkSheet(css.view(), inputName(file)) : added.errors();
+    auto const found = options.isCheck
+                           ? galley::checkSheet(css.view(), inputName(file), options.dialect)
+                           : added.errors();
     if (!found.empty()) output.report(textOf(found));
     return statusOf(found, options.isStrict);
 }

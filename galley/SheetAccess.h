@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "galley/galley.h"
+#include "web/css/Sheet.h"
 #include "xml/css/StyleNode.h"
 
 namespace galley {
@@ -16,12 +17,15 @@ struct Sheet::Rules {
     struct Text {
         std::string name;
         std::string css;
+        Dialect dialect;
     };
 
     /// As they are to be shown: without control characters.
     CLI::XML::StyleList shown;
     /// As they were written.
     CLI::XML::StyleList raw;
+    /// Those of the dialect `web`.
+    std::vector<std::shared_ptr<web::Sheet const>> web;
     /// In the order of their rules; those of sheets that were added are theirs, too.
     std::vector<std::shared_ptr<Text const>> texts;
 };
@@ -31,6 +35,10 @@ struct SheetAccess {
     /// The rules, as they were written or without control characters.
     static CLI::XML::StyleList const& rules(Sheet const& sheet, bool isRaw);
     static std::vector<std::shared_ptr<Sheet::Rules::Text const>> const& texts(Sheet const& sheet);
+    /// Those of the dialect `web`, which live as long as the sheet.
+    static std::vector<web::Sheet const*> webSheets(Sheet const& sheet);
+    /// The error that a text of another dialect is; none where there is no such text.
+    static std::vector<Diagnostic> misfits(Sheet const& sheet, Dialect dialect);
 };
 
 }  // namespace galley

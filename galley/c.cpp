@@ -70,6 +70,10 @@ Choice choice(int number, Choice last) {
     return number >= 0 && number <= static_cast<int>(last) ? static_cast<Choice>(number) : Choice{};
 }
 
+galley::Dialect dialectOf(int number) {
+    return number == GALLEY_DIALECT_WEB ? galley::Dialect::web : galley::Dialect::core;
+}
+
 /// Of a caller's options the fields that it knows.
 galley::Options optionsOf(galley_options const* given) {
     galley_options known = {};
@@ -79,6 +83,7 @@ galley::Options optionsOf(galley_options const* given) {
     options.color = choice(known.color, galley::Color::never);
     options.format = choice(known.format, galley::Format::svg);
     options.theme = choice(known.theme, galley::Theme::dark);
+    options.dialect = dialectOf(known.dialect);
     options.standalone = known.standalone != 0;
     options.raw = known.raw != 0;
     if (known.name != nullptr) options.name = known.name;
@@ -100,10 +105,11 @@ Diagnostic const& at(galley_report const* report, std::size_t i) {
 galley_sheet* galley_sheet_new() { return new (std::nothrow) galley_sheet; }
 
 int galley_sheet_add(galley_sheet* sheet, char const* css, std::size_t length, char const* name,
-                     int /*dialect*/, galley_report** report) {
+                     int dialect, galley_report** report) {
     tell(report, {});
     return orElse(0, [&] {
-        auto const added = galley::Sheet::parse(view(css, length), nameOf(name));
+        auto const added =
+            galley::Sheet::parse(view(css, length), nameOf(name), dialectOf(dialect));
         tell(report, added.errors());
         if (added) sheet->sheet += *added;
         return added ? 1 : 0;
@@ -134,9 +140,10 @@ galley_report* galley_check(char const* markup, std::size_t length, galley_sheet
 }
 
 galley_report* galley_check_sheet(char const* css, std::size_t length, char const* name,
-                                  int /*dialect*/) {
-    return orElse<galley_report*>(
-        nullptr, [&] { return makeReport(galley::checkSheet(view(css, length), nameOf(name))); });
+                                  int dialect) {
+    return orElse<galley_report*>(nullptr, [&] {
+        return makeReport(galley::checkSheet(view(css, length), nameOf(name), dialectOf(dialect)));
+    });
 }
 
 char* galley_escape(char const* text, std::size_t length) {

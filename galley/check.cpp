@@ -7,6 +7,7 @@
 #include "galley/cleanSource.h"
 #include "galley/convert.h"
 #include "galley/page.h"
+#include "galley/webPage.h"
 #include "xml/xml.h"
 
 namespace galley {
@@ -37,6 +38,8 @@ void add(std::vector<Diagnostic>& all, std::vector<Diagnostic> const& more) {
 }  // namespace
 
 std::vector<Diagnostic> checkMarkup(String& markup, Sheet const& sheet, Options const& options) {
+    if (options.dialect == Dialect::web) return checkWebMarkup(markup.view(), sheet, options);
+    if (auto misfits = SheetAccess::misfits(sheet, Dialect::core); !misfits.empty()) return misfits;
     cleanSource(markup, options.raw);
     CLI::XML::StyleList const& rules = SheetAccess::rules(sheet, options.raw);
     Source const source{options.name, markup.view()};
@@ -56,7 +59,7 @@ std::vector<Diagnostic> check(std::string_view markup, Sheet const& sheet, Optio
     return guardedList(options.name, [&] {
         std::vector<Diagnostic> all;
         for (auto const& text : SheetAccess::texts(sheet)) {
-            add(all, checkSheet(text->css, text->name));
+            add(all, checkSheet(text->css, text->name, text->dialect));
         }
         String text;
         CLI::XML::append(text, markup);
@@ -65,8 +68,9 @@ std::vector<Diagnostic> check(std::string_view markup, Sheet const& sheet, Optio
     });
 }
 
-std::vector<Diagnostic> checkSheet(std::string_view css, std::string_view name, Dialect) {
+std::vector<Diagnostic> checkSheet(std::string_view css, std::string_view name, Dialect dialect) {
     return guardedList(name, [&] {
+        if (dialect == Dialect::web) return checkWebSheet(css, name);
         String const text = cleaned(css);
         return diagnose(findInSheet(text.view()), {name, text.view()});
     });

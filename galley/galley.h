@@ -23,9 +23,12 @@
 
 namespace galley {
 
-/// The language of documents and sheets. There will be a second one, and it will be the default by
-/// the first release: who wants this one then says so.
-enum class Dialect { core };
+/// The language of documents and sheets. The default will be `web` by the first release: who wants
+/// `core` says so.
+enum class Dialect {
+    core,  ///< A small subset of XHTML and CSS with rules of its own, exact to the byte.
+    web,   ///< Elements and style sheets as a browser shows them, in cells. It is being built.
+};
 
 /// When the format `ansi` has its escape sequences; without them it is `plain`.
 enum class Color {
@@ -61,9 +64,9 @@ struct Options {
     /// Whether `html` is a whole document, with `name`, without folders, as its title.
     bool standalone = false;
     /// Whether control characters of the document and the sheets reach the terminal, in the format
-    /// `ansi`. Otherwise all but white space become question marks.
+    /// `ansi` and the dialect `core`. Otherwise all but white space become question marks.
     bool raw = false;
-    Dialect dialect = Dialect::core;  ///< Of the document.
+    Dialect dialect = Dialect::core;  ///< Of the document; a sheet of the other one is an error.
     /// What errors and warnings call the document.
     std::string name = "<document>";
 };
@@ -181,7 +184,7 @@ public:
     /// Without rules.
     Sheet() = default;
     /// Reads the text of a sheet. Of a text that is at fault all errors are told; `name` is what
-    /// they call it.
+    /// they call it. In the dialect `web` no text is: what is wrong there has no effect.
     static Result<Sheet> parse(std::string_view css, std::string_view name = "<sheet>",
                                Dialect dialect = Dialect::core);
 

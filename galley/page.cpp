@@ -4,6 +4,7 @@
 #include "galley/convert.h"
 #include "galley/formats/PageWriter.h"
 #include "galley/terminal/terminal.h"
+#include "galley/webPage.h"
 #include "xml/xml.h"
 
 namespace galley {
@@ -20,7 +21,11 @@ Options settle(Options options, std::FILE* out) {
 }
 
 Result<void> makePage(String& page, String& markup, Sheet const& sheet, Options const& options) {
+    if (options.dialect == Dialect::web) return makeWebPage(page, markup.view(), sheet, options);
     return guarded(options.name, [&]() -> Result<void> {
+        if (auto misfits = SheetAccess::misfits(sheet, Dialect::core); !misfits.empty()) {
+            return Result<void>(std::move(misfits));
+        }
         auto made = convert(page, markup, options, [&](String const& cleaned) {
             CLI::XML::StyleList const& rules = SheetAccess::rules(sheet, options.raw);
             return CLI::XML::xmlToText(page, cleaned, rules, options.width);

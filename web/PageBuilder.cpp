@@ -44,6 +44,8 @@ int columnsOf(std::string_view text) {
     return columns;
 }
 
+bool isTablePart(Display display) { return display > Display::table; }
+
 constexpr Limits s_columnSpans = {1, 1000};
 constexpr Limits s_rowSpans = {0, 65'534};
 constexpr Limits s_numbers = {std::numeric_limits<int>::min(), 1'000'000'000};
@@ -110,7 +112,10 @@ void PageBuilder::startElement(Element& element) {
     element.style = style;
     bool const isHidden = !open.empty() && open.back().role == Role::hidden;
     Role role = Role::hidden;
-    if (!isHidden && style->display != Display::none) role = openElement(element, *style);
+    if (!isHidden && style->display != Display::none) {
+        if (!isTablePart(style->display)) closeImpliedTable();
+        role = openElement(element, *style);
+    }
     OpenElement& opened = open.emplace_back(OpenElement{role, style});
     opened.isList = !isHidden && (element.name == "ol" || element.name == "ul");
     if (opened.isList) {
@@ -124,9 +129,7 @@ PageBuilder::Role PageBuilder::openElement(Element const& element, Style const& 
             return openInline(element, style);
         case Display::table:
             if (isInTable()) openAnonymousCell();
-            endParagraph();
-            tables.push_back(std::make_unique<Table>(style, frame().background));
-            hasAnonymousCell.push_back(false);
+            openTable(style);
             return Role::table;
         case Display::block:
         case Display::listItem:
@@ -191,18 +194,21 @@ int PageBuilder::numberOf(Element const& element) {
 
 /// Whether what comes now stands between the parts of a table.
 bool PageBuilder::isInTable() const {
-    if (open.empty() || hasAnonymousCell.empty() || hasAnonymousCell.back()) return false;
+    return isBetweenParts() && !hasAnonymousCell.back();
+}
+
+/// The same, or in the cell that loose content there has.
+bool PageBuilder::isBetweenParts() const {
+    if (open.empty()) return false;
     Role const around = open.back().role;
-    return around == Role::table || around == Role::rowGroup || around == Role::row;
+    return around == Role::table || around == Role::impliedTable || around == Role::rowGroup ||
+           around == Role::row;
 }
 
 PageBuilder::Role PageBuilder::openTablePart(Element const& element, Style const& style) {
-    if (!isInTable()) closeAnonymousCell();
+    closeAnonymousCell();
     bool const isOfGroup = !open.empty() && open.back().role == Role::columnGroup;
-    if (!isInTable() && !isOfGroup) {
-        openBlock(element, style);
-        return Role::block;
-    }
+    if (!isInTable() && !isOfGroup) openImpliedTable();
     Table& table = *tables.back();
     switch (style.display) {
         case Display::caption:
@@ -247,9 +253,7 @@ void PageBuilder::openAnonymousCell() {
 }
 
 void PageBuilder::closeAnonymousCell() {
-    if (hasAnonymousCell.empty() || !hasAnonymousCell.back()) return;
-    Role const around = open.back().role;
-    if (around != Role::table && around != Role::rowGroup && around != Role::row) return;
+    if (!isBetweenParts() || !hasAnonymousCell.back()) return;
     endParagraph();
     pop();
     hasAnonymousCell.back() = false;
@@ -260,6 +264,7 @@ void PageBuilder::text(std::string_view decoded) {
     openRoot({});
     if (!open.empty() && open.back().role == Role::hidden) return;
     if (!open.empty() && open.back().role == Role::columnGroup) return;
+    if (!isBlank(decoded)) closeImpliedTable();
     if (isInTable()) {
         if (isBlank(decoded)) return;
         openAnonymousCell();
@@ -269,8 +274,9 @@ void PageBuilder::text(std::string_view decoded) {
 
 void PageBuilder::endElement(Element& element) {
     static_cast<void>(element);
-    Role const role = open.back().role;
     closeAnonymousCell();
+    closeImpliedTable();
+    Role const role = open.back().role;
     open.pop_back();
     closeElement(role);
 }
@@ -291,6 +297,7 @@ void PageBuilder::closeElement(Role role) {
             letGo();
             break;
         case Role::table:
+        case Role::impliedTable:
             closeTable();
             break;
         case Role::columnGroup:
@@ -310,6 +317,25 @@ void PageBuilder::closeElement(Role role) {
         case Role::point:
             break;
     }
+}
+
+void PageBuilder::openTable(Style const& style) {
+    endParagraph();
+    tables.push_back(std::make_unique<Table>(style, frame().background));
+    hasAnonymousCell.push_back(false);
+}
+
+void PageBuilder::openImpliedTable() {
+    Style const& style = anonymousStyles.emplace_back(computeStyle(*open.back().style, {}));
+    openTable(style);
+    open.push_back({Role::impliedTable, &style});
+}
+
+void PageBuilder::closeImpliedTable() {
+    if (open.empty() || open.back().role != Role::impliedTable) return;
+    closeAnonymousCell();
+    open.pop_back();
+    closeTable();
 }
 
 void PageBuilder::closeTable() {

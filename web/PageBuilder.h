@@ -40,6 +40,8 @@ private:
         point,
         block,
         table,
+        /// One that parts of tables have around them which stand in none.
+        impliedTable,
         columnGroup,
         rowGroup,
         row,
@@ -76,8 +78,12 @@ private:
     void openAnonymousCell();
     int spanOf(Element const& element, std::string_view attribute, Limits limits);
     bool isInTable() const;
+    bool isBetweenParts() const;
     void closeElement(Role role);
+    void openTable(Style const& style);
     void closeTable();
+    void openImpliedTable();
+    void closeImpliedTable();
     void closeAnonymousCell();
     int numberOf(Element const& element);
     void push(BlockSink& sink, Style const& style, Colour background);

@@ -121,8 +121,8 @@ void HtmlStyle::appendRules(String& css, bool isDocument) const {
            "{", pageCss(first), "}\n", blinks ? s_blinkRule : "");
     if (isAnythingLinked) append(css, scope, s_linkCss);
     for (std::size_t const cells : widths) {
-        append(css, scope, " .", widthClass(cells), "{display:inline-block;width:",
-               std::to_string(cells), "ch;}\n");
+        append(css, scope, " .", widthClass(cells),
+               "{display:inline-block;width:", std::to_string(cells), "ch;}\n");
     }
     appendColours(css, first, true);
     if (!isAutomatic) return;

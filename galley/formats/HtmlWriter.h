@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "galley/formats/HtmlStyle.h"
 #include "galley/formats/PageWriter.h"
 #include "galley/formats/cells.h"
-#include "galley/formats/HtmlStyle.h"
 
 namespace galley {
 

@@ -72,8 +72,7 @@ std::uint8_t nearestOf256(Colour colour) {
     Colour const ofCube = Colour::rgb(s_levels[red], s_levels[green], s_levels[blue]);
     bool const isGrey =
         distance(Colour::rgb(value, value, value), colour) < distance(ofCube, colour);
-    unsigned const number =
-        isGrey ? s_greyStart + grey : s_cubeStart + 36 * red + 6 * green + blue;
+    unsigned const number = isGrey ? s_greyStart + grey : s_cubeStart + 36 * red + 6 * green + blue;
     return static_cast<std::uint8_t>(number);
 }
 

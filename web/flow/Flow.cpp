@@ -98,15 +98,14 @@ void Flow::add(std::unique_ptr<Table> table) {
     Style const& style = table->style();
     pending = std::max(pending, down(style.margin.top, container));
     TableRows const made = table->layOut(container, wrapping);
-    if (!made.rows.empty()) {
-        start();
-        for (Row const& tableRow : made.rows) {
-            int const column = contentLeft() + made.left;
-            beginRow();
-            row.fill(column, blankOn(background()));
-            row.add(tableRow);
-            endRow();
-        }
+    // Margins do not collapse through a table, even one without rows.
+    start();
+    hasRows = true;
+    for (Row const& tableRow : made.rows) {
+        beginRow();
+        row.fill(contentLeft() + made.left, blankOn(background()));
+        row.add(tableRow);
+        endRow();
     }
     pending = std::max(pending, down(style.margin.bottom, container));
 }

@@ -1,0 +1,111 @@
+// The dialect web, from a document to its page. An input is a width in decimal on the first line,
+// then the markup up to a line "%%", then a style sheet.
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "fuzz/check.h"
+#include "web/renderPage.h"
+#include "web/text/Cluster.h"
+#include "web/text/utf8.h"
+
+namespace galley::web {
+namespace {
+
+using CLI::XML::require;
+
+struct Input {
+    unsigned width = 80;
+    std::string_view markup;
+    std::string_view sheet;
+
+    explicit Input(std::string_view bytes) {
+        auto const lineEnd = std::min(bytes.find('\n'), bytes.size());
+        std::from_chars(bytes.data(), bytes.data() + lineEnd, width);
+        width = std::clamp(width, 1U, 500U);
+        bytes.remove_prefix(std::min(lineEnd + 1, bytes.size()));
+        constexpr std::string_view s_separator = "\n%%\n";
+        auto const markupEnd = std::min(bytes.find(s_separator), bytes.size());
+        markup = bytes.substr(0, markupEnd);
+        sheet = bytes.substr(std::min(markupEnd + s_separator.size(), bytes.size()));
+    }
+};
+
+int columnsOf(std::string_view text) {
+    int columns = 0;
+    for (std::size_t i = 0; i < text.size();) {
+        Cluster const cluster = clusterAt(text, i, false);
+        columns += static_cast<int>(cluster.width);
+        i = cluster.end;
+    }
+    return columns;
+}
+
+bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
+
+/// Looks at each row as it comes: what it says of itself must be so.
+class Checker final : public RowSink {
+public:
+    std::string page;
+
+    void take(Row const& row) override {
+        std::string_view const text = row.text();
+        require(findIllFormed(text) == std::string_view::npos, "a row is UTF-8");
+        std::size_t behind = 0;
+        int columns = 0;
+        for (Row::Span const& span : row.spans()) {
+            require(span.begin == behind && span.end > span.begin, "spans cover a row in order");
+            behind = span.end;
+            columns += columnsOf(row.textOf(span));
+        }
+        require(behind == text.size(), "spans cover a row");
+        require(columns == row.width(), "a row is as wide as it says");
+        for (std::size_t i = 0; i < text.size();) {
+            CodePoint const c = decodeAt(text, i);
+            require(!isControl(c.value), "no control is in a row");
+            i += c.length;
+        }
+        page.append(text).append("\n");
+    }
+};
+
+void run(std::string_view bytes) {
+    Input const input(bytes);
+    std::vector<Problem> ofSheet;
+    Sheet const sheet = Sheet::parse(input.sheet, ofSheet);
+    for (Problem const& problem : ofSheet) {
+        require(problem.offset <= input.sheet.size(), "a place in a sheet is in it");
+    }
+    Sheet const* const sheets[] = {&sheet};
+    Media media;
+    media.width = input.width;
+    std::string pages[2];
+    for (std::string& page : pages) {
+        Checker checker;
+        std::vector<Problem> problems;
+        bool const isMade = renderPage(input.markup, sheets, media, checker, problems);
+        for (Problem const& problem : problems) {
+            require(problem.offset <= input.markup.size(), "a place in a document is in it");
+        }
+        bool const hasError =
+            std::any_of(problems.begin(), problems.end(), [](Problem const& problem) {
+                return problem.kind == Problem::Kind::error;
+            });
+        require(isMade != hasError, "a page is made unless there is an error");
+        page = isMade ? checker.page : "failed";
+    }
+    require(pages[0] == pages[1], "the same input twice gives the same page");
+}
+
+}  // namespace
+}  // namespace galley::web
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): bytes as characters
+    galley::web::run({reinterpret_cast<char const*>(data), size});
+    return 0;
+}

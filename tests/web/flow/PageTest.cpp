@@ -1,0 +1,139 @@
+// Pages of the dialect as pictures: each row behind a bar, blanks at its end left out.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "web/renderPage.h"
+
+namespace galley::web {
+namespace {
+
+class Picture final : public RowSink {
+public:
+    std::string shown;
+
+    void take(Row const& row) override {
+        shown += "|" + std::string(row.text().substr(0, row.text().find_last_not_of(' ') + 1));
+    }
+};
+
+std::string pageOf(std::string const& markup, unsigned width) {
+    std::vector<Problem> problems;
+    Media media;
+    media.width = width;
+    Picture picture;
+    EXPECT_TRUE(renderPage(markup, {}, media, picture, problems)) << markup;
+    return picture.shown;
+}
+
+struct PageCase {
+    char const* markup;
+    unsigned width;
+    char const* page;
+};
+
+void expectPages(std::vector<PageCase> const& cases) {
+    for (PageCase const& each : cases) {
+        EXPECT_EQ(pageOf(each.markup, each.width), each.page)
+            << each.markup << " at " << each.width;
+    }
+}
+
+TEST(Pages, CollapseMarginsWhereNothingIsBetween) {
+    expectPages({
+        {"<p>a</p><p>b</p>", 9, "|a||b"},
+        {"<div style='margin: 2lh 0'>a</div><p>b</p>c", 9, "|a|||b||c"},
+        {"a<div style='margin: 2lh 0'><p/></div>b", 9, "|a|||b"},
+        {"a<div style='margin: 3lh 0'><div><p/></div></div><p>b</p>", 9, "|a||||b"},
+        {"a<div><p>b</p></div>c", 9, "|a||b||c"},
+        {"a<div style='padding: 1lh 0'><p>b</p></div>c", 9, "|a|||b|||c"},
+        {"a<div style='border: solid'><p>b</p></div>c", 5, "|a|┌───┐|│   │|│b  │|│   │|└───┘|c"},
+        {"<p/>", 9, ""},
+    });
+}
+
+TEST(Pages, PutMarginsOutsideOfBackgroundsThatHaveNotBegun) {
+    // A background would show as a border does: the left one is the block's own.
+    expectPages({{"a<div style='border-left: solid'><p>b</p></div>c", 5, "|a||│b||c"},
+                 {"a<div style='border-left: solid'>x<p>b</p>y</div>c", 5, "|a|│x|│|│b|│|│y|c"}});
+}
+
+TEST(Pages, CollapseWhiteSpaceAcrossElements) {
+    expectPages({
+        {"  a \n <b> b </b> c<i>\t</i>d ", 20, "|a b c d"},
+        {"a<b> </b>b", 20, "|a b"},
+        {"<b> a</b>", 20, "|a"},
+        {"<span style='padding-left: 2ch'> a </span> b", 20, "|  a b"},
+        {"a <br/> b", 20, "|a|b"},
+        {"<pre> a \n\n\tb</pre>", 20, "| a||        b"},
+        {"<p style='white-space: pre-line'>a  b\n c</p>", 20, "|a b|c"},
+    });
+}
+
+TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
+    expectPages({
+        {"The quick brown fox", 10, "|The quick|brown fox"},
+        {"The quick brown fox", 9, "|The quick|brown fox"},
+        {"The quick brown fox", 8, "|The|quick|brown|fox"},
+        {"<p style='white-space: nowrap'>The quick</p>", 4, "|The quick"},
+        {"abcdefgh ij", 4, "|abcd|efgh|ij"},
+        {"ab<b>cdef</b>gh", 4, "|abcd|efgh"},
+        {"<p style='overflow-wrap: normal'>abcdefgh ij</p>", 4, "|abcdefgh|ij"},
+        {"ab&#173;cd", 3, "|ab-|cd"},
+        {"ab&#173;cd", 4, "|abcd"},
+        {"a-b ab-cd", 5, "|a-b|ab-cd"},
+        {"漢字漢字", 5, "|漢字|漢字"},
+        {"<b>漢</b><i>字</i>", 3, "|漢|字"},
+        {"ab<wbr/>cd", 3, "|ab|cd"},
+        {"aaa <b style='padding-right: 2ch'>bbb</b>", 8, "|aaa|bbb"},
+        {"aaa <b style='padding-right: 1ch'>bbb</b>c", 8, "|aaa|bbb c"},
+    });
+}
+
+TEST(Pages, AlignAndIndentText) {
+    expectPages({
+        {"<p style='text-align: right'>ab c</p>", 6, "|  ab c"},
+        {"<p style='text-align: center'>ab c</p>", 7, "| ab c"},
+        {"<p style='text-align: justify'>a b c dddd</p>", 8, "|a   b  c|dddd"},
+        {"<p style='text-indent: 2ch'>aa bb</p>", 5, "|  aa|bb"},
+        {"<div style='text-indent: 2ch'><p>a</p>b</div>", 5, "|  a||b"},
+    });
+}
+
+TEST(Pages, PlaceBlocksByTheirWidths) {
+    expectPages({
+        {"<div style='width: 4ch; margin: 0 auto'>ab cd</div>", 10, "|   ab|   cd"},
+        {"<div style='width: 4ch; margin-left: auto'>ab</div>", 10, "|      ab"},
+        {"<div style='width: 50%; border: solid'>a</div>", 9, "|┌────┐|│a   │|└────┘"},
+        {"<div style='max-width: 2ch'>ab cd</div>", 10, "|ab|cd"},
+        {"<div style='padding-right: 50%'>abcdef</div>", 5, "|ab|cd|ef"},
+    });
+}
+
+TEST(Pages, NumberListsAndPutMarkersBeside) {
+    expectPages({
+        {"<ol><li>a</li><li/><li>c</li></ol>", 9, "| 1. a| 2.| 3. c"},
+        {"<ol start='9'><li>a</li><li>b</li></ol>", 9, "| 9. a|10. b"},
+        {"<ol><li value='7'>a</li><li>b</li></ol>", 9, "| 7. a| 8. b"},
+        {"<ul><li><p>a</p></li><li><ul><li>b</li></ul></li></ul>", 40, "|  • a||  •   ◦ b"},
+        {"<ol style='list-style: inside upper-roman'><li>a</li></ol>", 40, "|    I. a"},
+        {"<ol style='padding: 0'><li>a b</li></ol>", 9, "|1. a b"},
+    });
+}
+
+TEST(Pages, PartInlineElementsAroundBlocks) {
+    expectPages({{"<b>a<p>b</p>c</b>", 9, "|a||b||c"},
+                 {"<b style='border: solid'>a<div>b</div>c</b>", 9, "|│a|b|c│"},
+                 {"<b><p>b</p></b>", 9, "|b"}});
+}
+
+TEST(Pages, HideWhatIsNotVisibleAndKeepItsRoom) {
+    expectPages({{"a<b style='visibility: hidden'>bc</b>d", 9, "|a  d"},
+                 {"a<hr style='visibility: hidden'/>b", 3, "|a||b"},
+                 {"a<b style='display: none'>b</b>c", 9, "|ac"}});
+}
+
+}  // namespace
+}  // namespace galley::web
