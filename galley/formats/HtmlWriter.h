@@ -21,6 +21,7 @@ public:
 private:
     void changeLink(web::Link const* next);
     void writeText(std::string_view text);
+    void writeWide(std::string_view text);
     void writeHead();
 
     String& out;
