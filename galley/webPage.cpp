@@ -80,8 +80,7 @@ std::vector<Diagnostic> convert(String& page, std::string_view markup, Sheet con
     std::vector<web::Sheet const*> const sheets = SheetAccess::webSheets(sheet);
     std::vector<Problem> problems;
     auto const writer = makePageWriter(page, options, {colourDepthOfTerminal(), true});
-    web::renderPage(text, sheets, mediaFor(options), *writer, problems);
-    writer->finish();
+    if (web::renderPage(text, sheets, mediaFor(options), *writer, problems)) writer->finish();
     return diagnose(std::move(problems), {options.name, text});
 }
 

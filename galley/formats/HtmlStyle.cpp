@@ -24,6 +24,10 @@ constexpr char const* s_documentRules = "body{margin:0;min-width:max-content;}\n
 /// A link looks as its page says.
 constexpr char const* s_linkCss = " a{color:inherit;text-decoration:none;}\n";
 
+constexpr std::string_view s_wideClass = "gw";
+/// Lines that decorate a text pass boxes by.
+constexpr char const* s_wideCss = "{display:inline-block;width:2ch;text-decoration:inherit;}\n";
+
 bool hasGround(Look const& look) {
     return look.background.kind != Colour::Kind::terminal || look.isInverse;
 }
@@ -56,8 +60,6 @@ std::string className(Look const& look) {
     std::replace(name.begin(), name.end(), ';', '-');
     return name.empty() ? name : "g" + name;
 }
-
-std::string widthClass(std::size_t cells) { return "gw" + std::to_string(cells); }
 
 /// Bit n is the attribute with the code n.
 unsigned attributesOf(Look const& look) {
@@ -96,12 +98,12 @@ std::string HtmlStyle::use(Look const& look) {
     return name;
 }
 
-std::string HtmlStyle::useWidth(std::size_t cells) {
-    widths.insert(cells);
-    return widthClass(cells);
+std::string_view HtmlStyle::useWide() {
+    isAnythingWide = true;
+    return s_wideClass;
 }
 
-void HtmlStyle::appendColours(String& css, Theme shown, bool withShapes) const {
+void HtmlStyle::appendLooks(String& css, Theme shown, bool withShapes) const {
     for (Look const& look : looks) {
         std::string const declarations =
             (withShapes ? shapeCss(look) : "") + colourCss(look, shown);
@@ -120,14 +122,11 @@ void HtmlStyle::appendRules(String& css, bool isDocument) const {
     append(css, isDocument ? s_documentRules : "", scope, s_pageCss, s_fontFamily, "}\n", pages,
            "{", pageCss(first), "}\n", blinks ? s_blinkRule : "");
     if (isAnythingLinked) append(css, scope, s_linkCss);
-    for (std::size_t const cells : widths) {
-        append(css, scope, " .", widthClass(cells), "{display:inline-block;width:",
-               std::to_string(cells), "ch;}\n");
-    }
-    appendColours(css, first, true);
+    if (isAnythingWide) append(css, scope, " .", s_wideClass, s_wideCss);
+    appendLooks(css, first, true);
     if (!isAutomatic) return;
     append(css, "@media (prefers-color-scheme:dark){\n", pages, "{", pageCss(Theme::dark), "}\n");
-    appendColours(css, Theme::dark, false);
+    appendLooks(css, Theme::dark, false);
     append(css, "}\n");
 }
 

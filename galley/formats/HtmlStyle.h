@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <set>
 #include <string>
 #include <string_view>
@@ -21,8 +20,8 @@ public:
     /// The class of text that looks so: the parameters of the sequence that makes it so, as in
     /// "g1-31". Empty for text without attributes and colours.
     std::string use(web::Look const& look);
-    /// The class of a box that is so many cells wide.
-    std::string useWidth(std::size_t cells);
+    /// The class of a box for a wide character.
+    std::string_view useWide();
 
     /// Appends the rules for all that was used.
     void appendRules(String& css, bool isDocument) const;
@@ -33,13 +32,13 @@ private:
         bool operator()(web::Look const& left, web::Look const& right) const;
     };
 
-    /// Appends the rules that differ between themes.
-    void appendColours(String& css, Theme shown, bool withShapes) const;
-    bool isAnythingLinked = false;
+    /// Appends the rules of texts: colours, which differ between themes, and all else if asked.
+    void appendLooks(String& css, Theme shown, bool withShapes) const;
 
     Theme const theme;
     std::set<web::Look, Order> looks;
-    std::set<std::size_t> widths;
+    bool isAnythingLinked = false;
+    bool isAnythingWide = false;
 };
 
 }  // namespace galley

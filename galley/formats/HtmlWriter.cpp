@@ -45,14 +45,23 @@ void HtmlWriter::changeLink(web::Link const* next) {
     append(rows, "\">");
 }
 
-/// Fonts for wide characters have their own idea of how wide these are.
 void HtmlWriter::writeText(std::string_view text) {
     while (!text.empty()) {
         Piece const piece = takePiece(text, rule);
-        bool const isWide = piece.kind == Piece::Kind::wide;
-        if (isWide) append(rows, "<span class=\"", style.useWidth(piece.cells), "\">");
-        appendEscaped(rows, piece.text);
-        if (isWide) append(rows, "</span>");
+        if (piece.kind == Piece::Kind::wide) {
+            writeWide(piece.text);
+        } else {
+            appendEscaped(rows, piece.text);
+        }
+    }
+}
+
+/// Fonts have their own idea of how wide these are.
+void HtmlWriter::writeWide(std::string_view text) {
+    while (!text.empty()) {
+        append(rows, "<span class=\"", style.useWide(), "\">");
+        appendEscaped(rows, takeUnit(text, rule).text);
+        append(rows, "</span>");
     }
 }
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "galley/formats/HtmlStyle.h"
 #include "galley/formats/PageWriter.h"
 #include "galley/formats/cells.h"
-#include "galley/formats/HtmlStyle.h"
 
 namespace galley {
 
@@ -21,6 +21,7 @@ public:
 private:
     void changeLink(web::Link const* next);
     void writeText(std::string_view text);
+    void writeWide(std::string_view text);
     void writeHead();
 
     String& out;

@@ -7,7 +7,7 @@ namespace galley {
 
 namespace {
 
-/// What is never parted.
+/// At the beginning of a text.
 Piece unitOf(std::string_view text, CellRule rule) {
     if (text.front() == ' ') return {Piece::Kind::blank, text.substr(0, 1), 1};
     if (rule == CellRule::characters) {
@@ -20,17 +20,22 @@ Piece unitOf(std::string_view text, CellRule rule) {
 
 }  // namespace
 
+Piece takeUnit(std::string_view& text, CellRule rule) {
+    Piece const unit = unitOf(text, rule);
+    text.remove_prefix(unit.text.length());
+    return unit;
+}
+
 Piece takePiece(std::string_view& text, CellRule rule) {
-    std::string_view rest = text;
-    Piece piece = unitOf(rest, rule);
-    for (Piece unit = piece; unit.kind == piece.kind;) {
-        rest.remove_prefix(unit.text.length());
-        if (rest.empty()) break;
-        unit = unitOf(rest, rule);
-        if (unit.kind == piece.kind) piece.cells += unit.cells;
+    std::string_view const whole = text;
+    Piece piece = takeUnit(text, rule);
+    while (!text.empty()) {
+        Piece const next = unitOf(text, rule);
+        if (next.kind != piece.kind) break;
+        piece.cells += next.cells;
+        text.remove_prefix(next.text.length());
     }
-    piece.text = text.substr(0, text.length() - rest.length());
-    text = rest;
+    piece.text = whole.substr(0, whole.length() - text.length());
     return piece;
 }
 

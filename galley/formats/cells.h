@@ -21,7 +21,10 @@ struct Piece {
     std::size_t cells;
 };
 
-/// Takes the longest piece of one kind off the beginning of a text, which is not empty.
+/// Takes the least that is never parted off the beginning of a text, which is not empty.
+Piece takeUnit(std::string_view& text, CellRule rule);
+
+/// Takes as much of one kind as there is.
 Piece takePiece(std::string_view& text, CellRule rule);
 
 }  // namespace galley

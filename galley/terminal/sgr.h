@@ -15,8 +15,8 @@ struct Attribute {
 
 /// In the order of the parameters.
 constexpr Attribute s_attributes[] = {
-    {1, &web::Look::isBold},       {2, &web::Look::isFaint},    {3, &web::Look::isItalic},
-    {4, &web::Look::isUnderlined}, {5, &web::Look::isBlinking}, {7, &web::Look::isInverse},
+    {1, &web::Look::isBold},       {2, &web::Look::isFaint},         {3, &web::Look::isItalic},
+    {4, &web::Look::isUnderlined}, {5, &web::Look::isBlinking},      {7, &web::Look::isInverse},
     {8, &web::Look::isHidden},     {9, &web::Look::isStruckThrough},
 };
 

@@ -17,9 +17,9 @@ struct Link {
 
 /// How cells look.
 struct Look {
-    Colour text;
+    Colour text = {};
     /// Never transparent: what shows through is the terminal's own.
-    Colour background;
+    Colour background = {};
     bool isBold = false;
     bool isFaint = false;
     bool isItalic = false;
