@@ -193,9 +193,7 @@ int PageBuilder::numberOf(Element const& element) {
 }
 
 /// Whether what comes now stands between the parts of a table.
-bool PageBuilder::isInTable() const {
-    return isBetweenParts() && !hasAnonymousCell.back();
-}
+bool PageBuilder::isInTable() const { return isBetweenParts() && !hasAnonymousCell.back(); }
 
 /// The same, or in the cell that loose content there has.
 bool PageBuilder::isBetweenParts() const {
