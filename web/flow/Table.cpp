@@ -107,7 +107,11 @@ TableRows Table::layOut(int columns, Wrapping wrapping, PageBudget& budget) {
         across(ownStyle.margin.left, columns) + across(ownStyle.margin.right, columns);
     // Where its words do not fit, a cell parts them.
     if (innerWidths(wrapping, columns).least + margins > columns) wrapping = Wrapping::anywhere;
-    int const width = usedWidth(innerWidths(wrapping, columns), columns);
+    Widths content = innerWidths(wrapping, columns);
+    // Percentages widen a table only as far as there is room, so not what is around it.
+    int const widened = widthOfPercentages(needs(wrapping)) + frame->edges(columns);
+    content.most = std::max(content.most, widened);
+    int const width = usedWidth(content, columns);
     int const spare = std::max(0, columns - margins - width);
     TableRows made;
     made.left = leftMargin(ownStyle, columns, spare);

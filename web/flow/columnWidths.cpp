@@ -154,12 +154,18 @@ void limitPercentages(std::span<ColumnNeed> columns) {
 
 Widths sumOf(std::span<ColumnNeed const> columns) {
     Widths sum;
+    for (ColumnNeed const& column : columns) {
+        sum.least += column.least;
+        sum.most += column.most;
+    }
+    return sum;
+}
+
+int widthOfPercentages(std::span<ColumnNeed const> columns) {
     std::int64_t widest = 0;
     std::int64_t others = 0;
     std::int64_t left = s_whole;
     for (ColumnNeed const& column : columns) {
-        sum.least += column.least;
-        sum.most += column.most;
         left -= column.percent;
         if (isPercent(column)) {
             widest = std::max(widest, std::int64_t{column.most} * s_whole / column.percent);
@@ -170,8 +176,7 @@ Widths sumOf(std::span<ColumnNeed const> columns) {
     if (left < s_whole && others > 0) {
         widest = std::max(widest, left > 0 ? others * s_whole / left : s_widest);
     }
-    sum.most = std::max(sum.most, static_cast<int>(std::min(widest, s_widest)));
-    return sum;
+    return static_cast<int>(std::min(widest, s_widest));
 }
 
 std::vector<int> shareWidth(std::span<ColumnNeed const> columns, int width) {
