@@ -125,6 +125,34 @@ TEST(VectorTail, MovesBehindTheElementsOfTheTarget) {
     }
 }
 
+/// A number that a move leaves as it is. All that live are counted.
+struct Counted {
+    static inline int s_living = 0;
+    int value = 0;
+
+    Counted() { ++s_living; }
+    Counted(Counted const& other) : value(other.value) { ++s_living; }
+    Counted& operator=(Counted const& other) = default;
+    ~Counted() { --s_living; }
+};
+
+TEST(VectorTail, LeavesSlotsAsNewAndEveryElementToBeDestroyed) {
+    for (unsigned const size : {5U, 100U}) {
+        for (unsigned const from : {0U, 2U, 60U}) {
+            SCOPED_TRACE(testing::Message() << size << " " << from);
+            ZRVector<Counted> source;
+            for (unsigned i = 0; i < size; ++i) source[i].value = 1;
+            ZRVector<Counted> target;
+            target[2].value = 1;
+            source.moveTailTo(from, target);
+            for (unsigned i = source.count; i < source.capacity; ++i) {
+                EXPECT_EQ(source.data[i].value, 0) << i;
+            }
+        }
+        EXPECT_EQ(Counted::s_living, 0) << size;
+    }
+}
+
 /// A number that new storage can refuse to hold.
 struct Refusable {
     static inline bool s_refused = false;

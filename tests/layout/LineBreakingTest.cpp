@@ -135,6 +135,15 @@ TEST(LineBreaking, SplitsAnInlineElementByItself) {
     EXPECT_FALSE(rest->split(2));
 }
 
+TEST(LineBreaking, GivesWhatIsBrokenOffNoSizeBeforeItsLayout) {
+    Page page("aa <b>bb cc dd</b> ee");
+    page.layOut(80);
+    for (Box* const box : {&page.find("b"), page.box->children[0].object}) {
+        ZRLWPtr<Box> const rest = box->split(3);
+        EXPECT_EQ(rectangle(rest->dimensions.content), "0,0 0x0") << shape(*rest);
+    }
+}
+
 TEST(LineBreaking, KeepsTheRoomForBoxes) {
     Page page("<p>aa bb cc</p>");
     page.find("p").children.enlarge(20);
