@@ -1,4 +1,7 @@
 #include <algorithm>
+#include <iterator>
+#include <random>
+#include <string>
 #include <tuple>
 
 #include "tests/support/boxes.h"
@@ -106,6 +109,14 @@ void layOutStepByStep(Box& root, int width) {
     content.width = widest;
 }
 
+void expectAsStepByStep(char const* content, char const* css, int width) {
+    Page expected(content, css);
+    layOutStepByStep(*expected.box, width);
+    Page page(content, css);
+    page.layOut(width);
+    EXPECT_EQ(places(*page.box), places(*expected.box)) << content << css << " at " << width;
+}
+
 TEST(LineBreaking, GivesWhatWholeLayoutsOfEveryLineGive) {
     for (char const* const content :
          {"a bb <b>ccc <i>dd e</i> f</b> gg hhhh", "<b>aa<i>bb</i></b><i>c d</i>",
@@ -115,12 +126,37 @@ TEST(LineBreaking, GivesWhatWholeLayoutsOfEveryLineGive) {
              {"", "b{padding:1;}", "b{margin:1;} i{margin-left:3;}", "i{margin-left:-2;}",
               "b{margin-right:-3;} i{padding:-1;}", "b{padding-left:-6;}"}) {
             for (int width = -3; width <= 24; ++width) {
-                Page expected(content, css);
-                layOutStepByStep(*expected.box, width);
-                Page page(content, css);
-                page.layOut(width);
-                EXPECT_EQ(places(*page.box), places(*expected.box)) << css << " at " << width;
+                expectAsStepByStep(content, css, width);
             }
+        }
+    }
+}
+
+/// Words and inline elements; blocks in those.
+std::string randomContent(std::mt19937& random, int depth, bool isInElement) {
+    std::string content;
+    for (unsigned n = 1 + random() % 5; n > 0; --n) {
+        unsigned const what = random() % 6;
+        if (depth == 0 || what < 3 || (what == 5 && !isInElement)) {
+            content += std::string(1 + random() % 4, static_cast<char>('a' + random() % 26));
+            if (random() % 4 > 0) content += ' ';
+        } else {
+            std::string const name(1, "bip"[what - 3]);
+            std::string const inner = randomContent(random, depth - 1, true);
+            content += "<" + name + ">" + inner + "</" + name + ">";
+        }
+    }
+    return content;
+}
+
+TEST(LineBreaking, GivesThatWhateverTheLine) {
+    static constexpr char const* s_sheets[] = {"", "b{margin-right:-3;}", "i{margin-left:-1;}",
+                                               "p{margin:-1;}", "b{margin-left:-2; padding:1;}"};
+    for (unsigned seed = 0; seed < 1000 && !testing::Test::HasFailure(); ++seed) {
+        std::mt19937 random(seed);
+        std::string const content = randomContent(random, 3, false);
+        for (int width : {1, 3, 6, 9, 14}) {
+            expectAsStepByStep(content.c_str(), s_sheets[seed % std::size(s_sheets)], width);
         }
     }
 }
