@@ -135,8 +135,8 @@ TEST(LineBreaking, GivesWhatWholeLayoutsOfEveryLineGive) {
 /// Words and inline elements; blocks in those.
 std::string randomContent(std::mt19937& random, int depth, bool isInElement) {
     std::string content;
-    for (unsigned n = 1 + random() % 5; n > 0; --n) {
-        unsigned const what = random() % 6;
+    for (auto n = 1 + random() % 5; n > 0; --n) {
+        auto const what = random() % 6;
         if (depth == 0 || what < 3 || (what == 5 && !isInElement)) {
             content += std::string(1 + random() % 4, static_cast<char>('a' + random() % 26));
             if (random() % 4 > 0) content += ' ';
@@ -155,7 +155,7 @@ TEST(LineBreaking, GivesThatWhateverTheLine) {
     for (unsigned seed = 0; seed < 1000 && !testing::Test::HasFailure(); ++seed) {
         std::mt19937 random(seed);
         std::string const content = randomContent(random, 3, false);
-        for (int width : {1, 3, 6, 9, 14}) {
+        for (int const width : {1, 3, 6, 9, 14}) {
             expectAsStepByStep(content.c_str(), s_sheets[seed % std::size(s_sheets)], width);
         }
     }
@@ -172,7 +172,7 @@ TEST(LineBreaking, SplitsAnInlineElementByItself) {
 }
 
 TEST(LineBreaking, GivesWhatIsBrokenOffNoSizeBeforeItsLayout) {
-    Page page("aa <b>bb cc dd</b> ee");
+    Page page("<b>bb cc dd</b> ee");
     page.layOut(80);
     for (Box* const box : {&page.find("b"), page.box->children[0].object}) {
         ZRLWPtr<Box> const rest = box->split(3);
