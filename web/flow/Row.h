@@ -18,9 +18,9 @@ public:
     /// Cells that look alike.
     struct Span {
         /// Bytes of the text.
-        std::size_t begin;
-        std::size_t end;
-        Look look;
+        std::size_t begin = 0;
+        std::size_t end = 0;
+        Look look = {};
     };
 
     /// In cells.

@@ -50,10 +50,10 @@ std::string content(std::string const& page) {
 TEST(Writer, ALookHasItsSequenceAtEachDepth) {
     struct Case {
         Look look;
-        char const* exact;
-        char const* cube256;
-        char const* sixteen;
-        char const* none;
+        char const* exact = "";
+        char const* cube256 = "";
+        char const* sixteen = "";
+        char const* none = "";
     };
     Colour const orange = Colour::rgb(255, 136, 0);
     Case const cases[] = {
