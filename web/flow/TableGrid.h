@@ -16,6 +16,8 @@ struct TableCell {
     int column;
     int columnSpan;
     int rowSpan;
+    /// Whether it spans more than one column of the document.
+    bool isWide;
     Content content;
 
     int endColumn() const { return column + columnSpan; }

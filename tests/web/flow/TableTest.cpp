@@ -25,6 +25,13 @@ TEST(TableColumns, RunDownTheirCells) {
  a
 )"},
 
+        {"<table><tr><td colspan='2' style='width: 3ch'>one two</td></tr><tr><td colspan='2'>t"
+         "hree four</td></tr></table>",
+         30, R"(
+ one two
+ three four
+)"},
+
         {"<table><tr><td rowspan='2'>a</td><td>b</td></tr><tr><td>c</td></tr></table>", 30, R"(
  a  b
     c
