@@ -2,36 +2,12 @@
 
 #include "galley/SheetAccess.h"
 #include "galley/convert.h"
-#include "galley/formats/formats.h"
-#include "galley/formats/plain.h"
+#include "galley/formats/PageWriter.h"
 #include "galley/terminal/terminal.h"
 #include "galley/webPage.h"
 #include "xml/xml.h"
 
 namespace galley {
-
-namespace {
-
-/// Without folders.
-std::string_view titleOf(std::string_view name) { return name.substr(name.find_last_of('/') + 1); }
-
-void applyFormat(String& page, Options const& options) {
-    switch (options.format) {
-        case Format::ansi:
-            break;
-        case Format::plain:
-            makePlain(page);
-            break;
-        case Format::html:
-            makeHtml(page, {options.theme, options.standalone, titleOf(options.name)});
-            break;
-        case Format::svg:
-            makeSvg(page, options.theme);
-            break;
-    }
-}
-
-}  // namespace
 
 Options settle(Options options, std::FILE* out) {
     if (options.width == 0) options.width = terminalWidth(out);
@@ -54,7 +30,7 @@ Result<void> makePage(String& page, String& markup, Sheet const& sheet, Options 
             CLI::XML::StyleList const& rules = SheetAccess::rules(sheet, options.raw);
             return CLI::XML::xmlToText(page, cleaned, rules, options.width);
         });
-        if (made) applyFormat(page, options);
+        if (made) rewritePage(page, options);
         return made;
     });
 }

@@ -1,23 +1,15 @@
 #include "galley/formats/characters.h"
 
-#include <algorithm>
 #include <string>
 
 #include "base/append.h"
-#include "galley/terminal/controls.h"
+#include "galley/terminal/columns.h"
 
 namespace galley {
 
 using CLI::XML::append;
 
 namespace {
-
-bool isAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
-
-/// Bytes at `i` that count as one character.
-std::size_t lengthAt(std::string_view text, std::size_t i) {
-    return isAscii(text[i]) ? 1 : std::max<std::size_t>(characterLength(text, i), 1);
-}
 
 /// What stands for a well-formed character of several bytes. Not every one may stand in XML.
 std::string reference(std::string_view character) {
@@ -46,12 +38,6 @@ std::string_view replacement(char byte) {
 }
 
 }  // namespace
-
-std::size_t countCharacters(std::string_view text) {
-    std::size_t count = 0;
-    for (std::size_t i = 0; i < text.length(); i += lengthAt(text, i)) ++count;
-    return count;
-}
 
 void appendEscaped(String& out, std::string_view text) {
     /// Bytes that are in `out`.

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "galley/galley.h"
-#include "galley/terminal/AnsiReader.h"
+#include "web/flow/Look.h"
 
 namespace galley {
 
@@ -14,6 +14,6 @@ struct CellColors {
 };
 
 /// Automatic is dark.
-CellColors cellColors(Look const& look, Theme theme);
+CellColors cellColors(web::Look const& look, Theme theme);
 
 }  // namespace galley

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "galley/terminal/AnsiReader.h"
+#include "web/flow/Look.h"
 
 namespace galley {
 
@@ -12,9 +12,10 @@ constexpr std::string_view s_fontFamily =
     "ui-monospace,Menlo,Consolas,'DejaVu Sans Mono',monospace";
 
 /// CSS declarations, each ended by a semicolon, for what colours do not show.
-std::string attributeCss(Look const& look);
+std::string attributeCss(web::Look const& look);
 
-/// The rule that `attributeCss` needs beside it where something in `page` blinks; else empty.
-std::string_view blinkRule(std::string_view page);
+/// The rule that `attributeCss` needs beside it where something blinks.
+constexpr std::string_view s_blinkRule =
+    "@keyframes galley-blink{50%{color:transparent;fill:transparent}}\n";
 
 }  // namespace galley

@@ -1,28 +1,30 @@
-#include "galley/formats/formats.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdint>
 #include <set>
 #include <string>
 #include <tuple>
+#include <vector>
 
+#include "galley/formats/PageWriter.h"
 #include "galley/formats/palette.h"
-#include "galley/formats/plain.h"
 
 namespace galley {
 namespace {
 
-std::string plain(std::string const& page) {
+std::string written(std::string const& page, Options const& options) {
     String text(page.c_str(), 0, static_cast<int>(page.length()));
-    makePlain(text);
+    rewritePage(text, options);
     return std::string(text.view());
 }
 
-std::string html(std::string const& page, HtmlOptions const& options = {}) {
-    String text(page.c_str(), 0, static_cast<int>(page.length()));
-    makeHtml(text, options);
-    return text.c_str();
+std::string plain(std::string const& page) { return written(page, {.format = Format::plain}); }
+
+std::string html(std::string const& page, Theme theme = Theme::automatic, bool isDocument = false,
+                 std::string const& name = "") {
+    return written(
+        page, {.format = Format::html, .theme = theme, .standalone = isDocument, .name = name});
 }
 
 /// What stands behind the rules.
@@ -34,7 +36,7 @@ std::string htmlText(std::string const& page) {
 
 /// The declarations that a rule has in a theme, each theme's in a line of its own.
 std::string rule(std::string const& page, Theme theme, std::string const& selector) {
-    std::string const all = html(page, {theme});
+    std::string const all = html(page, theme);
     std::string const start = "\n" + selector + "{";
     std::string found;
     for (std::size_t i = 0; (i = all.find(start, i)) != std::string::npos;) {
@@ -45,9 +47,7 @@ std::string rule(std::string const& page, Theme theme, std::string const& select
 }
 
 std::string wholeSvg(std::string const& page, Theme theme) {
-    String text(page.c_str(), 0, static_cast<int>(page.length()));
-    makeSvg(text, theme);
-    return text.c_str();
+    return written(page, {.format = Format::svg, .theme = theme});
 }
 
 /// Behind the rectangle that is the terminal.
@@ -83,10 +83,8 @@ TEST(Formats, PlainIsThePageWithoutSequencesAndBlanksAtTheEndsOfRows) {
         // Only blanks are.
         {"a\t\nb\xa0\nc\r\nd \x01\n", "a\t\nb\xa0\nc\r\nd \x01\n"},
         {std::string("a\0 \n", 4), std::string("a\0\n", 3)},
-        // Without an end of the row.
-        {"a\nb  ", "a\nb"},
         // No sequences of the library.
-        {"\x1b[0ma\x1b\x1b[2J \x1b[1;2m\x1b[3\n\x1b[", "a\x1b\x1b[2J \x1b[1;2m\x1b[3\n\x1b["},
+        {"\x1b[0ma\x1b\x1b[2J \x1b[1;2m\x1b[3\n\x1b[\n", "a\x1b\x1b[2J \x1b[1;2m\x1b[3\n\x1b[\n"},
     };
     for (auto const& [page, expected] : cases) EXPECT_EQ(plain(page), expected);
 }
@@ -142,13 +140,13 @@ TEST(Formats, OnlyTheAutomaticThemeHasTheRulesOfBoth) {
     for (auto const& [theme, name, colors] : {std::tuple{Theme::automatic, "galley", light + dark},
                                               std::tuple{Theme::light, "galley-light", light},
                                               std::tuple{Theme::dark, "galley-dark", dark}}) {
-        std::string const all = html(page, {theme});
+        std::string const all = html(page, theme);
         std::string const scope = "." + std::string(name);
         EXPECT_NE(rule(page, theme, scope).find(colors), std::string::npos) << name;
         EXPECT_NE(all.find("<pre class=\"" + std::string(name) + "\">"), std::string::npos);
         EXPECT_EQ(all.find(s_dark) != std::string::npos, theme == Theme::automatic) << name;
         // In a document they hold for the whole window.
-        std::string const whole = html(page, {theme, true});
+        std::string const whole = html(page, theme, true);
         EXPECT_NE(whole.find("\nhtml," + scope + "{" + colors.substr(0, colors.find('\n'))),
                   std::string::npos);
     }
@@ -156,10 +154,10 @@ TEST(Formats, OnlyTheAutomaticThemeHasTheRulesOfBoth) {
 
 TEST(Formats, ADocumentOfHtmlHasAHeadWithItsTitleAndRules) {
     std::string const page = "\n\x1b[0m\x1b[1ma\x1b[0m\n";
-    std::string const element = html(page, {Theme::dark});
+    std::string const element = html(page, Theme::dark);
     std::size_t const start = element.find(".galley-dark .g1{");
     std::string const rules = element.substr(start, element.find("</style>") - start);
-    std::string const whole = html(page, {Theme::dark, true, "a<\xc3\xa9&\n.xml"});
+    std::string const whole = html(page, Theme::dark, true, "f/a<\xc3\xa9&\n.xml");
     EXPECT_EQ(whole.find("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n"), 0U);
     EXPECT_NE(whole.find("<title>a&lt;&#233;&amp;&#65533;.xml</title>\n"), std::string::npos);
     EXPECT_NE(whole.find(rules), std::string::npos);
@@ -192,16 +190,20 @@ double luminance(std::string const& color) {
 }
 
 TEST(Formats, EveryColorIsReadableOnALightPageAndDiffersFromTheOthers) {
+    using web::Colour;
+    std::vector<Colour> colours = {Colour()};
+    for (std::uint8_t i = 0; i < 16; ++i) colours.push_back(Colour::ofPalette(i));
     std::set<std::string> texts;
-    for (unsigned color = 0; color <= galley::Look::s_noColor; ++color) {
-        for (unsigned const attribute : {0U, 1U << galley::Look::Faint}) {
-            auto const [text, ground] = cellColors({attribute, color}, Theme::light);
+    for (Colour const colour : colours) {
+        for (bool const isFaint : {false, true}) {
+            auto const [text, ground] =
+                cellColors({.text = colour, .isFaint = isFaint}, Theme::light);
             double const contrast = (luminance(ground) + 0.05) / (luminance(text) + 0.05);
             EXPECT_GE(contrast, 4.5) << text << " on " << ground;
             EXPECT_TRUE(texts.insert(text).second) << text;
         }
-        auto const ground = cellColors({0, 0, color}, Theme::light).ground;
-        if (color != galley::Look::s_noColor) {
+        auto const ground = cellColors({.text = {}, .background = colour}, Theme::light).ground;
+        if (colour != Colour()) {
             EXPECT_NE(ground, cellColors({}, Theme::light).ground);
         }
     }

@@ -17,14 +17,18 @@ struct Link {
 
 /// How cells look.
 struct Look {
-    Colour text;
+    Colour text = {};
     /// Never transparent: what shows through is the terminal's own.
-    Colour background;
+    Colour background = {};
     bool isBold = false;
     bool isFaint = false;
     bool isItalic = false;
     bool isUnderlined = false;
     bool isStruckThrough = false;
+    /// Pages of the core alone have these.
+    bool isBlinking = false;
+    bool isInverse = false;
+    bool isHidden = false;
     /// Null for none. It outlives the look.
     Link const* link = nullptr;
 

@@ -101,7 +101,7 @@ int Table::usedWidth(Widths const& content, int container) const {
     return std::max(limitWidth(wanted, ownStyle, container), content.least);
 }
 
-TableRows Table::layOut(int columns, Wrapping wrapping) {
+TableRows Table::layOut(int columns, Wrapping wrapping, PageBudget& budget) {
     complete();
     int const margins =
         across(ownStyle.margin.left, columns) + across(ownStyle.margin.right, columns);
@@ -116,17 +116,17 @@ TableRows Table::layOut(int columns, Wrapping wrapping) {
     TableRows made;
     made.left = leftMargin(ownStyle, columns, spare);
     std::vector<int> const shared = shareWidth(needs(wrapping), width - frame->edges(columns));
-    layOutCaptions(CaptionSide::top, width, made.rows);
-    TablePainter(grid, *frame, ownStyle, made.rows).paint(width, shared, columns, wrapping);
-    layOutCaptions(CaptionSide::bottom, width, made.rows);
+    layOutCaptions(CaptionSide::top, width, made, budget);
+    TablePainter(grid, *frame, ownStyle, made.rows, budget).paint(width, shared, columns, wrapping);
+    layOutCaptions(CaptionSide::bottom, width, made, budget);
     return made;
 }
 
-void Table::layOutCaptions(CaptionSide side, int width, std::vector<Row>& rows) {
+void Table::layOutCaptions(CaptionSide side, int width, TableRows& made, PageBudget& budget) {
     for (Caption& caption : captions) {
         if (caption.style->captionSide != side) continue;
-        RowList list(rows);
-        Flow flow(list, width, ground, Flow::OuterMargins::shown);
+        RowList list(made.rows);
+        Flow flow(list, budget, width, ground, Flow::OuterMargins::shown);
         flow.open(*caption.style, {});
         caption.content.moveTo(flow);
         flow.close();

@@ -22,8 +22,9 @@ int firstTextRow(std::vector<Row> const& rows) {
 }  // namespace
 
 TableBand::TableBand(TableGrid& banded, TableFrame const& tableFrame,
-                     ColumnPlaces const& columnPlaces, int firstRow, Wrapping wrapping)
-    : grid(banded), frame(tableFrame), places(columnPlaces), first(firstRow) {
+                     ColumnPlaces const& columnPlaces, int firstRow, Wrapping wrapping,
+                     PageBudget& cells)
+    : grid(banded), frame(tableFrame), places(columnPlaces), first(firstRow), budget(cells) {
     int end = first + 1;
     for (int row = first; row < end; ++row) end = std::max(end, layOutRow(row, wrapping));
     heights.assign(static_cast<std::size_t>(end - first), 0);
@@ -54,7 +55,7 @@ void TableBand::layOut(TableCell& cell, int row, Wrapping wrapping) {
     int const edges = frame.cellEdges(style, places.width);
     int const width = std::max(0, placed.right - placed.left - edges);
     RowList list(placed.content);
-    Flow flow(list, width, cell.background, Flow::OuterMargins::shown, wrapping);
+    Flow flow(list, budget, width, cell.background, Flow::OuterMargins::shown, wrapping);
     cell.content.moveTo(flow);
     flow.finish();
     placed.above =

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "web/flow/PageBudget.h"
 #include "web/flow/Row.h"
 #include "web/flow/TableFrame.h"
 #include "web/flow/TableGrid.h"
@@ -41,7 +42,7 @@ class TableBand {
 public:
     /// Takes the content of cells from the grid. The cells part words where `wrapping` says so.
     TableBand(TableGrid& banded, TableFrame const& tableFrame, ColumnPlaces const& columnPlaces,
-              int firstRow, Wrapping wrapping);
+              int firstRow, Wrapping wrapping, PageBudget& cells);
 
     int firstRow() const { return first; }
     int endRow() const { return first + static_cast<int>(heights.size()); }
@@ -62,6 +63,7 @@ private:
     TableFrame const& frame;
     ColumnPlaces const& places;
     int first;
+    PageBudget& budget;
     std::vector<LaidCell> laid;
     std::vector<int> heights;
     std::vector<int> tops;

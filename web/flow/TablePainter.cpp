@@ -21,11 +21,12 @@ int leadingBlanks(Row const& row, Colour background) {
 }  // namespace
 
 TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
-                           std::vector<Row>& output)
+                           std::vector<Row>& output, PageBudget& cells)
     : grid(painted),
       frame(tableFrame),
       table(tableStyle),
       rows(output),
+      budget(cells),
       isVisible(table.visibility == Visibility::visible) {}
 
 void TablePainter::paint(int width, std::vector<int> const& columns, int container,
@@ -35,7 +36,7 @@ void TablePainter::paint(int width, std::vector<int> const& columns, int contain
     paintEdge(true, down(table.padding.top, container));
     for (int next = 0; next < end;) {
         paintGap(next, frame.rowGap(next), 0);
-        TableBand band(grid, frame, places, next, wrapping);
+        TableBand band(grid, frame, places, next, wrapping, budget);
         paintBand(band);
         next = band.endRow();
     }
@@ -62,6 +63,7 @@ void TablePainter::paintEdge(bool isTop, int padding) {
     if ((isTop ? table.border.top : table.border.bottom).isThere()) {
         row.clear();
         if (isVisible) addHorizontal(row, table, isTop, places.width, grid.background());
+        budget.take(static_cast<std::size_t>(row.width()) + 1);
         rows.push_back(row);
     }
     if (isTop) paintBlanks(padding);
@@ -126,6 +128,7 @@ void TablePainter::endRow() {
     }
     if (hasBorder) addVertical(row, border, grid.background());
     paintOverlays();
+    budget.take(static_cast<std::size_t>(row.width()) + 1);
     rows.push_back(row);
 }
 

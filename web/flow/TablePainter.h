@@ -17,7 +17,7 @@ class TablePainter {
 public:
     /// Takes the content of cells from the grid, appends rows.
     TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
-                 std::vector<Row>& output);
+                 std::vector<Row>& output, PageBudget& cells);
 
     /// The table is that wide, with columns of those widths; per cent count of `container`. Once
     /// only.
@@ -51,6 +51,7 @@ private:
     TableFrame& frame;
     Style const& table;
     std::vector<Row>& rows;
+    PageBudget& budget;
     bool isVisible;
     ColumnPlaces places;
     /// Cells of the row by their columns.

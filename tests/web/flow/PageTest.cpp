@@ -6,25 +6,27 @@
 #include <vector>
 
 #include "web/renderPage.h"
-#include "web/write/PlainWriter.h"
 
 namespace galley::web {
 namespace {
 
+class Picture final : public RowSink {
+public:
+    std::string shown;
+
+    void take(Row const& row) override {
+        std::string_view const text = row.text();
+        shown.append("|").append(text.substr(0, text.find_last_not_of(' ') + 1));
+    }
+};
+
 std::string pageOf(std::string const& markup, unsigned width) {
-    std::string page;
+    Picture picture;
     std::vector<Problem> problems;
     Media media;
     media.width = width;
-    PlainWriter writer(page);
-    EXPECT_TRUE(renderPage(markup, {}, media, writer, problems)) << markup;
-    std::string shown;
-    for (std::size_t i = 0; i < page.size();) {
-        std::size_t const end = page.find('\n', i);
-        shown += "|" + page.substr(i, end - i);
-        i = end + 1;
-    }
-    return shown;
+    EXPECT_TRUE(renderPage(markup, {}, media, picture, problems)) << markup;
+    return picture.shown;
 }
 
 struct PageCase {
@@ -143,6 +145,20 @@ TEST(Pages, HideWhatIsNotVisibleAndKeepItsRoom) {
     expectPages({{"a<b style='visibility: hidden'>bc</b>d", 9, "|a  d"},
                  {"a<hr style='visibility: hidden'/>b", 3, "|a||b"},
                  {"a<b style='display: none'>b</b>c", 9, "|ac"}});
+}
+
+TEST(Pages, AreRefusedWhereTheyWouldBeTooLarge) {
+    for (char const* const markup :
+         {"<div style='padding-top: 900000lh; padding-left: 99ch; background: red'>a</div>",
+          "<div style='border: solid; width: 2000000ch'>a</div>",
+          "<table style='width: 90ch; border: solid'><tr><td style='padding-top: 900000lh'/></tr>"
+          "</table>"}) {
+        Picture picture;
+        std::vector<Problem> problems;
+        EXPECT_FALSE(renderPage(markup, {}, Media(), picture, problems)) << markup;
+        ASSERT_EQ(problems.size(), 1U);
+        EXPECT_EQ(problems[0].message, "Page too large: more than 67108864 cells");
+    }
 }
 
 }  // namespace

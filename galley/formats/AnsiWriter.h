@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "galley/formats/PageWriter.h"
+
+namespace galley {
+
+/// Writes text with the sequences of a terminal. Each row begins and ends in the terminal's default
+/// look, outside of links, and has no blanks at its end that show nothing.
+class AnsiWriter final : public PageWriter {
+public:
+    AnsiWriter(String& page, TerminalFeatures const& features) : out(page), terminal(features) {}
+
+    void take(web::Row const& row) override;
+    void finish() override {}
+
+private:
+    /// Bytes of a row up to the last that shows something.
+    std::size_t shownLength(web::Row const& row) const;
+    bool showsBlanks(web::Look const& look) const;
+    void changeLook(std::string const& parameters);
+    void changeLink(web::Link const* next);
+
+    String& out;
+    TerminalFeatures const terminal;
+    /// The parameters of the look that the terminal has now.
+    std::string current;
+    web::Link const* link = nullptr;
+};
+
+}  // namespace galley

@@ -1,0 +1,46 @@
+#include "galley/formats/PageWriter.h"
+
+#include <utility>
+
+#include "galley/formats/AnsiWriter.h"
+#include "galley/formats/HtmlWriter.h"
+#include "galley/formats/PlainWriter.h"
+#include "galley/formats/SvgWriter.h"
+#include "galley/terminal/readRows.h"
+
+namespace galley {
+
+namespace {
+
+std::unique_ptr<PageWriter> makeWriter(String& page, Options const& options,
+                                       TerminalFeatures const& terminal, CellRule rule) {
+    switch (options.format) {
+        case Format::plain:
+            return std::make_unique<PlainWriter>(page);
+        case Format::html:
+            return std::make_unique<HtmlWriter>(page, options, rule);
+        case Format::svg:
+            return std::make_unique<SvgWriter>(page, options.theme, rule);
+        case Format::ansi:
+            break;
+    }
+    return std::make_unique<AnsiWriter>(page, terminal);
+}
+
+}  // namespace
+
+std::unique_ptr<PageWriter> makePageWriter(String& page, Options const& options,
+                                           TerminalFeatures const& terminal) {
+    return makeWriter(page, options, terminal, CellRule::clusters);
+}
+
+void rewritePage(String& page, Options const& options) {
+    if (options.format == Format::ansi) return;
+    String written;
+    auto const writer = makeWriter(written, options, {}, CellRule::characters);
+    readRows(page.view(), *writer);
+    writer->finish();
+    page = std::move(written);
+}
+
+}  // namespace galley

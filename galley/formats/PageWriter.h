@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+
+#include "base/String.h"
+#include "galley/galley.h"
+#include "galley/terminal/ColourDepth.h"
+#include "web/flow/Row.h"
+
+namespace galley {
+
+/// Writes the rows of a page in a format. All operations throw std::bad_alloc where there is no
+/// memory for that.
+class PageWriter : public web::RowSink {
+public:
+    /// Adds what comes behind the last row. Until then what is written is no page.
+    virtual void finish() = 0;
+};
+
+/// What the terminal can do that a page of the format `ansi` goes to.
+struct TerminalFeatures {
+    ColourDepth depth = ColourDepth::exact;
+    bool hasLinks = true;
+};
+
+/// A writer that appends a page of clusters to `page`, which outlives it. The options are settled,
+/// and not needed any more when it is made.
+std::unique_ptr<PageWriter> makePageWriter(String& page, Options const& options,
+                                           TerminalFeatures const& terminal);
+
+/// Puts a page of the core in the format that the settled options name, in its own place. In the
+/// format `ansi` it stays as it is. Throws std::bad_alloc where there is no memory for that.
+void rewritePage(String& page, Options const& options);
+
+}  // namespace galley
