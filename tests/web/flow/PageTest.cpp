@@ -1,33 +1,9 @@
 // Pages of the dialect as pictures: each row behind a bar, blanks at its end left out.
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "web/renderPage.h"
+#include "tests/web/flow/Pictures.h"
 
 namespace galley::web {
 namespace {
-
-class Picture final : public RowSink {
-public:
-    std::string shown;
-
-    void take(Row const& row) override {
-        std::string_view const text = row.text();
-        shown.append("|").append(text.substr(0, text.find_last_not_of(' ') + 1));
-    }
-};
-
-std::string pageOf(std::string const& markup, unsigned width) {
-    Picture picture;
-    std::vector<Problem> problems;
-    Media media;
-    media.width = width;
-    EXPECT_TRUE(renderPage(markup, {}, media, picture, problems)) << markup;
-    return picture.shown;
-}
 
 struct PageCase {
     char const* markup;
@@ -37,7 +13,7 @@ struct PageCase {
 
 void expectPages(std::vector<PageCase> const& cases) {
     for (PageCase const& each : cases) {
-        EXPECT_EQ(pageOf(each.markup, each.width), each.page)
+        EXPECT_EQ(textOf(each.markup, each.width, "|", ""), each.page)
             << each.markup << " at " << each.width;
     }
 }
@@ -153,9 +129,9 @@ TEST(Pages, AreRefusedWhereTheyWouldBeTooLarge) {
           "<div style='border: solid; width: 2000000ch'>a</div>",
           "<table style='width: 90ch; border: solid'><tr><td style='padding-top: 900000lh'/></tr>"
           "</table>"}) {
-        Picture picture;
+        TextOfRows rows("", "");
         std::vector<Problem> problems;
-        EXPECT_FALSE(renderPage(markup, {}, Media(), picture, problems)) << markup;
+        EXPECT_FALSE(renderPage(markup, {}, Media(), rows, problems)) << markup;
         ASSERT_EQ(problems.size(), 1U);
         EXPECT_EQ(problems[0].message, "Page too large: more than 67108864 cells");
     }

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "web/renderPage.h"
-#include "web/write/PlainWriter.h"
 
 namespace galley::web {
 
@@ -17,14 +16,32 @@ struct Picture {
     char const* page;
 };
 
-inline std::string textOf(std::string const& markup, unsigned width) {
-    std::string page;
+/// Rows as bare text, without blanks at their ends, each with a mark before it and behind it.
+class TextOfRows final : public RowSink {
+public:
+    TextOfRows(char const* before, char const* behind) : opening(before), closing(behind) {}
+
+    std::string text;
+
+    void take(Row const& row) override {
+        text += opening;
+        text += row.text().substr(0, row.text().find_last_not_of(' ') + 1);
+        text += closing;
+    }
+
+private:
+    char const* opening;
+    char const* closing;
+};
+
+inline std::string textOf(std::string const& markup, unsigned width, char const* before = "",
+                          char const* behind = "\n") {
+    TextOfRows rows(before, behind);
     std::vector<Problem> problems;
     Media media;
     media.width = width;
-    PlainWriter writer(page);
-    EXPECT_TRUE(renderPage(markup, {}, media, writer, problems)) << markup;
-    return page;
+    EXPECT_TRUE(renderPage(markup, {}, media, rows, problems)) << markup;
+    return rows.text;
 }
 
 inline void expectPictures(std::vector<Picture> const& pictures) {

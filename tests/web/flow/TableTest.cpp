@@ -1,6 +1,6 @@
 // Tables as pictures.
 
-#include "Pictures.h"
+#include "tests/web/flow/Pictures.h"
 
 namespace galley::web {
 namespace {
