@@ -28,7 +28,7 @@ std::vector<int> inProportion(std::vector<std::int64_t> const& weights, int amou
     int rest = amount;
     for (std::int64_t const weight : weights) {
         // A thousandth of a cell is what percentages are rounded by.
-        std::int64_t const part = (1000 * amount * weight + sum) / (1000 * sum);
+        std::int64_t const part = (std::int64_t{1000} * amount * weight + sum) / (1000 * sum);
         parts.push_back(std::min(rest, static_cast<int>(part)));
         rest -= parts.back();
     }
