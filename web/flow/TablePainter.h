@@ -26,8 +26,8 @@ public:
 private:
     /// Content that lies over what has been made of the row.
     struct Overlay {
-        int column;
-        Row const* content;
+        int column = 0;
+        Row const* content = nullptr;
         Colour background;
     };
 

@@ -75,7 +75,7 @@ std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& 
     std::vector<ColumnNeed> needs = needsOfElements(grid);
     std::vector<TableCell const*> spanning;
     for (TableCell const& cell : grid.cells()) {
-        if (cell.columnSpan > 1) {
+        if (cell.isWide) {
             spanning.push_back(&cell);
         } else {
             widen(needs[static_cast<std::size_t>(cell.column)], needOf(cell, frame, wrapping));

@@ -27,7 +27,9 @@ std::vector<int> inProportion(std::vector<std::int64_t> const& weights, int amou
     parts.reserve(weights.size());
     int rest = amount;
     for (std::int64_t const weight : weights) {
-        parts.push_back(static_cast<int>(amount * weight / sum));
+        // A thousandth of a cell is what percentages are rounded by.
+        std::int64_t const part = (std::int64_t{1000} * amount * weight + sum) / (1000 * sum);
+        parts.push_back(std::min(rest, static_cast<int>(part)));
         rest -= parts.back();
     }
     for (std::size_t i = 0; rest > 0; i = i + 1 == parts.size() ? 0 : i + 1) {
@@ -78,7 +80,7 @@ public:
         }
         auto const isThere = [](std::int64_t amount) { return amount > 0; };
         if (std::any_of(weights.begin(), weights.end(), isThere)) {
-            add(inProportion(weights, rest));
+            addByWeight(weights);
         } else if (std::any_of(counts.begin(), counts.end(), isThere)) {
             add(inProportion(counts, rest));
         }
@@ -87,6 +89,19 @@ public:
     std::vector<int> take() { return std::move(widths); }
 
 private:
+    /// Spends the rest so that widths are in proportion, where none gets narrower by that: what
+    /// rounding took from some before comes back.
+    void addByWeight(std::vector<std::int64_t> const& weights) {
+        int sum = rest;
+        for (std::size_t i = 0; i < widths.size(); ++i) sum += weights[i] > 0 ? widths[i] : 0;
+        std::vector<int> parts = inProportion(weights, sum);
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            parts[i] -= weights[i] > 0 ? widths[i] : 0;
+            if (parts[i] < 0) return add(inProportion(weights, rest));
+        }
+        add(parts);
+    }
+
     void add(std::vector<int> const& parts) {
         for (std::size_t i = 0; i < widths.size(); ++i) {
             widths[i] += parts[i];

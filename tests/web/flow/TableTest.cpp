@@ -1,6 +1,6 @@
 // Tables as pictures.
 
-#include "Pictures.h"
+#include "tests/web/flow/Pictures.h"
 
 namespace galley::web {
 namespace {
@@ -23,6 +23,13 @@ TEST(TableColumns, RunDownTheirCells) {
         {"<table><tr><td colspan='3'>alone</td></tr><tr><td>a</td></tr></table>", 30, R"(
  alone
  a
+)"},
+
+        {"<table><tr><td colspan='2' style='width: 3ch'>one two</td></tr><tr><td colspan='2'>t"
+         "hree four</td></tr></table>",
+         30, R"(
+ one two
+ three four
 )"},
 
         {"<table><tr><td rowspan='2'>a</td><td>b</td></tr><tr><td>c</td></tr></table>", 30, R"(

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "Pictures.h"
+#include "tests/web/flow/Pictures.h"
 #include "web/text/Cluster.h"
 
 namespace galley::web {
