@@ -21,6 +21,21 @@ int firstTextRow(std::vector<Row> const& rows) {
 
 }  // namespace
 
+ColumnPlaces placeColumns(TableFrame const& frame, int width, std::vector<int> const& columns,
+                          int container) {
+    ColumnPlaces places;
+    places.width = width;
+    int column = frame.leftEdge(container) + frame.columnGap(0);
+    int line = 0;
+    for (int const cells : columns) {
+        places.left.push_back(column);
+        places.right.push_back(column + cells);
+        column += cells + frame.columnGap(++line);
+    }
+    places.left.push_back(column);
+    return places;
+}
+
 TableBand::TableBand(TableGrid& banded, TableFrame const& tableFrame,
                      ColumnPlaces const& columnPlaces, int firstRow, Wrapping wrapping,
                      PageBudget& cells)

@@ -19,6 +19,10 @@ struct ColumnPlaces {
     std::vector<int> right;
 };
 
+/// Of a table that is that wide, with columns of those widths; per cent count of `container`.
+ColumnPlaces placeColumns(TableFrame const& frame, int width, std::vector<int> const& columns,
+                          int container);
+
 /// A cell that has been laid out. Rows of text are counted from the top of its band.
 struct LaidCell {
     TableCell* cell;

@@ -31,7 +31,7 @@ TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style con
 
 void TablePainter::paint(int width, std::vector<int> const& columns, int container,
                          Wrapping wrapping) {
-    placeColumns(width, columns, container);
+    places = placeColumns(frame, width, columns, container);
     auto const end = static_cast<int>(grid.rows().size());
     paintEdge(true, down(table.padding.top, container));
     for (int next = 0; next < end;) {
@@ -42,18 +42,6 @@ void TablePainter::paint(int width, std::vector<int> const& columns, int contain
     }
     paintGap(end, frame.rowGap(end), 0);
     paintEdge(false, down(table.padding.bottom, container));
-}
-
-void TablePainter::placeColumns(int width, std::vector<int> const& columns, int container) {
-    places.width = width;
-    int column = frame.leftEdge(container) + frame.columnGap(0);
-    int line = 0;
-    for (int const cells : columns) {
-        places.left.push_back(column);
-        places.right.push_back(column + cells);
-        column += cells + frame.columnGap(++line);
-    }
-    places.left.push_back(column);
 }
 
 /// Paints the table's border and padding above its rows or below them.
@@ -94,11 +82,11 @@ void TablePainter::paintBand(TableBand& band) {
     active.clear();
 }
 
-void TablePainter::paintRow(TableBand const& band, int at) {
-    currentRow = at;
-    for (int i = 0; i < band.height(at); ++i) {
+void TablePainter::paintRow(TableBand const& band, int gridRow) {
+    currentRow = gridRow;
+    for (int i = 0; i < band.height(gridRow); ++i) {
         beginRow();
-        paintCells(band.top(at) + i, false);
+        paintCells(band.top(gridRow) + i, false);
         endRow();
     }
 }

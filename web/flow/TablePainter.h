@@ -31,18 +31,17 @@ private:
         Colour background;
     };
 
-    void placeColumns(int width, std::vector<int> const& columns, int container);
     void paintEdge(bool isTop, int padding);
     void paintBlanks(int count);
     void paintBand(TableBand& band);
-    void paintRow(TableBand const& band, int row);
+    void paintRow(TableBand const& band, int gridRow);
     void paintGap(int line, int height, int top);
     void beginRow();
     void endRow();
     void paintCells(int y, bool isGap);
     void paintCell(LaidCell const& cell, int y);
     void paintPiece(Row& piece, LaidCell const& cell, int left, int y);
-    void paintContent(Row& piece, LaidCell const& cell, int left, int y);
+    void paintContent(Row& piece, LaidCell const& cell, int left, int line);
     void paintLines(int end, bool isGap, Colour const* alike);
     void paintVertical(int line, bool isGap, Colour background);
     void paintOverlays();

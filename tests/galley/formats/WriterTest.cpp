@@ -138,6 +138,7 @@ TEST(Writer, ALinkIsOneOverRowsAndLooks) {
     EXPECT_EQ(written({{{"a", 1, {}}}}, Format::html).find(" a{"), std::string::npos);
     std::string const svg = content(written(rows, Format::svg));
     EXPECT_NE(svg.find("a</tspan>" + href + "<tspan x=\"9\""), std::string::npos) << svg;
+    EXPECT_NE(svg.find("c</tspan></tspan></a></text>"), std::string::npos) << svg;
     EXPECT_NE(svg.find("d</tspan></a><tspan x=\"9\""), std::string::npos) << svg;
 }
 
