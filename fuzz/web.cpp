@@ -35,16 +35,6 @@ struct Input {
     }
 };
 
-int columnsOf(std::string_view text) {
-    int columns = 0;
-    for (std::size_t i = 0; i < text.size();) {
-        Cluster const cluster = clusterAt(text, i, false);
-        columns += static_cast<int>(cluster.width);
-        i = cluster.end;
-    }
-    return columns;
-}
-
 bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
 
 /// Looks at each row as it comes: what it says of itself must be so.
@@ -60,7 +50,7 @@ public:
         for (Row::Span const& span : row.spans()) {
             require(span.begin == behind && span.end > span.begin, "spans cover a row in order");
             behind = span.end;
-            columns += columnsOf(row.textOf(span));
+            columns += countCells(row.textOf(span));
         }
         require(behind == text.size(), "spans cover a row");
         require(columns == row.width(), "a row is as wide as it says");

@@ -34,20 +34,8 @@ bool mayFollow(std::string_view address) {
                        [&](std::string_view scheme) { return address.starts_with(scheme); });
 }
 
-int columnsOf(std::string_view text) {
-    int columns = 0;
-    for (std::size_t i = 0; i < text.size();) {
-        Cluster const cluster = clusterAt(text, i, false);
-        columns += static_cast<int>(cluster.width);
-        i = cluster.end;
-    }
-    return columns;
-}
-
 bool isTablePart(Display display) { return display > Display::table; }
 
-constexpr Limits s_columnSpans = {1, 1000};
-constexpr Limits s_rowSpans = {0, 65'534};
 constexpr Limits s_numbers = {std::numeric_limits<int>::min(), 1'000'000'000};
 
 }  // namespace
@@ -173,7 +161,7 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
         if (style.markerPosition == MarkerPosition::inside) {
             inside = text + " ";
         } else {
-            int const columns = columnsOf(text);
+            int const columns = countCells(text);
             marker = {std::move(text), columns};
         }
     }
@@ -191,71 +179,6 @@ int PageBuilder::numberOf(Element const& element) {
     int const number = integerAttribute(element, "value", s_numbers, problems).value_or(next);
     next = number + 1;
     return number;
-}
-
-/// Whether what comes now stands between the parts of a table.
-bool PageBuilder::isInTable() const { return isBetweenParts() && !hasAnonymousCell.back(); }
-
-/// The same, or in the cell that loose content there has.
-bool PageBuilder::isBetweenParts() const {
-    if (open.empty()) return false;
-    Role const around = open.back().role;
-    return around == Role::table || around == Role::impliedTable || around == Role::rowGroup ||
-           around == Role::row;
-}
-
-PageBuilder::Role PageBuilder::openTablePart(Element const& element, Style const& style) {
-    closeAnonymousCell();
-    bool const isOfGroup = !open.empty() && open.back().role == Role::columnGroup;
-    if (!isInTable() && !isOfGroup) openImpliedTable();
-    Table& table = *tables.back();
-    switch (style.display) {
-        case Display::caption:
-            push(table.addCaption(style), style, backgroundOf(style, frame().background));
-            return Role::cell;
-        case Display::columnGroup:
-            table.beginColumnGroup(style, spanOf(element, "span", s_columnSpans));
-            return Role::columnGroup;
-        case Display::column:
-            table.addColumn(style, spanOf(element, "span", s_columnSpans));
-            return Role::hidden;
-        case Display::row:
-            table.beginRow(style);
-            return Role::row;
-        case Display::cell:
-            return openCell(element, style);
-        default:
-            table.beginGroup(style, style.display);
-            return Role::rowGroup;
-    }
-}
-
-int PageBuilder::spanOf(Element const& element, std::string_view attributeName, Limits limits) {
-    return integerAttribute(element, attributeName, limits, problems).value_or(1);
-}
-
-PageBuilder::Role PageBuilder::openCell(Element const& element, Style const& style) {
-    Table& table = *tables.back();
-    int const columns = spanOf(element, "colspan", s_columnSpans);
-    Content& content = table.addCell(style, columns, spanOf(element, "rowspan", s_rowSpans));
-    push(content, style, table.cellBackground());
-    return Role::cell;
-}
-
-/// For what stands between the parts of a table.
-void PageBuilder::openAnonymousCell() {
-    Table& table = *tables.back();
-    Style const& style = anonymousStyles.emplace_back(computeStyle(*open.back().style, {}));
-    Content& content = table.addCell(style, 1, 1);
-    push(content, style, table.cellBackground());
-    hasAnonymousCell.back() = true;
-}
-
-void PageBuilder::closeAnonymousCell() {
-    if (!isBetweenParts() || !hasAnonymousCell.back()) return;
-    endParagraph();
-    pop();
-    hasAnonymousCell.back() = false;
 }
 
 void PageBuilder::text(std::string_view decoded) {
@@ -316,33 +239,6 @@ void PageBuilder::closeElement(Role role) {
         case Role::point:
             break;
     }
-}
-
-void PageBuilder::openTable(Style const& style) {
-    endParagraph();
-    tables.push_back(std::make_unique<Table>(style, frame().background));
-    hasAnonymousCell.push_back(false);
-}
-
-void PageBuilder::openImpliedTable() {
-    Style const& style = anonymousStyles.emplace_back(computeStyle(*open.back().style, {}));
-    openTable(style);
-    open.push_back({Role::impliedTable, &style});
-}
-
-void PageBuilder::closeImpliedTable() {
-    if (open.empty() || open.back().role != Role::impliedTable) return;
-    closeAnonymousCell();
-    open.pop_back();
-    closeTable();
-}
-
-void PageBuilder::closeTable() {
-    std::unique_ptr<Table> table = std::move(tables.back());
-    tables.pop_back();
-    hasAnonymousCell.pop_back();
-    frame().sink->add(std::move(table));
-    letGo();
 }
 
 void PageBuilder::finish() {

@@ -106,19 +106,9 @@ Look lookOf(Border const& border, Colour background) {
     return look;
 }
 
-int cellsOf(std::string_view text) {
-    int cells = 0;
-    for (std::size_t i = 0; i < text.size();) {
-        Cluster const cluster = clusterAt(text, i, false);
-        cells += static_cast<int>(cluster.width);
-        i = cluster.end;
-    }
-    return cells;
-}
-
 /// Adds a text again and again, as far as it is whole, and blanks up to a column.
 void repeat(Row& row, std::string_view text, int column, Look const& look) {
-    int const cells = cellsOf(text);
+    int const cells = countCells(text);
     while (cells > 0 && row.width() + cells <= column) row.add(text, cells, look);
     row.fill(column, look);
 }

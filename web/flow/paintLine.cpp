@@ -149,12 +149,7 @@ private:
     void paintWord(Item const& item, Inline const& element) {
         std::string_view const text = textOf(item);
         if (item.isPlain) return addPlain(text, element);
-        int cells = 0;
-        for (std::size_t i = 0; i < text.size();) {
-            Cluster const cluster = clusterAt(text, i, false);
-            cells += static_cast<int>(cluster.width);
-            i = cluster.end;
-        }
+        int const cells = countCells(text);
         if (!isVisible(*element.style)) {
             row.fill(row.width() + cells, element.look);
             return;

@@ -153,6 +153,16 @@ Cluster clusterAt(std::string_view text, std::size_t at, bool isAmbiguousWide) {
     return cluster;
 }
 
+int countCells(std::string_view text, bool isAmbiguousWide) {
+    int cells = 0;
+    for (std::size_t i = 0; i < text.size();) {
+        Cluster const cluster = clusterAt(text, i, isAmbiguousWide);
+        cells += static_cast<int>(cluster.width);
+        i = cluster.end;
+    }
+    return cells;
+}
+
 void appendPrinted(std::string& out, std::string_view text) {
     for (std::size_t i = 0; i < text.size();) {
         std::size_t plain = i;

@@ -27,6 +27,9 @@ struct Cluster {
 /// base, whatever stands before them. East Asian ambiguous characters have one cell, or two.
 Cluster clusterAt(std::string_view text, std::size_t at, bool isAmbiguousWide);
 
+/// Cells that the clusters of a text take.
+int countCells(std::string_view text, bool isAmbiguousWide = false);
+
 /// Appends what a terminal is to print of a text: ill-formed parts and controls as U+FFFD, no-break
 /// spaces and separators of lines as blanks, without what is not printed. What is appended is
 /// well-formed, and takes as many cells as the clusters of the text, unless what is not printed was
