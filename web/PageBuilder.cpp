@@ -75,8 +75,6 @@ bool PageBuilder::asksForLastChild() {
 /// A fragment, which begins with another element or with text, stands in `html` and `body`.
 void PageBuilder::openRoot(std::string_view name) {
     if (depth > 0) return;
-    Style const* const none = nullptr;
-    static_cast<void>(none);
     static Style const s_initial;
     push(page, s_initial, {});
     if (name == "html") return;

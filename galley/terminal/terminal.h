@@ -13,8 +13,8 @@ unsigned terminalWidth(std::FILE* out);
 /// Whether `out` goes to a terminal whose user has nothing against colours.
 bool isColorWelcome(std::FILE* out);
 
-/// How many colours a page is to have that has any: by COLORTERM and TERM in the environment, and at
-/// least a terminal's own.
+/// How many colours a page is to have that has any: by COLORTERM and TERM in the environment, and
+/// at least a terminal's own.
 ColourDepth colourDepthOfTerminal();
 
 }  // namespace galley

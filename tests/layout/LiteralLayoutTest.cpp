@@ -89,6 +89,23 @@ TEST(LiteralLayout, GivesTheSameBoxes) {
     EXPECT_GT(laidOut, 1000);
 }
 
+// A block that was wide before takes its lines anew: this one had been parted once too often.
+TEST(LiteralLayout, BreaksNoLineThatFitsWithItsEdges) {
+    char const* const markup =
+        "<mark>twyktitrk <div><mark/><b>mpj&x; g</b><em border-right-width=\"-1\"/></div></mark>";
+    Page page(markup);
+    Page literal(markup);
+    page.layOut(9);
+    Dimensions containing;
+    containing.content.width = 9;
+    layOutLiterally(*literal.box, containing);
+    EXPECT_EQ(page.box->dump(0), literal.box->dump(0));
+    EXPECT_EQ(places(page.find("div")),
+              "div 0,0 4x2[line 0,0 0x0[mark 0,0 0x0] "
+              "line 0,0 4x1[b 0,0 4x1['mpj ']] "
+              "line 0,1 0x1[b 0,0 1x1['g'] em 1,0 0x0]]");
+}
+
 // A budget stands in for the time that it would take, in a conversion only.
 TEST(LiteralLayout, IsRefusedForAParagraphThatWouldTakeTooLong) {
     std::string markup = "<b margin-left=\"-1\"><p>a</p></b>";
