@@ -18,8 +18,8 @@ public:
     /// Cells that look alike.
     struct Span {
         /// Bytes of the text.
-        std::size_t begin;
-        std::size_t end;
+        std::size_t begin = 0;
+        std::size_t end = 0;
         Look look;
     };
 
