@@ -45,7 +45,7 @@ SvgWriter::SvgWriter(String& page, Theme colours, CellRule cellRule)
 void SvgWriter::take(Row const& row) {
     for (Row::Span const& span : row.spans()) {
         std::string_view const text = row.textOf(span);
-        drawGround(span.look, cellsOf(text, rule));
+        drawGround(text, span.look);
         changeLink(span.look.link);
         drawText(text, span.look);
     }
@@ -53,11 +53,11 @@ void SvgWriter::take(Row const& row) {
     endRow();
 }
 
-void SvgWriter::drawGround(Look const& look, std::size_t cells) {
+void SvgWriter::drawGround(std::string_view text, Look const& look) {
     std::string const ground = cellColors(look, theme).ground;
     if (ground == usual.ground) return;
     append(rows, "<rect x=\"", pixels(column, s_cellWidth), "\" y=\"",
-           pixels(rowCount, s_cellHeight), "\" width=\"", pixels(cells, s_cellWidth),
+           pixels(rowCount, s_cellHeight), "\" width=\"", pixels(cellsOf(text, rule), s_cellWidth),
            "\" height=\"", pixels(1, s_cellHeight), "\" fill=\"", ground,
            "\" shape-rendering=\"crispEdges\"/>\n");
 }

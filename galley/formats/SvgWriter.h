@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
+#include <string_view>
 
 #include "galley/formats/PageWriter.h"
 #include "galley/formats/cells.h"
@@ -20,7 +20,7 @@ public:
     void finish() override;
 
 private:
-    void drawGround(web::Look const& look, std::size_t cells);
+    void drawGround(std::string_view text, web::Look const& look);
     void drawText(std::string_view text, web::Look const& look);
     void drawPiece(Piece const& piece);
     void changeLink(web::Link const* next);

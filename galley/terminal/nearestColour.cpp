@@ -29,10 +29,10 @@ constexpr int s_greyStep = 10;
 constexpr int s_firstGrey = 8;
 
 /// In the space of the three channels, squared.
-int distance(Colour left, Colour right) {
-    int const red = left.red - right.red;
-    int const green = left.green - right.green;
-    int const blue = left.blue - right.blue;
+int distance(Colour a, Colour b) {
+    int const red = a.red - b.red;
+    int const green = a.green - b.green;
+    int const blue = a.blue - b.blue;
     return red * red + green * green + blue * blue;
 }
 

@@ -20,7 +20,7 @@ public:
         /// Bytes of the text.
         std::size_t begin = 0;
         std::size_t end = 0;
-        Look look;
+        Look look = {};
     };
 
     /// In cells.

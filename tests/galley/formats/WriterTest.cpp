@@ -50,10 +50,10 @@ std::string content(std::string const& page) {
 TEST(Writer, ALookHasItsSequenceAtEachDepth) {
     struct Case {
         Look look;
-        char const* exact;
-        char const* cube256;
-        char const* sixteen;
-        char const* none;
+        char const* exact = "";
+        char const* cube256 = "";
+        char const* sixteen = "";
+        char const* none = "";
     };
     Colour const orange = Colour::rgb(255, 136, 0);
     Case const cases[] = {
@@ -138,6 +138,7 @@ TEST(Writer, ALinkIsOneOverRowsAndLooks) {
     EXPECT_EQ(written({{{"a", 1, {}}}}, Format::html).find(" a{"), std::string::npos);
     std::string const svg = content(written(rows, Format::svg));
     EXPECT_NE(svg.find("a</tspan>" + href + "<tspan x=\"9\""), std::string::npos) << svg;
+    EXPECT_NE(svg.find("c</tspan></tspan></a></text>"), std::string::npos) << svg;
     EXPECT_NE(svg.find("d</tspan></a><tspan x=\"9\""), std::string::npos) << svg;
 }
 

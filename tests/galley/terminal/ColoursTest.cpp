@@ -47,6 +47,7 @@ int distance(Colour a, Colour b) {
 /// xterm's colours from 16 on.
 std::vector<Colour> cubeAndGreys() {
     std::vector<Colour> colours;
+    colours.reserve(240);
     auto const level = [](int i) { return static_cast<std::uint8_t>(i == 0 ? 0 : 55 + 40 * i); };
     for (int i = 0; i < 216; ++i) {
         colours.push_back(Colour::rgb(level(i / 36), level(i / 6 % 6), level(i % 6)));
@@ -75,7 +76,7 @@ TEST(Colours, NoneOf256IsNearerThanTheOneThatIsChosen) {
 TEST(Colours, ColoursBecomeThoseOf16ThatAPersonWouldName) {
     struct Case {
         Colour colour;
-        unsigned number;
+        unsigned number = 0;
     };
     constexpr Case s_cases[] = {
         {Colour::rgb(0, 0, 0), 0},        {Colour::rgb(180, 10, 10), 1},
