@@ -7,6 +7,7 @@
 #include "galley/SheetAccess.h"
 #include "galley/failure.h"
 #include "galley/formats/PageWriter.h"
+#include "galley/terminal/terminal.h"
 #include "web/renderPage.h"
 
 namespace galley {
@@ -14,6 +15,28 @@ namespace galley {
 namespace {
 
 using web::Problem;
+
+Severity severityOf(Problem::Kind kind) {
+    switch (kind) {
+        case Problem::Kind::error:
+            return Severity::error;
+        case Problem::Kind::warning:
+            return Severity::warning;
+        case Problem::Kind::note:
+            break;
+    }
+    return Severity::note;
+}
+
+Diagnostic tell(Problem& problem, std::string_view name, Places& places) {
+    Severity const severity = severityOf(problem.kind);
+    if (problem.offset == Problem::s_nowhere) {
+        return Diagnostic(severity, std::move(problem.message), std::string(name));
+    }
+    auto const [line, column] = places.at(problem.offset);
+    return Diagnostic(severity, std::move(problem.message), std::string(name), line, column,
+                      places.excerpt(problem.offset));
+}
 
 /// What was found, in the order of the source, with its places as a person names them.
 std::vector<Diagnostic> diagnose(std::vector<Problem> problems, Source const& source) {
@@ -24,14 +47,8 @@ std::vector<Diagnostic> diagnose(std::vector<Problem> problems, Source const& so
     Places places(source.text);
     std::vector<Diagnostic> diagnostics;
     for (Problem& problem : problems) {
-        std::size_t const position = std::min(problem.offset, source.text.size());
-        auto const [line, column] = places.at(position);
-        Severity severity = Severity::warning;
-        if (problem.kind == Problem::Kind::error) severity = Severity::error;
-        if (problem.kind == Problem::Kind::note) severity = Severity::note;
-        Diagnostic told(severity, std::move(problem.message), std::string(source.name), line,
-                        column, places.excerpt(position));
-        if (severity == Severity::note && !diagnostics.empty()) {
+        Diagnostic told = tell(problem, source.name, places);
+        if (problem.kind == Problem::Kind::note && !diagnostics.empty()) {
             diagnostics.back().addNote(std::move(told));
         } else {
             diagnostics.push_back(std::move(told));
@@ -62,7 +79,7 @@ std::vector<Diagnostic> convert(String& page, std::string_view markup, Sheet con
     std::string_view const text = withoutMark(markup);
     std::vector<web::Sheet const*> const sheets = SheetAccess::webSheets(sheet);
     std::vector<Problem> problems;
-    auto const writer = makePageWriter(page, options, {});
+    auto const writer = makePageWriter(page, options, {colourDepthOfTerminal(), true});
     if (web::renderPage(text, sheets, mediaFor(options), *writer, problems)) writer->finish();
     return diagnose(std::move(problems), {options.name, text});
 }
@@ -78,10 +95,10 @@ std::string_view withoutMark(std::string_view source) {
 Result<void> makeWebPage(String& page, std::string_view markup, Sheet const& sheet,
                          Options const& options) {
     return guarded(options.name, [&]() -> Result<void> {
-        String text;
-        std::vector<Diagnostic> errors = errorsOf(convert(text, markup, sheet, options));
+        String made;
+        std::vector<Diagnostic> errors = errorsOf(convert(made, markup, sheet, options));
         if (!errors.empty()) return Result<void>(std::move(errors));
-        page = std::move(text);
+        page = std::move(made);
         return {};
     });
 }

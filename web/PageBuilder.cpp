@@ -53,12 +53,13 @@ constexpr Limits s_numbers = {std::numeric_limits<int>::min(), 1'000'000'000};
 }  // namespace
 
 PageBuilder::PageBuilder(Sheet const& defaults, std::span<Sheet const* const> authors,
-                         Media const& shownOn, RowSink& rows, std::vector<Problem>& found)
+                         Media const& shownOn, RowSink& rows, PageBudget& cells,
+                         std::vector<Problem>& found)
     : defaultSheet(defaults),
       sheets(authors.begin(), authors.end()),
       media(shownOn),
       problems(found),
-      page(rows, static_cast<int>(shownOn.width), {}, Flow::OuterMargins::dropped) {}
+      page(rows, cells, static_cast<int>(shownOn.width), {}, Flow::OuterMargins::dropped) {}
 
 void PageBuilder::styleSheet(EmbeddedSheet const& sheet) {
     std::string text(sheet.text());
@@ -193,9 +194,7 @@ int PageBuilder::numberOf(Element const& element) {
 }
 
 /// Whether what comes now stands between the parts of a table.
-bool PageBuilder::isInTable() const {
-    return isBetweenParts() && !hasAnonymousCell.back();
-}
+bool PageBuilder::isInTable() const { return isBetweenParts() && !hasAnonymousCell.back(); }
 
 /// The same, or in the cell that loose content there has.
 bool PageBuilder::isBetweenParts() const {

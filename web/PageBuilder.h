@@ -20,9 +20,9 @@ namespace galley::web {
 /// which goes where it stands, to the page or into the cell of a table.
 class PageBuilder final : public DocumentHandler {
 public:
-    /// The sheets and the sink outlive the builder. Warnings are appended to `found`.
+    /// The sheets, the sink and the budget outlive the builder. Warnings are appended to `found`.
     PageBuilder(Sheet const& defaults, std::span<Sheet const* const> authors, Media const& shownOn,
-                RowSink& rows, std::vector<Problem>& found);
+                RowSink& rows, PageBudget& cells, std::vector<Problem>& found);
 
     void styleSheet(EmbeddedSheet const& sheet) override;
     bool asksForLastChild() override;

@@ -11,6 +11,9 @@ struct Problem {
     enum class Kind { error, warning, note };
 
     Kind kind = Kind::warning;
+    /// The offset of what is about no place in the source.
+    static constexpr std::size_t s_nowhere = static_cast<std::size_t>(-1);
+
     /// Bytes from the start of the source.
     std::size_t offset = 0;
     /// Names what it is about in quotes, as the source has it.

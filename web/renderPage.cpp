@@ -1,5 +1,7 @@
 #include "web/renderPage.h"
 
+#include <string>
+
 #include "web/PageBuilder.h"
 #include "web/defaultSheet.h"
 #include "web/markup/readDocument.h"
@@ -21,10 +23,18 @@ Sheet const& defaultSheet() {
 
 bool renderPage(std::string_view markup, std::span<Sheet const* const> sheets, Media const& media,
                 RowSink& rows, std::vector<Problem>& problems) {
-    PageBuilder builder(defaultSheet(), sheets, media, rows, problems);
-    if (!readDocument(markup, builder, problems)) return false;
-    builder.finish();
-    return true;
+    PageBudget budget(markup.size());
+    PageBuilder builder(defaultSheet(), sheets, media, rows, budget, problems);
+    try {
+        if (!readDocument(markup, builder, problems)) return false;
+        builder.finish();
+        return true;
+    } catch (PageTooLarge const&) {
+        problems.push_back(
+            {Problem::Kind::error, Problem::s_nowhere,
+             "Page too large: more than " + std::to_string(budget.cells()) + " cells"});
+        return false;
+    }
 }
 
 }  // namespace galley::web

@@ -3,6 +3,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <string_view>
 
@@ -32,6 +33,10 @@ unsigned terminalWidth(std::FILE* out) {
 
 bool isColorWelcome(std::FILE* out) {
     return isatty(fileno(out)) == 1 && variable("NO_COLOR").empty();
+}
+
+ColourDepth colourDepthOfTerminal() {
+    return std::max(colourDepth(variable("COLORTERM"), variable("TERM"), {}), ColourDepth::sixteen);
 }
 
 }  // namespace galley

@@ -117,6 +117,37 @@ TEST(VectorTail, MovesBehindTheElementsOfTheTarget) {
     }
 }
 
+/// A number that a move leaves as it is. All that live are counted.
+struct Counted {
+    static inline int s_living = 0;
+    int value = 7;
+
+    Counted() { ++s_living; }
+    Counted(Counted const& other) : value(other.value) { ++s_living; }
+    Counted& operator=(Counted const& other) = default;
+    ~Counted() { --s_living; }
+};
+
+TEST(VectorTail, LeavesSlotsAsNewAndEveryElementToBeDestroyed) {
+    // Of 96 elements each is in use, of what is reserved for a growing vector.
+    for (unsigned const size : {5U, 96U, 100U}) {
+        for (unsigned const from : {0U, 1U, 2U, 60U}) {
+            SCOPED_TRACE(testing::Message() << size << " " << from);
+            ZRVector<Counted> source;
+            for (unsigned i = 0; i < size; ++i) source[i].value = 1;
+            ZRVector<Counted> target;
+            if (from > 1) target[2].value = 1;
+            source.moveTailTo(from, target);
+            for (ZRVector<Counted> const* vector : {&source, &target}) {
+                for (unsigned i = vector->count; i < vector->capacity; ++i) {
+                    EXPECT_EQ(vector->data[i].value, 7) << i;
+                }
+            }
+        }
+        EXPECT_EQ(Counted::s_living, 0) << size;
+    }
+}
+
 /// A number that new storage can refuse to hold.
 struct Refusable {
     static inline bool s_refused = false;

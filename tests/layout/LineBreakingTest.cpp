@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <string>
 #include <tuple>
 
 #include "tests/support/boxes.h"
@@ -92,6 +93,15 @@ TEST(LineBreaking, SplitsAnInlineElementByItself) {
     EXPECT_EQ(shape(element), "inline b['aa ' 'bb ' inline i['cc ']]");
     EXPECT_EQ(shape(*rest), "inline b[inline i['dd']]");
     EXPECT_FALSE(rest->split(2));
+}
+
+TEST(LineBreaking, GivesWhatIsBrokenOffNoSizeBeforeItsLayout) {
+    Page page("<b>bb cc dd</b> ee");
+    page.layOut(80);
+    for (Box* const box : {&page.find("b"), page.box->children[0].object}) {
+        ZRLWPtr<Box> const rest = box->split(3);
+        EXPECT_EQ(rectangle(rest->dimensions.content), "0,0 0x0") << shape(*rest);
+    }
 }
 
 TEST(LineBreaking, KeepsTheRoomForBoxes) {

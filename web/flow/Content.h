@@ -43,14 +43,14 @@ public:
 
 private:
     struct Open {
-        Style const* style;
+        Style const* style = nullptr;
         OutsideMarker marker;
     };
     struct Close {};
 
     /// A block that is open, and how wide what is in it is so far.
     struct Measured {
-        Style const* style;
+        Style const* style = nullptr;
         Widths content;
     };
 

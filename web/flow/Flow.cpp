@@ -16,8 +16,10 @@ bool isShown(Colour background) { return background.kind != Colour::Kind::termin
 
 }  // namespace
 
-Flow::Flow(RowSink& rows, int columns, Colour background, OuterMargins outer, Wrapping wrapped)
+Flow::Flow(RowSink& rows, PageBudget& cells, int columns, Colour background, OuterMargins outer,
+           Wrapping wrapped)
     : sink(rows),
+      budget(cells),
       width(columns),
       ground(background),
       dropsMargins(outer == OuterMargins::dropped),
@@ -97,7 +99,7 @@ void Flow::add(std::unique_ptr<Table> table) {
     (blocks.empty() ? hasOwnContent : blocks.back().hasContent) = true;
     Style const& style = table->style();
     pending = std::max(pending, down(style.margin.top, container));
-    TableRows const made = table->layOut(container, wrapping);
+    TableRows const made = table->layOut(container, wrapping, budget);
     // Margins do not collapse through a table, even one without rows.
     start();
     hasRows = true;
@@ -144,12 +146,17 @@ void Flow::addLeftEdges(std::size_t count, bool isContent) {
         Block& block = blocks[i];
         if (!block.hasStarted) break;
         if (isContent && !block.marker.text.empty()) addMarker(block);
+        // The next block's marker stands before it, on what is around that.
+        bool const isBeforeMarker =
+            isContent && i + 1 < count && !blocks[i + 1].marker.text.empty();
         if (block.style->border.left.isThere() || isShown(block.around) ||
             isShown(block.background)) {
             row.fill(block.left, blankOn(block.around));
         }
         addVertical(row, block.style->border.left, block.background, isVisible(*block.style));
-        if (isShown(block.background)) row.fill(block.contentLeft, blankOn(block.background));
+        if (isShown(block.background) && !isBeforeMarker) {
+            row.fill(block.contentLeft, blankOn(block.background));
+        }
     }
 }
 
@@ -170,6 +177,11 @@ void Flow::addMarker(Block& block) {
 
 void Flow::endRow() {
     addRightEdges(blocks.size());
+    handOn();
+}
+
+void Flow::handOn() {
+    budget.take(static_cast<std::size_t>(row.width()) + blocks.size() + 1);
     sink.take(row);
     hasRows = true;
 }
@@ -197,8 +209,7 @@ void Flow::addBorder(bool isTop) {
     row.fill(block.left, blankOn(block.around));
     addHorizontal(row, *block.style, isTop, block.right - block.left, block.background);
     addRightEdges(blocks.size() - 1);
-    sink.take(row);
-    hasRows = true;
+    handOn();
 }
 
 }  // namespace galley::web

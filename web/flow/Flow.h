@@ -4,6 +4,7 @@
 
 #include "web/flow/BlockSink.h"
 #include "web/flow/LineBreaker.h"
+#include "web/flow/PageBudget.h"
 #include "web/flow/Row.h"
 
 namespace galley::web {
@@ -19,8 +20,8 @@ public:
     /// How margins at the top and the bottom of the content show.
     enum class OuterMargins { shown, dropped };
 
-    /// Of so many columns on a background. The sink outlives it.
-    Flow(RowSink& rows, int columns, Colour background, OuterMargins outer,
+    /// Of so many columns on a background. The sink and the budget outlive it.
+    Flow(RowSink& rows, PageBudget& cells, int columns, Colour background, OuterMargins outer,
          Wrapping wrapping = Wrapping::asStyled);
 
     void open(Style const& block, OutsideMarker marker) override;
@@ -57,12 +58,14 @@ private:
     void addBlanks(int rows);
     void beginRow();
     void endRow();
+    void handOn();
     void addLeftEdges(std::size_t count, bool isContent);
     void addMarker(Block& block);
     void addRightEdges(std::size_t count);
     void addBorder(bool isTop);
 
     RowSink& sink;
+    PageBudget& budget;
     int width;
     Colour ground;
     bool dropsMargins;

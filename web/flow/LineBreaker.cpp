@@ -28,6 +28,7 @@ TextLine LineBreaker::next(Place from, int cells) {
     at = from;
     used = printed = 0;
     hasText = false;
+    lastWord.reset();
     fitting = newest = {};
     while (!isAtEnd(at)) {
         if (step()) return line;
@@ -178,7 +179,11 @@ bool LineBreaker::part(Item const& item, bool isAll) {
         width += cells;
         taken = cluster.end;
     }
-    if (taken == 0) return endBefore(at);
+    if (taken == 0) {
+        // A soft hyphen for which there is no room: the letter before it goes on, too.
+        bool const isHyphenated = lastWord && paragraph.items()[lastWord->item].hyphenates;
+        return (isHyphenated && partLastWord()) || endBefore(at);
+    }
     // A blank behind the word hangs.
     if (taken < rest.size() && rest[taken] == ' ') ++taken;
     Place place = {at.item, at.offset + static_cast<std::uint32_t>(taken)};
@@ -189,11 +194,11 @@ bool LineBreaker::part(Item const& item, bool isAll) {
 /// Parts the word before the end of an element, whose edge has no room behind it: its last cluster
 /// goes on with the edge. Returns whether there is more than one.
 bool LineBreaker::partLastWord() {
-    if (lastWord.item + 1 != at.item) return false;
-    Item const& word = paragraph.items()[lastWord.item];
-    std::string_view const text = paragraph.textOf(word).substr(lastWord.offset);
+    if (!lastWord || lastWord->item + 1 != at.item) return false;
+    Item const& word = paragraph.items()[lastWord->item];
+    std::string_view const text = paragraph.textOf(word).substr(lastWord->offset);
     if (!mayPart(styleOf(word)) || clusterAt(text, 0, false).end == text.size()) return false;
-    at = lastWord;
+    at = *lastWord;
     used = usedBeforeWord;
     hasText = false;
     return part(word, false);

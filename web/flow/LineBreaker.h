@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "web/flow/Paragraph.h"
 
@@ -90,9 +91,9 @@ private:
     ///@}
     /// There is more than edges.
     bool hasText = false;
-    /// The last word that is whole, and the cells before it.
+    /// The last word on the line that is whole, if there is one, and the cells before it.
     ///@{
-    Place lastWord;
+    std::optional<Place> lastWord;
     int usedBeforeWord = 0;
     ///@}
     /// The last one that fits, and the newest one, which the ends of elements may still join.

@@ -2,9 +2,17 @@
 
 #include <utility>
 
+#include "web/flow/PageBudget.h"
 #include "web/text/Cluster.h"
 
 namespace galley::web {
+
+namespace {
+
+/// In cells.
+constexpr int s_widest = 1'000'000;
+
+}  // namespace
 
 void Row::add(std::string_view printed, int columns, Look const& look) {
     bytes.append(printed);
@@ -14,6 +22,7 @@ void Row::add(std::string_view printed, int columns, Look const& look) {
 
 void Row::fill(int column, Look const& look) {
     if (column <= cells) return;
+    if (column > s_widest) throw PageTooLarge();
     bytes.append(static_cast<std::size_t>(column - cells), ' ');
     cells = column;
     close(look);

@@ -33,7 +33,8 @@ public:
 
     /// Adds text behind what is there; `printed` takes that many cells.
     void add(std::string_view printed, int columns, Look const& look);
-    /// Adds blanks up to a column, where that is not reached yet.
+    /// Adds blanks up to a column, where that is not reached yet. Throws `PageTooLarge` where it is
+    /// further right than any page is wide.
     void fill(int column, Look const& look);
     /// Adds another row behind what is there.
     void add(Row const& other);

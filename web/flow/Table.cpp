@@ -12,7 +12,10 @@
 namespace galley::web {
 
 Table::Table(Style const& tableStyle, Colour around)
-    : ownStyle(tableStyle), ground(around), grid(backgroundOf(tableStyle, around)) {}
+    : ownStyle(tableStyle),
+      ground(around),
+      grid(tableStyle.visibility == Visibility::visible ? backgroundOf(tableStyle, around)
+                                                        : around) {}
 
 Content& Table::addCaption(Style const& caption) {
     return captions.emplace_back(Caption{&caption, {}}).content;
@@ -98,28 +101,32 @@ int Table::usedWidth(Widths const& content, int container) const {
     return std::max(limitWidth(wanted, ownStyle, container), content.least);
 }
 
-TableRows Table::layOut(int columns, Wrapping wrapping) {
+TableRows Table::layOut(int columns, Wrapping wrapping, PageBudget& budget) {
     complete();
     int const margins =
         across(ownStyle.margin.left, columns) + across(ownStyle.margin.right, columns);
     // Where its words do not fit, a cell parts them.
     if (innerWidths(wrapping, columns).least + margins > columns) wrapping = Wrapping::anywhere;
-    int const width = usedWidth(innerWidths(wrapping, columns), columns);
+    Widths content = innerWidths(wrapping, columns);
+    // Percentages widen a table only as far as there is room, so not what is around it.
+    int const widened = widthOfPercentages(needs(wrapping)) + frame->edges(columns);
+    content.most = std::max(content.most, widened);
+    int const width = usedWidth(content, columns);
     int const spare = std::max(0, columns - margins - width);
     TableRows made;
     made.left = leftMargin(ownStyle, columns, spare);
     std::vector<int> const shared = shareWidth(needs(wrapping), width - frame->edges(columns));
-    layOutCaptions(CaptionSide::top, width, made.rows);
-    TablePainter(grid, *frame, ownStyle, made.rows).paint(width, shared, columns, wrapping);
-    layOutCaptions(CaptionSide::bottom, width, made.rows);
+    layOutCaptions(CaptionSide::top, width, made, budget);
+    TablePainter(grid, *frame, ownStyle, made.rows, budget).paint(width, shared, columns, wrapping);
+    layOutCaptions(CaptionSide::bottom, width, made, budget);
     return made;
 }
 
-void Table::layOutCaptions(CaptionSide side, int width, std::vector<Row>& rows) {
+void Table::layOutCaptions(CaptionSide side, int width, TableRows& made, PageBudget& budget) {
     for (Caption& caption : captions) {
         if (caption.style->captionSide != side) continue;
-        RowList list(rows);
-        Flow flow(list, width, ground, Flow::OuterMargins::shown);
+        RowList list(made.rows);
+        Flow flow(list, budget, width, ground, Flow::OuterMargins::shown);
         flow.open(*caption.style, {});
         caption.content.moveTo(flow);
         flow.close();

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "web/flow/Content.h"
+#include "web/flow/PageBudget.h"
 #include "web/flow/Row.h"
 #include "web/flow/TableFrame.h"
 #include "web/flow/TableGrid.h"
@@ -53,7 +54,7 @@ public:
     /// With its margins. To be called when all parts have been added.
     Widths outerWidths(Wrapping wrapping);
     /// In a container of so many columns. Once only.
-    TableRows layOut(int columns, Wrapping wrapping);
+    TableRows layOut(int columns, Wrapping wrapping, PageBudget& budget);
 
 private:
     struct Caption {
@@ -71,7 +72,7 @@ private:
     std::vector<ColumnNeed> const& needs(Wrapping wrapping);
     Widths innerWidths(Wrapping wrapping, int container);
     int usedWidth(Widths const& content, int container) const;
-    void layOutCaptions(CaptionSide side, int width, std::vector<Row>& rows);
+    void layOutCaptions(CaptionSide side, int width, TableRows& made, PageBudget& budget);
 
     Style const& ownStyle;
     Colour ground;

@@ -10,19 +10,36 @@ namespace galley::web {
 
 namespace {
 
-/// The row of the first text, which lies on the baseline of the cell.
+/// The row of the first text, which lies on the baseline of the cell, or the last one.
 int firstTextRow(std::vector<Row> const& rows) {
     auto const text = std::find_if(rows.begin(), rows.end(), [](Row const& row) {
         return row.text().find_first_not_of(' ') != std::string_view::npos;
     });
-    return text == rows.end() ? 0 : static_cast<int>(text - rows.begin());
+    auto const row = static_cast<int>(text - rows.begin());
+    return text == rows.end() ? row - 1 : row;
 }
 
 }  // namespace
 
+ColumnPlaces placeColumns(TableFrame const& frame, int width, std::vector<int> const& columns,
+                          int container) {
+    ColumnPlaces places;
+    places.width = width;
+    int column = frame.leftEdge(container) + frame.columnGap(0);
+    int line = 0;
+    for (int const cells : columns) {
+        places.left.push_back(column);
+        places.right.push_back(column + cells);
+        column += cells + frame.columnGap(++line);
+    }
+    places.left.push_back(column);
+    return places;
+}
+
 TableBand::TableBand(TableGrid& banded, TableFrame const& tableFrame,
-                     ColumnPlaces const& columnPlaces, int firstRow, Wrapping wrapping)
-    : grid(banded), frame(tableFrame), places(columnPlaces), first(firstRow) {
+                     ColumnPlaces const& columnPlaces, int firstRow, Wrapping wrapping,
+                     PageBudget& cells)
+    : grid(banded), frame(tableFrame), places(columnPlaces), first(firstRow), budget(cells) {
     int end = first + 1;
     for (int row = first; row < end; ++row) end = std::max(end, layOutRow(row, wrapping));
     heights.assign(static_cast<std::size_t>(end - first), 0);
@@ -53,7 +70,7 @@ void TableBand::layOut(TableCell& cell, int row, Wrapping wrapping) {
     int const edges = frame.cellEdges(style, places.width);
     int const width = std::max(0, placed.right - placed.left - edges);
     RowList list(placed.content);
-    Flow flow(list, width, cell.background, Flow::OuterMargins::shown, wrapping);
+    Flow flow(list, budget, width, cell.background, Flow::OuterMargins::shown, wrapping);
     cell.content.moveTo(flow);
     flow.finish();
     placed.above =
@@ -65,7 +82,7 @@ void TableBand::layOut(TableCell& cell, int row, Wrapping wrapping) {
 
 /// Moves content down so that first texts are in one row.
 void TableBand::alignBaselines(std::size_t firstOfRow) {
-    int lowest = 0;
+    int lowest = -1;
     auto const isAligned = [](LaidCell const& cell) {
         return cell.cell->style->verticalAlign == VerticalAlign::baseline;
     };

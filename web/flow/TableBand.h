@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "web/flow/PageBudget.h"
 #include "web/flow/Row.h"
 #include "web/flow/TableFrame.h"
 #include "web/flow/TableGrid.h"
@@ -17,6 +18,10 @@ struct ColumnPlaces {
     /// Of each column.
     std::vector<int> right;
 };
+
+/// Of a table that is that wide, with columns of those widths; per cent count of `container`.
+ColumnPlaces placeColumns(TableFrame const& frame, int width, std::vector<int> const& columns,
+                          int container);
 
 /// A cell that has been laid out. Rows of text are counted from the top of its band.
 struct LaidCell {
@@ -41,7 +46,7 @@ class TableBand {
 public:
     /// Takes the content of cells from the grid. The cells part words where `wrapping` says so.
     TableBand(TableGrid& banded, TableFrame const& tableFrame, ColumnPlaces const& columnPlaces,
-              int firstRow, Wrapping wrapping);
+              int firstRow, Wrapping wrapping, PageBudget& cells);
 
     int firstRow() const { return first; }
     int endRow() const { return first + static_cast<int>(heights.size()); }
@@ -62,6 +67,7 @@ private:
     TableFrame const& frame;
     ColumnPlaces const& places;
     int first;
+    PageBudget& budget;
     std::vector<LaidCell> laid;
     std::vector<int> heights;
     std::vector<int> tops;

@@ -29,7 +29,7 @@ public:
     }
     int rowGap(int line) const {
         if (collapsed) return collapsed->hasHorizontal(line) ? 1 : 0;
-        return grid.rows().empty() ? 0 : table.borderSpacing.down;
+        return grid.columns().empty() ? 0 : table.borderSpacing.down;
     }
     /// Between lines, without these.
     int columnGaps(int begin, int end) const {
@@ -37,9 +37,10 @@ public:
         for (int line = begin + 1; line < end; ++line) sum += columnGap(line);
         return sum;
     }
-    /// Of all that is not columns, in a container of so many.
+    /// Of all that is not columns, in a container of so many. Without columns there are two lines.
     int edges(int container) const {
-        int const gaps = columnGaps(-1, static_cast<int>(grid.columns().size()) + 1);
+        int gaps = columnGaps(-1, static_cast<int>(grid.columns().size()) + 1);
+        if (grid.columns().empty() && !collapsed) gaps = 2 * table.borderSpacing.across;
         return gaps + (collapsed ? 0 : innerEdges(table, container));
     }
     int leftEdge(int container) const {

@@ -16,6 +16,8 @@ struct TableCell {
     int column;
     int columnSpan;
     int rowSpan;
+    /// Whether it spans more than one column of the document.
+    bool isWide;
     Content content;
 
     int endColumn() const { return column + columnSpan; }
@@ -88,8 +90,8 @@ private:
     /// Columns of an element.
     struct ColumnRange {
         TableColumn column;
-        int begin;
-        int end;
+        int begin = 0;
+        int end = 0;
     };
     /// Columns that a cell takes in rows of its group, up to one.
     struct Occupied {

@@ -21,34 +21,27 @@ int leadingBlanks(Row const& row, Colour background) {
 }  // namespace
 
 TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
-                           std::vector<Row>& output)
-    : grid(painted), frame(tableFrame), table(tableStyle), rows(output) {}
+                           std::vector<Row>& output, PageBudget& cells)
+    : grid(painted),
+      frame(tableFrame),
+      table(tableStyle),
+      rows(output),
+      budget(cells),
+      isVisible(table.visibility == Visibility::visible) {}
 
 void TablePainter::paint(int width, std::vector<int> const& columns, int container,
                          Wrapping wrapping) {
-    placeColumns(width, columns, container);
+    places = placeColumns(frame, width, columns, container);
     auto const end = static_cast<int>(grid.rows().size());
     paintEdge(true, down(table.padding.top, container));
     for (int next = 0; next < end;) {
         paintGap(next, frame.rowGap(next), 0);
-        TableBand band(grid, frame, places, next, wrapping);
+        TableBand band(grid, frame, places, next, wrapping, budget);
         paintBand(band);
         next = band.endRow();
     }
     paintGap(end, frame.rowGap(end), 0);
     paintEdge(false, down(table.padding.bottom, container));
-}
-
-void TablePainter::placeColumns(int width, std::vector<int> const& columns, int container) {
-    places.width = width;
-    int column = frame.leftEdge(container) + frame.columnGap(0);
-    int line = 0;
-    for (int const cells : columns) {
-        places.left.push_back(column);
-        places.right.push_back(column + cells);
-        column += cells + frame.columnGap(++line);
-    }
-    places.left.push_back(column);
 }
 
 /// Paints the table's border and padding above its rows or below them.
@@ -57,7 +50,8 @@ void TablePainter::paintEdge(bool isTop, int padding) {
     if (!isTop) paintBlanks(padding);
     if ((isTop ? table.border.top : table.border.bottom).isThere()) {
         row.clear();
-        addHorizontal(row, table, isTop, places.width, grid.background());
+        if (isVisible) addHorizontal(row, table, isTop, places.width, grid.background());
+        budget.take(static_cast<std::size_t>(row.width()) + 1);
         rows.push_back(row);
     }
     if (isTop) paintBlanks(padding);
@@ -88,11 +82,11 @@ void TablePainter::paintBand(TableBand& band) {
     active.clear();
 }
 
-void TablePainter::paintRow(TableBand const& band, int at) {
-    currentRow = at;
-    for (int i = 0; i < band.height(at); ++i) {
+void TablePainter::paintRow(TableBand const& band, int gridRow) {
+    currentRow = gridRow;
+    for (int i = 0; i < band.height(gridRow); ++i) {
         beginRow();
-        paintCells(band.top(at) + i, false);
+        paintCells(band.top(gridRow) + i, false);
         endRow();
     }
 }
@@ -111,17 +105,18 @@ void TablePainter::beginRow() {
     row.clear();
     overlays.clear();
     Border const& border = table.border.left;
-    if (frame.hasBorder(border)) addVertical(row, border, grid.background());
+    if (isVisible && frame.hasBorder(border)) addVertical(row, border, grid.background());
 }
 
 void TablePainter::endRow() {
     Border const& border = table.border.right;
-    bool const hasBorder = frame.hasBorder(border);
+    bool const hasBorder = isVisible && frame.hasBorder(border);
     if (hasBorder || isDrawn(grid.background())) {
         row.fill(places.width - (hasBorder ? 1 : 0), blankOn(grid.background()));
     }
     if (hasBorder) addVertical(row, border, grid.background());
     paintOverlays();
+    budget.take(static_cast<std::size_t>(row.width()) + 1);
     rows.push_back(row);
 }
 
@@ -153,8 +148,9 @@ void TablePainter::paintLines(int end, bool isGap, Colour const* alike) {
         }
         if (nextLine == end) return;
         auto const column = static_cast<std::size_t>(nextLine);
-        Border const* const border =
-            isGap && frame.collapses() ? frame.borders()->horizontal(nextLine) : nullptr;
+        Border const* const border = isGap && isVisible && frame.collapses()
+                                         ? frame.borders()->horizontal(nextLine)
+                                         : nullptr;
         if (border != nullptr) {
             row.fill(places.left[column], blankOn(grid.background()));
             addLine(row, *border, places.right[column] - places.left[column], ground);
@@ -174,7 +170,7 @@ void TablePainter::paintVertical(int line, bool isGap, Colour background) {
     } else {
         lines.top = lines.bottom = borders.vertical(line);
     }
-    Border const* const drawn = strongest(lines);
+    Border const* const drawn = isVisible ? strongest(lines) : nullptr;
     if (drawn == nullptr && !isDrawn(background)) return;
     row.fill(places.left[static_cast<std::size_t>(line)] - 1, blankOn(grid.background()));
     if (drawn == nullptr) {
@@ -202,20 +198,20 @@ void TablePainter::paintPiece(Row& piece, LaidCell const& cell, int left, int y)
     Colour const background = cell.cell->background;
     int const right = left + cell.right - cell.left;
     int const line = y - cell.top;
-    bool const isVisible = cell.cell->isVisible();
+    bool const isShown = cell.cell->isVisible();
     bool const isTop = line == 0 && frame.hasBorder(border.top);
     bool const isBottom = line == cell.height - 1 && frame.hasBorder(border.bottom);
     auto const begin = [&] { piece.fill(left, blankOn(grid.background())); };
-    if (isVisible && (isTop || isBottom)) {
+    if (isShown && (isTop || isBottom)) {
         begin();
         addHorizontal(piece, style, isTop, right - left, background);
         return;
     }
-    if (isVisible && (isDrawn(background) || frame.hasBorder(border.left))) begin();
-    if (isVisible && frame.hasBorder(border.left)) addVertical(piece, border.left, background);
+    if (isShown && (isDrawn(background) || frame.hasBorder(border.left))) begin();
+    if (isShown && frame.hasBorder(border.left)) addVertical(piece, border.left, background);
     paintContent(piece, cell, left, line - cell.above);
     bool const hasRight = frame.hasBorder(border.right);
-    if (!isVisible || (!hasRight && !isDrawn(background))) return;
+    if (!isShown || (!hasRight && !isDrawn(background))) return;
     piece.fill(right - (hasRight ? 1 : 0), blankOn(background));
     if (hasRight) addVertical(piece, border.right, background);
 }

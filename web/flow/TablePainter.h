@@ -17,7 +17,7 @@ class TablePainter {
 public:
     /// Takes the content of cells from the grid, appends rows.
     TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
-                 std::vector<Row>& output);
+                 std::vector<Row>& output, PageBudget& cells);
 
     /// The table is that wide, with columns of those widths; per cent count of `container`. Once
     /// only.
@@ -26,23 +26,22 @@ public:
 private:
     /// Content that lies over what has been made of the row.
     struct Overlay {
-        int column;
-        Row const* content;
+        int column = 0;
+        Row const* content = nullptr;
         Colour background;
     };
 
-    void placeColumns(int width, std::vector<int> const& columns, int container);
     void paintEdge(bool isTop, int padding);
     void paintBlanks(int count);
     void paintBand(TableBand& band);
-    void paintRow(TableBand const& band, int row);
+    void paintRow(TableBand const& band, int gridRow);
     void paintGap(int line, int height, int top);
     void beginRow();
     void endRow();
     void paintCells(int y, bool isGap);
     void paintCell(LaidCell const& cell, int y);
     void paintPiece(Row& piece, LaidCell const& cell, int left, int y);
-    void paintContent(Row& piece, LaidCell const& cell, int left, int y);
+    void paintContent(Row& piece, LaidCell const& cell, int left, int line);
     void paintLines(int end, bool isGap, Colour const* alike);
     void paintVertical(int line, bool isGap, Colour background);
     void paintOverlays();
@@ -51,6 +50,8 @@ private:
     TableFrame& frame;
     Style const& table;
     std::vector<Row>& rows;
+    PageBudget& budget;
+    bool isVisible;
     ColumnPlaces places;
     /// Cells of the row by their columns.
     std::vector<LaidCell const*> active;

@@ -63,6 +63,7 @@ void setFixed(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
         if (columns[i].isFixed || columns[i].percent > 0) continue;
         columns[i].most = widths[i];
         columns[i].percent = percentages[i];
+        if (i == 0) columns[i].percentEdges = cell.percentEdges;
         columns[i].isFixed = cell.isFixed;
     }
 }
@@ -74,7 +75,7 @@ std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& 
     std::vector<ColumnNeed> needs = needsOfElements(grid);
     std::vector<TableCell const*> spanning;
     for (TableCell const& cell : grid.cells()) {
-        if (cell.columnSpan > 1) {
+        if (cell.isWide) {
             spanning.push_back(&cell);
         } else {
             widen(needs[static_cast<std::size_t>(cell.column)], needOf(cell, frame, wrapping));
@@ -100,7 +101,9 @@ std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& fram
         TableRow const& first = grid.rows().front();
         for (std::size_t i = first.firstCell; i < first.endCell; ++i) {
             TableCell const& cell = grid.cells()[i];
-            ColumnNeed const need = needOf(cell.style->width, frame.cellEdges(*cell.style, 0));
+            int const edges = frame.cellEdges(*cell.style, 0);
+            ColumnNeed need = needOf(cell.style->width, edges);
+            need.percentEdges = edges;
             setFixed(columnsOf(needs, cell), need);
         }
     }

@@ -27,7 +27,9 @@ std::vector<int> inProportion(std::vector<std::int64_t> const& weights, int amou
     parts.reserve(weights.size());
     int rest = amount;
     for (std::int64_t const weight : weights) {
-        parts.push_back(static_cast<int>(amount * weight / sum));
+        // A thousandth of a cell is what percentages are rounded by.
+        std::int64_t const part = (std::int64_t{1000} * amount * weight + sum) / (1000 * sum);
+        parts.push_back(std::min(rest, static_cast<int>(part)));
         rest -= parts.back();
     }
     for (std::size_t i = 0; rest > 0; i = i + 1 == parts.size() ? 0 : i + 1) {
@@ -78,7 +80,7 @@ public:
         }
         auto const isThere = [](std::int64_t amount) { return amount > 0; };
         if (std::any_of(weights.begin(), weights.end(), isThere)) {
-            add(inProportion(weights, rest));
+            addByWeight(weights);
         } else if (std::any_of(counts.begin(), counts.end(), isThere)) {
             add(inProportion(counts, rest));
         }
@@ -87,6 +89,19 @@ public:
     std::vector<int> take() { return std::move(widths); }
 
 private:
+    /// Spends the rest so that widths are in proportion, where none gets narrower by that: what
+    /// rounding took from some before comes back.
+    void addByWeight(std::vector<std::int64_t> const& weights) {
+        int sum = rest;
+        for (std::size_t i = 0; i < widths.size(); ++i) sum += weights[i] > 0 ? widths[i] : 0;
+        std::vector<int> parts = inProportion(weights, sum);
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            parts[i] -= weights[i] > 0 ? widths[i] : 0;
+            if (parts[i] < 0) return add(inProportion(weights, rest));
+        }
+        add(parts);
+    }
+
     void add(std::vector<int> const& parts) {
         for (std::size_t i = 0; i < widths.size(); ++i) {
             widths[i] += parts[i];
@@ -120,7 +135,13 @@ void widenPercentages(std::span<ColumnNeed> columns, int percent) {
 
 void widen(ColumnNeed& column, ColumnNeed const& cell) {
     column.least = std::max(column.least, cell.least);
-    column.most = std::max({column.most, cell.most, column.least});
+    // A fixed width stands for all that cells of its column would like.
+    if (column.isFixed == cell.isFixed) {
+        column.most = std::max(column.most, cell.most);
+    } else if (cell.isFixed) {
+        column.most = cell.most;
+    }
+    column.most = std::max(column.most, column.least);
     column.percent = std::max(column.percent, cell.percent);
     column.isFixed = column.isFixed || cell.isFixed;
 }
@@ -148,12 +169,18 @@ void limitPercentages(std::span<ColumnNeed> columns) {
 
 Widths sumOf(std::span<ColumnNeed const> columns) {
     Widths sum;
+    for (ColumnNeed const& column : columns) {
+        sum.least += column.least;
+        sum.most += column.most;
+    }
+    return sum;
+}
+
+int widthOfPercentages(std::span<ColumnNeed const> columns) {
     std::int64_t widest = 0;
     std::int64_t others = 0;
     std::int64_t left = s_whole;
     for (ColumnNeed const& column : columns) {
-        sum.least += column.least;
-        sum.most += column.most;
         left -= column.percent;
         if (isPercent(column)) {
             widest = std::max(widest, std::int64_t{column.most} * s_whole / column.percent);
@@ -164,15 +191,16 @@ Widths sumOf(std::span<ColumnNeed const> columns) {
     if (left < s_whole && others > 0) {
         widest = std::max(widest, left > 0 ? others * s_whole / left : s_widest);
     }
-    sum.most = std::max(sum.most, static_cast<int>(std::min(widest, s_widest)));
-    return sum;
+    return static_cast<int>(std::min(widest, s_widest));
 }
 
 std::vector<int> shareWidth(std::span<ColumnNeed const> columns, int width) {
     auto const most = [](ColumnNeed const& column) { return column.most; };
     auto const percent = [](ColumnNeed const& column) { return column.percent; };
     Shares shares(columns, width);
-    shares.grow(isPercent, [=](ColumnNeed const& column) { return partOf(width, column.percent); });
+    shares.grow(isPercent, [=](ColumnNeed const& column) {
+        return partOf(width, column.percent) + column.percentEdges;
+    });
     shares.grow(isFixed, most);
     shares.grow(isAutomatic, most);
     shares.spend(isAutomatic, most);

@@ -14,6 +14,8 @@ struct ColumnNeed {
     int most = 0;
     /// Of the width that all columns share; thousandths.
     int percent = 0;
+    /// Cells that come to its percentage.
+    int percentEdges = 0;
     bool isFixed = false;
     /// How many columns of the document it stands for.
     int count = 1;
@@ -31,9 +33,11 @@ void widen(std::span<ColumnNeed> columns, ColumnNeed const& cell);
 /// Cuts the percentages that pass 100 in sum, from the left.
 void limitPercentages(std::span<ColumnNeed> columns);
 
-/// How narrow columns can be in sum, and how wide they would like to be, so that percentages come
-/// true.
+/// How narrow columns can be in sum, and how wide they would like to be.
 Widths sumOf(std::span<ColumnNeed const> columns);
+
+/// How wide columns must be in sum for percentages to come true.
+int widthOfPercentages(std::span<ColumnNeed const> columns);
 
 /// Shares a width among columns. Each has its least first, where that is more in sum, too. Then
 /// percentages, fixed widths and the wishes of the others are met, in this order, as far as there

@@ -24,7 +24,7 @@ public:
             index = i;
             paintItem(paragraph.items()[i]);
         }
-        if (line.hyphenates) row.add("-", 1, paragraph.element(paragraph.items()[last]).look);
+        if (line.hyphenates) addPlain("-", paragraph.element(paragraph.items()[last]));
     }
 
 private:

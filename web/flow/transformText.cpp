@@ -16,9 +16,11 @@ bool isLetterOrNumber(std::int32_t c) {
            (category >= UTF8PROC_CATEGORY_ND && category <= UTF8PROC_CATEGORY_NO);
 }
 
-bool isMark(std::int32_t c) {
+/// What shows no character of its own: a mark, or what only formats.
+bool isWithinWord(std::int32_t c) {
     utf8proc_category_t const category = utf8proc_category(c);
-    return category >= UTF8PROC_CATEGORY_MN && category <= UTF8PROC_CATEGORY_ME;
+    return (category >= UTF8PROC_CATEGORY_MN && category <= UTF8PROC_CATEGORY_ME) ||
+           category == UTF8PROC_CATEGORY_CF || c == '\'' || c == 0x2019;
 }
 
 }  // namespace
@@ -39,7 +41,7 @@ void transformText(std::string& out, std::string_view text, TextTransform transf
         } else if (!isInWord && isLetterOrNumber(c)) {
             mapped = utf8proc_totitle(c);
         }
-        isInWord = isLetterOrNumber(c) || ((isMark(c) || c == '\'' || c == 0x2019) && isInWord);
+        isInWord = isLetterOrNumber(c) || (isWithinWord(c) && isInWord);
         if (mapped == c) {
             out += bytes;
         } else {

@@ -81,10 +81,7 @@ void Grid::touchNewRow(std::int64_t y) {
     bringIntoUse(y);
     if (budget.isExceeded()) return;
     for (; settled + 1 < frames.size(); ++settled) {
-        Frame& frame = frames[settled];
-        std::int64_t const top = frames[settled + 1].top;
-        fillRows(settled, frame.end, top);
-        frame.end = std::max(frame.end, top);
+        fillRows(settled, frames[settled].end, frames[settled + 1].top);
     }
     Frame& innermost = frames.back();
     fillRows(frames.size() - 1, innermost.end, y + 1);

@@ -1,32 +1,9 @@
 // Pages of the dialect as pictures: each row behind a bar, blanks at its end left out.
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "web/renderPage.h"
+#include "tests/web/flow/Pictures.h"
 
 namespace galley::web {
 namespace {
-
-class Picture final : public RowSink {
-public:
-    std::string shown;
-
-    void take(Row const& row) override {
-        shown += "|" + std::string(row.text().substr(0, row.text().find_last_not_of(' ') + 1));
-    }
-};
-
-std::string pageOf(std::string const& markup, unsigned width) {
-    std::vector<Problem> problems;
-    Media media;
-    media.width = width;
-    Picture picture;
-    EXPECT_TRUE(renderPage(markup, {}, media, picture, problems)) << markup;
-    return picture.shown;
-}
 
 struct PageCase {
     char const* markup;
@@ -36,7 +13,7 @@ struct PageCase {
 
 void expectPages(std::vector<PageCase> const& cases) {
     for (PageCase const& each : cases) {
-        EXPECT_EQ(pageOf(each.markup, each.width), each.page)
+        EXPECT_EQ(textOf(each.markup, each.width, "|", ""), each.page)
             << each.markup << " at " << each.width;
     }
 }
@@ -83,9 +60,12 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         {"<p style='overflow-wrap: normal'>abcdefgh ij</p>", 4, "|abcdefgh|ij"},
         {"ab&#173;cd", 3, "|ab-|cd"},
         {"ab&#173;cd", 4, "|abcd"},
+        {"abc&#173;def", 3, "|ab|c-|def"},
         {"a-b ab-cd", 5, "|a-b|ab-cd"},
         {"漢字漢字", 5, "|漢字|漢字"},
         {"<b>漢</b><i>字</i>", 3, "|漢|字"},
+        {"abcd <b style='padding-right: 1ch'>efgh</b>ij", 4, "|abcd|efg|h ij"},
+        {"ab cd<b style='padding-left: 1ch'/>", 2, "|ab|cd"},
         {"ab<wbr/>cd", 3, "|ab|cd"},
         {"aaa <b style='padding-right: 2ch'>bbb</b>", 8, "|aaa|bbb"},
         {"aaa <b style='padding-right: 1ch'>bbb</b>c", 8, "|aaa|bbb c"},
@@ -120,7 +100,15 @@ TEST(Pages, NumberListsAndPutMarkersBeside) {
         {"<ul><li><p>a</p></li><li><ul><li>b</li></ul></li></ul>", 40, "|  • a||  •   ◦ b"},
         {"<ol style='list-style: inside upper-roman'><li>a</li></ol>", 40, "|    I. a"},
         {"<ol style='padding: 0'><li>a b</li></ol>", 9, "|1. a b"},
+        {"<div style='background: red'><ol><li>a</li></ol></div>", 9, "| 1. a"},
     });
+}
+
+TEST(Pages, TransformWordsAcrossElementsAndHyphens) {
+    expectPages({{"<p style='text-transform: capitalize'>ab<b>cd</b> it's e&#173;f (gh)</p>", 40,
+                  "|Abcd It's Ef (Gh)"},
+                 {"<p style='text-transform: uppercase'>stra&#xE9; &#x1C6;</p>", 40, "|STRAÉ Ǆ"},
+                 {"<p style='text-transform: lowercase'>ABC</p>", 40, "|abc"}});
 }
 
 TEST(Pages, PartInlineElementsAroundBlocks) {
@@ -133,6 +121,20 @@ TEST(Pages, HideWhatIsNotVisibleAndKeepItsRoom) {
     expectPages({{"a<b style='visibility: hidden'>bc</b>d", 9, "|a  d"},
                  {"a<hr style='visibility: hidden'/>b", 3, "|a||b"},
                  {"a<b style='display: none'>b</b>c", 9, "|ac"}});
+}
+
+TEST(Pages, AreRefusedWhereTheyWouldBeTooLarge) {
+    for (char const* const markup :
+         {"<div style='padding-top: 900000lh; padding-left: 99ch; background: red'>a</div>",
+          "<div style='border: solid; width: 2000000ch'>a</div>",
+          "<table style='width: 90ch; border: solid'><tr><td style='padding-top: 900000lh'/></tr>"
+          "</table>"}) {
+        TextOfRows rows("", "");
+        std::vector<Problem> problems;
+        EXPECT_FALSE(renderPage(markup, {}, Media(), rows, problems)) << markup;
+        ASSERT_EQ(problems.size(), 1U);
+        EXPECT_EQ(problems[0].message, "Page too large: more than 67108864 cells");
+    }
 }
 
 }  // namespace

@@ -1,0 +1,123 @@
+// Columns of tables as pictures.
+
+#include "tests/web/flow/Pictures.h"
+
+namespace galley::web {
+namespace {
+
+TEST(TableColumns, RunDownTheirCells) {
+    expectPictures({
+
+        {"<table><tr><td>a</td><td>bb</td></tr><tr><td>ccc</td><td>d</td></tr></table>", 30, R"(
+ a    bb
+ ccc  d
+)"},
+
+        {"<table><tr><td colspan='2'>spanning</td><td>x</td></tr><tr><td>a</td><td>b</td><td>y"
+         "</td></tr></table>",
+         30, R"(
+ spanning  x
+ a    b    y
+)"},
+
+        {"<table><tr><td colspan='3'>alone</td></tr><tr><td>a</td></tr></table>", 30, R"(
+ alone
+ a
+)"},
+
+        {"<table><tr><td colspan='2' style='width: 3ch'>one two</td></tr><tr><td colspan='2'>t"
+         "hree four</td></tr></table>",
+         30, R"(
+ one two
+ three four
+)"},
+
+        {"<table><tr><td rowspan='2'>a</td><td>b</td></tr><tr><td>c</td></tr></table>", 30, R"(
+ a  b
+    c
+)"},
+
+        {"<table><tr><td rowspan='0'>a</td><td>b</td></tr><tr><td>c</td></tr><tbody><tr><td>d<"
+         "/td></tr></tbody></table>",
+         30, R"(
+ a  b
+    c
+ d
+)"},
+
+        {"<table><tr><td>a</td><td rowspan='2'>b</td></tr><tr><td colspan='2'>over it</td></tr"
+         "></table>",
+         30, R"(
+ a    b
+ over it
+)"},
+
+    });
+}
+
+TEST(TableColumns, ShareTheWidth) {
+    expectPictures({
+
+        {"<table style='width: 20ch'><tr><td>a</td><td>bbb</td></tr></table>", 30, R"(
+ a       bbb
+)"},
+
+        {"<table style='width: 100%'><tr><td style='width: 25%'>a</td><td>b</td></tr></table>", 16,
+         R"(
+ a   b
+)"},
+
+        {"<table><tr><td style='width: 6ch'>a</td><td>one two three</td></tr></table>", 18, R"(
+ a       one two
+         three
+)"},
+
+        {"<table style='width: 100%'><colgroup><col style='width: 4ch'/></colgroup><tr><td>a</"
+         "td><td>b</td></tr></table>",
+         16, R"(
+ a   b
+)"},
+
+        {"<table style='table-layout: fixed; width: 16ch'><tr><td style='width: 2ch'>abc</td><"
+         "td>d</td><td>e</td></tr></table>",
+         30, R"(
+ ab  d     e
+ c
+)"},
+
+    });
+}
+
+TEST(TableColumns, PartWordsOnlyWhereTheTableDoesNotFit) {
+    expectPictures({
+
+        {"<table><tr><td>abcdef</td><td>gh ijklm</td></tr></table>", 15, R"(
+ abcdef  gh
+         ijklm
+)"},
+
+        {"<table><tr><td>abcdef</td><td>gh ijklm</td></tr></table>", 14, R"(
+ abcde  gh
+ f      ijklm
+)"},
+
+        {"<table><tr><td>abcdef</td><td><table><tr><td>gh</td><td>ijkl</td></tr></table></td><"
+         "/tr></table>",
+         12, R"(
+ ab   g  i
+ cd   h  j
+ ef      k
+         l
+)"},
+
+        {"<table><tr><td style='white-space: nowrap'>abc def</td><td>ghi</td></tr></table>", 8, R"(
+ abc def  g
+          h
+          i
+)"},
+
+    });
+}
+
+}  // namespace
+}  // namespace galley::web

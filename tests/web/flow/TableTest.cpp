@@ -1,0 +1,164 @@
+// Parts, edges and rows of tables as pictures.
+
+#include "tests/web/flow/Pictures.h"
+
+namespace galley::web {
+namespace {
+
+TEST(Tables, BringTheirHeadFirstAndTheirFootLast) {
+    expectPictures({
+
+        {"<table><tfoot><tr><td>foot</td></tr></tfoot><tbody><tr><td>body</td></tr></tbody><th"
+         "ead><tr><td>head</td></tr></thead><thead><tr><td>more</td></tr></thead></table>",
+         30, R"(
+ head
+ body
+ more
+ foot
+)"},
+
+    });
+}
+
+TEST(Tables, GetThePartsThatAreNotThere) {
+    expectPictures({
+
+        {"<table>x<td>a</td><tr>b<td>c</td></tr></table>", 30, R"(
+x a
+b c
+)"},
+
+        {"y<td>a</td><td>b</td>z", 30, R"(
+y
+ a  b
+z
+)"},
+
+        {"<div style='border: solid; width: 6ch'><tr><td>a</td></tr> <tr><td>b</td></tr></div>", 30,
+         R"(
+┌──────┐
+│ a    │
+│ b    │
+└──────┘
+)"},
+
+        {"<table/>x<table><tr/></table>y", 30, R"(
+x
+y
+)"},
+
+    });
+}
+
+TEST(Tables, HaveEdges) {
+    expectPictures({
+
+        {"<table style='border: double; padding: 0 1ch; margin: 0 auto'><tr><td style='border:"
+         " solid'>a</td><td style='border: dashed'/></tr></table>",
+         20, R"(
+   ╔═══════════╗
+   ║ ┌───┐┌╌╌┐ ║
+   ║ │ a │╎  ╎ ║
+   ║ └───┘└╌╌┘ ║
+   ╚═══════════╝
+)"},
+
+        {"<table style='border: solid; border-spacing: 2ch 1lh'><tr><td>a</td><td>b</td></tr><"
+         "/table>",
+         20, R"(
+┌────────────┐
+│            │
+│   a    b   │
+│            │
+└────────────┘
+)"},
+
+        {"<table style='margin-left: auto'><tr><td>a</td></tr></table>", 8, R"(
+      a
+)"},
+
+    });
+}
+
+TEST(Tables, HaveCaptions) {
+    expectPictures({
+
+        {"<table><caption>two words</caption><tr><td>abcdef</td></tr></table>", 20, R"(
+  two
+ words
+ abcdef
+)"},
+
+        {"<table style='border: solid; caption-side: bottom'><caption>longword</caption><tr><t"
+         "d>a</td></tr></table>",
+         20, R"(
+┌──────┐
+│ a    │
+└──────┘
+longword
+)"},
+
+    });
+}
+
+TEST(TableRows, AreAsHighAsTheirCells) {
+    expectPictures({
+
+        {"<table><tr><td>a<br/>b<br/>c</td><td style='vertical-align: middle'>m</td><td style="
+         "'vertical-align: bottom'>e</td></tr></table>",
+         20, R"(
+ a
+ b  m
+ c     e
+)"},
+
+        {"<table><tr><td rowspan='2'>a<br/>b<br/>c<br/>d</td><td style='border: solid'>x</td><"
+         "/tr><tr><td>y</td></tr></table>",
+         20, R"(
+ a ┌───┐
+ b │ x │
+ c └───┘
+ d  y
+)"},
+
+        {"<table><tr style='vertical-align: baseline'><td style='padding-top: 1lh'>a</td><td>b"
+         "</td></tr></table>",
+         20, R"(
+
+ a  b
+)"},
+
+        {"<table><tr><td>a<p>b</p></td><td><p>c</p></td></tr></table>", 20, R"(
+ a
+    c
+ b
+
+)"},
+
+    });
+}
+
+TEST(TableRows, LayWhatSticksOutOverWhatIsToTheRight) {
+    expectPictures({
+
+        {"<table style='table-layout: fixed; width: 12ch'><tr><td style='padding: 0; border-ri"
+         "ght: solid'><div style='white-space: nowrap'>abcdefgh</div></td><td style='padding: "
+         "0; border: solid'><br/>xy</td></tr></table>",
+         20, R"(
+abcdefgh───┐
+     ││    │
+     ││xy  │
+     │└────┘
+)"},
+
+        {"<table style='table-layout: fixed; width: 12ch'><tr><td style='padding: 0; white-spa"
+         "ce: nowrap'>abcdefgh</td><td style='padding: 0'>xy</td></tr></table>",
+         20, R"(
+abcdefxy
+)"},
+
+    });
+}
+
+}  // namespace
+}  // namespace galley::web
