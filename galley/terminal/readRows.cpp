@@ -54,7 +54,10 @@ std::size_t textLength(std::string_view page) {
 
 int countCharacters(std::string_view text) {
     int count = 0;
-    for (std::size_t i = 0; i < text.length(); i += lengthAt(text, i)) ++count;
+    for (std::size_t i = 0; i < text.length(); ++count) {
+        bool const isAscii = static_cast<unsigned char>(text[i]) < 0x80;
+        i += isAscii ? 1 : lengthAt(text, i);
+    }
     return count;
 }
 
