@@ -49,8 +49,8 @@ private:
     };
 
     struct OpenElement {
-        Role role;
-        Style const* style;
+        Role role = Role::hidden;
+        Style const* style = nullptr;
         /// It numbers the list items in it, and has the number of the next one.
         ///@{
         bool isList = false;

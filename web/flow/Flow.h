@@ -22,9 +22,9 @@ public:
 
     /// Of so many columns on a background. The sink and the budget outlive it.
     Flow(RowSink& rows, PageBudget& cells, int columns, Colour background, OuterMargins outer,
-         Wrapping wrapping = Wrapping::asStyled);
+         Wrapping wrapped = Wrapping::asStyled);
 
-    void open(Style const& block, OutsideMarker marker) override;
+    void open(Style const& style, OutsideMarker marker) override;
     void close() override;
     void add(Paragraph&& paragraph) override { addLines(paragraph); }
     void add(std::unique_ptr<Table> table) override;
@@ -36,17 +36,17 @@ public:
 private:
     /// A block that is open. Columns are counted from the left of the container.
     struct Block {
-        Style const* style;
+        Style const* style = nullptr;
         OutsideMarker marker;
         /// Of the border box.
-        int left;
-        int right;
+        int left = 0;
+        int right = 0;
         /// Of the content box.
-        int contentLeft;
-        int contentWidth;
+        int contentLeft = 0;
+        int contentWidth = 0;
         Colour around;
         Colour background;
-        bool hasStarted;
+        bool hasStarted = false;
         /// Only text that comes first is indented.
         bool hasContent = false;
     };

@@ -44,7 +44,7 @@ struct Item {
         breakable,  ///< A line may break here.
     };
 
-    Kind kind;
+    Kind kind = Kind::blank;
     /// Of a word: it is printed as it is, a cell a byte.
     bool isPlain = true;
     /// A line may break behind a word, or where `white-space` says otherwise, and whether that then
@@ -73,7 +73,7 @@ public:
     /// Adds text of the innermost element.
     void addText(std::string_view decoded);
     /// Adds text that is not from the document: its letters stay as they are.
-    void addGenerated(std::string_view printed);
+    void addGenerated(std::string_view decoded);
     /// Ends the line, whatever white space means here.
     void addLineFeed();
     /// Lets a line break here.

@@ -21,7 +21,8 @@ std::string alphabetic(int number, std::string_view first, int letters, int byte
     for (; number > 0; number = (number - 1) / letters) {
         int const letter = (number - 1) % letters;
         std::string_view const known =
-            first.substr(static_cast<std::size_t>(letter * bytes), static_cast<std::size_t>(bytes));
+            first.substr(static_cast<std::size_t>(letter) * static_cast<std::size_t>(bytes),
+                         static_cast<std::size_t>(bytes));
         text.insert(0, known);
     }
     return text;
