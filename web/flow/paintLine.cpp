@@ -55,25 +55,18 @@ private:
     }
 
     void countGaps() {
-        for (std::uint32_t i = line.begin.item; i < endItem(); ++i) {
+        bool isBehindText = false;
+        for (std::uint32_t i = line.begin.item; hasText && i <= last; ++i) {
             index = i;
             Item const& item = paragraph.items()[i];
             if (item.kind == Item::Kind::words) {
                 std::string_view const text = textOf(item);
                 gaps += static_cast<int>(std::count(text.begin(), text.end(), ' '));
-            } else if (item.kind == Item::Kind::blank && isInside(i)) {
+            } else if (item.kind == Item::Kind::blank && isBehindText) {
                 ++gaps;
             }
+            isBehindText = isBehindText || isText(item);
         }
-    }
-
-    /// Whether a blank is between texts of the line.
-    bool isInside(std::uint32_t item) const { return hasText && item < last && hasBegun(item); }
-    bool hasBegun(std::uint32_t item) const {
-        for (std::uint32_t i = line.begin.item; i < item; ++i) {
-            if (isText(paragraph.items()[i])) return true;
-        }
-        return false;
     }
 
     void paintItem(Item const& item) {
