@@ -40,15 +40,19 @@ Diagnostic tell(Problem& problem, std::string_view name, Places& places) {
 
 /// What was found, in the order of the source, with its places as a person names them.
 std::vector<Diagnostic> diagnose(std::vector<Problem> problems, Source const& source) {
-    std::stable_sort(problems.begin(), problems.end(), [](Problem const& a, Problem const& b) {
-        return a.kind != Problem::Kind::note && b.kind != Problem::Kind::note &&
-               a.offset < b.offset;
-    });
+    // A note stays behind what it belongs to, wherever its own place is.
+    std::vector<std::pair<std::size_t, Problem*>> ordered;
+    for (Problem& problem : problems) {
+        bool const isNote = problem.kind == Problem::Kind::note && !ordered.empty();
+        ordered.emplace_back(isNote ? ordered.back().first : problem.offset, &problem);
+    }
+    std::stable_sort(ordered.begin(), ordered.end(),
+                     [](auto const& a, auto const& b) { return a.first < b.first; });
     Places places(source.text);
     std::vector<Diagnostic> diagnostics;
-    for (Problem& problem : problems) {
-        Diagnostic told = tell(problem, source.name, places);
-        if (problem.kind == Problem::Kind::note && !diagnostics.empty()) {
+    for (auto const& [offset, problem] : ordered) {
+        Diagnostic told = tell(*problem, source.name, places);
+        if (problem->kind == Problem::Kind::note && !diagnostics.empty()) {
             diagnostics.back().addNote(std::move(told));
         } else {
             diagnostics.push_back(std::move(told));
