@@ -36,6 +36,9 @@ bool mayFollow(std::string_view address) {
 
 bool isTablePart(Display display) { return display > Display::table; }
 
+/// In cells; a wider one shows no more.
+constexpr unsigned s_widestPage = 1'000'000;
+
 constexpr Limits s_numbers = {std::numeric_limits<int>::min(), 1'000'000'000};
 
 }  // namespace
@@ -47,7 +50,8 @@ PageBuilder::PageBuilder(Sheet const& defaults, std::span<Sheet const* const> au
       sheets(authors.begin(), authors.end()),
       media(shownOn),
       problems(found),
-      page(rows, cells, static_cast<int>(shownOn.width), {}, Flow::OuterMargins::dropped) {}
+      page(rows, cells, static_cast<int>(std::min(shownOn.width, s_widestPage)), {},
+           Flow::OuterMargins::dropped) {}
 
 void PageBuilder::styleSheet(EmbeddedSheet const& sheet) {
     std::string text(sheet.text());

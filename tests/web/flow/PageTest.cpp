@@ -123,6 +123,13 @@ TEST(Pages, HideWhatIsNotVisibleAndKeepItsRoom) {
                  {"a<b style='display: none'>b</b>c", 9, "|ac"}});
 }
 
+TEST(Pages, MayBeOfferedAnyWidth) {
+    for (unsigned const width : {1'000'000U, 2'147'483'648U, 4'294'967'295U}) {
+        EXPECT_EQ(textOf("<p>a b</p>", width, "|", ""), "|a b");
+        EXPECT_EQ(textOf("<hr/>", width, "|", "").size(), 1 + 3 * 1'000'000U);
+    }
+}
+
 TEST(Pages, AreRefusedWhereTheyWouldBeTooLarge) {
     for (char const* const markup :
          {"<div style='padding-top: 900000lh; padding-left: 99ch; background: red'>a</div>",
