@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-
 #include "tests/web/css/Tree.h"
 #include "tests/web/css/describe.h"
 #include "web/css/parseSelectors.h"
