@@ -5,6 +5,7 @@
 #include <cctype>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <map>
 #include <string_view>
 #include <utility>
@@ -32,13 +33,11 @@ public:
     bool isPlain(char c) const { return kindOf(c) == Plain; }
     bool isOfWord(char c) const { return kindOf(c) >= Plain; }
 
-    /// From the beginning of a word on to that of a later one, over words without references
-    /// between which there is one space: many bytes at a time.
+    /// Passes over words without references between which there is one space, many bytes at a time.
+    /// May end anywhere in a word.
     char* skipPlainWords(char* next, char const* end) const {
         if (hasHighSpace) return next;
-        char* const first = next;
-        while (end - next > s_block && isPlainBlock(next)) next += s_block;
-        while (next > first && next[-1] != ' ') --next;
+        while (end - next > s_blockSize && isPlainBlock(next)) next += s_blockSize;
         return next;
     }
 
@@ -47,18 +46,20 @@ private:
 
     Kind kindOf(char c) const { return kinds[static_cast<unsigned char>(c)]; }
 
-    static constexpr std::ptrdiff_t s_block = 16;
+    static constexpr std::ptrdiff_t s_blockSize = 16;
+    /// Numbers that one instruction compares.
+    using Block [[gnu::vector_size(s_blockSize)]] = unsigned char;
 
-    /// Whether nothing in a block, and the byte behind it, has to be looked at. A loop of a fixed
-    /// length over plain numbers becomes vector instructions.
-    static bool isPlainBlock(char const* block) {
-        unsigned char found = 0;
-        for (std::ptrdiff_t i = 0; i < s_block; ++i) {
-            auto const byte = static_cast<unsigned char>(block[i]);
-            auto const behind = static_cast<unsigned char>(block[i + 1]);
-            found |= (byte < ' ') | (byte == '&') | ((byte == ' ') & (behind <= ' '));
-        }
-        return found == 0;
+    /// Whether nothing in a block, and the byte behind it, has to be looked at.
+    static bool isPlainBlock(char const* bytes) {
+        Block shown;
+        Block behind;
+        std::memcpy(&shown, bytes, sizeof shown);
+        std::memcpy(&behind, bytes + 1, sizeof behind);
+        auto const found = (shown < ' ') | (shown == '&') | ((shown == ' ') & (behind <= ' '));
+        std::array<std::uint64_t, 2> halves{};
+        std::memcpy(halves.data(), &found, sizeof found);
+        return (halves[0] | halves[1]) == 0;
     }
 
     std::array<Kind, 256> kinds{};
@@ -155,13 +156,14 @@ private:
         char* next = first;
         while (*next != '\0') {
             next = bytes.skipPlainWords(next, end);
-            char* const word = next;
             while (bytes.isPlain(*next)) ++next;
             if (bytes.isSpace(*next)) {
                 *next++ = ' ';
                 if (*next == '\0' || !bytes.isSpace(*next)) continue;
                 passOn(first, next);
             } else if (*next == '&') {
+                char* word = next;
+                while (word > first && word[-1] != ' ') --word;
                 passOn(first, word);
                 next = addDecoded(word);
             } else {

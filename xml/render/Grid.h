@@ -53,7 +53,7 @@ public:
     std::int64_t originRow() const { return frames.back().y; }
     /// Appends all rows to `text`, with escape sequences between cells that look different, and
     /// forgets them. False where there is no memory for the text.
-    bool moveRowsTo(String& text) { return moveRows(text, endOfRows()); }
+    bool moveRowsTo(String& text);
     /// The same for the rows above row `end` of the page, where nothing will be drawn any more, if
     /// there are some. Rows that are not in use in the innermost frame stay.
     bool moveRowsTo(String& text, std::int64_t end);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/hugePages.h"
+#include "base/saturate.h"
 #include "xml/render/Grid.h"
 
 namespace CLI::XML {
@@ -83,6 +84,14 @@ void Grid::setLooks(Row& target, std::size_t begin, std::size_t end, Attributes 
     std::size_t const known = std::min(looks.size(), end);
     if (known > begin) std::fill(&looks[begin], &looks[known - 1] + 1, attributes);
     looks.insert(looks.end(), end - known, attributes);
+}
+
+bool Grid::moveRowsTo(String& text) {
+    // Where they are many, the text is not copied again and again while they are added to it.
+    std::int64_t length = text.length();
+    for (std::int64_t y = firstRow; y < endOfRows(); ++y) length += row(y).length + 1;
+    text.reserve(saturate(length));
+    return moveRows(text, endOfRows());
 }
 
 bool Grid::moveRowsTo(String& text, std::int64_t end) {
