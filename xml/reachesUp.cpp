@@ -24,10 +24,12 @@ bool isEdge(std::string_view property) {
     return std::find(std::begin(s_edges), std::end(s_edges), property) != std::end(s_edges);
 }
 
-/// Whether a number that is read from the value may be negative: a reference may stand for the
-/// sign.
-bool mayBeNegative(std::string_view value) {
-    return value.find_first_of("-&") != std::string_view::npos;
+/// Whether a number that is read from the value may be negative, since a reference may stand for
+/// the sign, or so large that the place below it is cut off at the limit of geometry: what is drawn
+/// above that place then comes to lie too high. A page has fewer than 268,435,456 rows.
+bool mayReachUp(std::string_view value) {
+    constexpr std::size_t s_digitsOfLarge = 9;
+    return value.length() >= s_digitsOfLarge || value.find_first_of("-&") != std::string_view::npos;
 }
 
 /// The name of an attribute, or what stands there of a text, that ends before `end`.
@@ -37,14 +39,14 @@ std::string_view nameBefore(std::string_view markup, std::size_t end) {
     return markup.substr(start, end - start);
 }
 
-bool mayHaveNegativeEdge(std::string_view markup) {
+bool hasReachingEdge(std::string_view markup) {
     // Any quotation mark may begin a value, since some stand in texts and comments: the one that
     // ends a value is looked at again.
     for (std::size_t quote = markup.find('"'); quote != std::string_view::npos;) {
         std::size_t const end = markup.find('"', quote + 1);
         bool const beginsValue = quote > 0 && markup[quote - 1] == '=';
-        // Few values are negative, and a name takes longer to find.
-        if (beginsValue && mayBeNegative(markup.substr(quote + 1, end - quote - 1)) &&
+        // Few values may, and a name takes longer to find.
+        if (beginsValue && mayReachUp(markup.substr(quote + 1, end - quote - 1)) &&
             isEdge(nameBefore(markup, quote - 1))) {
             return true;
         }
@@ -53,10 +55,10 @@ bool mayHaveNegativeEdge(std::string_view markup) {
     return false;
 }
 
-bool mayHaveNegativeEdge(StyleNode const& rule) {
+bool hasReachingEdge(StyleNode const& rule) {
     auto const& head = rule.declarations.head;
     for (auto const* entry = head.prev; entry != &head; entry = entry->prev) {
-        if (isEdge(entry->key.view()) && mayBeNegative(entry->value.view())) return true;
+        if (isEdge(entry->key.view()) && mayReachUp(entry->value.view())) return true;
     }
     return false;
 }
@@ -65,9 +67,9 @@ bool mayHaveNegativeEdge(StyleNode const& rule) {
 
 bool mayReachUp(String const& xml, StyleList const& styles) {
     for (ZRLWPtr<StyleNode> const& rule : styles) {
-        if (mayHaveNegativeEdge(*rule)) return true;
+        if (hasReachingEdge(*rule)) return true;
     }
-    return mayHaveNegativeEdge(xml.view());
+    return hasReachingEdge(xml.view());
 }
 
 }  // namespace CLI::XML

@@ -106,6 +106,14 @@ TEST(Streaming, MakesThePageOfTheWholeTreesOfALongText) {
     }
 }
 
+// The place of its content is cut off, so that the border lies above what was done long before.
+TEST(Streaming, MakesThePageOfTheWholeTreesBelowAHugeBorder) {
+    std::string markup;
+    for (int i = 0; i < 100; ++i) markup += "<p>a</p>";
+    expectSamePage(
+        markup + "<table border-top-width=\"2147483647\"><tr padding-left=\"3\"/></table>", "", 80);
+}
+
 TEST(Streaming, MakesThePageOfTheWholeTreesOfElementsInOneAnother) {
     static constexpr char const* s_tags[] = {"<b>",
                                              "<i>",
