@@ -144,6 +144,11 @@ void Paragraph::addGenerated(std::string_view decoded) {
             std::string_view const words = reader.takeWords();
             if (!words.empty()) addWords(words);
         }
+        if (style().whiteSpace == WhiteSpace::pre) {
+            addUnbroken(reader.takeUnbroken());
+        } else if (style().whiteSpace != WhiteSpace::nowrap) {
+            addIdeographs(reader.takeIdeographs());
+        }
         if (!reader.next(segment)) return;
         bool const isWord = isWrapped && segment.isPlain && segment.end > segment.begin &&
                             segment.behind == Segment::Behind::space;
@@ -190,6 +195,21 @@ void Paragraph::addWords(std::string_view words) {
     contentEnd = all.size();
     text += words;
     all.back().end = static_cast<std::uint32_t>(text.size());
+}
+
+void Paragraph::addIdeographs(std::string_view ideographs) {
+    if (ideographs.empty()) return;
+    isBehindBlank = false;
+    Item& added = add(Item::Kind::ideographs);
+    contentEnd = all.size();
+    text += ideographs;
+    added.end = static_cast<std::uint32_t>(text.size());
+}
+
+/// Adds blanks that count and words as one word.
+void Paragraph::addUnbroken(std::string_view bytes) {
+    if (bytes.empty()) return;
+    addWord(bytes, {.width = bytes.size()});
 }
 
 void Paragraph::addWord(std::string_view bytes, Segment const& segment) {

@@ -33,12 +33,13 @@ struct Inline {
 /// A part of a paragraph.
 struct Item {
     enum class Kind : std::uint8_t {
-        words,     ///< Plain ASCII, each word with one blank behind it, where a line may break.
-        word,      ///< No line breaks in it unless it has to.
-        blank,     ///< Of collapsed white space, which nothing shows of at either end of a line.
-        blanks,    ///< That count.
-        tab,       ///< That counts.
-        lineFeed,  ///< The line ends here.
+        words,       ///< Plain ASCII, each word with one blank behind it, where a line may break.
+        ideographs,  ///< Three bytes and two cells each, a line may break behind each.
+        word,        ///< No line breaks in it unless it has to.
+        blank,       ///< Of collapsed white space, which nothing shows of at either end of a line.
+        blanks,      ///< That count.
+        tab,         ///< That counts.
+        lineFeed,    ///< The line ends here.
         open,
         close,
         breakable,  ///< A line may break here.
@@ -98,6 +99,8 @@ private:
     void joinTo(std::string_view decoded);
     void addWord(std::string_view bytes, Segment const& segment);
     void addWords(std::string_view words);
+    void addIdeographs(std::string_view ideographs);
+    void addUnbroken(std::string_view bytes);
     void addBehind(Segment const& segment);
     void addBlank();
     Item& add(Item::Kind kind);

@@ -71,6 +71,16 @@ public:
     /// filled by a search for a blank, from behind.
     std::string_view takeWords();
 
+    /// Takes what comes next as far as it is ideographs, kana and syllables of Hangul, each of
+    /// three bytes and two cells, with an opportunity behind each. Empty where none comes, and
+    /// where `word-break` keeps them together.
+    std::string_view takeIdeographs();
+
+    /// Takes what comes next as far as it is blanks and printable ASCII, which makes up most of a
+    /// text that is preserved, and where no line breaks. Not before a character that could join the
+    /// last of them.
+    std::string_view takeUnbroken();
+
 private:
     bool readAscii(Segment& segment) const;
     void readClusters(Segment& segment);
