@@ -220,6 +220,7 @@ void Paragraph::addWord(std::string_view bytes, Segment const& segment) {
     word.end = static_cast<std::uint32_t>(text.size());
     word.width = static_cast<std::uint32_t>(segment.width);
     word.isPlain = segment.isPlain;
+    word.isPrintedAsIs = segment.isPrintedAsIs;
     word.hyphenates = segment.behind == Segment::Behind::softHyphen;
     word.mayBreakBehind = word.hyphenates || segment.behind == Segment::Behind::opportunity;
 }

@@ -48,6 +48,8 @@ struct Item {
     Kind kind = Kind::blank;
     /// Of a word: it is printed as it is, a cell a byte.
     bool isPlain = true;
+    /// Likewise, but its cells are to be counted.
+    bool isPrintedAsIs = true;
     /// A line may break behind a word, or where `white-space` says otherwise, and whether that then
     /// shows a hyphen.
     ///@{

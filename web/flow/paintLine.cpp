@@ -153,9 +153,11 @@ private:
         std::string_view const text = textOf(item);
         if (item.isPlain) return addPlain(text, element);
         bool const isWhole = text.size() == item.end - item.begin;
+        int const cells = isWhole ? static_cast<int>(item.width) : countCells(text);
+        if (item.isPrintedAsIs) return add(text, cells, element);
         printed.clear();
         appendPrinted(printed, text);
-        add(printed, isWhole ? static_cast<int>(item.width) : countCells(text), element);
+        add(printed, cells, element);
     }
 
     void paintLeftEdge(Inline const& element) {

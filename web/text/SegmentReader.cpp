@@ -123,6 +123,7 @@ void SegmentReader::readClusters(Segment& segment) {
     Cluster cluster = goesOn ? following : startWord();
     while (cluster.begin < wordEnd) {
         segment.width += cluster.width;
+        segment.isPrintedAsIs = segment.isPrintedAsIs && cluster.isPrintedAsIs;
         take(cluster);
         if (cluster.end == wordEnd) break;
         following = clusterAt(text.substr(0, wordEnd), cluster.end, options.isAmbiguousWide);

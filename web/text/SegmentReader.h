@@ -47,6 +47,8 @@ struct Segment {
     /// Printable ASCII: a cell a byte, printed as it is. Else `clusterAt`, given the text up to
     /// `end`, goes through it, and `appendPrinted` prints it.
     bool isPlain = true;
+    /// `appendPrinted` appends just the bytes, as of all that is plain.
+    bool isPrintedAsIs = true;
 };
 
 /// Reads one text node, its references decoded, in segments: one pass, at a bounded cost a byte,
