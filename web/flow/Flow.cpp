@@ -40,8 +40,10 @@ void Flow::open(Style const& style, OutsideMarker marker) {
                       .contentLeft = left + edge,
                       .contentWidth = place.width,
                       .around = background(),
-                      .background = backgroundOf(style, background()),
-                      .hasStarted = false});
+                      .background = backgroundOf(style, background())});
+    Block& block = blocks.back();
+    block.hasShownEdges = style.border.left.isThere() || style.border.right.isThere() ||
+                          isShown(block.around) || isShown(block.background);
     int const padding = down(style.padding.top, container);
     if (!style.border.top.isThere() && padding == 0) return;
     start();
@@ -146,6 +148,7 @@ void Flow::addLeftEdges(std::size_t count, bool isContent) {
         Block& block = blocks[i];
         if (!block.hasStarted) break;
         if (isContent && !block.marker.text.empty()) addMarker(block);
+        if (!block.hasShownEdges) continue;
         // The next block's marker stands before it, on what is around that.
         bool const isBeforeMarker =
             isContent && i + 1 < count && !blocks[i + 1].marker.text.empty();
@@ -190,7 +193,7 @@ void Flow::handOn() {
 void Flow::addRightEdges(std::size_t count) {
     for (std::size_t i = count; i-- > 0;) {
         Block const& block = blocks[i];
-        if (!block.hasStarted) continue;
+        if (!block.hasStarted || !block.hasShownEdges) continue;
         Border const& border = block.style->border.right;
         int const column = block.right - (border.isThere() ? 1 : 0);
         if (border.isThere() || isShown(block.background)) {

@@ -46,6 +46,8 @@ private:
         int contentWidth = 0;
         Colour around;
         Colour background;
+        /// Whether cells on its left or its right are more than the terminal's own blanks.
+        bool hasShownEdges = false;
         bool hasStarted = false;
         /// Only text that comes first is indented.
         bool hasContent = false;
