@@ -14,6 +14,19 @@ namespace {
 
 bool isShown(Colour background) { return background.kind != Colour::Kind::terminal; }
 
+/// Hands the rows of a table on to what is around it.
+class RowsOfTable final : public TableSink {
+public:
+    explicit RowsOfTable(Flow& around) : flow(around) {}
+
+    void begin(int tableLeft) override { left = tableLeft; }
+    void take(Row const& row) override { flow.addTableRow(row.view(), left); }
+
+private:
+    Flow& flow;
+    int left = 0;
+};
+
 }  // namespace
 
 Flow::Flow(RowSink& rows, PageBudget& cells, int columns, Colour background, OuterMargins outer,
@@ -72,7 +85,7 @@ void Flow::close() {
     pending = std::max(pending, down(style.margin.bottom, container));
 }
 
-void Flow::addLines(Paragraph const& paragraph) {
+void Flow::add(Paragraph const& paragraph) {
     int const container = columns();
     LineBreaker breaker(paragraph, container, LineBreaker::Purpose::layingOut, wrapping);
     Style const& style = paragraph.block();
@@ -101,21 +114,31 @@ void Flow::add(std::unique_ptr<Table> table) {
     (blocks.empty() ? hasOwnContent : blocks.back().hasContent) = true;
     Style const& style = table->style();
     pending = std::max(pending, down(style.margin.top, container));
-    TableRows const made = table->layOut(container, wrapping, budget);
     // Margins do not collapse through a table, even one without rows.
     start();
     hasRows = true;
-    for (Row const& tableRow : made.rows) {
-        beginRow();
-        row.fill(contentLeft() + made.left, blankOn(background()));
-        row.add(tableRow);
-        endRow();
-    }
+    RowsOfTable rows(*this);
+    table->layOut(container, wrapping, rows, budget);
     pending = std::max(pending, down(style.margin.bottom, container));
 }
 
+void Flow::addTableRow(RowView const& tableRow, int left) {
+    beginRow();
+    row.fill(contentLeft() + left, blankOn(background()));
+    row.add(tableRow);
+    endRow();
+}
+
 void Flow::finish() {
-    if (!dropsMargins) addBlanks(std::exchange(pending, 0));
+    if (!dropsMargins) addBlanks(pending);
+    pending = 0;
+}
+
+void Flow::restart(int columns, Colour newGround, Wrapping wrapped) {
+    width = columns;
+    ground = newGround;
+    wrapping = wrapped;
+    hasRows = hasOwnContent = false;
 }
 
 /// Makes the rows of the margin that waits. From now on rows are those of all open blocks.

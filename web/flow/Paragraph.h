@@ -95,9 +95,12 @@ public:
     std::string_view textOf(Item const& item) const {
         return std::string_view(text).substr(item.begin, item.end - item.begin);
     }
-    std::size_t depth() const { return openElements.size(); }
+    /// Whether an inline element is.
+    bool hasOpen() const { return current > 0; }
 
 private:
+    friend class PackedParagraph;
+
     void joinTo(std::string_view decoded);
     void addWord(std::string_view bytes, Segment const& segment);
     void addWords(std::string_view words);
@@ -111,7 +114,6 @@ private:
     std::string text;
     std::vector<Item> all;
     std::vector<Inline> elements;
-    std::vector<std::uint32_t> openElements;
     /// The innermost one that is open.
     std::uint32_t current = 0;
     /// White space that comes now is no more than what is there: behind a blank, or at the start of
@@ -120,8 +122,6 @@ private:
     std::size_t contentEnd = 0;
     /// A letter that comes now goes on with a word.
     bool isInWord = false;
-    std::string transformed;
-    std::string joint;
 };
 
 }  // namespace galley::web
