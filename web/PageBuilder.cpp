@@ -281,6 +281,7 @@ void PageBuilder::letGo() {
     if (!tables.empty() || frame().paragraph.hasOpen()) return;
     links.clear();
     anonymousStyles.clear();
+    if (!cascade->isFull()) return;
     std::vector<Style const*> inUse = {html.style, body.style};
     for (OpenElement const& each : open) inUse.push_back(each.style);
     cascade->letGo(inUse);
