@@ -267,20 +267,21 @@ void PageBuilder::pop() { --depth; }
 /// Hands on what has been read since the last block. Inline elements that are open go on behind it.
 void PageBuilder::endParagraph() {
     Frame& current = frame();
-    if (current.paragraph.depth() > 0) {
+    if (current.paragraph.hasOpen()) {
         current.paragraph.partInto(done);
-        if (!done.isEmpty()) current.sink->add(std::move(done));
+        if (!done.isEmpty()) current.sink->add(done);
         return;
     }
-    if (!current.paragraph.isEmpty()) current.sink->add(std::move(current.paragraph));
+    if (!current.paragraph.isEmpty()) current.sink->add(current.paragraph);
     current.paragraph.begin(*current.style, current.background);
 }
 
 /// Where nothing of the document waits any more but what is open, drops the rest.
 void PageBuilder::letGo() {
-    if (!tables.empty() || frame().paragraph.depth() > 0) return;
+    if (!tables.empty() || frame().paragraph.hasOpen()) return;
     links.clear();
     anonymousStyles.clear();
+    if (!cascade->isFull()) return;
     std::vector<Style const*> inUse = {html.style, body.style};
     for (OpenElement const& each : open) inUse.push_back(each.style);
     cascade->letGo(inUse);

@@ -20,7 +20,10 @@ std::string shortened(std::string_view text) {
     return std::string(text.substr(0, length)) + "...";
 }
 
-std::string quoted(std::string_view text) { return "'" + shortened(text) + "'"; }
+std::string quoted(std::string_view text) {
+    std::string quote = "'";
+    return quote.append(shortened(text)).append("'");
+}
 
 void warn(std::vector<Problem>& problems, std::size_t offset, std::string message) {
     problems.push_back({Problem::Kind::warning, offset, std::move(message)});

@@ -1,6 +1,7 @@
 #include "galley/formats/AnsiWriter.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/append.h"
 #include "galley/formats/encodeAddress.h"
@@ -18,7 +19,7 @@ void AnsiWriter::take(Row const& row) {
     for (Row::Span const& span : row.spans()) {
         if (span.begin >= end) break;
         changeLink(span.look.link);
-        changeLook(sgrParameters(span.look, terminal.depth));
+        changeLook(span.look);
         append(out, row.text().substr(span.begin, std::min(span.end, end) - span.begin));
     }
     changeLook({});
@@ -40,12 +41,14 @@ bool AnsiWriter::showsBlanks(Look const& look) const {
     return hasGround || look.isUnderlined || look.isStruckThrough || look.isInverse;
 }
 
-void AnsiWriter::changeLook(std::string const& parameters) {
-    if (parameters == current) return;
-    bool const isDefault = parameters.empty();
-    std::string_view const reset = current.empty() ? "" : isDefault ? "0" : "0;";
-    append(out, "\x1b[", reset, parameters, "m");
-    current = parameters;
+void AnsiWriter::changeLook(Look const& look) {
+    if (look == current) return;
+    current = look;
+    std::string next = sgrParameters(look, terminal.depth);
+    if (next == parameters) return;
+    std::string_view const reset = parameters.empty() ? "" : next.empty() ? "0" : "0;";
+    append(out, "\x1b[", reset, next, "m");
+    parameters = std::move(next);
 }
 
 // A terminal takes parts of several rows for one link where they have the same id.

@@ -20,13 +20,14 @@ private:
     /// Bytes of a row up to the last that shows something.
     std::size_t shownLength(web::Row const& row) const;
     bool showsBlanks(web::Look const& look) const;
-    void changeLook(std::string const& parameters);
+    void changeLook(web::Look const& look);
     void changeLink(web::Link const* next);
 
     String& out;
     TerminalFeatures const terminal;
-    /// The parameters of the look that the terminal has now.
-    std::string current;
+    /// What the terminal has now, and its parameters.
+    web::Look current;
+    std::string parameters;
     web::Link const* link = nullptr;
 };
 

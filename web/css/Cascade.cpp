@@ -10,10 +10,6 @@ namespace galley::web {
 
 namespace {
 
-/// Values of attributes that are remembered, and styles that are kept without being in use: half a
-/// kilobyte each.
-constexpr std::size_t s_many = 4096;
-
 void append(std::string& key, void const* address) {
     key.append(reinterpret_cast<char const*>(&address), sizeof address);
 }
@@ -30,7 +26,7 @@ Cascade::Cascade(Sheet const& defaults, std::span<Sheet const* const> authors, M
 Style const* Cascade::styleOf(Element const& element) {
     if (attributes.size() >= s_many) {
         // Families have the addresses of what the attributes declare.
-        families.clear();
+        forgetFamilies();
         attributes.clear();
     }
     attributes.read(element, ofAttributes);
@@ -42,14 +38,19 @@ Style const* Cascade::styleOf(Element const& element) {
 }
 
 void Cascade::letGo(std::span<Style const* const> inUse) {
-    if (styles.size() < s_many) return;
+    if (!isFull()) return;
     std::vector<Style const*> kept(inUse.begin(), inUse.end());
     std::sort(kept.begin(), kept.end(), std::less<>());
     // Families have the addresses of parents' styles.
-    families.clear();
+    forgetFamilies();
     std::erase_if(styles, [&kept](std::unique_ptr<Style const> const& style) {
         return !std::binary_search(kept.begin(), kept.end(), style.get(), std::less<>());
     });
+}
+
+void Cascade::forgetFamilies() {
+    lastFamily = nullptr;
+    families.clear();
 }
 
 Cascade::Family& Cascade::familyOf(Element const& element, Style const& parent) {
@@ -65,11 +66,11 @@ Cascade::Family& Cascade::familyOf(Element const& element, Style const& parent) 
         append(key, declarations);
     }
     append(key, ofAttributes.style);
-    auto found = families.find(key);
-    if (found != families.end()) return found->second;
-    Family& family = families[key];
-    rules.find(element, family.matching, family.placed);
-    return family;
+    if (lastFamily != nullptr && key == lastFamily->first) return lastFamily->second;
+    auto const [found, isNew] = families.try_emplace(key);
+    if (isNew) rules.find(element, found->second.matching, found->second.placed);
+    lastFamily = &*found;
+    return found->second;
 }
 
 Style const* Cascade::placedStyle(Element const& element, Style const& parent, Family& family) {

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "web/Element.h"
@@ -35,7 +36,9 @@ public:
     /// `letGo`.
     Style const* styleOf(Element const& element);
 
-    /// Once there are many styles, frees all but those in use, so that a document without an end
+    /// Whether there are so many styles that `letGo` frees some.
+    bool isFull() const { return styles.size() >= s_many; }
+    /// Once it is full, frees all but those in use, so that a document without an end
     /// takes bounded memory. In use are those of the open elements, and of what is not yet written.
     void letGo(std::span<Style const* const> inUse);
 
@@ -43,6 +46,10 @@ public:
     std::size_t size() const { return styles.size(); }
 
 private:
+    /// Values of attributes that are remembered, and styles that are kept without being in use:
+    /// half a kilobyte each.
+    static constexpr std::size_t s_many = 4096;
+
     using DeclarationList = std::vector<Declarations const*>;
 
     /// Elements that only their places among siblings tell apart.
@@ -56,6 +63,7 @@ private:
         std::map<DeclarationList, Style const*> styles;
     };
 
+    void forgetFamilies();
     Family& familyOf(Element const& element, Style const& parent);
     Style const* placedStyle(Element const& element, Style const& parent, Family& family);
     /// What is declared for an element by rules and by its attributes, in ascending order of
@@ -71,6 +79,8 @@ private:
     /// By all that tells elements apart, as bytes: addresses of the parent's style and of what the
     /// attributes declare, and names.
     std::unordered_map<std::string, Family> families;
+    /// The one that was asked for last: siblings are often of one family.
+    std::pair<std::string const, Family>* lastFamily = nullptr;
 
     /// Of the element at hand.
     AttributeReader::Found ofAttributes;

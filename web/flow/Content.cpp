@@ -24,7 +24,9 @@ Content::Content(Content&& other) noexcept = default;
 Content::~Content() = default;
 
 void Content::open(Style const& block, OutsideMarker marker) {
-    entries.emplace_back(Open{&block, std::move(marker)});
+    bool const hasMarker = !marker.text.empty();
+    entries.emplace_back(
+        Open{&block, hasMarker ? std::make_unique<OutsideMarker>(std::move(marker)) : nullptr});
     openBlocks.push_back({&block, {}});
 }
 
@@ -35,9 +37,9 @@ void Content::close() {
     take(withEdges(block.content, *block.style));
 }
 
-void Content::add(Paragraph&& paragraph) {
+void Content::add(Paragraph const& paragraph) {
     take(measure(paragraph, Wrapping::asStyled));
-    entries.emplace_back(std::move(paragraph));
+    entries.emplace_back(PackedParagraph(paragraph));
 }
 
 void Content::add(std::unique_ptr<Table> table) {
@@ -49,13 +51,14 @@ void Content::take(Widths const& child) {
     widen(openBlocks.empty() ? measured : openBlocks.back().content, child);
 }
 
-Widths Content::partedWidths() const {
+Widths Content::partedWidths(Paragraph& scratch) const {
     std::vector<Measured> blocks = {{nullptr, {}}};
     for (auto const& entry : entries) {
         if (auto const* const opened = std::get_if<Open>(&entry)) {
             blocks.push_back({opened->style, {}});
-        } else if (auto const* const paragraph = std::get_if<Paragraph>(&entry)) {
-            widen(blocks.back().content, measure(*paragraph, Wrapping::anywhere));
+        } else if (auto const* const paragraph = std::get_if<PackedParagraph>(&entry)) {
+            paragraph->unpackTo(scratch);
+            widen(blocks.back().content, measure(scratch, Wrapping::anywhere));
         } else if (auto const* const table = std::get_if<std::unique_ptr<Table>>(&entry)) {
             widen(blocks.back().content, (*table)->outerWidths(Wrapping::anywhere));
         } else {
@@ -67,19 +70,21 @@ Widths Content::partedWidths() const {
     return blocks.front().content;
 }
 
-void Content::moveTo(BlockSink& sink) {
+void Content::moveTo(BlockSink& sink, Paragraph& scratch) {
     for (auto& entry : entries) {
         if (auto* const opened = std::get_if<Open>(&entry)) {
-            sink.open(*opened->style, std::move(opened->marker));
+            sink.open(*opened->style,
+                      opened->marker != nullptr ? std::move(*opened->marker) : OutsideMarker());
         } else if (std::holds_alternative<Close>(entry)) {
             sink.close();
-        } else if (auto* const paragraph = std::get_if<Paragraph>(&entry)) {
-            sink.add(std::move(*paragraph));
+        } else if (auto const* const paragraph = std::get_if<PackedParagraph>(&entry)) {
+            paragraph->unpackTo(scratch);
+            sink.add(scratch);
         } else {
             sink.add(std::move(std::get<std::unique_ptr<Table>>(entry)));
         }
     }
-    entries.clear();
+    std::vector<Entry>().swap(entries);
 }
 
 Widths measure(Paragraph const& paragraph, Wrapping wrapping) {

@@ -6,6 +6,7 @@
 
 #include "web/flow/BlockSink.h"
 #include "web/flow/LineBreaker.h"
+#include "web/flow/PackedParagraph.h"
 
 namespace galley::web {
 
@@ -31,22 +32,25 @@ public:
 
     void open(Style const& block, OutsideMarker marker) override;
     void close() override;
-    void add(Paragraph&& paragraph) override;
+    void add(Paragraph const& paragraph) override;
     void add(std::unique_ptr<Table> table) override;
 
-    /// Hands all of it on. Its tables have been moved away then: once only.
-    void moveTo(BlockSink& sink);
+    /// Hands all of it on, paragraphs in `scratch`. Its tables have been moved away then: once
+    /// only.
+    void moveTo(BlockSink& sink, Paragraph& scratch);
     /// Of all that has been added; per cent count nothing.
     Widths widths() const { return measured; }
     /// The same where words are parted anywhere. Walks through all of it.
-    Widths partedWidths() const;
+    Widths partedWidths(Paragraph& scratch) const;
 
 private:
     struct Open {
         Style const* style = nullptr;
-        OutsideMarker marker;
+        /// Null for none.
+        std::unique_ptr<OutsideMarker> marker;
     };
     struct Close {};
+    using Entry = std::variant<Open, Close, PackedParagraph, std::unique_ptr<Table>>;
 
     /// A block that is open, and how wide what is in it is so far.
     struct Measured {
@@ -56,7 +60,7 @@ private:
 
     void take(Widths const& child);
 
-    std::vector<std::variant<Open, Close, Paragraph, std::unique_ptr<Table>>> entries;
+    std::vector<Entry> entries;
     Widths measured;
     std::vector<Measured> openBlocks;
 };

@@ -14,6 +14,19 @@ namespace {
 
 bool isShown(Colour background) { return background.kind != Colour::Kind::terminal; }
 
+/// Hands the rows of a table on to what is around it.
+class RowsOfTable final : public TableSink {
+public:
+    explicit RowsOfTable(Flow& around) : flow(around) {}
+
+    void begin(int tableLeft) override { left = tableLeft; }
+    void take(Row const& row) override { flow.addTableRow(row.view(), left); }
+
+private:
+    Flow& flow;
+    int left = 0;
+};
+
 }  // namespace
 
 Flow::Flow(RowSink& rows, PageBudget& cells, int columns, Colour background, OuterMargins outer,
@@ -40,8 +53,10 @@ void Flow::open(Style const& style, OutsideMarker marker) {
                       .contentLeft = left + edge,
                       .contentWidth = place.width,
                       .around = background(),
-                      .background = backgroundOf(style, background()),
-                      .hasStarted = false});
+                      .background = backgroundOf(style, background())});
+    Block& block = blocks.back();
+    block.hasShownEdges = style.border.left.isThere() || style.border.right.isThere() ||
+                          isShown(block.around) || isShown(block.background);
     int const padding = down(style.padding.top, container);
     if (!style.border.top.isThere() && padding == 0) return;
     start();
@@ -70,7 +85,7 @@ void Flow::close() {
     pending = std::max(pending, down(style.margin.bottom, container));
 }
 
-void Flow::addLines(Paragraph const& paragraph) {
+void Flow::add(Paragraph const& paragraph) {
     int const container = columns();
     LineBreaker breaker(paragraph, container, LineBreaker::Purpose::layingOut, wrapping);
     Style const& style = paragraph.block();
@@ -99,21 +114,31 @@ void Flow::add(std::unique_ptr<Table> table) {
     (blocks.empty() ? hasOwnContent : blocks.back().hasContent) = true;
     Style const& style = table->style();
     pending = std::max(pending, down(style.margin.top, container));
-    TableRows const made = table->layOut(container, wrapping, budget);
     // Margins do not collapse through a table, even one without rows.
     start();
     hasRows = true;
-    for (Row const& tableRow : made.rows) {
-        beginRow();
-        row.fill(contentLeft() + made.left, blankOn(background()));
-        row.add(tableRow);
-        endRow();
-    }
+    RowsOfTable rows(*this);
+    table->layOut(container, wrapping, rows, budget);
     pending = std::max(pending, down(style.margin.bottom, container));
 }
 
+void Flow::addTableRow(RowView const& tableRow, int left) {
+    beginRow();
+    row.fill(contentLeft() + left, blankOn(background()));
+    row.add(tableRow);
+    endRow();
+}
+
 void Flow::finish() {
-    if (!dropsMargins) addBlanks(std::exchange(pending, 0));
+    if (!dropsMargins) addBlanks(pending);
+    pending = 0;
+}
+
+void Flow::restart(int columns, Colour newGround, Wrapping wrapped) {
+    width = columns;
+    ground = newGround;
+    wrapping = wrapped;
+    hasRows = hasOwnContent = false;
 }
 
 /// Makes the rows of the margin that waits. From now on rows are those of all open blocks.
@@ -146,6 +171,7 @@ void Flow::addLeftEdges(std::size_t count, bool isContent) {
         Block& block = blocks[i];
         if (!block.hasStarted) break;
         if (isContent && !block.marker.text.empty()) addMarker(block);
+        if (!block.hasShownEdges) continue;
         // The next block's marker stands before it, on what is around that.
         bool const isBeforeMarker =
             isContent && i + 1 < count && !blocks[i + 1].marker.text.empty();
@@ -190,7 +216,7 @@ void Flow::handOn() {
 void Flow::addRightEdges(std::size_t count) {
     for (std::size_t i = count; i-- > 0;) {
         Block const& block = blocks[i];
-        if (!block.hasStarted) continue;
+        if (!block.hasStarted || !block.hasShownEdges) continue;
         Border const& border = block.style->border.right;
         int const column = block.right - (border.isThere() ? 1 : 0);
         if (border.isThere() || isShown(block.background)) {

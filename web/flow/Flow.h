@@ -26,10 +26,13 @@ public:
 
     void open(Style const& style, OutsideMarker marker) override;
     void close() override;
-    void add(Paragraph&& paragraph) override { addLines(paragraph); }
+    void add(Paragraph const& paragraph) override;
     void add(std::unique_ptr<Table> table) override;
-    /// The same as `add`, without taking it.
-    void addLines(Paragraph const& paragraph);
+    /// Adds a row of a table that stands so many columns right of the innermost block's left edge.
+    void addTableRow(RowView const& tableRow, int left);
+    /// Begins another container, which hands its rows to the same sink. To be called behind
+    /// `finish`.
+    void restart(int columns, Colour newGround, Wrapping wrapped);
     /// To be called behind all content.
     void finish();
 
@@ -46,6 +49,8 @@ private:
         int contentWidth = 0;
         Colour around;
         Colour background;
+        /// Whether cells on its left or its right are more than the terminal's own blanks.
+        bool hasShownEdges = false;
         bool hasStarted = false;
         /// Only text that comes first is indented.
         bool hasContent = false;

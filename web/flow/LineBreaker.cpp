@@ -4,6 +4,7 @@
 
 #include "web/flow/lengths.h"
 #include "web/text/Cluster.h"
+#include "web/text/ideographs.h"
 
 namespace galley::web {
 
@@ -65,6 +66,8 @@ bool LineBreaker::step() {
             return takeWords(item);
         case Item::Kind::word:
             return takeWord(item);
+        case Item::Kind::ideographs:
+            return takeIdeographs(item);
         case Item::Kind::blank:
             if (hasText) ++used;
             if (hasText && wraps(style)) offer(behind, printed);
@@ -149,6 +152,26 @@ bool LineBreaker::takeWord(Item const& item) {
         offer(at, printed + (item.hyphenates ? 1 : 0), item.hyphenates);
     }
     return false;
+}
+
+bool LineBreaker::takeIdeographs(Item const& item) {
+    auto const left = static_cast<int>((item.end - item.begin - at.offset) / s_ideographBytes);
+    int const fit = std::max(0, available - used) / s_ideographCells;
+    if (left <= fit) {
+        hasText = true;
+        used += left * s_ideographCells;
+        printed = used;
+        at = {at.item + 1, 0};
+        offer(at, printed);
+        return false;
+    }
+    if (fit == 0 && fitting.isThere) return end(fitting);
+    if (fit == 0 && mayPart(styleOf(item))) return part(item);
+    int const taken = std::max(1, fit);
+    auto const bytes = static_cast<std::uint32_t>(taken) * std::uint32_t{s_ideographBytes};
+    Place place = {at.item, at.offset + bytes};
+    if (item.begin + place.offset == item.end) place = {at.item + 1, 0};
+    return end({place, used + taken * s_ideographCells, false, true});
 }
 
 /// Cells of what is left of a word that was parted, or more than there is room for.

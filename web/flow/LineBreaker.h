@@ -64,6 +64,7 @@ private:
     bool takeWords(Item const& item);
     bool endInWords(std::size_t blank);
     bool takeWord(Item const& item);
+    bool takeIdeographs(Item const& item);
     bool part(Item const& item, bool isAll = true);
     bool partLastWord();
     bool endBefore(Place place);

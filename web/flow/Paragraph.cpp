@@ -59,7 +59,6 @@ int Inline::rightEdge(int columns) const {
 void Paragraph::begin(Style const& block, Colour background) {
     text.clear();
     all.clear();
-    openElements.clear();
     elements.assign(1, {.style = &block, .look = lookOf(block, background), .around = background});
     current = 0;
     isBehindBlank = true;
@@ -82,7 +81,6 @@ void Paragraph::open(Style const& style, Link const* link) {
                            .parent = current};
     bool const hasEdge = opened.leftEdge(s_wide) > 0;
     current = static_cast<std::uint32_t>(elements.size());
-    openElements.push_back(current);
     elements.push_back(opened);
     add(Item::Kind::open);
     // An edge makes a line, even without text.
@@ -92,15 +90,16 @@ void Paragraph::open(Style const& style, Link const* link) {
 void Paragraph::close() {
     add(Item::Kind::close);
     if (elements[current].rightEdge(s_wide) > 0) contentEnd = all.size();
-    openElements.pop_back();
     current = elements[current].parent;
 }
 
 void Paragraph::partInto(Paragraph& done) {
-    for (std::uint32_t const opened : openElements) elements[opened].ends = false;
-    std::vector<std::uint32_t> const parted = openElements;
-    done = *this;
     // Innermost last, as they were opened.
+    std::vector<std::uint32_t> parted;
+    for (std::uint32_t i = current; i > 0; i = elements[i].parent) parted.push_back(i);
+    std::reverse(parted.begin(), parted.end());
+    for (std::uint32_t const opened : parted) elements[opened].ends = false;
+    done = *this;
     std::vector<Inline> const kept = std::move(elements);
     begin(*kept.front().style, kept.front().look.background);
     for (std::uint32_t const opened : parted) {
@@ -127,10 +126,12 @@ void Paragraph::addBlank() {
 
 void Paragraph::addText(std::string_view decoded) {
     if (style().textTransform != TextTransform::none) {
+        std::string transformed;
         transformText(transformed, decoded, style().textTransform, isInWord);
-        decoded = transformed;
+        addGenerated(transformed);
+    } else {
+        addGenerated(decoded);
     }
-    addGenerated(decoded);
 }
 
 void Paragraph::addGenerated(std::string_view decoded) {
@@ -143,6 +144,11 @@ void Paragraph::addGenerated(std::string_view decoded) {
         if (isWrapped) {
             std::string_view const words = reader.takeWords();
             if (!words.empty()) addWords(words);
+        }
+        if (style().whiteSpace == WhiteSpace::pre) {
+            addUnbroken(reader.takeUnbroken());
+        } else if (style().whiteSpace != WhiteSpace::nowrap) {
+            addIdeographs(reader.takeIdeographs());
         }
         if (!reader.next(segment)) return;
         bool const isWord = isWrapped && segment.isPlain && segment.end > segment.begin &&
@@ -171,7 +177,8 @@ void Paragraph::joinTo(std::string_view decoded) {
     std::string_view const word = textOf(*last);
     std::size_t from = word.size() - std::min(word.size(), s_context);
     while (from < word.size() && (static_cast<unsigned char>(word[from]) & 0xC0U) == 0x80U) ++from;
-    joint.assign(word.substr(from)).append(decoded.substr(0, s_context));
+    std::string joint(word.substr(from));
+    joint += decoded.substr(0, s_context);
     std::size_t const place = word.size() - from;
     SegmentReader reader(joint, optionsFor(style()));
     Segment segment;
@@ -192,6 +199,21 @@ void Paragraph::addWords(std::string_view words) {
     all.back().end = static_cast<std::uint32_t>(text.size());
 }
 
+void Paragraph::addIdeographs(std::string_view ideographs) {
+    if (ideographs.empty()) return;
+    isBehindBlank = false;
+    Item& added = add(Item::Kind::ideographs);
+    contentEnd = all.size();
+    text += ideographs;
+    added.end = static_cast<std::uint32_t>(text.size());
+}
+
+/// Adds blanks that count and words as one word.
+void Paragraph::addUnbroken(std::string_view bytes) {
+    if (bytes.empty()) return;
+    addWord(bytes, {.width = bytes.size()});
+}
+
 void Paragraph::addWord(std::string_view bytes, Segment const& segment) {
     isBehindBlank = false;
     Item& word = add(Item::Kind::word);
@@ -200,6 +222,7 @@ void Paragraph::addWord(std::string_view bytes, Segment const& segment) {
     word.end = static_cast<std::uint32_t>(text.size());
     word.width = static_cast<std::uint32_t>(segment.width);
     word.isPlain = segment.isPlain;
+    word.isPrintedAsIs = segment.isPrintedAsIs;
     word.hyphenates = segment.behind == Segment::Behind::softHyphen;
     word.mayBreakBehind = word.hyphenates || segment.behind == Segment::Behind::opportunity;
 }

@@ -33,12 +33,13 @@ struct Inline {
 /// A part of a paragraph.
 struct Item {
     enum class Kind : std::uint8_t {
-        words,     ///< Plain ASCII, each word with one blank behind it, where a line may break.
-        word,      ///< No line breaks in it unless it has to.
-        blank,     ///< Of collapsed white space, which nothing shows of at either end of a line.
-        blanks,    ///< That count.
-        tab,       ///< That counts.
-        lineFeed,  ///< The line ends here.
+        words,       ///< Plain ASCII, each word with one blank behind it, where a line may break.
+        ideographs,  ///< Three bytes and two cells each, a line may break behind each.
+        word,        ///< No line breaks in it unless it has to.
+        blank,       ///< Of collapsed white space, which nothing shows of at either end of a line.
+        blanks,      ///< That count.
+        tab,         ///< That counts.
+        lineFeed,    ///< The line ends here.
         open,
         close,
         breakable,  ///< A line may break here.
@@ -47,6 +48,8 @@ struct Item {
     Kind kind = Kind::blank;
     /// Of a word: it is printed as it is, a cell a byte.
     bool isPlain = true;
+    /// Likewise, but its cells are to be counted.
+    bool isPrintedAsIs = true;
     /// A line may break behind a word, or where `white-space` says otherwise, and whether that then
     /// shows a hyphen.
     ///@{
@@ -92,12 +95,17 @@ public:
     std::string_view textOf(Item const& item) const {
         return std::string_view(text).substr(item.begin, item.end - item.begin);
     }
-    std::size_t depth() const { return openElements.size(); }
+    /// Whether an inline element is.
+    bool hasOpen() const { return current > 0; }
 
 private:
+    friend class PackedParagraph;
+
     void joinTo(std::string_view decoded);
     void addWord(std::string_view bytes, Segment const& segment);
     void addWords(std::string_view words);
+    void addIdeographs(std::string_view ideographs);
+    void addUnbroken(std::string_view bytes);
     void addBehind(Segment const& segment);
     void addBlank();
     Item& add(Item::Kind kind);
@@ -106,7 +114,6 @@ private:
     std::string text;
     std::vector<Item> all;
     std::vector<Inline> elements;
-    std::vector<std::uint32_t> openElements;
     /// The innermost one that is open.
     std::uint32_t current = 0;
     /// White space that comes now is no more than what is there: behind a blank, or at the start of
@@ -115,8 +122,6 @@ private:
     std::size_t contentEnd = 0;
     /// A letter that comes now goes on with a word.
     bool isInWord = false;
-    std::string transformed;
-    std::string joint;
 };
 
 }  // namespace galley::web

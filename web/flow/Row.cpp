@@ -28,31 +28,31 @@ void Row::fill(int column, Look const& look) {
     close(look);
 }
 
-void Row::add(Row const& other) {
-    for (Span const& span : other.all) {
+void Row::add(RowView const& other) {
+    for (Span const& span : other.spans) {
         bytes.append(other.textOf(span));
         close(span.look);
     }
-    cells += other.cells;
+    cells += other.width;
 }
 
-void Row::draw(int column, Row const& other, Colour background) {
+void Row::draw(int column, RowView const& other, Colour background) {
     if (column >= cells) {
-        if (other.cells == 0) return;
+        if (other.width == 0) return;
         fill(column, blankOn(background));
         add(other);
         return;
     }
     Row result;
-    result.addPart(*this, 0, column);
+    result.addPart(view(), 0, column);
     result.add(other);
-    result.addPart(*this, column + other.cells, cells);
+    result.addPart(view(), column + other.width, cells);
     *this = std::move(result);
 }
 
-void Row::addPart(Row const& other, int begin, int end) {
+void Row::addPart(RowView const& other, int begin, int end) {
     int column = 0;
-    for (Span const& span : other.all) {
+    for (Span const& span : other.spans) {
         std::string_view const text = other.textOf(span);
         for (std::size_t i = 0; i < text.size() && column < end;) {
             Cluster const cluster = clusterAt(text, i, false);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,27 +10,41 @@
 
 namespace galley::web {
 
+/// Cells of a row that look alike.
+struct RowSpan {
+    /// Bytes of the row's text.
+    std::size_t begin = 0;
+    std::size_t end = 0;
+    Look look = {};
+};
+
+/// A row that is elsewhere.
+struct RowView {
+    std::string_view text;
+    std::span<RowSpan const> spans;
+    /// In cells.
+    int width = 0;
+
+    std::string_view textOf(RowSpan const& span) const {
+        return text.substr(span.begin, span.end - span.begin);
+    }
+};
+
 /// A row of a page, from its left edge to the last column that is drawn.
 ///
 /// 1. The spans cover the text from left to right, none is empty, and neighbours differ in looks.
 /// 2. The text is well-formed UTF-8 without controls, and takes `width()` cells.
 class Row {
 public:
-    /// Cells that look alike.
-    struct Span {
-        /// Bytes of the text.
-        std::size_t begin = 0;
-        std::size_t end = 0;
-        Look look = {};
-    };
+    using Span = RowSpan;
 
     /// In cells.
     int width() const { return cells; }
     std::string_view text() const { return bytes; }
-    std::string_view textOf(Span const& span) const {
-        return std::string_view(bytes).substr(span.begin, span.end - span.begin);
-    }
+    std::string_view textOf(Span const& span) const { return view().textOf(span); }
     std::vector<Span> const& spans() const { return all; }
+    /// Until the row changes.
+    RowView view() const { return {bytes, all, cells}; }
 
     /// Adds text behind what is there; `printed` takes that many cells.
     void add(std::string_view printed, int columns, Look const& look);
@@ -37,12 +52,12 @@ public:
     /// further right than any page is wide.
     void fill(int column, Look const& look);
     /// Adds another row behind what is there.
-    void add(Row const& other);
+    void add(RowView const& other);
     /// Puts another row over what is there, from a column on. A wide character of which half is
     /// covered becomes a blank. Cells on the way to that column are blanks on the background.
-    void draw(int column, Row const& other, Colour background);
+    void draw(int column, RowView const& other, Colour background);
     /// Adds what stands from a column of another row to one. Halves of wide characters are blanks.
-    void addPart(Row const& other, int begin, int end);
+    void addPart(RowView const& other, int begin, int end);
     void clear();
 
 private:

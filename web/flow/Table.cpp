@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "web/flow/Flow.h"
-#include "web/flow/RowList.h"
 #include "web/flow/TablePainter.h"
 #include "web/flow/columnNeeds.h"
 #include "web/flow/lengths.h"
@@ -101,7 +100,7 @@ int Table::usedWidth(Widths const& content, int container) const {
     return std::max(limitWidth(wanted, ownStyle, container), content.least);
 }
 
-TableRows Table::layOut(int columns, Wrapping wrapping, PageBudget& budget) {
+void Table::layOut(int columns, Wrapping wrapping, TableSink& rows, PageBudget& budget) {
     complete();
     int const margins =
         across(ownStyle.margin.left, columns) + across(ownStyle.margin.right, columns);
@@ -113,22 +112,20 @@ TableRows Table::layOut(int columns, Wrapping wrapping, PageBudget& budget) {
     content.most = std::max(content.most, widened);
     int const width = usedWidth(content, columns);
     int const spare = std::max(0, columns - margins - width);
-    TableRows made;
-    made.left = leftMargin(ownStyle, columns, spare);
+    rows.begin(leftMargin(ownStyle, columns, spare));
     std::vector<int> const shared = shareWidth(needs(wrapping), width - frame->edges(columns));
-    layOutCaptions(CaptionSide::top, width, made, budget);
-    TablePainter(grid, *frame, ownStyle, made.rows, budget).paint(width, shared, columns, wrapping);
-    layOutCaptions(CaptionSide::bottom, width, made, budget);
-    return made;
+    layOutCaptions(CaptionSide::top, width, rows, budget);
+    TablePainter(grid, *frame, ownStyle, rows, budget).paint(width, shared, columns, wrapping);
+    layOutCaptions(CaptionSide::bottom, width, rows, budget);
 }
 
-void Table::layOutCaptions(CaptionSide side, int width, TableRows& made, PageBudget& budget) {
+void Table::layOutCaptions(CaptionSide side, int width, RowSink& rows, PageBudget& budget) {
     for (Caption& caption : captions) {
         if (caption.style->captionSide != side) continue;
-        RowList list(made.rows);
-        Flow flow(list, budget, width, ground, Flow::OuterMargins::shown);
+        Flow flow(rows, budget, width, ground, Flow::OuterMargins::shown);
         flow.open(*caption.style, {});
-        caption.content.moveTo(flow);
+        Paragraph scratch;
+        caption.content.moveTo(flow, scratch);
         flow.close();
         flow.finish();
     }

@@ -14,12 +14,11 @@
 
 namespace galley::web {
 
-/// A table that has been laid out.
-struct TableRows {
-    /// From the left of its container to the first cells of the rows.
-    int left = 0;
-    /// Of the table and its captions.
-    std::vector<Row> rows;
+/// Takes the rows of a table and its captions.
+class TableSink : public RowSink {
+public:
+    /// Comes first: columns from the left of the table's container to the first cells of the rows.
+    virtual void begin(int left) = 0;
 };
 
 /// A table with all that is in it, which is measured while it is put together. Styles outlive it.
@@ -53,8 +52,8 @@ public:
 
     /// With its margins. To be called when all parts have been added.
     Widths outerWidths(Wrapping wrapping);
-    /// In a container of so many columns. Once only.
-    TableRows layOut(int columns, Wrapping wrapping, PageBudget& budget);
+    /// Makes its rows in a container of so many columns. Once only.
+    void layOut(int columns, Wrapping wrapping, TableSink& rows, PageBudget& budget);
 
 private:
     struct Caption {
@@ -72,7 +71,7 @@ private:
     std::vector<ColumnNeed> const& needs(Wrapping wrapping);
     Widths innerWidths(Wrapping wrapping, int container);
     int usedWidth(Widths const& content, int container) const;
-    void layOutCaptions(CaptionSide side, int width, TableRows& made, PageBudget& budget);
+    void layOutCaptions(CaptionSide side, int width, RowSink& rows, PageBudget& budget);
 
     Style const& ownStyle;
     Colour ground;

@@ -2,24 +2,9 @@
 
 #include <algorithm>
 
-#include "web/flow/Flow.h"
-#include "web/flow/RowList.h"
 #include "web/flow/lengths.h"
 
 namespace galley::web {
-
-namespace {
-
-/// The row of the first text, which lies on the baseline of the cell, or the last one.
-int firstTextRow(std::vector<Row> const& rows) {
-    auto const text = std::find_if(rows.begin(), rows.end(), [](Row const& row) {
-        return row.text().find_first_not_of(' ') != std::string_view::npos;
-    });
-    auto const row = static_cast<int>(text - rows.begin());
-    return text == rows.end() ? row - 1 : row;
-}
-
-}  // namespace
 
 ColumnPlaces placeColumns(TableFrame const& frame, int width, std::vector<int> const& columns,
                           int container) {
@@ -37,9 +22,16 @@ ColumnPlaces placeColumns(TableFrame const& frame, int width, std::vector<int> c
 }
 
 TableBand::TableBand(TableGrid& banded, TableFrame const& tableFrame,
-                     ColumnPlaces const& columnPlaces, int firstRow, Wrapping wrapping,
-                     PageBudget& cells)
-    : grid(banded), frame(tableFrame), places(columnPlaces), first(firstRow), budget(cells) {
+                     ColumnPlaces const& columnPlaces, PageBudget& cells)
+    : grid(banded),
+      frame(tableFrame),
+      places(columnPlaces),
+      flow(content, cells, 0, {}, Flow::OuterMargins::shown) {}
+
+void TableBand::layOut(int firstRow, Wrapping wrapping) {
+    first = firstRow;
+    laid.clear();
+    content.clear();
     int end = first + 1;
     for (int row = first; row < end; ++row) end = std::max(end, layOutRow(row, wrapping));
     heights.assign(static_cast<std::size_t>(end - first), 0);
@@ -54,30 +46,39 @@ int TableBand::layOutRow(int row, Wrapping wrapping) {
     std::size_t const firstOfRow = laid.size();
     int end = row + 1;
     for (std::size_t i = tableRow.firstCell; i < tableRow.endCell; ++i) {
-        layOut(grid.cells()[i], row, wrapping);
+        layOutCell(grid.cells()[i], row, wrapping);
         end = std::max(end, laid.back().endRow);
     }
     alignBaselines(firstOfRow);
     return end;
 }
 
-void TableBand::layOut(TableCell& cell, int row, Wrapping wrapping) {
+void TableBand::layOutCell(TableCell& cell, int row, Wrapping wrapping) {
     Style const& style = *cell.style;
-    LaidCell& placed = laid.emplace_back(
-        LaidCell{.cell = &cell, .firstRow = row, .endRow = row + cell.rowSpan, .content = {}});
+    LaidCell& placed =
+        laid.emplace_back(LaidCell{.cell = &cell, .firstRow = row, .endRow = row + cell.rowSpan});
     placed.left = places.left[static_cast<std::size_t>(cell.column)];
     placed.right = places.right[static_cast<std::size_t>(cell.endColumn()) - 1];
     int const edges = frame.cellEdges(style, places.width);
     int const width = std::max(0, placed.right - placed.left - edges);
-    RowList list(placed.content);
-    Flow flow(list, budget, width, cell.background, Flow::OuterMargins::shown, wrapping);
-    cell.content.moveTo(flow);
+    flow.restart(width, cell.background, wrapping);
+    placed.firstLine = content.size();
+    cell.content.moveTo(flow, scratch);
     flow.finish();
+    placed.endLine = content.size();
     placed.above =
         (frame.hasBorder(style.border.top) ? 1 : 0) + down(style.padding.top, places.width);
-    placed.needed = placed.above + static_cast<int>(placed.content.size()) +
+    placed.needed = placed.above + placed.contentHeight() +
                     down(style.padding.bottom, places.width) +
                     (frame.hasBorder(style.border.bottom) ? 1 : 0);
+}
+
+/// The row of the first text, which lies on the baseline of the cell, or the last one.
+int TableBand::firstTextRow(LaidCell const& cell) const {
+    for (int line = 0; line < cell.contentHeight(); ++line) {
+        if (rowOf(cell, line).text.find_first_not_of(' ') != std::string_view::npos) return line;
+    }
+    return cell.contentHeight() - 1;
 }
 
 /// Moves content down so that first texts are in one row.
@@ -88,12 +89,12 @@ void TableBand::alignBaselines(std::size_t firstOfRow) {
     };
     for (std::size_t i = firstOfRow; i < laid.size(); ++i) {
         if (!isAligned(laid[i])) continue;
-        lowest = std::max(lowest, laid[i].above + firstTextRow(laid[i].content));
+        lowest = std::max(lowest, laid[i].above + firstTextRow(laid[i]));
     }
     for (std::size_t i = firstOfRow; i < laid.size(); ++i) {
         LaidCell& cell = laid[i];
         if (!isAligned(cell)) continue;
-        int const shift = lowest - cell.above - firstTextRow(cell.content);
+        int const shift = lowest - cell.above - firstTextRow(cell);
         cell.above += shift;
         cell.needed += shift;
     }
@@ -102,7 +103,7 @@ void TableBand::alignBaselines(std::size_t firstOfRow) {
 /// Makes rows as high as the cells that end in them need: what the rows above lack of a spanning
 /// cell, its last row has.
 void TableBand::placeRows() {
-    std::vector<LaidCell*> byEnd;
+    byEnd.clear();
     for (LaidCell& cell : laid) byEnd.push_back(&cell);
     std::stable_sort(byEnd.begin(), byEnd.end(),
                      [](LaidCell const* a, LaidCell const* b) { return a->endRow < b->endRow; });

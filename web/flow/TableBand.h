@@ -2,8 +2,9 @@
 
 #include <vector>
 
+#include "web/flow/Flow.h"
 #include "web/flow/PageBudget.h"
-#include "web/flow/Row.h"
+#include "web/flow/RowBlock.h"
 #include "web/flow/TableFrame.h"
 #include "web/flow/TableGrid.h"
 
@@ -28,7 +29,11 @@ struct LaidCell {
     TableCell* cell;
     int firstRow;
     int endRow;
-    std::vector<Row> content;
+    /// Rows of the band's content.
+    ///@{
+    std::size_t firstLine = 0;
+    std::size_t endLine = 0;
+    ///@}
     int left = 0;
     int right = 0;
     int top = 0;
@@ -38,15 +43,24 @@ struct LaidCell {
     int above = 0;
     int needed = 0;
     ///@}
+
+    int contentHeight() const { return static_cast<int>(endLine - firstLine); }
 };
 
 /// Rows of a table from one that no cell reaches into to the next such one, laid out together: with
 /// the content of their cells, the places of these, and the heights of rows.
 class TableBand {
 public:
-    /// Takes the content of cells from the grid. The cells part words where `wrapping` says so.
+    /// Of no rows. All of these outlive it.
     TableBand(TableGrid& banded, TableFrame const& tableFrame, ColumnPlaces const& columnPlaces,
-              int firstRow, Wrapping wrapping, PageBudget& cells);
+              PageBudget& cells);
+
+    TableBand(TableBand const&) = delete;
+    TableBand& operator=(TableBand const&) = delete;
+
+    /// Becomes the band from a row on. Takes the content of cells from the grid; they part words
+    /// where `wrapping` says so.
+    void layOut(int firstRow, Wrapping wrapping);
 
     int firstRow() const { return first; }
     int endRow() const { return first + static_cast<int>(heights.size()); }
@@ -54,11 +68,16 @@ public:
     int top(int row) const { return tops[index(row)]; }
     /// In the order of their rows and columns.
     std::vector<LaidCell>& cells() { return laid; }
+    /// A row of a cell's content, which has that many. As long as the band is the same.
+    RowView rowOf(LaidCell const& cell, int line) const {
+        return content[cell.firstLine + static_cast<std::size_t>(line)];
+    }
 
 private:
     std::size_t index(int row) const { return static_cast<std::size_t>(row - first); }
     int layOutRow(int row, Wrapping wrapping);
-    void layOut(TableCell& cell, int row, Wrapping wrapping);
+    void layOutCell(TableCell& cell, int row, Wrapping wrapping);
+    int firstTextRow(LaidCell const& cell) const;
     void alignBaselines(std::size_t firstOfRow);
     void placeRows();
     void placeContent(LaidCell& cell) const;
@@ -66,9 +85,14 @@ private:
     TableGrid& grid;
     TableFrame const& frame;
     ColumnPlaces const& places;
-    int first;
-    PageBudget& budget;
+    int first = 0;
+    /// Rows of all cells.
+    RowBlock content;
+    /// Makes them.
+    Flow flow;
     std::vector<LaidCell> laid;
+    std::vector<LaidCell*> byEnd;
+    Paragraph scratch;
     std::vector<int> heights;
     std::vector<int> tops;
 };

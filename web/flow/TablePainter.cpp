@@ -12,22 +12,23 @@ namespace {
 bool isDrawn(Colour background) { return background.kind != Colour::Kind::terminal; }
 
 /// Cells of the background at the beginning of a row.
-int leadingBlanks(Row const& row, Colour background) {
-    if (row.spans().empty() || row.spans().front().look != blankOn(background)) return 0;
-    std::string_view const text = row.textOf(row.spans().front());
+int leadingBlanks(RowView const& row, Colour background) {
+    if (row.spans.empty() || row.spans.front().look != blankOn(background)) return 0;
+    std::string_view const text = row.textOf(row.spans.front());
     return static_cast<int>(std::min(text.find_first_not_of(' '), text.size()));
 }
 
 }  // namespace
 
 TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
-                           std::vector<Row>& output, PageBudget& cells)
+                           RowSink& output, PageBudget& cells)
     : grid(painted),
       frame(tableFrame),
       table(tableStyle),
       rows(output),
       budget(cells),
-      isVisible(table.visibility == Visibility::visible) {}
+      isVisible(table.visibility == Visibility::visible),
+      band(grid, frame, places, cells) {}
 
 void TablePainter::paint(int width, std::vector<int> const& columns, int container,
                          Wrapping wrapping) {
@@ -36,8 +37,8 @@ void TablePainter::paint(int width, std::vector<int> const& columns, int contain
     paintEdge(true, down(table.padding.top, container));
     for (int next = 0; next < end;) {
         paintGap(next, frame.rowGap(next), 0);
-        TableBand band(grid, frame, places, next, wrapping, budget);
-        paintBand(band);
+        band.layOut(next, wrapping);
+        paintBand();
         next = band.endRow();
     }
     paintGap(end, frame.rowGap(end), 0);
@@ -52,7 +53,7 @@ void TablePainter::paintEdge(bool isTop, int padding) {
         row.clear();
         if (isVisible) addHorizontal(row, table, isTop, places.width, grid.background());
         budget.take(static_cast<std::size_t>(row.width()) + 1);
-        rows.push_back(row);
+        rows.take(row);
     }
     if (isTop) paintBlanks(padding);
 }
@@ -64,7 +65,7 @@ void TablePainter::paintBlanks(int count) {
     }
 }
 
-void TablePainter::paintBand(TableBand& band) {
+void TablePainter::paintBand() {
     auto next = band.cells().begin();
     for (int at = band.firstRow(); at < band.endRow(); ++at) {
         std::erase_if(active, [at](LaidCell const* cell) { return cell->endRow <= at; });
@@ -76,13 +77,13 @@ void TablePainter::paintBand(TableBand& band) {
         std::stable_sort(active.begin(), active.end(), [](LaidCell const* a, LaidCell const* b) {
             return a->cell->column < b->cell->column;
         });
-        paintRow(band, at);
+        paintRow(at);
         if (frame.collapses()) frame.borders()->next();
     }
     active.clear();
 }
 
-void TablePainter::paintRow(TableBand const& band, int gridRow) {
+void TablePainter::paintRow(int gridRow) {
     currentRow = gridRow;
     for (int i = 0; i < band.height(gridRow); ++i) {
         beginRow();
@@ -117,7 +118,7 @@ void TablePainter::endRow() {
     if (hasBorder) addVertical(row, border, grid.background());
     paintOverlays();
     budget.take(static_cast<std::size_t>(row.width()) + 1);
-    rows.push_back(row);
+    rows.take(row);
 }
 
 void TablePainter::paintCells(int y, bool isGap) {
@@ -188,7 +189,7 @@ void TablePainter::paintCell(LaidCell const& cell, int y) {
     }
     Row piece;
     paintPiece(piece, cell, 0, y);
-    row.draw(cell.left, piece, cell.cell->background);
+    row.draw(cell.left, piece.view(), cell.cell->background);
 }
 
 /// Adds what a cell has in a row of text, from column `left` on.
@@ -218,16 +219,16 @@ void TablePainter::paintPiece(Row& piece, LaidCell const& cell, int left, int y)
 
 /// Adds a row of a cell's content, if there is such a one, where nothing sticks out.
 void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int line) {
-    if (line < 0 || static_cast<std::size_t>(line) >= cell.content.size()) return;
-    Row const& content = cell.content[static_cast<std::size_t>(line)];
-    if (content.width() == 0) return;
+    if (line < 0 || line >= cell.contentHeight()) return;
+    RowView const content = band.rowOf(cell, line);
+    if (content.width == 0) return;
     Style const& style = *cell.cell->style;
     int const edge =
         (frame.hasBorder(style.border.left) ? 1 : 0) + across(style.padding.left, places.width);
     int const room = cell.right - cell.left - frame.cellEdges(style, places.width);
     Colour const background = cell.cell->background;
-    if (!overlays.empty() || content.width() > room || left != cell.left) {
-        overlays.push_back({cell.left + edge, &content, background});
+    if (!overlays.empty() || content.width > room || left != cell.left) {
+        overlays.push_back({cell.left + edge, content, background});
         return;
     }
     piece.fill(left + edge, blankOn(background));
@@ -236,11 +237,11 @@ void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int 
 
 void TablePainter::paintOverlays() {
     for (Overlay const& overlay : overlays) {
-        int const blanks = leadingBlanks(*overlay.content, overlay.background);
-        if (blanks == overlay.content->width()) continue;
+        int const blanks = leadingBlanks(overlay.content, overlay.background);
+        if (blanks == overlay.content.width) continue;
         Row text;
-        text.addPart(*overlay.content, blanks, overlay.content->width());
-        row.draw(overlay.column + blanks, text, overlay.background);
+        text.addPart(overlay.content, blanks, overlay.content.width);
+        row.draw(overlay.column + blanks, text.view(), overlay.background);
     }
 }
 

@@ -15,9 +15,9 @@ namespace galley::web {
 /// rows are first made without content.
 class TablePainter {
 public:
-    /// Takes the content of cells from the grid, appends rows.
+    /// Takes the content of cells from the grid.
     TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
-                 std::vector<Row>& output, PageBudget& cells);
+                 RowSink& output, PageBudget& cells);
 
     /// The table is that wide, with columns of those widths; per cent count of `container`. Once
     /// only.
@@ -27,14 +27,14 @@ private:
     /// Content that lies over what has been made of the row.
     struct Overlay {
         int column = 0;
-        Row const* content = nullptr;
+        RowView content;
         Colour background;
     };
 
     void paintEdge(bool isTop, int padding);
     void paintBlanks(int count);
-    void paintBand(TableBand& band);
-    void paintRow(TableBand const& band, int gridRow);
+    void paintBand();
+    void paintRow(int gridRow);
     void paintGap(int line, int height, int top);
     void beginRow();
     void endRow();
@@ -49,10 +49,11 @@ private:
     TableGrid& grid;
     TableFrame& frame;
     Style const& table;
-    std::vector<Row>& rows;
+    RowSink& rows;
     PageBudget& budget;
     bool isVisible;
     ColumnPlaces places;
+    TableBand band;
     /// Cells of the row by their columns.
     std::vector<LaidCell const*> active;
     std::vector<Overlay> overlays;

@@ -17,10 +17,11 @@ ColumnNeed needOf(Length width, int edges) {
     return need;
 }
 
-ColumnNeed needOf(TableCell const& cell, TableFrame const& frame, Wrapping wrapping) {
+ColumnNeed needOf(TableCell const& cell, TableFrame const& frame, Wrapping wrapping,
+                  Paragraph& scratch) {
     Style const& style = *cell.style;
     Widths content =
-        wrapping == Wrapping::anywhere ? cell.content.partedWidths() : cell.content.widths();
+        wrapping == Wrapping::anywhere ? cell.content.partedWidths(scratch) : cell.content.widths();
     if (isCells(style.width)) content.most = style.width.value;
     if (isCells(style.maxWidth)) {
         content.least = std::min(content.least, style.maxWidth.value);
@@ -74,18 +75,20 @@ std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& 
                                        Wrapping wrapping) {
     std::vector<ColumnNeed> needs = needsOfElements(grid);
     std::vector<TableCell const*> spanning;
+    Paragraph scratch;
     for (TableCell const& cell : grid.cells()) {
         if (cell.isWide) {
             spanning.push_back(&cell);
         } else {
-            widen(needs[static_cast<std::size_t>(cell.column)], needOf(cell, frame, wrapping));
+            widen(needs[static_cast<std::size_t>(cell.column)],
+                  needOf(cell, frame, wrapping, scratch));
         }
     }
     std::stable_sort(spanning.begin(), spanning.end(), [](TableCell const* a, TableCell const* b) {
         return a->columnSpan < b->columnSpan;
     });
     for (TableCell const* const cell : spanning) {
-        ColumnNeed need = needOf(*cell, frame, wrapping);
+        ColumnNeed need = needOf(*cell, frame, wrapping, scratch);
         int const gaps = frame.columnGaps(cell->column, cell->endColumn());
         need.least = std::max(0, need.least - gaps);
         need.most = std::max(0, need.most - gaps);

@@ -6,6 +6,7 @@
 #include "web/flow/Border.h"
 #include "web/flow/lengths.h"
 #include "web/text/Cluster.h"
+#include "web/text/ideographs.h"
 
 namespace galley::web {
 
@@ -33,7 +34,8 @@ private:
 
     static bool isText(Item const& item) {
         return item.kind == Item::Kind::words || item.kind == Item::Kind::word ||
-               item.kind == Item::Kind::blanks || item.kind == Item::Kind::tab;
+               item.kind == Item::Kind::ideographs || item.kind == Item::Kind::blanks ||
+               item.kind == Item::Kind::tab;
     }
 
     /// Blanks behind the last text show nowhere.
@@ -78,6 +80,10 @@ private:
                 break;
             case Item::Kind::word:
                 paintWord(item, element);
+                isBegun = true;
+                break;
+            case Item::Kind::ideographs:
+                add(textOf(item), cellsOfIdeographs(textOf(item)), element);
                 isBegun = true;
                 break;
             case Item::Kind::blank:
@@ -131,7 +137,11 @@ private:
     }
 
     void addPlain(std::string_view text, Inline const& element) {
-        auto const cells = static_cast<int>(text.size());
+        add(text, static_cast<int>(text.size()), element);
+    }
+
+    /// Adds what is printed as it is, and takes so many cells.
+    void add(std::string_view text, int cells, Inline const& element) {
         if (isVisible(*element.style)) {
             row.add(text, cells, element.look);
         } else {
@@ -142,14 +152,12 @@ private:
     void paintWord(Item const& item, Inline const& element) {
         std::string_view const text = textOf(item);
         if (item.isPlain) return addPlain(text, element);
-        int const cells = countCells(text);
-        if (!isVisible(*element.style)) {
-            row.fill(row.width() + cells, element.look);
-            return;
-        }
+        bool const isWhole = text.size() == item.end - item.begin;
+        int const cells = isWhole ? static_cast<int>(item.width) : countCells(text);
+        if (item.isPrintedAsIs) return add(text, cells, element);
         printed.clear();
         appendPrinted(printed, text);
-        row.add(printed, cells, element.look);
+        add(printed, cells, element);
     }
 
     void paintLeftEdge(Inline const& element) {

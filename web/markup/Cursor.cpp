@@ -17,12 +17,6 @@ constexpr bool continuesName(char c) { return continuesNames(c) || c == ':' || c
 
 }  // namespace
 
-bool Cursor::take(std::string_view text) {
-    if (!startsWith(text)) return false;
-    at += text.size();
-    return true;
-}
-
 std::string_view Cursor::takeUntil(char end) {
     std::size_t const start = at;
     at = std::min(source.find(end, at), source.size());

@@ -17,14 +17,26 @@ public:
 
     /// The next byte, which must be there.
     char peek() const { return source[at]; }
-    bool startsWith(std::string_view text) const { return source.substr(at).starts_with(text); }
+    /// The byte so many behind the next one, or 0 where there is none.
+    char peek(std::size_t ahead) const {
+        return source.size() - at > ahead ? source[at + ahead] : '\0';
+    }
+    /// The text is not empty.
+    bool startsWith(std::string_view text) const {
+        return at < source.size() && source[at] == text.front() &&
+               source.substr(at).starts_with(text);
+    }
 
     std::string_view between(std::size_t start, std::size_t end) const {
         return source.substr(start, end - start);
     }
 
     /// Steps behind the text if it is next.
-    bool take(std::string_view text);
+    bool take(std::string_view text) {
+        if (!startsWith(text)) return false;
+        at += text.size();
+        return true;
+    }
     /// Takes the bytes before the next one that is `end`, or all.
     std::string_view takeUntil(char end);
     /// Steps behind the next `end`, if there is one.

@@ -32,10 +32,10 @@ bool Scanner::next(Piece& piece) {
             piece.text = cursor.takeUntil('<');
             return true;
         }
-        if (cursor.startsWith("</")) return tags.readEndTag(piece);
+        char const second = cursor.peek(1);
+        if (second == '/') return tags.readEndTag(piece);
+        if (second != '!' && second != '?') return tags.readStartTag(piece);
         if (cursor.startsWith(s_sectionStart)) return readSection(piece);
-        bool const isSkipped = cursor.startsWith("<!") || cursor.startsWith("<?");
-        if (!isSkipped) return tags.readStartTag(piece);
         if (!skipDeclaration()) return false;
     }
     piece.kind = Piece::Kind::endOfDocument;

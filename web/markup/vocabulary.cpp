@@ -1,6 +1,7 @@
 #include "web/markup/vocabulary.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace galley::web {
@@ -45,6 +46,23 @@ constexpr ElementType s_vocabulary[] = {
 };
 static_assert(std::ranges::is_sorted(s_vocabulary, {}, &ElementType::name));
 
+/// Rows of the table.
+struct RowRange {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+};
+
+/// Those of the names that begin with a letter, from a to z.
+constexpr auto s_byLetter = [] {
+    std::array<RowRange, 26> ranges = {};
+    for (std::size_t i = 0; i < std::size(s_vocabulary); ++i) {
+        RowRange& range = ranges[static_cast<std::size_t>(s_vocabulary[i].name.front() - 'a')];
+        if (range.end == 0) range.begin = i;
+        range.end = i + 1;
+    }
+    return ranges;
+}();
+
 /// Those of HTML, where they are written without an end tag.
 constexpr std::string_view s_voidElements[] = {"area",  "base",   "br",    "col",  "embed",
                                                "hr",    "img",    "input", "link", "meta",
@@ -55,8 +73,13 @@ constexpr std::string_view s_voidElements[] = {"area",  "base",   "br",    "col"
 std::span<ElementType const> vocabulary() { return s_vocabulary; }
 
 ElementType const* findElementType(std::string_view name) {
-    auto const* const found = std::ranges::lower_bound(s_vocabulary, name, {}, &ElementType::name);
-    return found == std::end(s_vocabulary) || found->name != name ? nullptr : found;
+    auto const first = static_cast<unsigned char>(name.front());
+    if (first < 'a' || first > 'z') return nullptr;
+    auto const [begin, end] = s_byLetter[first - 'a'];
+    for (std::size_t i = begin; i < end; ++i) {
+        if (s_vocabulary[i].name == name) return &s_vocabulary[i];
+    }
+    return nullptr;
 }
 
 bool isVoid(std::string_view name) {

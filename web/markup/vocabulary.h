@@ -17,7 +17,8 @@ struct ElementType {
 /// In the order of their names.
 std::span<ElementType const> vocabulary();
 
-/// Null for an element that is none of these. Letters of the other case make another name.
+/// Null for an element that is none of these; the name is not empty. Letters of the other case make
+/// another name.
 ElementType const* findElementType(std::string_view name);
 
 /// Whether elements of this name never have content, so that their ends are easily forgotten.

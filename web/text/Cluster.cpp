@@ -133,12 +133,12 @@ void appendCluster(std::string& out, std::string_view cluster) {
 Cluster clusterAt(std::string_view text, std::size_t at, bool isAmbiguousWide) {
     if (isPlainAt(text, at)) {
         auto const c = static_cast<unsigned char>(text[at]);
-        return {at, at + 1, 1, c, 1, propertiesOf(c)};
+        return {at, at + 1, 1, true, c, 1, propertiesOf(c)};
     }
     Character last(decodeAt(text, at));
     char32_t const shown = isControl(last.value) ? s_replacementCharacter : last.value;
     bool const isPrinted = !isInvisible(last.value, last.properties);
-    Cluster cluster = {at, at + last.length, 0, shown, last.length, propertiesOf(shown)};
+    Cluster cluster = {at, at + last.length, 0, false, shown, last.length, propertiesOf(shown)};
     Width width(isAmbiguousWide);
     width.take(last, cluster.properties);
     std::int32_t state = 0;
@@ -149,7 +149,10 @@ Cluster clusterAt(std::string_view text, std::size_t at, bool isAmbiguousWide) {
         cluster.end += next.length;
         last = next;
     }
-    if (isPrinted) cluster.width = width.cells();
+    if (!isPrinted) return cluster;
+    cluster.width = width.cells();
+    cluster.isPrintedAsIs = cluster.end == at + cluster.firstLength &&
+                            shown != s_replacementCharacter && !isBlank(shown);
     return cluster;
 }
 

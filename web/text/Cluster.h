@@ -16,6 +16,8 @@ struct Cluster {
     /// Cells: 1 or 2, and 0 exactly where it is not printed: a soft hyphen, a format character, a
     /// mark or a joiner without a base.
     unsigned width = 0;
+    /// Whether `appendPrinted` appends just its bytes. Not told of each for which that is so.
+    bool isPrintedAsIs = false;
     /// Its first code point, which has so many bytes, and what is known of it. Controls count as
     /// U+FFFD.
     char32_t first = 0;

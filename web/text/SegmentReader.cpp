@@ -3,8 +3,10 @@
 #include <utf8proc.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "web/text/asciiBreaks.h"
+#include "web/text/ideographs.h"
 #include "web/text/scanWord.h"
 #include "web/text/utf8.h"
 
@@ -71,6 +73,25 @@ std::string_view SegmentReader::takeWords() {
     return words.substr(0, lastBlank + 1);
 }
 
+std::string_view SegmentReader::takeIdeographs() {
+    if (options.wordBreak == WordBreak::keepAll) return {};
+    std::size_t end = at;
+    while (isIdeographAt(text, end)) end += s_ideographBytes;
+    // What is behind the last one may belong to it, or stay with it.
+    std::size_t const length = end > at ? end - at - s_ideographBytes : 0;
+    at += length;
+    return text.substr(at - length, length);
+}
+
+std::string_view SegmentReader::takeUnbroken() {
+    std::size_t end = at;
+    while (end < text.size() && (isPrintableAscii(text[end]) || text[end] == ' ')) ++end;
+    bool const mayBeJoined = end < text.size() && !isWhiteSpace(text[end]);
+    if (mayBeJoined && end > at) --end;
+    std::size_t const begin = std::exchange(at, end);
+    return text.substr(begin, end - begin);
+}
+
 /// Fails at what is neither white space nor printable ASCII.
 bool SegmentReader::readAscii(Segment& segment) const {
     auto const isWord = [&](std::size_t i) { return i < text.size() && isPrintableAscii(text[i]); };
@@ -102,6 +123,7 @@ void SegmentReader::readClusters(Segment& segment) {
     Cluster cluster = goesOn ? following : startWord();
     while (cluster.begin < wordEnd) {
         segment.width += cluster.width;
+        segment.isPrintedAsIs = segment.isPrintedAsIs && cluster.isPrintedAsIs;
         take(cluster);
         if (cluster.end == wordEnd) break;
         following = clusterAt(text.substr(0, wordEnd), cluster.end, options.isAmbiguousWide);

@@ -47,6 +47,8 @@ struct Segment {
     /// Printable ASCII: a cell a byte, printed as it is. Else `clusterAt`, given the text up to
     /// `end`, goes through it, and `appendPrinted` prints it.
     bool isPlain = true;
+    /// `appendPrinted` appends just the bytes, as of all that is plain.
+    bool isPrintedAsIs = true;
 };
 
 /// Reads one text node, its references decoded, in segments: one pass, at a bounded cost a byte,
@@ -70,6 +72,16 @@ public:
     /// such word comes. This is what most of a text in ASCII is, faster than by segments: a line is
     /// filled by a search for a blank, from behind.
     std::string_view takeWords();
+
+    /// Takes what comes next as far as it is ideographs, kana and syllables of Hangul, each of
+    /// three bytes and two cells, with an opportunity behind each. Empty where none comes, and
+    /// where `word-break` keeps them together.
+    std::string_view takeIdeographs();
+
+    /// Takes what comes next as far as it is blanks and printable ASCII, which makes up most of a
+    /// text that is preserved, and where no line breaks. Not before a character that could join the
+    /// last of them.
+    std::string_view takeUnbroken();
 
 private:
     bool readAscii(Segment& segment) const;

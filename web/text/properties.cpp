@@ -1,6 +1,5 @@
 #include "web/text/properties.h"
 
-#include <algorithm>
 #include <array>
 #include <iterator>
 
@@ -15,38 +14,77 @@ constexpr std::uint32_t s_ranges[] = {
 };
 
 constexpr unsigned s_pageBits = 8;
+constexpr std::uint32_t s_pageSize = 1U << s_pageBits;
 constexpr std::size_t s_pages = 0x110000 >> s_pageBits;
 
 constexpr std::uint32_t firstOf(std::uint32_t range) { return range >> 11; }
 
-/// For each page of code points the range that its first one is in, and one more for the end.
-constexpr auto s_pageRanges = [] {
-    std::array<std::uint16_t, s_pages + 1> ranges = {};
-    std::uint16_t range = 0;
+/// What is said of the code points of a range.
+constexpr std::uint16_t valueOf(std::uint32_t range) {
+    return static_cast<std::uint16_t>(range & 0x7FF);
+}
+
+/// The last range that begins at a code point or before it, from one on that does.
+constexpr std::size_t rangeAt(std::size_t range, std::uint32_t codePoint) {
+    while (range + 1 < std::size(s_ranges) && firstOf(s_ranges[range + 1]) <= codePoint) ++range;
+    return range;
+}
+
+/// Goes through all pages of code points. Tells of each its number, the range that its first code
+/// point is in, and whether that is the range of all.
+template <class Visit>
+constexpr void forEachPage(Visit const& visit) {
+    std::size_t range = 0;
     for (std::uint32_t page = 0; page < s_pages; ++page) {
-        std::uint32_t const first = page << s_pageBits;
-        while (range + 1U < std::size(s_ranges) && firstOf(s_ranges[range + 1]) <= first) ++range;
-        ranges[page] = range;
+        range = rangeAt(range, page * s_pageSize);
+        std::size_t const last = rangeAt(range, (page + 1) * s_pageSize - 1);
+        visit(page, range, last == range);
     }
-    ranges[s_pages] = range;
-    return ranges;
+}
+
+/// Pages of several ranges.
+constexpr std::size_t s_mixedPages = [] {
+    std::size_t count = 0;
+    forEachPage([&](std::uint32_t, std::size_t, bool isUniform) { count += isUniform ? 0 : 1; });
+    return count;
+}();
+
+/// Of a page of one range, most of which are of ideographs and syllables, the value of all; the bit
+/// is in none.
+constexpr std::uint16_t s_uniform = 0x8000;
+
+struct Table {
+    /// The value of all its code points, with `s_uniform`, or which of the pages below it is.
+    std::array<std::uint16_t, s_pages> pages = {};
+    std::array<std::uint16_t, s_mixedPages * s_pageSize> values = {};
+};
+
+constexpr Table s_table = [] {
+    Table table;
+    std::uint16_t mixed = 0;
+    forEachPage([&](std::uint32_t page, std::size_t range, bool isUniform) {
+        table.pages[page] =
+            isUniform ? static_cast<std::uint16_t>(valueOf(s_ranges[range]) | s_uniform) : mixed;
+        if (isUniform) return;
+        for (std::uint32_t i = 0; i < s_pageSize; ++i) {
+            range = rangeAt(range, page * s_pageSize + i);
+            table.values[mixed * s_pageSize + i] = valueOf(s_ranges[range]);
+        }
+        ++mixed;
+    });
+    return table;
 }();
 
 }  // namespace
 
 Properties propertiesOf(char32_t codePoint) {
-    std::size_t const page = codePoint >> s_pageBits;
-    std::uint32_t const* const first = s_ranges + s_pageRanges[page];
-    std::uint32_t const* const last = s_ranges + s_pageRanges[page + 1];
-    auto const isBefore = [](std::uint32_t one, std::uint32_t range) {
-        return one < firstOf(range);
-    };
-    // Most pages of ideographs and syllables are in one range.
-    std::uint32_t const range =
-        first == last ? *first
-                      : *std::prev(std::upper_bound(first + 1, last + 1, codePoint, isBefore));
-    return {static_cast<LineClass>(range & 0x3F), static_cast<EastAsianWidth>(range >> 6 & 3),
-            (range >> 8 & 1) != 0};
+    std::uint32_t const page = s_table.pages[codePoint >> s_pageBits];
+    std::uint32_t const value =
+        (page & s_uniform) != 0
+            ? page
+            : s_table.values[page << s_pageBits | (codePoint & (s_pageSize - 1))];
+    return {static_cast<LineClass>(value & 0x3F), static_cast<EastAsianWidth>(value >> 6 & 3),
+            (value >> 8 & 1) != 0};
 }
 
 }  // namespace galley::web

@@ -57,7 +57,7 @@ std::size_t skipAscii(std::string_view text, std::size_t from) {
 
 }  // namespace
 
-CodePoint decodeAt(std::string_view text, std::size_t at) {
+CodePoint decodeAnyAt(std::string_view text, std::size_t at) {
     unsigned char const first = byteAt(text, at);
     Lead lead = s_leads[first];
     if (lead.length == 1) return {first, 1, true};
@@ -83,10 +83,11 @@ std::size_t startBefore(std::string_view text, std::size_t at) {
 }
 
 std::size_t findIllFormed(std::string_view text, std::size_t from) {
-    while ((from = skipAscii(text, from)) < text.size()) {
+    while (from < text.size()) {
         CodePoint const found = decodeAt(text, from);
         if (!found.isWellFormed) return from;
         from += found.length;
+        if (found.length == 1) from = skipAscii(text, from);
     }
     return std::string_view::npos;
 }

@@ -16,9 +16,21 @@ struct CodePoint {
     bool isWellFormed = false;
 };
 
+/// What `decodeAt` reads, whatever it is.
+CodePoint decodeAnyAt(std::string_view text, std::size_t at);
+
 /// Reads what begins at byte `at` of a text that is longer. An ill-formed part is a maximal one:
 /// what could begin a character and does not go on as one, at least one byte.
-CodePoint decodeAt(std::string_view text, std::size_t at);
+inline CodePoint decodeAt(std::string_view text, std::size_t at) {
+    auto const byte = [&](std::size_t i) {
+        return static_cast<char32_t>(static_cast<unsigned char>(text[at + i]));
+    };
+    // Of three bytes, and without the two first bytes behind which not all is well-formed.
+    bool const isUsual = text.size() - at >= 3 && byte(0) > 0xE0 && byte(0) <= 0xEF &&
+                         byte(0) != 0xED && (byte(1) & 0xC0) == 0x80 && (byte(2) & 0xC0) == 0x80;
+    if (!isUsual) return decodeAnyAt(text, at);
+    return {(byte(0) & 0xF) << 12 | (byte(1) & 0x3F) << 6 | (byte(2) & 0x3F), 3, true};
+}
 
 /// Where the code point begins that ends before byte `at`, which is not 0. Of an ill-formed part
 /// only the last byte is seen.
