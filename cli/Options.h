@@ -24,6 +24,7 @@ struct Options {
     Product product = Product::Page;
     galley::Format format = galley::Format::ansi;
     galley::Color color = galley::Color::automatic;
+    galley::Links links = galley::Links::automatic;
     galley::Theme theme = galley::Theme::automatic;
     /// Control characters of the document and the sheets reach the terminal.
     bool isRaw = false;

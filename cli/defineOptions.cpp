@@ -87,9 +87,23 @@ void defineForm(CLI::App& app, Options& options) {
         app, "--color", options.color,
         {{"auto", galley::Color::automatic},
          {"always", galley::Color::always},
-         {"never", galley::Color::never}},
+         {"never", galley::Color::never},
+         {"16", galley::Color::colors16},
+         {"256", galley::Color::colors256},
+         {"24bit", galley::Color::colors24bit}},
         "Whether the format ansi has its escape sequences; auto, the default, keeps them where "
-        "standard output is a terminal, no file is named and NO_COLOR is unset or empty");
+        "standard output is a terminal, no file is named and NO_COLOR is unset or empty. A number "
+        "of colours is that of the terminal that they go to; otherwise the environment's COLORTERM "
+        "and TERM tell");
+    addChoice<galley::Links>(
+        app, "--links", options.links,
+        {{"auto", galley::Links::automatic},
+         {"always", galley::Links::always},
+         {"never", galley::Links::never},
+         {"list", galley::Links::list}},
+        "How links lead on: a click on them, by escape sequences that auto, the default, has only "
+        "for a terminal and always wherever there are any; not at all; or by numbers behind them "
+        "and a list of addresses at the end of the page");
     addChoice<Product>(app, "--dump", options.product,
                        {{"dom", Product::DocumentTree}, {"boxes", Product::BoxTree}},
                        "Print a tree instead of the page: the document's, or the boxes after "

@@ -47,6 +47,7 @@ Manner::Manner(Options const& options)
     page.width = options.width.value_or(0);
     page.format = options.format;
     page.color = options.color;
+    page.links = options.links;
     page.dialect = options.dialect;
     page.theme = options.theme;
     page.raw = options.isRaw;
@@ -54,6 +55,8 @@ Manner::Manner(Options const& options)
     // A file is no terminal, whatever standard output is.
     bool const isFile = page.standalone && page.color == galley::Color::automatic;
     if (isFile) page.color = galley::Color::never;
+    bool const isSequences = page.standalone && page.format == galley::Format::ansi;
+    if (isSequences && page.links == galley::Links::automatic) page.links = galley::Links::never;
     page = galley::settle(page, stdout);
     if (options.maxWidth) page.width = std::min(page.width, *options.maxWidth);
 }

@@ -80,7 +80,8 @@ galley::Options optionsOf(galley_options const* given) {
     if (given != nullptr) std::memcpy(&known, given, std::min(given->size, sizeof known));
     galley::Options options;
     options.width = known.width;
-    options.color = choice(known.color, galley::Color::never);
+    options.color = choice(known.color, galley::Color::colors24bit);
+    options.links = choice(known.links, galley::Links::list);
     options.format = choice(known.format, galley::Format::svg);
     options.theme = choice(known.theme, galley::Theme::dark);
     options.dialect = dialectOf(known.dialect);

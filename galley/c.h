@@ -35,10 +35,25 @@ typedef struct galley_options {
     int standalone;   /**< not 0: html is a whole document */
     int raw;          /**< not 0: control characters stay, in the format ansi */
     char const* name; /**< of the document in errors; NULL: "<document>" */
+    int links;        /**< galley_links */
 } galley_options;
 
 /** As galley::Color. */
-enum galley_color { GALLEY_COLOR_AUTOMATIC, GALLEY_COLOR_ALWAYS, GALLEY_COLOR_NEVER };
+enum galley_color {
+    GALLEY_COLOR_AUTOMATIC,
+    GALLEY_COLOR_ALWAYS,
+    GALLEY_COLOR_NEVER,
+    GALLEY_COLOR_16,
+    GALLEY_COLOR_256,
+    GALLEY_COLOR_24BIT
+};
+/** As galley::Links. */
+enum galley_links {
+    GALLEY_LINKS_AUTOMATIC,
+    GALLEY_LINKS_ALWAYS,
+    GALLEY_LINKS_NEVER,
+    GALLEY_LINKS_LIST
+};
 /** As galley::Format. */
 enum galley_format { GALLEY_ANSI, GALLEY_PLAIN, GALLEY_HTML, GALLEY_SVG };
 /** As galley::Theme. */

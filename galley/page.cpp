@@ -15,6 +15,9 @@ Options settle(Options options, std::FILE* out) {
         options.color = isColorWelcome(out) ? Color::always : Color::never;
     }
     bool const isAnsi = options.format == Format::ansi;
+    if (options.links == Links::automatic) {
+        options.links = !isAnsi || isTerminal(out) ? Links::always : Links::never;
+    }
     if (isAnsi && options.color == Color::never) options.format = Format::plain;
     options.raw = options.raw && isAnsi;
     return options;

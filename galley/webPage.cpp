@@ -66,12 +66,37 @@ std::vector<Diagnostic> errorsOf(std::vector<Diagnostic> all) {
     return all;
 }
 
+web::Media::Links linksFor(Options const& options) {
+    switch (options.links) {
+        case Links::list:
+            return web::Media::Links::listed;
+        case Links::never:
+            return web::Media::Links::ignored;
+        default:
+            return web::Media::Links::followed;
+    }
+}
+
+ColourDepth depthFor(Color color) {
+    switch (color) {
+        case Color::colors16:
+            return ColourDepth::sixteen;
+        case Color::colors256:
+            return ColourDepth::cube256;
+        case Color::colors24bit:
+            return ColourDepth::exact;
+        default:
+            return colourDepthOfTerminal();
+    }
+}
+
 web::Media mediaFor(Options const& options) {
     web::Media media;
     media.width = options.width;
     media.hasColour = options.color != Color::never && options.format != Format::plain;
     if (options.theme == Theme::light) media.scheme = web::Media::Scheme::light;
     if (options.theme == Theme::dark) media.scheme = web::Media::Scheme::dark;
+    media.links = linksFor(options);
     return media;
 }
 
@@ -83,7 +108,7 @@ std::vector<Diagnostic> convert(String& page, std::string_view markup, Sheet con
     std::string_view const text = withoutMark(markup);
     std::vector<web::Sheet const*> const sheets = SheetAccess::webSheets(sheet);
     std::vector<Problem> problems;
-    auto const writer = makePageWriter(page, options, {colourDepthOfTerminal(), true});
+    auto const writer = makePageWriter(page, options, depthFor(options.color));
     if (web::renderPage(text, sheets, mediaFor(options), *writer, problems)) writer->finish();
     return diagnose(std::move(problems), {options.name, text});
 }

@@ -20,20 +20,6 @@ bool isBlank(std::string_view text) {
     return text.find_first_not_of(s_whiteSpace) == std::string_view::npos;
 }
 
-std::string_view attribute(Element const& element, std::string_view name) {
-    for (Attribute const& each : element.attributes) {
-        if (each.name == name) return each.value;
-    }
-    return {};
-}
-
-/// Where a terminal may be sent.
-bool mayFollow(std::string_view address) {
-    constexpr std::string_view s_schemes[] = {"http:", "https:", "mailto:", "file:"};
-    return std::any_of(std::begin(s_schemes), std::end(s_schemes),
-                       [&](std::string_view scheme) { return address.starts_with(scheme); });
-}
-
 bool isTablePart(Display display) { return display > Display::table; }
 
 /// In cells; a wider one shows no more.
@@ -92,6 +78,7 @@ void PageBuilder::openImplied(Element& element, std::string_view name) {
     element.name = name;
     element.style = cascade->styleOf(element);
     open.push_back({openElement(element, *element.style), element.style});
+    open.back().isBody = name == "body";
 }
 
 void PageBuilder::startElement(Element& element) {
@@ -108,6 +95,7 @@ void PageBuilder::startElement(Element& element) {
         role = openElement(element, *style);
     }
     OpenElement& opened = open.emplace_back(OpenElement{role, style});
+    opened.isBody = element.name == "body";
     opened.isList = !isHidden && (element.name == "ol" || element.name == "ul");
     if (opened.isList) {
         opened.nextNumber = integerAttribute(element, "start", s_numbers, problems).value_or(1);
@@ -129,28 +117,6 @@ PageBuilder::Role PageBuilder::openElement(Element const& element, Style const& 
         default:
             return openTablePart(element, style);
     }
-}
-
-PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& style) {
-    if (isInTable()) openAnonymousCell();
-    Paragraph& paragraph = frame().paragraph;
-    if (element.name == "br") {
-        paragraph.addLineFeed();
-        return Role::point;
-    }
-    if (element.name == "wbr") {
-        paragraph.addBreakable();
-        return Role::point;
-    }
-    Link const* link = nullptr;
-    std::string_view const address = attribute(element, "href");
-    if (element.name == "a" && mayFollow(address)) {
-        link = &links.emplace_back(Link{std::string(address), ++linkCount});
-    }
-    paragraph.open(style, link);
-    if (element.name != "q") return Role::inlined;
-    paragraph.addGenerated(quoteDepth++ % 2 == 0 ? "“" : "‘");
-    return Role::quote;
 }
 
 void PageBuilder::openBlock(Element const& element, Style const& style) {
@@ -200,12 +166,20 @@ void PageBuilder::endElement(Element& element) {
     static_cast<void>(element);
     closeAnonymousCell();
     closeImpliedTable();
-    Role const role = open.back().role;
-    open.pop_back();
-    closeElement(role);
+    closeElement();
 }
 
-void PageBuilder::closeElement(Role role) {
+void PageBuilder::closeElement() {
+    OpenElement const closed = open.back();
+    open.pop_back();
+    if (closed.isBody && closed.role == Role::block) {
+        endParagraph();
+        linkList.moveTo(*frame().sink, *frame().style, frame().background);
+    }
+    endRole(closed.role);
+}
+
+void PageBuilder::endRole(Role role) {
     switch (role) {
         case Role::quote:
             frame().paragraph.addGenerated(--quoteDepth % 2 == 0 ? "”" : "’");
@@ -213,6 +187,11 @@ void PageBuilder::closeElement(Role role) {
             break;
         case Role::inlined:
             frame().paragraph.close();
+            break;
+        case Role::numberedLink:
+            frame().paragraph.close();
+            frame().paragraph.addGenerated("\u00A0[" + std::to_string(linkNumbers.back()) + "]");
+            linkNumbers.pop_back();
             break;
         case Role::block:
             endParagraph();
@@ -244,12 +223,12 @@ void PageBuilder::closeElement(Role role) {
 }
 
 void PageBuilder::finish() {
-    while (!open.empty()) {
-        Role const role = open.back().role;
-        open.pop_back();
-        closeElement(role);
+    while (!open.empty()) closeElement();
+    if (depth > 0) {
+        endParagraph();
+        // Of a document without a body, and behind it.
+        linkList.moveTo(page, *frame().style, frame().background);
     }
-    if (depth > 0) endParagraph();
     page.finish();
 }
 

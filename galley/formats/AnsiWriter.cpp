@@ -18,7 +18,7 @@ void AnsiWriter::take(Row const& row) {
     for (Row::Span const& span : row.spans()) {
         if (span.begin >= end) break;
         changeLink(span.look.link);
-        changeLook(sgrParameters(span.look, terminal.depth));
+        changeLook(sgrParameters(span.look, depth));
         append(out, row.text().substr(span.begin, std::min(span.end, end) - span.begin));
     }
     changeLook({});
@@ -36,7 +36,7 @@ std::size_t AnsiWriter::shownLength(Row const& row) const {
 
 bool AnsiWriter::showsBlanks(Look const& look) const {
     bool const hasGround =
-        look.background.kind != Colour::Kind::terminal && terminal.depth != ColourDepth::none;
+        look.background.kind != Colour::Kind::terminal && depth != ColourDepth::none;
     return hasGround || look.isUnderlined || look.isStruckThrough || look.isInverse;
 }
 
@@ -50,7 +50,7 @@ void AnsiWriter::changeLook(std::string const& parameters) {
 
 // A terminal takes parts of several rows for one link where they have the same id.
 void AnsiWriter::changeLink(web::Link const* next) {
-    if (next == link || !terminal.hasLinks) return;
+    if (next == link) return;
     link = next;
     if (link == nullptr) {
         append(out, "\x1b]8;;\x1b\\");

@@ -12,12 +12,15 @@ namespace galley::web {
 /// What a page is shown on.
 struct Media {
     enum class Scheme { none, dark, light };
+    /// What a page has of links: that one can follow them, nothing, or numbers and a list.
+    enum class Links { followed, ignored, listed };
 
     /// Of the page, in cells.
     unsigned width = 80;
     bool hasColour = true;
     /// Colours that are preferred, where that is known.
     Scheme scheme = Scheme::none;
+    Links links = Links::followed;
 };
 
 /// One thing that a media query asks.
