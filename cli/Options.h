@@ -24,6 +24,8 @@ struct Options {
     Product product = Product::Page;
     galley::Format format = galley::Format::ansi;
     galley::Color color = galley::Color::automatic;
+    unsigned ambiguousWidth = 1;
+    bool hasAsciiFrames = false;
     galley::Links links = galley::Links::automatic;
     galley::Theme theme = galley::Theme::automatic;
     /// Control characters of the document and the sheets reach the terminal.

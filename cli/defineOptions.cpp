@@ -104,6 +104,10 @@ void defineForm(CLI::App& app, Options& options) {
         "How links lead on: a click on them, by escape sequences that auto, the default, has only "
         "for a terminal and always wherever there are any; not at all; or by numbers behind them "
         "and a list of addresses at the end of the page");
+    addChoice<unsigned>(app, "--ambiguous-width", options.ambiguousWidth, {{"1", 1}, {"2", 2}},
+                        "Columns that the terminal gives to East Asian ambiguous characters "
+                        "(default: 1); with 2, frames are drawn in ASCII, since theirs are such");
+    app.add_flag("--ascii", options.hasAsciiFrames, "Draw frames with + - | and =");
     addChoice<Product>(app, "--dump", options.product,
                        {{"dom", Product::DocumentTree}, {"boxes", Product::BoxTree}},
                        "Print a tree instead of the page: the document's, or the boxes after "

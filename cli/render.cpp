@@ -48,6 +48,8 @@ Manner::Manner(Options const& options)
     page.format = options.format;
     page.color = options.color;
     page.links = options.links;
+    page.ambiguousWidth = options.ambiguousWidth;
+    page.asciiFrames = options.hasAsciiFrames;
     page.dialect = options.dialect;
     page.theme = options.theme;
     page.raw = options.isRaw;

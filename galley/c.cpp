@@ -81,6 +81,8 @@ galley::Options optionsOf(galley_options const* given) {
     galley::Options options;
     options.width = known.width;
     options.color = choice(known.color, galley::Color::colors24bit);
+    options.ambiguousWidth = known.ambiguous_width;
+    options.asciiFrames = known.ascii_frames != 0;
     options.links = choice(known.links, galley::Links::list);
     options.format = choice(known.format, galley::Format::svg);
     options.theme = choice(known.theme, galley::Theme::dark);

@@ -36,6 +36,8 @@ typedef struct galley_options {
     int raw;          /**< not 0: control characters stay, in the format ansi */
     char const* name; /**< of the document in errors; NULL: "<document>" */
     int links;        /**< galley_links */
+    unsigned ambiguous_width; /**< cells of East Asian ambiguous characters: 2, or else 1 */
+    int ascii_frames;         /**< not 0: frames are drawn with "+", "-", "|" and "=" */
 } galley_options;
 
 /** As galley::Color. */

@@ -75,6 +75,11 @@ struct Options {
     Links links = Links::automatic;  ///< Of the dialect `web`.
     Format format = Format::ansi;    ///< How the page is written.
     Theme theme = Theme::automatic;  ///< Of `html` and `svg`.
+    /// Cells of East Asian ambiguous characters, 1 or 2, in the dialect `web`. Those that frames
+    /// are drawn with are such: with 2, frames are in ASCII.
+    unsigned ambiguousWidth = 1;
+    /// Whether frames of the dialect `web` are drawn with "+", "-", "|" and "=".
+    bool asciiFrames = false;
     /// Whether `html` is a whole document, with `name`, without folders, as its title.
     bool standalone = false;
     /// Whether control characters of the document and the sheets reach the terminal, in the format

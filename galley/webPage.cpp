@@ -97,6 +97,8 @@ web::Media mediaFor(Options const& options) {
     if (options.theme == Theme::light) media.scheme = web::Media::Scheme::light;
     if (options.theme == Theme::dark) media.scheme = web::Media::Scheme::dark;
     media.links = linksFor(options);
+    media.cells.isAmbiguousWide = options.ambiguousWidth > 1;
+    media.cells.hasAsciiFrames = options.asciiFrames || media.cells.isAmbiguousWide;
     return media;
 }
 

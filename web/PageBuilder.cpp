@@ -37,7 +37,9 @@ PageBuilder::PageBuilder(Sheet const& defaults, std::span<Sheet const* const> au
       media(shownOn),
       problems(found),
       page(rows, cells, static_cast<int>(std::min(shownOn.width, s_widestPage)), {},
-           Flow::OuterMargins::dropped) {}
+           Flow::OuterMargins::dropped) {
+    initial.cells = media.cells;
+}
 
 void PageBuilder::styleSheet(EmbeddedSheet const& sheet) {
     std::string text(sheet.text());
@@ -65,8 +67,7 @@ bool PageBuilder::asksForLastChild() {
 /// A fragment, which begins with another element or with text, stands in `html` and `body`.
 void PageBuilder::openRoot(std::string_view name) {
     if (depth > 0) return;
-    static Style const s_initial;
-    push(page, s_initial, {});
+    push(page, initial, {});
     if (name == "html") return;
     openImplied(html, "html");
     if (name == "body") return;
@@ -129,7 +130,7 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
         if (style.markerPosition == MarkerPosition::inside) {
             inside = text + " ";
         } else {
-            int const columns = countCells(text);
+            int const columns = countCells(text, style.cells.isAmbiguousWide);
             marker = {std::move(text), columns};
         }
     }

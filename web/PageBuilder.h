@@ -107,6 +107,8 @@ private:
     std::vector<Problem>& problems;
     std::optional<Cascade> cascade;
     Flow page;
+    /// Of what is around the outermost element.
+    Style initial;
     /// What a fragment stands in.
     ///@{
     Element html;

@@ -31,7 +31,9 @@ std::unique_ptr<PageWriter> makeWriter(String& page, Options const& options, Col
 
 std::unique_ptr<PageWriter> makePageWriter(String& page, Options const& options,
                                            ColourDepth depth) {
-    return makeWriter(page, options, depth, CellRule::clusters);
+    bool const isAmbiguousWide = options.ambiguousWidth > 1;
+    return makeWriter(page, options, depth,
+                      isAmbiguousWide ? CellRule::wideClusters : CellRule::clusters);
 }
 
 void rewritePage(String& page, Options const& options) {

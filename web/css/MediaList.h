@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "web/Problem.h"
+#include "web/Style.h"
 #include "web/css/Token.h"
 
 namespace galley::web {
@@ -21,6 +22,7 @@ struct Media {
     /// Colours that are preferred, where that is known.
     Scheme scheme = Scheme::none;
     Links links = Links::followed;
+    CellRules cells = {};
 };
 
 /// One thing that a media query asks.

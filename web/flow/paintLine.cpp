@@ -142,7 +142,7 @@ private:
     void paintWord(Item const& item, Inline const& element) {
         std::string_view const text = textOf(item);
         if (item.isPlain) return addPlain(text, element);
-        int const cells = countCells(text);
+        int const cells = countCells(text, element.style->cells.isAmbiguousWide);
         if (!isVisible(*element.style)) {
             row.fill(row.width() + cells, element.look);
             return;

@@ -1,4 +1,4 @@
-// Links of the dialect web, and how many colours its pages have.
+// Pages of the dialect web: links, colours, frames.
 
 #include <unistd.h>
 
@@ -10,6 +10,7 @@
 namespace {
 
 using Links = Tool;
+using Frames = Tool;
 
 std::string const s_page = "<p>See <a href=\"https://a.example/\" color=\"#ff8800\">it</a>.</p>";
 
@@ -102,6 +103,25 @@ TEST_F(Links, ThatAreManyHaveTheirAddressesInOneColumn) {
     for (int i = 1; i <= 10; ++i) page += "<a href='http://" + std::to_string(i) + "/'>a</a> ";
     std::string const out = run("--dialect web --links list", page).out;
     EXPECT_NE(out.find("\n [9] http://9/\n[10] http://10/\n"), std::string::npos) << out;
+}
+
+TEST_F(Frames, AreOfAsciiWhereAskedForOrTheirsWouldBeWide) {
+    struct Case {
+        char const* arguments;
+        char const* out;
+    };
+    constexpr Case cases[] = {
+        {"", "┌───────┐\n│±a     │\n└───────┘\n"},
+        {"--ambiguous-width 1", "┌───────┐\n│±a     │\n└───────┘\n"},
+        {"--ascii", "+-------+\n|±a     |\n+-------+\n"},
+        {"--ambiguous-width 2", "+-------+\n|±a    |\n+-------+\n"},
+    };
+    std::string const page = "<div style='border: solid'>±a</div>";
+    for (auto const& [arguments, out] : cases) {
+        EXPECT_EQ(run(std::string("--dialect web -w 9 ") + arguments, page).out, out) << arguments;
+    }
+    std::string const html = run("--dialect web -f html --ambiguous-width 2", page).out;
+    EXPECT_NE(html.find("<span class=\"gw\">&#177;</span>a"), std::string::npos) << html;
 }
 
 }  // namespace
