@@ -8,7 +8,7 @@
 #include "galley/galley.h"
 
 /// What a document is turned into.
-enum class Product { Page, DocumentTree, BoxTree };
+enum class Product { Page, DocumentTree, BoxTree, StyleTree };
 
 /// What the command line asks for.
 struct Options {

@@ -108,10 +108,11 @@ void defineForm(CLI::App& app, Options& options) {
                         "Columns that the terminal gives to East Asian ambiguous characters "
                         "(default: 1); with 2, frames are drawn in ASCII, since theirs are such");
     app.add_flag("--ascii", options.hasAsciiFrames, "Draw frames with + - | and =");
-    addChoice<Product>(app, "--dump", options.product,
-                       {{"dom", Product::DocumentTree}, {"boxes", Product::BoxTree}},
-                       "Print a tree instead of the page: the document's, or the boxes after "
-                       "layout")
+    addChoice<Product>(
+        app, "--dump", options.product,
+        {{"tree", Product::StyleTree}, {"dom", Product::DocumentTree}, {"boxes", Product::BoxTree}},
+        "Print a tree instead of the page: elements with their styles, or, in the "
+        "dialect core, the document's or the boxes after layout")
         ->excludes("--format");
     app.add_flag("--raw", options.isRaw,
                  "Pass control characters of the document and the sheets on to the terminal; "

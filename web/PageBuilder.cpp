@@ -66,11 +66,13 @@ bool PageBuilder::asksForLastChild() {
 
 /// A fragment, which begins with another element or with text, stands in `html` and `body`.
 void PageBuilder::openRoot(std::string_view name) {
-    if (depth > 0) return;
-    push(page, initial, {});
-    if (name == "html") return;
-    openImplied(html, "html");
-    if (name == "body") return;
+    if (depth == 0) push(page, initial, {});
+    if (open.empty()) {
+        if (name == "html") return;
+        openImplied(html, "html");
+    }
+    bool const isInHtml = html.style != nullptr && open.size() == 1;
+    if (!isInHtml || name == "body") return;
     body.parent = &html;
     openImplied(body, "body");
 }
@@ -151,10 +153,9 @@ int PageBuilder::numberOf(Element const& element) {
 }
 
 void PageBuilder::text(std::string_view decoded) {
-    if (depth == 0 && isBlank(decoded)) return;
-    openRoot({});
-    if (!open.empty() && open.back().role == Role::hidden) return;
-    if (!open.empty() && open.back().role == Role::columnGroup) return;
+    if (!isBlank(decoded)) openRoot({});
+    if (open.empty()) return;
+    if (open.back().role == Role::hidden || open.back().role == Role::columnGroup) return;
     if (!isBlank(decoded)) closeImpliedTable();
     if (isInTable()) {
         if (isBlank(decoded)) return;
@@ -221,6 +222,11 @@ void PageBuilder::endRole(Role role) {
         case Role::point:
             break;
     }
+}
+
+Element const* PageBuilder::implied() const {
+    if (body.style != nullptr) return &body;
+    return html.style != nullptr ? &html : nullptr;
 }
 
 void PageBuilder::finish() {

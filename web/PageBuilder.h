@@ -30,6 +30,8 @@ public:
     void startElement(Element& element) override;
     void text(std::string_view decoded) override;
     void endElement(Element& element) override;
+    /// The innermost element around a fragment, null without: it is in no tag of the document.
+    Element const* implied() const;
     /// To be called at the end of the document.
     void finish();
 
@@ -109,7 +111,7 @@ private:
     Flow page;
     /// Of what is around the outermost element.
     Style initial;
-    /// What a fragment stands in.
+    /// What a fragment stands in. Open, it has a style, and is the outermost one that is.
     ///@{
     Element html;
     Element body;

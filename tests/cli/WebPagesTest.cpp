@@ -11,6 +11,7 @@ namespace {
 
 using Links = Tool;
 using Frames = Tool;
+using Trees = Tool;
 
 std::string const s_page = "<p>See <a href=\"https://a.example/\" color=\"#ff8800\">it</a>.</p>";
 
@@ -122,6 +123,31 @@ TEST_F(Frames, AreOfAsciiWhereAskedForOrTheirsWouldBeWide) {
     }
     std::string const html = run("--dialect web -f html --ambiguous-width 2", page).out;
     EXPECT_NE(html.find("<span class=\"gw\">&#177;</span>a"), std::string::npos) << html;
+}
+
+TEST_F(Trees, AreThoseOfTheirDialect) {
+    write("page.css", "p { margin: 0 }");
+    EXPECT_EQ(run("--dialect web --dump tree -s page.css", "<p>a</p>").out,
+              "html { display: block; overflow-wrap: break-word; }\n"
+              "  body { display: block; }\n"
+              "    p { display: block; }\n"
+              "      \"a\"\n");
+    struct Case {
+        char const* arguments;
+        char const* error;
+    };
+    constexpr Case cases[] = {
+        {"--dialect web --dump dom", "Of the dialect web there is --dump tree alone\n"},
+        {"--dialect web --dump boxes", "Of the dialect web there is --dump tree alone\n"},
+        {"--dialect core --dump tree", "--dump tree is for the dialect web\n"},
+    };
+    for (auto const& [arguments, error] : cases) {
+        Outcome const outcome = run(arguments, "<p>a</p>");
+        EXPECT_EQ(outcome.err, "<stdin>: error: " + std::string(error)) << arguments;
+        EXPECT_EQ(outcome.status, 1) << arguments;
+        EXPECT_EQ(outcome.out, "") << arguments;
+    }
+    EXPECT_EQ(run("--dialect web --dump tree", "<p>").out, "");
 }
 
 }  // namespace
