@@ -20,7 +20,8 @@ struct Options {
     std::optional<unsigned> width;
     /// In columns.
     std::optional<unsigned> maxWidth;
-    galley::Dialect dialect = galley::Dialect::core;
+    /// Without it that of each document.
+    std::optional<galley::Dialect> dialect;
     Product product = Product::Page;
     galley::Format format = galley::Format::ansi;
     galley::Color color = galley::Color::automatic;

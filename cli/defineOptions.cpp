@@ -57,7 +57,9 @@ void definePage(CLI::App& app, Options& options) {
         app, "--dialect", options.dialect,
         {{"core", galley::Dialect::core}, {"web", galley::Dialect::web}},
         "The language of documents and sheets: a small one with rules of its own (the default), or "
-        "elements and style sheets as a browser shows them");
+        "elements and style sheets as a browser shows them. Where it is not given a document may "
+        "say it at its beginning, by <?galley dialect=\"core\"?>, and sheets are of the dialect of "
+        "the first document");
     app.add_option("-s,--css", options.sheets,
                    "A style sheet; any number of them, their rules in the order given")
         ->option_text("FILE")

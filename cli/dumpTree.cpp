@@ -2,6 +2,7 @@
 
 #include "galley/SheetAccess.h"
 #include "galley/convert.h"
+#include "galley/dialect.h"
 #include "galley/webPage.h"
 #include "xml/dom/buildDomTree.h"
 #include "xml/layout/BlockBox.h"
@@ -31,7 +32,9 @@ XCode dump(String& tree, String const& markup, Product product, CLI::XML::StyleL
 
 galley::Result<void> dumpTree(String& tree, String& markup, Product product,
                               galley::Sheet const& sheet, galley::Options const& options) {
-    bool const isWeb = options.dialect == galley::Dialect::web;
+    galley::Result<galley::Dialect> const dialect = galley::dialectOf(markup.view(), options);
+    if (!dialect) return dialect;
+    bool const isWeb = *dialect == galley::Dialect::web;
     if (isWeb != (product == Product::StyleTree)) {
         return galley::Result<void>(
             galley::failure(options.name, isWeb ? "Of the dialect web there is --dump tree alone"

@@ -20,14 +20,10 @@ Rendering told(ExitStatus status, std::vector<galley::Diagnostic> const& diagnos
     return rendering;
 }
 
-Rendering tryToRender(std::string const& document, galley::Sheet const& sheet,
-                      Manner const& manner) {
-    String markup;
+Rendering convert(std::string const& document, String& markup, galley::Sheet const& sheet,
+                  Manner const& manner) {
     galley::Options options = manner.page;
     options.name = inputName(document);
-    if (int const fault = readFile(document, markup)) {
-        return told(ExitStatus::FileAtFault, galley::failure(options.name, std::strerror(fault)));
-    }
     if (manner.isCheck) {
         auto const found = galley::checkMarkup(markup, sheet, options);
         return told(statusOf(found, manner.isStrict), found);
@@ -38,6 +34,17 @@ Rendering tryToRender(std::string const& document, galley::Sheet const& sheet,
                             : dumpTree(rendering.text, markup, manner.product, sheet, options);
     if (!result) return told(ExitStatus::InputAtFault, result.errors());
     return rendering;
+}
+
+/// What `work` returns, or that there was no memory for it.
+template <class Work>
+Rendering guarded(std::string const& document, Work const& work) {
+    try {
+        return work();
+    } catch (std::bad_alloc const&) {
+        return told(ExitStatus::InputAtFault,
+                    galley::failure(inputName(document), "Out of memory"));
+    }
 }
 
 }  // namespace
@@ -64,10 +71,17 @@ Manner::Manner(Options const& options)
 }
 
 Rendering render(std::string const& document, galley::Sheet const& sheet, Manner const& manner) {
-    try {
-        return tryToRender(document, sheet, manner);
-    } catch (std::bad_alloc const&) {
-        return told(ExitStatus::InputAtFault,
-                    galley::failure(inputName(document), "Out of memory"));
-    }
+    return guarded(document, [&] {
+        String markup;
+        if (int const fault = readFile(document, markup)) {
+            return told(ExitStatus::FileAtFault,
+                        galley::failure(inputName(document), std::strerror(fault)));
+        }
+        return convert(document, markup, sheet, manner);
+    });
+}
+
+Rendering renderRead(std::string const& document, String markup, galley::Sheet const& sheet,
+                     Manner const& manner) {
+    return guarded(document, [&] { return convert(document, markup, sheet, manner); });
 }

@@ -85,7 +85,9 @@ struct Options {
     /// Whether control characters of the document and the sheets reach the terminal, in the format
     /// `ansi` and the dialect `core`. Otherwise all but white space become question marks.
     bool raw = false;
-    Dialect dialect = Dialect::core;  ///< Of the document; a sheet of the other one is an error.
+    /// Of the document; a sheet of the other one is an error. Where this says nothing the document
+    /// may, by `<?galley dialect="core"?>` at its beginning, else it is `core`.
+    std::optional<Dialect> dialect = std::nullopt;
     /// What errors and warnings call the document.
     std::string name = "<document>";
 };

@@ -2,6 +2,7 @@
 
 #include "galley/SheetAccess.h"
 #include "galley/convert.h"
+#include "galley/dialect.h"
 #include "galley/formats/PageWriter.h"
 #include "galley/terminal/terminal.h"
 #include "galley/webPage.h"
@@ -24,8 +25,10 @@ Options settle(Options options, std::FILE* out) {
 }
 
 Result<void> makePage(String& page, String& markup, Sheet const& sheet, Options const& options) {
-    if (options.dialect == Dialect::web) return makeWebPage(page, markup.view(), sheet, options);
     return guarded(options.name, [&]() -> Result<void> {
+        Result<Dialect> const dialect = dialectOf(markup.view(), options);
+        if (!dialect) return dialect;
+        if (*dialect == Dialect::web) return makeWebPage(page, markup.view(), sheet, options);
         if (auto misfits = SheetAccess::misfits(sheet, Dialect::core); !misfits.empty()) {
             return Result<void>(std::move(misfits));
         }
