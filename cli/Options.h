@@ -8,7 +8,7 @@
 #include "galley/galley.h"
 
 /// What a document is turned into.
-enum class Product { Page, DocumentTree, BoxTree };
+enum class Product { Page, DocumentTree, BoxTree, StyleTree };
 
 /// What the command line asks for.
 struct Options {
@@ -20,10 +20,14 @@ struct Options {
     std::optional<unsigned> width;
     /// In columns.
     std::optional<unsigned> maxWidth;
-    galley::Dialect dialect = galley::Dialect::core;
+    /// Without it that of each document.
+    std::optional<galley::Dialect> dialect;
     Product product = Product::Page;
     galley::Format format = galley::Format::ansi;
     galley::Color color = galley::Color::automatic;
+    unsigned ambiguousWidth = 1;
+    bool hasAsciiFrames = false;
+    galley::Links links = galley::Links::automatic;
     galley::Theme theme = galley::Theme::automatic;
     /// Control characters of the document and the sheets reach the terminal.
     bool isRaw = false;

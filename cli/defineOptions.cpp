@@ -57,7 +57,9 @@ void definePage(CLI::App& app, Options& options) {
         app, "--dialect", options.dialect,
         {{"core", galley::Dialect::core}, {"web", galley::Dialect::web}},
         "The language of documents and sheets: a small one with rules of its own (the default), or "
-        "elements and style sheets as a browser shows them");
+        "elements and style sheets as a browser shows them. Where it is not given a document may "
+        "say it at its beginning, by <?galley dialect=\"core\"?>, and sheets are of the dialect of "
+        "the first document");
     app.add_option("-s,--css", options.sheets,
                    "A style sheet; any number of them, their rules in the order given")
         ->option_text("FILE")
@@ -87,13 +89,32 @@ void defineForm(CLI::App& app, Options& options) {
         app, "--color", options.color,
         {{"auto", galley::Color::automatic},
          {"always", galley::Color::always},
-         {"never", galley::Color::never}},
+         {"never", galley::Color::never},
+         {"16", galley::Color::colors16},
+         {"256", galley::Color::colors256},
+         {"24bit", galley::Color::colors24bit}},
         "Whether the format ansi has its escape sequences; auto, the default, keeps them where "
-        "standard output is a terminal, no file is named and NO_COLOR is unset or empty");
-    addChoice<Product>(app, "--dump", options.product,
-                       {{"dom", Product::DocumentTree}, {"boxes", Product::BoxTree}},
-                       "Print a tree instead of the page: the document's, or the boxes after "
-                       "layout")
+        "standard output is a terminal, no file is named and NO_COLOR is unset or empty. A number "
+        "of colours is that of the terminal that they go to; otherwise the environment's COLORTERM "
+        "and TERM tell");
+    addChoice<galley::Links>(
+        app, "--links", options.links,
+        {{"auto", galley::Links::automatic},
+         {"always", galley::Links::always},
+         {"never", galley::Links::never},
+         {"list", galley::Links::list}},
+        "How links lead on: a click on them, by escape sequences that auto, the default, has only "
+        "for a terminal and always wherever there are any; not at all; or by numbers behind them "
+        "and a list of addresses at the end of the page");
+    addChoice<unsigned>(app, "--ambiguous-width", options.ambiguousWidth, {{"1", 1}, {"2", 2}},
+                        "Columns that the terminal gives to East Asian ambiguous characters "
+                        "(default: 1); with 2, frames are drawn in ASCII, since theirs are such");
+    app.add_flag("--ascii", options.hasAsciiFrames, "Draw frames with + - | and =");
+    addChoice<Product>(
+        app, "--dump", options.product,
+        {{"tree", Product::StyleTree}, {"dom", Product::DocumentTree}, {"boxes", Product::BoxTree}},
+        "Print a tree instead of the page: elements with their styles, or, in the "
+        "dialect core, the document's or the boxes after layout")
         ->excludes("--format");
     app.add_flag("--raw", options.isRaw,
                  "Pass control characters of the document and the sheets on to the terminal; "

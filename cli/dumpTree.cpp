@@ -2,6 +2,8 @@
 
 #include "galley/SheetAccess.h"
 #include "galley/convert.h"
+#include "galley/dialect.h"
+#include "galley/webPage.h"
 #include "xml/dom/buildDomTree.h"
 #include "xml/layout/BlockBox.h"
 #include "xml/pageOfWidth.h"
@@ -30,10 +32,15 @@ XCode dump(String& tree, String const& markup, Product product, CLI::XML::StyleL
 
 galley::Result<void> dumpTree(String& tree, String& markup, Product product,
                               galley::Sheet const& sheet, galley::Options const& options) {
-    if (options.dialect != galley::Dialect::core) {
+    galley::Result<galley::Dialect> const dialect = galley::dialectOf(markup.view(), options);
+    if (!dialect) return dialect;
+    bool const isWeb = *dialect == galley::Dialect::web;
+    if (isWeb != (product == Product::StyleTree)) {
         return galley::Result<void>(
-            galley::failure(options.name, "There are trees of the dialect core only"));
+            galley::failure(options.name, isWeb ? "Of the dialect web there is --dump tree alone"
+                                                : "--dump tree is for the dialect web"));
     }
+    if (isWeb) return galley::makeWebTree(tree, markup.view(), sheet, options);
     return galley::convert(tree, markup, options, [&](String const& cleaned) {
         CLI::XML::StyleList const& rules = galley::SheetAccess::rules(sheet, options.raw);
         return dump(tree, cleaned, product, rules, options.width);

@@ -20,14 +20,10 @@ Rendering told(ExitStatus status, std::vector<galley::Diagnostic> const& diagnos
     return rendering;
 }
 
-Rendering tryToRender(std::string const& document, galley::Sheet const& sheet,
-                      Manner const& manner) {
-    String markup;
+Rendering convert(std::string const& document, String& markup, galley::Sheet const& sheet,
+                  Manner const& manner) {
     galley::Options options = manner.page;
     options.name = inputName(document);
-    if (int const fault = readFile(document, markup)) {
-        return told(ExitStatus::FileAtFault, galley::failure(options.name, std::strerror(fault)));
-    }
     if (manner.isCheck) {
         auto const found = galley::checkMarkup(markup, sheet, options);
         return told(statusOf(found, manner.isStrict), found);
@@ -40,6 +36,17 @@ Rendering tryToRender(std::string const& document, galley::Sheet const& sheet,
     return rendering;
 }
 
+/// What `work` returns, or that there was no memory for it.
+template <class Work>
+Rendering guarded(std::string const& document, Work const& work) {
+    try {
+        return work();
+    } catch (std::bad_alloc const&) {
+        return told(ExitStatus::InputAtFault,
+                    galley::failure(inputName(document), "Out of memory"));
+    }
+}
+
 }  // namespace
 
 Manner::Manner(Options const& options)
@@ -47,6 +54,9 @@ Manner::Manner(Options const& options)
     page.width = options.width.value_or(0);
     page.format = options.format;
     page.color = options.color;
+    page.links = options.links;
+    page.ambiguousWidth = options.ambiguousWidth;
+    page.asciiFrames = options.hasAsciiFrames;
     page.dialect = options.dialect;
     page.theme = options.theme;
     page.raw = options.isRaw;
@@ -54,15 +64,24 @@ Manner::Manner(Options const& options)
     // A file is no terminal, whatever standard output is.
     bool const isFile = page.standalone && page.color == galley::Color::automatic;
     if (isFile) page.color = galley::Color::never;
+    bool const isSequences = page.standalone && page.format == galley::Format::ansi;
+    if (isSequences && page.links == galley::Links::automatic) page.links = galley::Links::never;
     page = galley::settle(page, stdout);
     if (options.maxWidth) page.width = std::min(page.width, *options.maxWidth);
 }
 
 Rendering render(std::string const& document, galley::Sheet const& sheet, Manner const& manner) {
-    try {
-        return tryToRender(document, sheet, manner);
-    } catch (std::bad_alloc const&) {
-        return told(ExitStatus::InputAtFault,
-                    galley::failure(inputName(document), "Out of memory"));
-    }
+    return guarded(document, [&] {
+        String markup;
+        if (int const fault = readFile(document, markup)) {
+            return told(ExitStatus::FileAtFault,
+                        galley::failure(inputName(document), std::strerror(fault)));
+        }
+        return convert(document, markup, sheet, manner);
+    });
+}
+
+Rendering renderRead(std::string const& document, String markup, galley::Sheet const& sheet,
+                     Manner const& manner) {
+    return guarded(document, [&] { return convert(document, markup, sheet, manner); });
 }

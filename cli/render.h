@@ -32,3 +32,7 @@ struct Rendering {
 /// Reads and renders a document, "-" from standard input. Writes nothing, and throws nothing for
 /// lack of memory. Any number of threads may do so with the same sheet.
 Rendering render(std::string const& document, galley::Sheet const& sheet, Manner const& manner);
+
+/// The same of a document that has been read.
+Rendering renderRead(std::string const& document, String markup, galley::Sheet const& sheet,
+                     Manner const& manner);

@@ -5,11 +5,14 @@
 #include <set>
 #include <string>
 #include <system_error>
+#include <utility>
 
+#include "cli/files.h"
 #include "cli/render.h"
 #include "cli/renderInOrder.h"
 #include "cli/report.h"
 #include "cli/sheets.h"
+#include "galley/dialect.h"
 
 namespace {
 
@@ -30,11 +33,40 @@ ExitStatus makeDirectories(Options const& options, Output& output) {
     return ExitStatus::Rendered;
 }
 
-ExitStatus renderDocuments(Options const& options, galley::Sheet const& sheet, Output& output) {
+/// The first document, where it has to be read before the sheets since it says their dialect.
+class FirstDocument {
+public:
+    explicit FirstDocument(Options const& options) {
+        if (options.dialect || options.sheets.empty()) return;
+        if (readFile(options.documents.front(), markup) != 0)
+            markup = String();
+        else
+            isRead = true;
+    }
+
+    /// What no document says is said of it when it is rendered.
+    galley::Dialect dialect(Options const& options) const {
+        galley::Options said;
+        said.dialect = options.dialect;
+        auto const found = galley::dialectOf(markup.view(), said);
+        return found ? *found : galley::s_defaultDialect;
+    }
+
+    String markup;
+    bool isRead = false;
+};
+
+ExitStatus renderDocuments(Options const& options, FirstDocument& first, galley::Sheet const& sheet,
+                           Output& output) {
     Manner const manner(options);
     ExitStatus status = ExitStatus::Rendered;
     std::size_t i = 0;
-    auto const make = [&](std::size_t n) { return render(options.documents[n], sheet, manner); };
+    auto const make = [&](std::size_t n) {
+        std::string const& document = options.documents[n];
+        bool const isRead = n == 0 && first.isRead;
+        return isRead ? renderRead(document, std::move(first.markup), sheet, manner)
+                      : render(document, sheet, manner);
+    };
     auto const take = [&](Rendering const& rendering) {
         ExitStatus result = rendering.status;
         if (!rendering.error.empty()) output.report(rendering.error);
@@ -52,9 +84,10 @@ ExitStatus renderDocuments(Options const& options, galley::Sheet const& sheet, O
 
 ExitStatus renderAll(Options const& options, Output& output) {
     galley::Sheet sheet;
-    ExitStatus status = readSheets(options, sheet, output);
+    FirstDocument first(options);
+    ExitStatus status = readSheets(options, first.dialect(options), sheet, output);
     if (status == ExitStatus::Rendered) status = makeDirectories(options, output);
     if (status != ExitStatus::Rendered && !options.isCheck) return status;
-    ExitStatus const rendered = renderDocuments(options, sheet, output);
+    ExitStatus const rendered = renderDocuments(options, first, sheet, output);
     return status == ExitStatus::Rendered ? rendered : status;
 }

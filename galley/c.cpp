@@ -4,11 +4,13 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "galley/dialect.h"
 #include "galley/galley.h"
 
 struct galley_sheet {
@@ -70,8 +72,15 @@ Choice choice(int number, Choice last) {
     return number >= 0 && number <= static_cast<int>(last) ? static_cast<Choice>(number) : Choice{};
 }
 
-galley::Dialect dialectOf(int number) {
-    return number == GALLEY_DIALECT_WEB ? galley::Dialect::web : galley::Dialect::core;
+/// None for the default.
+std::optional<galley::Dialect> dialectOf(int number) {
+    if (number == GALLEY_DIALECT_CORE) return galley::Dialect::core;
+    if (number == GALLEY_DIALECT_WEB) return galley::Dialect::web;
+    return std::nullopt;
+}
+
+galley::Dialect sheetDialect(int number) {
+    return dialectOf(number).value_or(galley::s_defaultDialect);
 }
 
 /// Of a caller's options the fields that it knows.
@@ -80,7 +89,10 @@ galley::Options optionsOf(galley_options const* given) {
     if (given != nullptr) std::memcpy(&known, given, std::min(given->size, sizeof known));
     galley::Options options;
     options.width = known.width;
-    options.color = choice(known.color, galley::Color::never);
+    options.color = choice(known.color, galley::Color::colors24bit);
+    options.ambiguousWidth = known.ambiguous_width;
+    options.asciiFrames = known.ascii_frames != 0;
+    options.links = choice(known.links, galley::Links::list);
     options.format = choice(known.format, galley::Format::svg);
     options.theme = choice(known.theme, galley::Theme::dark);
     options.dialect = dialectOf(known.dialect);
@@ -109,7 +121,7 @@ int galley_sheet_add(galley_sheet* sheet, char const* css, std::size_t length, c
     tell(report, {});
     return orElse(0, [&] {
         auto const added =
-            galley::Sheet::parse(view(css, length), nameOf(name), dialectOf(dialect));
+            galley::Sheet::parse(view(css, length), nameOf(name), sheetDialect(dialect));
         tell(report, added.errors());
         if (added) sheet->sheet += *added;
         return added ? 1 : 0;
@@ -142,7 +154,8 @@ galley_report* galley_check(char const* markup, std::size_t length, galley_sheet
 galley_report* galley_check_sheet(char const* css, std::size_t length, char const* name,
                                   int dialect) {
     return orElse<galley_report*>(nullptr, [&] {
-        return makeReport(galley::checkSheet(view(css, length), nameOf(name), dialectOf(dialect)));
+        return makeReport(
+            galley::checkSheet(view(css, length), nameOf(name), sheetDialect(dialect)));
     });
 }
 

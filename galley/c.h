@@ -35,16 +35,33 @@ typedef struct galley_options {
     int standalone;   /**< not 0: html is a whole document */
     int raw;          /**< not 0: control characters stay, in the format ansi */
     char const* name; /**< of the document in errors; NULL: "<document>" */
+    int links;        /**< galley_links */
+    unsigned ambiguous_width; /**< cells of East Asian ambiguous characters: 2, or else 1 */
+    int ascii_frames;         /**< not 0: frames are drawn with "+", "-", "|" and "=" */
 } galley_options;
 
 /** As galley::Color. */
-enum galley_color { GALLEY_COLOR_AUTOMATIC, GALLEY_COLOR_ALWAYS, GALLEY_COLOR_NEVER };
+enum galley_color {
+    GALLEY_COLOR_AUTOMATIC,
+    GALLEY_COLOR_ALWAYS,
+    GALLEY_COLOR_NEVER,
+    GALLEY_COLOR_16,
+    GALLEY_COLOR_256,
+    GALLEY_COLOR_24BIT
+};
+/** As galley::Links. */
+enum galley_links {
+    GALLEY_LINKS_AUTOMATIC,
+    GALLEY_LINKS_ALWAYS,
+    GALLEY_LINKS_NEVER,
+    GALLEY_LINKS_LIST
+};
 /** As galley::Format. */
 enum galley_format { GALLEY_ANSI, GALLEY_PLAIN, GALLEY_HTML, GALLEY_SVG };
 /** As galley::Theme. */
 enum galley_theme { GALLEY_THEME_AUTOMATIC, GALLEY_THEME_LIGHT, GALLEY_THEME_DARK };
-/** As galley::Dialect. The default will be another one by the first release: say which you write.
- */
+/** As galley::Dialect. The default is what a document says itself, else that of core, which will be
+ * another one by the first release: say which you write. */
 enum galley_dialect { GALLEY_DIALECT_DEFAULT, GALLEY_DIALECT_CORE, GALLEY_DIALECT_WEB };
 /** As galley::Severity. */
 enum galley_severity { GALLEY_ERROR, GALLEY_WARNING };

@@ -6,6 +6,7 @@
 #include "galley/checkMarkup.h"
 #include "galley/cleanSource.h"
 #include "galley/convert.h"
+#include "galley/dialect.h"
 #include "galley/page.h"
 #include "galley/webPage.h"
 #include "xml/xml.h"
@@ -38,7 +39,9 @@ void add(std::vector<Diagnostic>& all, std::vector<Diagnostic> const& more) {
 }  // namespace
 
 std::vector<Diagnostic> checkMarkup(String& markup, Sheet const& sheet, Options const& options) {
-    if (options.dialect == Dialect::web) return checkWebMarkup(markup.view(), sheet, options);
+    Result<Dialect> const dialect = dialectOf(markup.view(), options);
+    if (!dialect) return dialect.errors();
+    if (*dialect == Dialect::web) return checkWebMarkup(markup.view(), sheet, options);
     if (auto misfits = SheetAccess::misfits(sheet, Dialect::core); !misfits.empty()) return misfits;
     cleanSource(markup, options.raw);
     CLI::XML::StyleList const& rules = SheetAccess::rules(sheet, options.raw);

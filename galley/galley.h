@@ -30,12 +30,25 @@ enum class Dialect {
     web,   ///< Elements and style sheets as a browser shows them, in cells. It is being built.
 };
 
-/// When the format `ansi` has its escape sequences; without them it is `plain`.
+/// When the format `ansi` has its escape sequences, and for how many colours: where that is not
+/// said, as many as COLORTERM and TERM promise, 16 at least. Without them it is `plain`.
 enum class Color {
-    automatic,  ///< where the file or, for `render`, standard output is a terminal, and NO_COLOR
-                ///< is not set in the environment
-    always,     ///< wherever they go
-    never,      ///< nowhere
+    automatic,    ///< where the file or, for `render`, standard output is a terminal, and NO_COLOR
+                  ///< is not set in the environment
+    always,       ///< wherever they go
+    never,        ///< nowhere
+    colors16,     ///< as `always`, for the 16 that every terminal has
+    colors256,    ///< as `always`, for the 256 of xterm
+    colors24bit,  ///< as `always`, for all of 24 bits
+};
+
+/// How the links of a page lead on, in the dialect `web`. There are those to addresses of http,
+/// https, mailto and file.
+enum class Links {
+    automatic,  ///< as `always` in html and svg, and where escape sequences go to a terminal
+    always,     ///< their text leads there: by sequences OSC 8, or elements `a` of html and svg
+    never,      ///< not at all
+    list,       ///< a number stands behind each, and the addresses at the end of the page
 };
 
 /// How a page is written.
@@ -59,14 +72,22 @@ struct Options {
     /// unless a file is given; where that is none, of COLUMNS in the environment, else 80.
     unsigned width = 0;
     Color color = Color::automatic;  ///< Of the format `ansi`.
+    Links links = Links::automatic;  ///< Of the dialect `web`.
     Format format = Format::ansi;    ///< How the page is written.
     Theme theme = Theme::automatic;  ///< Of `html` and `svg`.
+    /// Cells of East Asian ambiguous characters, 1 or 2, in the dialect `web`. Those that frames
+    /// are drawn with are such: with 2, frames are in ASCII.
+    unsigned ambiguousWidth = 1;
+    /// Whether frames of the dialect `web` are drawn with "+", "-", "|" and "=".
+    bool asciiFrames = false;
     /// Whether `html` is a whole document, with `name`, without folders, as its title.
     bool standalone = false;
     /// Whether control characters of the document and the sheets reach the terminal, in the format
     /// `ansi` and the dialect `core`. Otherwise all but white space become question marks.
     bool raw = false;
-    Dialect dialect = Dialect::core;  ///< Of the document; a sheet of the other one is an error.
+    /// Of the document; a sheet of the other one is an error. Where this says nothing the document
+    /// may, by `<?galley dialect="core"?>` at its beginning, else it is `core`.
+    std::optional<Dialect> dialect = std::nullopt;
     /// What errors and warnings call the document.
     std::string name = "<document>";
 };

@@ -2,6 +2,7 @@
 
 #include "galley/SheetAccess.h"
 #include "galley/convert.h"
+#include "galley/dialect.h"
 #include "galley/formats/PageWriter.h"
 #include "galley/terminal/terminal.h"
 #include "galley/webPage.h"
@@ -15,14 +16,19 @@ Options settle(Options options, std::FILE* out) {
         options.color = isColorWelcome(out) ? Color::always : Color::never;
     }
     bool const isAnsi = options.format == Format::ansi;
+    if (options.links == Links::automatic) {
+        options.links = !isAnsi || isTerminal(out) ? Links::always : Links::never;
+    }
     if (isAnsi && options.color == Color::never) options.format = Format::plain;
     options.raw = options.raw && isAnsi;
     return options;
 }
 
 Result<void> makePage(String& page, String& markup, Sheet const& sheet, Options const& options) {
-    if (options.dialect == Dialect::web) return makeWebPage(page, markup.view(), sheet, options);
     return guarded(options.name, [&]() -> Result<void> {
+        Result<Dialect> const dialect = dialectOf(markup.view(), options);
+        if (!dialect) return dialect;
+        if (*dialect == Dialect::web) return makeWebPage(page, markup.view(), sheet, options);
         if (auto misfits = SheetAccess::misfits(sheet, Dialect::core); !misfits.empty()) {
             return Result<void>(std::move(misfits));
         }

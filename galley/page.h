@@ -8,7 +8,7 @@
 namespace galley {
 
 /// `options` with what the surroundings of `out` say where they leave that open: afterwards the
-/// width is not 0, the colour not automatic, and the format what is written.
+/// width is not 0, neither colour nor links are automatic, and the format is what is written.
 Options settle(Options options, std::FILE* out);
 
 /// Puts the page of `markup`, which loses its control characters unless they are wanted, in `page`.

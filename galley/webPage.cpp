@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/append.h"
 #include "galley/Places.h"
 #include "galley/SheetAccess.h"
 #include "galley/failure.h"
@@ -66,26 +67,67 @@ std::vector<Diagnostic> errorsOf(std::vector<Diagnostic> all) {
     return all;
 }
 
+web::Media::Links linksFor(Options const& options) {
+    switch (options.links) {
+        case Links::list:
+            return web::Media::Links::listed;
+        case Links::never:
+            return web::Media::Links::ignored;
+        default:
+            return web::Media::Links::followed;
+    }
+}
+
+ColourDepth depthFor(Color color) {
+    switch (color) {
+        case Color::colors16:
+            return ColourDepth::sixteen;
+        case Color::colors256:
+            return ColourDepth::cube256;
+        case Color::colors24bit:
+            return ColourDepth::exact;
+        default:
+            return colourDepthOfTerminal();
+    }
+}
+
 web::Media mediaFor(Options const& options) {
     web::Media media;
     media.width = options.width;
     media.hasColour = options.color != Color::never && options.format != Format::plain;
     if (options.theme == Theme::light) media.scheme = web::Media::Scheme::light;
     if (options.theme == Theme::dark) media.scheme = web::Media::Scheme::dark;
+    media.links = linksFor(options);
+    media.cells.isAmbiguousWide = options.ambiguousWidth > 1;
+    media.cells.hasAsciiFrames = options.asciiFrames || media.cells.isAmbiguousWide;
     return media;
 }
 
-/// All that is said of a document; its page goes to `page` where there is no error.
-std::vector<Diagnostic> convert(String& page, std::string_view markup, Sheet const& sheet,
-                                Options const& options) {
+/// All that is said of a document, from which `work` makes something by the sheets.
+template <class Work>
+std::vector<Diagnostic> convert(std::string_view markup, Sheet const& sheet, Options const& options,
+                                Work const& work) {
     std::vector<Diagnostic> misfits = SheetAccess::misfits(sheet, Dialect::web);
     if (!misfits.empty()) return misfits;
     std::string_view const text = withoutMark(markup);
     std::vector<web::Sheet const*> const sheets = SheetAccess::webSheets(sheet);
     std::vector<Problem> problems;
-    auto const writer = makePageWriter(page, options, {colourDepthOfTerminal(), true});
-    if (web::renderPage(text, sheets, mediaFor(options), *writer, problems)) writer->finish();
+    work(text, sheets, problems);
     return diagnose(std::move(problems), {options.name, text});
+}
+
+/// The same, whose page goes to `page` where there is no error.
+std::vector<Diagnostic> render(String& page, std::string_view markup, Sheet const& sheet,
+                               Options const& options) {
+    return convert(markup, sheet, options, [&](auto const text, auto const& sheets, auto& found) {
+        auto const writer = makePageWriter(page, options, depthFor(options.color));
+        if (web::renderPage(text, sheets, mediaFor(options), *writer, found)) writer->finish();
+    });
+}
+
+Result<void> resultOf(std::vector<Diagnostic> diagnostics) {
+    std::vector<Diagnostic> errors = errorsOf(std::move(diagnostics));
+    return errors.empty() ? Result<void>() : Result<void>(std::move(errors));
 }
 
 }  // namespace
@@ -100,17 +142,28 @@ Result<void> makeWebPage(String& page, std::string_view markup, Sheet const& she
                          Options const& options) {
     return guarded(options.name, [&]() -> Result<void> {
         String made;
-        std::vector<Diagnostic> errors = errorsOf(convert(made, markup, sheet, options));
-        if (!errors.empty()) return Result<void>(std::move(errors));
-        page = std::move(made);
-        return {};
+        Result<void> result = resultOf(render(made, markup, sheet, options));
+        if (result) page = std::move(made);
+        return result;
+    });
+}
+
+Result<void> makeWebTree(String& tree, std::string_view markup, Sheet const& sheet,
+                         Options const& options) {
+    return guarded(options.name, [&] {
+        return resultOf(
+            convert(markup, sheet, options, [&](auto const text, auto const& sheets, auto& found) {
+                std::string made;
+                bool const isMade = web::dumpTree(text, sheets, mediaFor(options), made, found);
+                if (isMade) CLI::XML::append(tree, made);
+            }));
     });
 }
 
 std::vector<Diagnostic> checkWebMarkup(std::string_view markup, Sheet const& sheet,
                                        Options const& options) {
     String page;
-    return convert(page, markup, sheet, options);
+    return render(page, markup, sheet, options);
 }
 
 std::vector<Diagnostic> checkWebSheet(std::string_view css, std::string_view name) {

@@ -20,6 +20,10 @@ std::string_view withoutMark(std::string_view source);
 Result<void> makeWebPage(String& page, std::string_view markup, Sheet const& sheet,
                          Options const& options);
 
+/// Puts the elements of a document with their styles in `tree`. The options are settled.
+Result<void> makeWebTree(String& tree, std::string_view markup, Sheet const& sheet,
+                         Options const& options);
+
 /// All errors and warnings of a document, without those of its sheet. The options are settled.
 std::vector<Diagnostic> checkWebMarkup(std::string_view markup, Sheet const& sheet,
                                        Options const& options);

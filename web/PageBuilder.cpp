@@ -20,20 +20,6 @@ bool isBlank(std::string_view text) {
     return text.find_first_not_of(s_whiteSpace) == std::string_view::npos;
 }
 
-std::string_view attribute(Element const& element, std::string_view name) {
-    for (Attribute const& each : element.attributes) {
-        if (each.name == name) return each.value;
-    }
-    return {};
-}
-
-/// Where a terminal may be sent.
-bool mayFollow(std::string_view address) {
-    constexpr std::string_view s_schemes[] = {"http:", "https:", "mailto:", "file:"};
-    return std::any_of(std::begin(s_schemes), std::end(s_schemes),
-                       [&](std::string_view scheme) { return address.starts_with(scheme); });
-}
-
 bool isTablePart(Display display) { return display > Display::table; }
 
 /// In cells; a wider one shows no more.
@@ -51,7 +37,9 @@ PageBuilder::PageBuilder(Sheet const& defaults, std::span<Sheet const* const> au
       media(shownOn),
       problems(found),
       page(rows, cells, static_cast<int>(std::min(shownOn.width, s_widestPage)), {},
-           Flow::OuterMargins::dropped) {}
+           Flow::OuterMargins::dropped) {
+    initial.cells = media.cells;
+}
 
 void PageBuilder::styleSheet(EmbeddedSheet const& sheet) {
     std::string text(sheet.text());
@@ -78,12 +66,13 @@ bool PageBuilder::asksForLastChild() {
 
 /// A fragment, which begins with another element or with text, stands in `html` and `body`.
 void PageBuilder::openRoot(std::string_view name) {
-    if (depth > 0) return;
-    static Style const s_initial;
-    push(page, s_initial, {});
-    if (name == "html") return;
-    openImplied(html, "html");
-    if (name == "body") return;
+    if (depth == 0) push(page, initial, {});
+    if (open.empty()) {
+        if (name == "html") return;
+        openImplied(html, "html");
+    }
+    bool const isInHtml = html.style != nullptr && open.size() == 1;
+    if (!isInHtml || name == "body") return;
     body.parent = &html;
     openImplied(body, "body");
 }
@@ -92,6 +81,7 @@ void PageBuilder::openImplied(Element& element, std::string_view name) {
     element.name = name;
     element.style = cascade->styleOf(element);
     open.push_back({openElement(element, *element.style), element.style});
+    open.back().isBody = name == "body";
 }
 
 void PageBuilder::startElement(Element& element) {
@@ -108,6 +98,7 @@ void PageBuilder::startElement(Element& element) {
         role = openElement(element, *style);
     }
     OpenElement& opened = open.emplace_back(OpenElement{role, style});
+    opened.isBody = element.name == "body";
     opened.isList = !isHidden && (element.name == "ol" || element.name == "ul");
     if (opened.isList) {
         opened.nextNumber = integerAttribute(element, "start", s_numbers, problems).value_or(1);
@@ -131,28 +122,6 @@ PageBuilder::Role PageBuilder::openElement(Element const& element, Style const& 
     }
 }
 
-PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& style) {
-    if (isInTable()) openAnonymousCell();
-    Paragraph& paragraph = frame().paragraph;
-    if (element.name == "br") {
-        paragraph.addLineFeed();
-        return Role::point;
-    }
-    if (element.name == "wbr") {
-        paragraph.addBreakable();
-        return Role::point;
-    }
-    Link const* link = nullptr;
-    std::string_view const address = attribute(element, "href");
-    if (element.name == "a" && mayFollow(address)) {
-        link = &links.emplace_back(Link{std::string(address), ++linkCount});
-    }
-    paragraph.open(style, link);
-    if (element.name != "q") return Role::inlined;
-    paragraph.addGenerated(quoteDepth++ % 2 == 0 ? "“" : "‘");
-    return Role::quote;
-}
-
 void PageBuilder::openBlock(Element const& element, Style const& style) {
     if (isInTable()) openAnonymousCell();
     endParagraph();
@@ -163,7 +132,7 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
         if (style.markerPosition == MarkerPosition::inside) {
             inside = text + " ";
         } else {
-            int const columns = countCells(text);
+            int const columns = countCells(text, style.cells.isAmbiguousWide);
             marker = {std::move(text), columns};
         }
     }
@@ -184,10 +153,9 @@ int PageBuilder::numberOf(Element const& element) {
 }
 
 void PageBuilder::text(std::string_view decoded) {
-    if (depth == 0 && isBlank(decoded)) return;
-    openRoot({});
-    if (!open.empty() && open.back().role == Role::hidden) return;
-    if (!open.empty() && open.back().role == Role::columnGroup) return;
+    if (!isBlank(decoded)) openRoot({});
+    if (open.empty()) return;
+    if (open.back().role == Role::hidden || open.back().role == Role::columnGroup) return;
     if (!isBlank(decoded)) closeImpliedTable();
     if (isInTable()) {
         if (isBlank(decoded)) return;
@@ -200,12 +168,20 @@ void PageBuilder::endElement(Element& element) {
     static_cast<void>(element);
     closeAnonymousCell();
     closeImpliedTable();
-    Role const role = open.back().role;
-    open.pop_back();
-    closeElement(role);
+    closeElement();
 }
 
-void PageBuilder::closeElement(Role role) {
+void PageBuilder::closeElement() {
+    OpenElement const closed = open.back();
+    open.pop_back();
+    if (closed.isBody && closed.role == Role::block) {
+        endParagraph();
+        linkList.moveTo(*frame().sink, *frame().style, frame().background);
+    }
+    endRole(closed.role);
+}
+
+void PageBuilder::endRole(Role role) {
     switch (role) {
         case Role::quote:
             frame().paragraph.addGenerated(--quoteDepth % 2 == 0 ? "”" : "’");
@@ -213,6 +189,11 @@ void PageBuilder::closeElement(Role role) {
             break;
         case Role::inlined:
             frame().paragraph.close();
+            break;
+        case Role::numberedLink:
+            frame().paragraph.close();
+            frame().paragraph.addGenerated("\u00A0[" + std::to_string(linkNumbers.back()) + "]");
+            linkNumbers.pop_back();
             break;
         case Role::block:
             endParagraph();
@@ -243,13 +224,18 @@ void PageBuilder::closeElement(Role role) {
     }
 }
 
+Element const* PageBuilder::implied() const {
+    if (body.style != nullptr) return &body;
+    return html.style != nullptr ? &html : nullptr;
+}
+
 void PageBuilder::finish() {
-    while (!open.empty()) {
-        Role const role = open.back().role;
-        open.pop_back();
-        closeElement(role);
+    while (!open.empty()) closeElement();
+    if (depth > 0) {
+        endParagraph();
+        // Of a document without a body, and behind it.
+        linkList.moveTo(page, *frame().style, frame().background);
     }
-    if (depth > 0) endParagraph();
     page.finish();
 }
 

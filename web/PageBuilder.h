@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "web/LinkList.h"
 #include "web/css/Cascade.h"
 #include "web/css/MediaList.h"
 #include "web/flow/Flow.h"
@@ -29,6 +30,8 @@ public:
     void startElement(Element& element) override;
     void text(std::string_view decoded) override;
     void endElement(Element& element) override;
+    /// The innermost element around a fragment, null without: it is in no tag of the document.
+    Element const* implied() const;
     /// To be called at the end of the document.
     void finish();
 
@@ -37,6 +40,8 @@ private:
         hidden,
         inlined,
         quote,
+        /// A link whose number stands behind it.
+        numberedLink,
         point,
         block,
         table,
@@ -56,6 +61,8 @@ private:
         bool isList = false;
         int nextNumber = 1;
         ///@}
+        /// At its end comes what stands at the end of the page.
+        bool isBody = false;
     };
 
     /// A block, a cell or a caption whose content is being read.
@@ -71,6 +78,7 @@ private:
     void openImplied(Element& element, std::string_view name);
     Role openElement(Element const& element, Style const& style);
     Role openInline(Element const& element, Style const& style);
+    Role openLink(std::string_view address, Style const& style);
     void openBlock(Element const& element, Style const& style);
     OutsideMarker openItem(Element const& element, Style const& style);
     Role openTablePart(Element const& element, Style const& style);
@@ -79,7 +87,8 @@ private:
     int spanOf(Element const& element, std::string_view attribute, Limits limits);
     bool isInTable() const;
     bool isBetweenParts() const;
-    void closeElement(Role role);
+    void closeElement();
+    void endRole(Role role);
     void openTable(Style const& style);
     void closeTable();
     void openImpliedTable();
@@ -100,7 +109,9 @@ private:
     std::vector<Problem>& problems;
     std::optional<Cascade> cascade;
     Flow page;
-    /// What a fragment stands in.
+    /// Of what is around the outermost element.
+    Style initial;
+    /// What a fragment stands in. Open, it has a style, and is the outermost one that is.
     ///@{
     Element html;
     Element body;
@@ -116,6 +127,9 @@ private:
     std::deque<Style> anonymousStyles;
     std::deque<Link> links;
     unsigned linkCount = 0;
+    LinkList linkList;
+    /// Of the numbered links that are open, innermost last.
+    std::vector<unsigned> linkNumbers;
     unsigned quoteDepth = 0;
     /// Of the next item in no list.
     int looseNumber = 1;

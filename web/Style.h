@@ -36,6 +36,16 @@ struct Edges {
     bool operator==(Edges const&) const = default;
 };
 
+/// How the cells are used of what a page is shown on. No element has it otherwise than its parent.
+struct CellRules {
+    /// East Asian ambiguous characters have two cells.
+    bool isAmbiguousWide = false;
+    /// Borders are drawn with characters of ASCII.
+    bool hasAsciiFrames = false;
+
+    bool operator==(CellRules const&) const = default;
+};
+
 /// The first two are no line.
 enum class LineKind : std::uint8_t { none, hidden, solid, twofold, dashed, dotted, text };
 enum class Thickness : std::uint8_t { none, thin, thick };
@@ -54,6 +64,7 @@ struct Border {
     Line line;
     Thickness thickness = Thickness::thin;
     Colour colour = Colour::current();
+    CellRules cells;
 
     /// Whether it takes a cell.
     bool isThere() const { return line.kind > LineKind::hidden && thickness != Thickness::none; }
@@ -159,6 +170,7 @@ struct InheritedStyle {
     BorderSpacing borderSpacing;
     /// The lines along the element's text: its own and those of all elements around it.
     Decoration drawn;
+    CellRules cells;
 
     bool operator==(InheritedStyle const&) const = default;
 };

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "web/PageBuilder.h"
+#include "web/TreeDumper.h"
 #include "web/defaultSheet.h"
 #include "web/markup/readDocument.h"
 
@@ -19,14 +20,15 @@ Sheet const& defaultSheet() {
     return s_sheet;
 }
 
-}  // namespace
-
-bool renderPage(std::string_view markup, std::span<Sheet const* const> sheets, Media const& media,
-                RowSink& rows, std::vector<Problem>& problems) {
+/// Reads a document into a builder for `rows`, by way of the handler that `wrap` makes of it.
+template <class Wrap>
+bool read(std::string_view markup, std::span<Sheet const* const> sheets, Media const& media,
+          RowSink& rows, std::vector<Problem>& problems, Wrap const& wrap) {
     PageBudget budget(markup.size());
     PageBuilder builder(defaultSheet(), sheets, media, rows, budget, problems);
+    auto&& handler = wrap(builder);
     try {
-        if (!readDocument(markup, builder, problems)) return false;
+        if (!readDocument(markup, handler, problems)) return false;
         builder.finish();
         return true;
     } catch (PageTooLarge const&) {
@@ -35,6 +37,26 @@ bool renderPage(std::string_view markup, std::span<Sheet const* const> sheets, M
              "Page too large: more than " + std::to_string(budget.cells()) + " cells"});
         return false;
     }
+}
+
+class NoRows final : public RowSink {
+public:
+    void take(Row const& /*row*/) override {}
+};
+
+}  // namespace
+
+bool renderPage(std::string_view markup, std::span<Sheet const* const> sheets, Media const& media,
+                RowSink& rows, std::vector<Problem>& problems) {
+    auto const itself = [](PageBuilder& builder) -> PageBuilder& { return builder; };
+    return read(markup, sheets, media, rows, problems, itself);
+}
+
+bool dumpTree(std::string_view markup, std::span<Sheet const* const> sheets, Media const& media,
+              std::string& tree, std::vector<Problem>& problems) {
+    NoRows rows;
+    auto const dumper = [&tree](PageBuilder& builder) { return TreeDumper(builder, tree); };
+    return read(markup, sheets, media, rows, problems, dumper);
 }
 
 }  // namespace galley::web

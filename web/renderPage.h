@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -16,5 +17,10 @@ namespace galley::web {
 /// nothing. Throws std::bad_alloc where there is no memory.
 bool renderPage(std::string_view markup, std::span<Sheet const* const> sheets, Media const& media,
                 RowSink& rows, std::vector<Problem>& problems);
+
+/// The same, but appends the elements of the document with their styles to `tree`: a row for each,
+/// and for each text, indented by two columns for each element around it.
+bool dumpTree(std::string_view markup, std::span<Sheet const* const> sheets, Media const& media,
+              std::string& tree, std::vector<Problem>& problems);
 
 }  // namespace galley::web

@@ -35,19 +35,20 @@ std::string literal(std::string_view bytes) {
 
 }  // namespace
 
-std::string sourceText(std::string const& function, Input const& document,
-                       std::vector<Input> const& sheets) {
+std::string sourceText(std::string const& function, Page const& page) {
+    std::string const dialect =
+        page.dialect == galley::Dialect::core ? "galley::Dialect::core" : "galley::Dialect::web";
     std::string text = "// Made by galley_embed.\n#include \"" + function +
                        ".h\"\n\n#include <string_view>\n\ngalley::Result<void> " + function +
                        "(std::FILE* out, galley::Options options) {\n"
                        "    using namespace std::literals;\n"
                        "    galley::Sheet all;\n";
-    for (Input const& sheet : sheets) {
+    for (Input const& sheet : page.sheets) {
         text += "    if (auto const sheet = galley::Sheet::parse(\n" + literal(sheet.text) + ",\n" +
-                literal(sheet.name) +
+                literal(sheet.name) + ",\n        " + dialect +
                 ")) {\n        all += *sheet;\n    } else {\n        return sheet;\n    }\n";
     }
-    return text + "    options.name =\n" + literal(document.name) +
-           ";\n    return galley::print(\n" + literal(document.text) +
-           ",\n        all, options, out);\n}\n";
+    return text + "    options.dialect = " + dialect + ";\n    options.name =\n" +
+           literal(page.document.name) + ";\n    return galley::print(\n" +
+           literal(page.document.text) + ",\n        all, options, out);\n}\n";
 }

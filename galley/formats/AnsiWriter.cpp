@@ -37,14 +37,14 @@ std::size_t AnsiWriter::shownLength(Row const& row) const {
 
 bool AnsiWriter::showsBlanks(Look const& look) const {
     bool const hasGround =
-        look.background.kind != Colour::Kind::terminal && terminal.depth != ColourDepth::none;
+        look.background.kind != Colour::Kind::terminal && depth != ColourDepth::none;
     return hasGround || look.isUnderlined || look.isStruckThrough || look.isInverse;
 }
 
 void AnsiWriter::changeLook(Look const& look) {
     if (look == current) return;
     current = look;
-    std::string next = sgrParameters(look, terminal.depth);
+    std::string next = sgrParameters(look, depth);
     if (next == parameters) return;
     std::string_view const reset = parameters.empty() ? "" : next.empty() ? "0" : "0;";
     append(out, "\x1b[", reset, next, "m");
@@ -53,7 +53,7 @@ void AnsiWriter::changeLook(Look const& look) {
 
 // A terminal takes parts of several rows for one link where they have the same id.
 void AnsiWriter::changeLink(web::Link const* next) {
-    if (next == link || !terminal.hasLinks) return;
+    if (next == link) return;
     link = next;
     if (link == nullptr) {
         append(out, "\x1b]8;;\x1b\\");

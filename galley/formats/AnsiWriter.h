@@ -11,7 +11,7 @@ namespace galley {
 /// look, outside of links, and has no blanks at its end that show nothing.
 class AnsiWriter final : public PageWriter {
 public:
-    AnsiWriter(String& page, TerminalFeatures const& features) : out(page), terminal(features) {}
+    AnsiWriter(String& page, ColourDepth colours) : out(page), depth(colours) {}
 
     void take(web::Row const& row) override;
     void finish() override {}
@@ -24,7 +24,7 @@ private:
     void changeLink(web::Link const* next);
 
     String& out;
-    TerminalFeatures const terminal;
+    ColourDepth const depth;
     /// What the terminal has now, and its parameters.
     web::Look current;
     std::string parameters;

@@ -12,8 +12,8 @@ namespace galley {
 
 namespace {
 
-std::unique_ptr<PageWriter> makeWriter(String& page, Options const& options,
-                                       TerminalFeatures const& terminal, CellRule rule) {
+std::unique_ptr<PageWriter> makeWriter(String& page, Options const& options, ColourDepth depth,
+                                       CellRule rule) {
     switch (options.format) {
         case Format::plain:
             return std::make_unique<PlainWriter>(page);
@@ -24,20 +24,22 @@ std::unique_ptr<PageWriter> makeWriter(String& page, Options const& options,
         case Format::ansi:
             break;
     }
-    return std::make_unique<AnsiWriter>(page, terminal);
+    return std::make_unique<AnsiWriter>(page, depth);
 }
 
 }  // namespace
 
 std::unique_ptr<PageWriter> makePageWriter(String& page, Options const& options,
-                                           TerminalFeatures const& terminal) {
-    return makeWriter(page, options, terminal, CellRule::clusters);
+                                           ColourDepth depth) {
+    bool const isAmbiguousWide = options.ambiguousWidth > 1;
+    return makeWriter(page, options, depth,
+                      isAmbiguousWide ? CellRule::wideClusters : CellRule::clusters);
 }
 
 void rewritePage(String& page, Options const& options) {
     if (options.format == Format::ansi) return;
     String written;
-    auto const writer = makeWriter(written, options, {}, CellRule::characters);
+    auto const writer = makeWriter(written, options, ColourDepth::none, CellRule::characters);
     readRows(page.view(), *writer);
     writer->finish();
     page = std::move(written);

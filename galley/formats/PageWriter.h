@@ -17,16 +17,9 @@ public:
     virtual void finish() = 0;
 };
 
-/// What the terminal can do that a page of the format `ansi` goes to.
-struct TerminalFeatures {
-    ColourDepth depth = ColourDepth::exact;
-    bool hasLinks = true;
-};
-
-/// A writer that appends a page of clusters to `page`, which outlives it. The options are settled,
-/// and not needed any more when it is made.
-std::unique_ptr<PageWriter> makePageWriter(String& page, Options const& options,
-                                           TerminalFeatures const& terminal);
+/// A writer that appends a page of clusters to `page`, which outlives it; the format `ansi` has no
+/// more colours than so many. The options are settled, and not needed any more when it is made.
+std::unique_ptr<PageWriter> makePageWriter(String& page, Options const& options, ColourDepth depth);
 
 /// Puts a page of the core in the format that the settled options name, in its own place. In the
 /// format `ansi` it stays as it is. Throws std::bad_alloc where there is no memory for that.

@@ -13,7 +13,7 @@ Piece unitOf(std::string_view text, CellRule rule) {
     if (rule == CellRule::characters) {
         return {Piece::Kind::narrow, text.substr(0, lengthAt(text, 0)), 1};
     }
-    web::Cluster const cluster = web::clusterAt(text, 0, false);
+    web::Cluster const cluster = web::clusterAt(text, 0, rule == CellRule::wideClusters);
     Piece::Kind const kind = cluster.width > 1 ? Piece::Kind::wide : Piece::Kind::narrow;
     return {kind, text.substr(0, cluster.end), cluster.width};
 }

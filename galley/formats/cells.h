@@ -7,8 +7,9 @@ namespace galley {
 
 /// What takes a cell in the rows of a page.
 enum class CellRule {
-    characters,  ///< each of Unicode, and each byte that belongs to none
-    clusters,    ///< each that a person would call a character, a wide one two
+    characters,    ///< each of Unicode, and each byte that belongs to none
+    clusters,      ///< each that a person would call a character, a wide one two
+    wideClusters,  ///< the same, East Asian ambiguous ones being wide
 };
 
 /// A part of a row.

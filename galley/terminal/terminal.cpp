@@ -31,8 +31,10 @@ unsigned terminalWidth(std::FILE* out) {
     return width > 0 ? static_cast<unsigned>(width) : s_defaultWidth;
 }
 
+bool isTerminal(std::FILE* out) { return isatty(fileno(out)) == 1; }
+
 bool isColorWelcome(std::FILE* out) {
-    return isatty(fileno(out)) == 1 && variable("NO_COLOR").empty();
+    return isTerminal(out) && variable("NO_COLOR").empty();
 }
 
 ColourDepth colourDepthOfTerminal() {

@@ -10,6 +10,8 @@ namespace galley {
 /// if that is a positive number, else 80.
 unsigned terminalWidth(std::FILE* out);
 
+bool isTerminal(std::FILE* out);
+
 /// Whether `out` goes to a terminal whose user has nothing against colours.
 bool isColorWelcome(std::FILE* out);
 

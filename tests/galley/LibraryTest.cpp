@@ -213,4 +213,24 @@ TEST(Library, EscapesDataForWhereItStands) {
     EXPECT_EQ(galley::escape(""), "");
 }
 
+TEST(Library, ReadsDocumentsInTheDialectThatTheySayUnlessAskedOtherwise) {
+    std::string const table = "<table><tr><td>a</td><td>b</td></tr></table>";
+    std::string const web = "<?galley dialect=\"web\"?>" + table;
+    std::string const core = "<?galley dialect=\"core\"?>" + table;
+    EXPECT_EQ(*galley::render(web), " a  b\n");
+    EXPECT_EQ(*galley::render(core), "ab\n");
+    galley::Options options;
+    options.dialect = galley::Dialect::core;
+    EXPECT_EQ(*galley::render(web, {}, options), "ab\n");
+    options.dialect = galley::Dialect::web;
+    EXPECT_EQ(*galley::render(core, {}, options), " a  b\n");
+    auto const sheet = galley::Sheet::parse("td { color: red; }", "s.css", galley::Dialect::web);
+    EXPECT_TRUE(galley::render(web, *sheet));
+    EXPECT_EQ(galley::render(core, *sheet).error().source(), "s.css");
+    auto const error = galley::render("\n<?galley dialect=\"x\"?>" + table).error();
+    EXPECT_EQ(error.line(), 2U);
+    EXPECT_EQ(error.column(), 9U);
+    EXPECT_EQ(galley::check("<?galley dialect=\"x\"?>" + table).size(), 1U);
+}
+
 }  // namespace

@@ -19,6 +19,7 @@ void append(std::string& key, void const* address) {
 Cascade::Cascade(Sheet const& defaults, std::span<Sheet const* const> authors, Media const& media,
                  std::vector<Problem>& found)
     : attributes(found) {
+    initial.cells = media.cells;
     rules.add(defaults, media, Origin::defaults);
     for (Sheet const* const sheet : authors) rules.add(*sheet, media, Origin::author);
 }

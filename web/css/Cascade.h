@@ -74,7 +74,7 @@ private:
     RuleIndex rules;
     AttributeReader attributes;
     /// Of the outermost element's parent, so to say.
-    Style const initial;
+    Style initial;
     std::vector<std::unique_ptr<Style const>> styles;
     /// By all that tells elements apart, as bytes: addresses of the parent's style and of what the
     /// attributes declare, and names.

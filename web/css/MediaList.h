@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "web/Problem.h"
+#include "web/Style.h"
 #include "web/css/Token.h"
 
 namespace galley::web {
@@ -12,12 +13,16 @@ namespace galley::web {
 /// What a page is shown on.
 struct Media {
     enum class Scheme { none, dark, light };
+    /// What a page has of links: that one can follow them, nothing, or numbers and a list.
+    enum class Links { followed, ignored, listed };
 
     /// Of the page, in cells.
     unsigned width = 80;
     bool hasColour = true;
     /// Colours that are preferred, where that is known.
     Scheme scheme = Scheme::none;
+    Links links = Links::followed;
+    CellRules cells = {};
 };
 
 /// One thing that a media query asks.

@@ -47,6 +47,7 @@ void resolve(Style& style, Style const& parent) {
     Edges<Border>& border = style.border;
     for (Border* const side : {&border.left, &border.right, &border.top, &border.bottom}) {
         replaceCurrent(side->colour, style.colour);
+        side->cells = style.cells;
     }
     style.drawn.isUnderlined |= style.decoration.isUnderlined;
     style.drawn.isStruckThrough |= style.decoration.isStruckThrough;

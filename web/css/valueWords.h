@@ -5,7 +5,7 @@
 
 namespace galley::web {
 
-/// The values of properties that are one word.
+/// The values of properties that are one word, and such words in values of others.
 
 constexpr Keyword<Display> s_displays[] = {
     {"none", Display::none},
@@ -82,6 +82,29 @@ constexpr Keyword<Visibility> s_visibilities[] = {
     {"visible", Visibility::visible},
     {"hidden", Visibility::hidden},
     {"collapse", Visibility::collapse},
+};
+
+constexpr Keyword<MarkerKind> s_markerKinds[] = {
+    {"none", MarkerKind::none},
+    {"disc", MarkerKind::disc},
+    {"circle", MarkerKind::circle},
+    {"square", MarkerKind::square},
+    {"decimal", MarkerKind::decimal},
+    {"decimal-leading-zero", MarkerKind::decimalLeadingZero},
+    {"lower-alpha", MarkerKind::lowerAlpha},
+    {"lower-latin", MarkerKind::lowerAlpha},
+    {"upper-alpha", MarkerKind::upperAlpha},
+    {"upper-latin", MarkerKind::upperAlpha},
+    {"lower-roman", MarkerKind::lowerRoman},
+    {"upper-roman", MarkerKind::upperRoman},
+    {"lower-greek", MarkerKind::lowerGreek},
+};
+
+constexpr Keyword<LineKind> s_lineKinds[] = {
+    {"none", LineKind::none},      {"hidden", LineKind::hidden}, {"solid", LineKind::solid},
+    {"double", LineKind::twofold}, {"dashed", LineKind::dashed}, {"dotted", LineKind::dotted},
+    {"groove", LineKind::solid},   {"ridge", LineKind::solid},   {"inset", LineKind::solid},
+    {"outset", LineKind::solid},
 };
 
 constexpr Keyword<bool> s_borderCollapses[] = {{"separate", false}, {"collapse", true}};

@@ -2,29 +2,13 @@
 
 #include <cmath>
 
-#include "web/css/keywords.h"
+#include "web/css/valueWords.h"
 
 namespace galley::web {
 
 namespace {
 
 using Kind = Token::Kind;
-
-constexpr Keyword<MarkerKind> s_markerKinds[] = {
-    {"none", MarkerKind::none},
-    {"disc", MarkerKind::disc},
-    {"circle", MarkerKind::circle},
-    {"square", MarkerKind::square},
-    {"decimal", MarkerKind::decimal},
-    {"decimal-leading-zero", MarkerKind::decimalLeadingZero},
-    {"lower-alpha", MarkerKind::lowerAlpha},
-    {"lower-latin", MarkerKind::lowerAlpha},
-    {"upper-alpha", MarkerKind::upperAlpha},
-    {"upper-latin", MarkerKind::upperAlpha},
-    {"lower-roman", MarkerKind::lowerRoman},
-    {"upper-roman", MarkerKind::upperRoman},
-    {"lower-greek", MarkerKind::lowerGreek},
-};
 
 constexpr Keyword<FontWeight> s_fontWeights[] = {
     {"normal", {400}},
@@ -38,13 +22,6 @@ constexpr Keyword<Decoration> s_decorationLines[] = {
     {"line-through", {false, true}},
     {"overline", {}, true},
     {"blink", {}, true},
-};
-
-constexpr Keyword<LineKind> s_lineKinds[] = {
-    {"none", LineKind::none},      {"hidden", LineKind::hidden}, {"solid", LineKind::solid},
-    {"double", LineKind::twofold}, {"dashed", LineKind::dashed}, {"dotted", LineKind::dotted},
-    {"groove", LineKind::solid},   {"ridge", LineKind::solid},   {"inset", LineKind::solid},
-    {"outset", LineKind::solid},
 };
 
 }  // namespace

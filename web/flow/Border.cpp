@@ -85,9 +85,19 @@ std::string_view roundedCorner(std::uint16_t wanted) {
     return {};
 }
 
+bool isAscii(Border const* border) { return border != nullptr && border->cells.hasAsciiFrames; }
+
+/// By the lines' sides: whether there are any across, and down.
+std::string_view asciiJoint(Weight across, Weight down) {
+    if (down == Weight::none) return across > Weight::light ? "=" : "-";
+    return across == Weight::none ? "|" : "+";
+}
+
 std::string_view straight(Border const& border, bool isVertical) {
     bool const isHeavy = border.thickness == Thickness::thick;
-    switch (border.line.kind) {
+    LineKind const kind = border.line.kind;
+    bool const isText = kind == LineKind::text;
+    switch (isAscii(&border) && !isText ? LineKind::solid : kind) {
         case LineKind::dashed:
             return isVertical ? (isHeavy ? "╏" : "╎") : (isHeavy ? "╍" : "╌");
         case LineKind::dotted:
@@ -107,8 +117,8 @@ Look lookOf(Border const& border, Colour background) {
 }
 
 /// Adds a text again and again, as far as it is whole, and blanks up to a column.
-void repeat(Row& row, std::string_view text, int column, Look const& look) {
-    int const cells = countCells(text);
+void repeat(Row& row, Border const& border, std::string_view text, int column, Look const& look) {
+    int const cells = countCells(text, border.cells.isAmbiguousWide);
     while (cells > 0 && row.width() + cells <= column) row.add(text, cells, look);
     row.fill(column, look);
 }
@@ -118,7 +128,7 @@ void addCorner(Row& row, Style const& style, bool isTop, bool isLeft, Look const
     Border const* const horizontal = isTop ? &style.border.top : &style.border.bottom;
     if (!vertical->isThere()) return;
     if (horizontal->line.kind == LineKind::text || vertical->line.kind == LineKind::text) {
-        repeat(row, straight(*horizontal, false), row.width() + 1, look);
+        repeat(row, *horizontal, straight(*horizontal, false), row.width() + 1, look);
         return;
     }
     Edges<Border const*> lines = {};
@@ -136,6 +146,10 @@ std::string_view joint(Edges<Border const*> const& lines, bool isRounded) {
     Weight bottom = weightOf(lines.bottom);
     level(left, right);
     level(top, bottom);
+    if (isAscii(lines.left) || isAscii(lines.right) || isAscii(lines.top) ||
+        isAscii(lines.bottom)) {
+        return asciiJoint(std::max(left, right), std::max(top, bottom));
+    }
     auto const key = [&] {
         return sides(static_cast<int>(left), static_cast<int>(right), static_cast<int>(top),
                      static_cast<int>(bottom));
@@ -153,12 +167,12 @@ std::string_view joint(Edges<Border const*> const& lines, bool isRounded) {
 
 void addVertical(Row& row, Border const& border, Colour background, bool isVisible) {
     if (!border.isThere()) return;
-    repeat(row, isVisible ? straight(border, true) : " ", row.width() + 1,
+    repeat(row, border, isVisible ? straight(border, true) : " ", row.width() + 1,
            lookOf(border, background));
 }
 
 void addLine(Row& row, Border const& border, int columns, Colour background) {
-    repeat(row, straight(border, false), row.width() + columns, lookOf(border, background));
+    repeat(row, border, straight(border, false), row.width() + columns, lookOf(border, background));
 }
 
 void addJoint(Row& row, Edges<Border const*> const& lines, Border const& coloured,
@@ -166,7 +180,7 @@ void addJoint(Row& row, Edges<Border const*> const& lines, Border const& coloure
     Look const look = lookOf(coloured, background);
     for (Border const* const line : {lines.left, lines.right, lines.top, lines.bottom}) {
         if (line == nullptr || line->line.kind != LineKind::text) continue;
-        repeat(row, line->line.text, row.width() + 1, look);
+        repeat(row, *line, line->line.text, row.width() + 1, look);
         return;
     }
     bool const isAcross = lines.left != nullptr || lines.right != nullptr;

@@ -180,7 +180,7 @@ int LineBreaker::restWidth(Item const& item) const {
     if (item.isPlain) return static_cast<int>(rest.size());
     int width = 0;
     for (std::size_t i = 0; i < rest.size() && used + width <= available;) {
-        Cluster const cluster = clusterAt(rest, i, false);
+        Cluster const cluster = clusterAt(rest, i, styleOf(item).cells.isAmbiguousWide);
         width += static_cast<int>(cluster.width);
         i = cluster.end;
     }
@@ -194,7 +194,7 @@ bool LineBreaker::part(Item const& item, bool isAll) {
     int width = 0;
     std::size_t taken = 0;
     while (taken < rest.size() && rest[taken] != ' ') {
-        Cluster const cluster = clusterAt(rest, taken, false);
+        Cluster const cluster = clusterAt(rest, taken, styleOf(item).cells.isAmbiguousWide);
         auto const cells = static_cast<int>(cluster.width);
         bool const isFirst = taken == 0 && !hasText;
         if (used + width + cells > available && !isFirst) break;
@@ -220,7 +220,9 @@ bool LineBreaker::partLastWord() {
     if (!lastWord || lastWord->item + 1 != at.item) return false;
     Item const& word = paragraph.items()[lastWord->item];
     std::string_view const text = paragraph.textOf(word).substr(lastWord->offset);
-    if (!mayPart(styleOf(word)) || clusterAt(text, 0, false).end == text.size()) return false;
+    if (!mayPart(styleOf(word)) ||
+        clusterAt(text, 0, styleOf(word).cells.isAmbiguousWide).end == text.size())
+        return false;
     at = *lastWord;
     used = usedBeforeWord;
     hasText = false;

@@ -12,6 +12,7 @@ namespace {
 
 TextOptions optionsFor(Style const& style) {
     TextOptions options;
+    options.isAmbiguousWide = style.cells.isAmbiguousWide;
     switch (style.whiteSpace) {
         case WhiteSpace::normal:
         case WhiteSpace::nowrap:

@@ -36,7 +36,7 @@ void Row::add(RowView const& other) {
     cells += other.width;
 }
 
-void Row::draw(int column, RowView const& other, Colour background) {
+void Row::draw(int column, RowView const& other, Colour background, bool isAmbiguousWide) {
     if (column >= cells) {
         if (other.width == 0) return;
         fill(column, blankOn(background));
@@ -44,18 +44,18 @@ void Row::draw(int column, RowView const& other, Colour background) {
         return;
     }
     Row result;
-    result.addPart(view(), 0, column);
+    result.addPart(view(), 0, column, isAmbiguousWide);
     result.add(other);
-    result.addPart(view(), column + other.width, cells);
+    result.addPart(view(), column + other.width, cells, isAmbiguousWide);
     *this = std::move(result);
 }
 
-void Row::addPart(RowView const& other, int begin, int end) {
+void Row::addPart(RowView const& other, int begin, int end, bool isAmbiguousWide) {
     int column = 0;
     for (Span const& span : other.spans) {
         std::string_view const text = other.textOf(span);
         for (std::size_t i = 0; i < text.size() && column < end;) {
-            Cluster const cluster = clusterAt(text, i, false);
+            Cluster const cluster = clusterAt(text, i, isAmbiguousWide);
             int const next = column + static_cast<int>(cluster.width);
             if (column >= begin && next <= end) {
                 add(text.substr(i, cluster.end - i), next - column, span.look);

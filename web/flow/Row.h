@@ -55,9 +55,9 @@ public:
     void add(RowView const& other);
     /// Puts another row over what is there, from a column on. A wide character of which half is
     /// covered becomes a blank. Cells on the way to that column are blanks on the background.
-    void draw(int column, RowView const& other, Colour background);
+    void draw(int column, RowView const& other, Colour background, bool isAmbiguousWide = false);
     /// Adds what stands from a column of another row to one. Halves of wide characters are blanks.
-    void addPart(RowView const& other, int begin, int end);
+    void addPart(RowView const& other, int begin, int end, bool isAmbiguousWide = false);
     void clear();
 
 private:

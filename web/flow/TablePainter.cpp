@@ -189,7 +189,7 @@ void TablePainter::paintCell(LaidCell const& cell, int y) {
     }
     Row piece;
     paintPiece(piece, cell, 0, y);
-    row.draw(cell.left, piece.view(), cell.cell->background);
+    row.draw(cell.left, piece.view(), cell.cell->background, table.cells.isAmbiguousWide);
 }
 
 /// Adds what a cell has in a row of text, from column `left` on.
@@ -240,8 +240,9 @@ void TablePainter::paintOverlays() {
         int const blanks = leadingBlanks(overlay.content, overlay.background);
         if (blanks == overlay.content.width) continue;
         Row text;
-        text.addPart(overlay.content, blanks, overlay.content.width);
-        row.draw(overlay.column + blanks, text.view(), overlay.background);
+        bool const isAmbiguousWide = table.cells.isAmbiguousWide;
+        text.addPart(overlay.content, blanks, overlay.content.width, isAmbiguousWide);
+        row.draw(overlay.column + blanks, text.view(), overlay.background, isAmbiguousWide);
     }
 }
 

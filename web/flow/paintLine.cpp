@@ -153,7 +153,8 @@ private:
         std::string_view const text = textOf(item);
         if (item.isPlain) return addPlain(text, element);
         bool const isWhole = text.size() == item.end - item.begin;
-        int const cells = isWhole ? static_cast<int>(item.width) : countCells(text);
+        int const cells = isWhole ? static_cast<int>(item.width)
+                                  : countCells(text, element.style->cells.isAmbiguousWide);
         if (item.isPrintedAsIs) return add(text, cells, element);
         printed.clear();
         appendPrinted(printed, text);

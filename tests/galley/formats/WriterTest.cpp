@@ -23,9 +23,9 @@ struct Part {
 using Parts = std::vector<Part>;
 
 std::string written(std::vector<Parts> const& rows, Format format,
-                    TerminalFeatures const& terminal = {}) {
+                    ColourDepth depth = ColourDepth::exact) {
     String page;
-    auto const writer = makePageWriter(page, {.format = format, .theme = Theme::dark}, terminal);
+    auto const writer = makePageWriter(page, {.format = format, .theme = Theme::dark}, depth);
     for (Parts const& parts : rows) {
         Row row;
         for (auto const& [text, cells, look] : parts) row.add(text, cells, look);
@@ -36,7 +36,7 @@ std::string written(std::vector<Parts> const& rows, Format format,
 }
 
 std::string ansi(Parts const& row, ColourDepth depth = ColourDepth::exact) {
-    return written({row}, Format::ansi, {.depth = depth});
+    return written({row}, Format::ansi, depth);
 }
 
 /// What stands behind the rules, or behind the rectangle that is the terminal.
@@ -128,7 +128,6 @@ TEST(Writer, ALinkIsOneOverRowsAndLooks) {
     std::string const close = "\x1b]8;;\x1b\\";
     EXPECT_EQ(written(rows, Format::ansi),
               "a" + open + "b\x1b[1mc\x1b[0m" + close + "\n" + open + "d" + close + "e\n");
-    EXPECT_EQ(written(rows, Format::ansi, {.hasLinks = false}), "ab\x1b[1mc\x1b[0m\nde\n");
     std::string href = "<a href=\"" + std::string(s_encoded) + "\">";
     href.replace(href.find('&'), 1, "&amp;");
     std::string const html = written(rows, Format::html);

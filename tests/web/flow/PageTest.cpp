@@ -37,6 +37,14 @@ TEST(Pages, PutMarginsOutsideOfBackgroundsThatHaveNotBegun) {
                  {"a<div style='border-left: solid'>x<p>b</p>y</div>c", 5, "|a|│x|│|│b|│|│y|c"}});
 }
 
+TEST(Pages, GoOnBehindTheEndOfTheirRoot) {
+    expectPages(
+        {{"<html></html><p>x</p>", 9, "|x"},
+         {"<body>a</body><p>b</p>", 9, "|a||b"},
+         {"<html><body>a</body></html>b", 9, "|a|b"},
+         {"<style>body { border-left: solid }</style><html><body>a</body></html>\n", 9, "|│a"}});
+}
+
 TEST(Pages, CollapseWhiteSpaceAcrossElements) {
     expectPages({
         {"  a \n <b> b </b> c<i>\t</i>d ", 20, "|a b c d"},
