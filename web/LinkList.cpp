@@ -8,7 +8,9 @@ namespace galley::web {
 
 namespace {
 
-std::string markerOf(std::size_t number) { return "[" + std::to_string(number) + "]"; }
+std::string markerOf(std::size_t number) {
+    return std::string("[").append(std::to_string(number)).append("]");
+}
 
 }  // namespace
 

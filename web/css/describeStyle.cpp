@@ -19,7 +19,9 @@ std::string wordOf(T value) {
     return {};
 }
 
-std::string quotedText(std::string_view text) { return "\"" + std::string(text) + "\""; }
+std::string quotedText(std::string_view text) {
+    return std::string("\"").append(text).append("\"");
+}
 
 std::string thousandths(std::int32_t value) {
     char text[32];
