@@ -184,6 +184,7 @@ void PageBuilder::closeElement() {
 void PageBuilder::endRole(Role role) {
     switch (role) {
         case Role::quote:
+            // As in Chromium, it ends no word.
             frame().paragraph.addGenerated(--quoteDepth % 2 == 0 ? "”" : "’");
             frame().paragraph.close();
             break;
@@ -258,6 +259,7 @@ void PageBuilder::endParagraph() {
         if (!done.isEmpty()) current.sink->add(done);
         return;
     }
+    current.paragraph.finish();
     if (!current.paragraph.isEmpty()) current.sink->add(current.paragraph);
     current.paragraph.begin(*current.style, current.background);
 }

@@ -175,6 +175,16 @@ struct InheritedStyle {
     bool operator==(InheritedStyle const&) const = default;
 };
 
+/// Whether lines break at white space.
+inline bool wraps(InheritedStyle const& style) {
+    return style.whiteSpace != WhiteSpace::nowrap && style.whiteSpace != WhiteSpace::pre;
+}
+
+/// Whether every blank counts.
+inline bool preserves(InheritedStyle const& style) {
+    return style.whiteSpace == WhiteSpace::pre || style.whiteSpace == WhiteSpace::preWrap;
+}
+
 /// The computed style of an element. Without declarations it has the initial values of CSS.
 struct Style : InheritedStyle {
     Display display = Display::inlined;

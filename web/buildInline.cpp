@@ -42,7 +42,7 @@ PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& s
     if (element.name == "a" && mayFollow(address)) return openLink(address, style);
     paragraph.open(style, nullptr);
     if (element.name != "q") return Role::inlined;
-    paragraph.addGenerated(quoteDepth++ % 2 == 0 ? "“" : "‘");
+    paragraph.addText(quoteDepth++ % 2 == 0 ? "“" : "‘");
     return Role::quote;
 }
 

@@ -67,8 +67,8 @@ def difference(page, answer, rows):
         return misfit(page, answer, actual)
     if len(actual) != len(answer.rows):
         return f"{len(actual)} rows instead of {len(answer.rows)}"
-    for number, (expected, row) in enumerate(zip(map(cells, answer.rows), actual)):
-        if visible(expected, page.width) != shown(expected, row, page.width):
+    for number, expected in enumerate(map(cells, answer.rows)):
+        if visible(expected, page.width) != shown(expected, actual, number, page.width):
             return f"row {number}"
     return None
 
@@ -81,20 +81,23 @@ def visible(row, width):
     return kept
 
 
-def shown(expected, row, width):
+def shown(expected, rows, number, width):
     """The same of a row that galley printed, without what no picture shows beyond the page: what is
     no letter, and markers."""
     return visible([" " if column >= width and cell != "" and expected[column:column + 1] in ([], [" "])
-                    and not (cell.isalpha() and not in_marker(row, column)) else cell
-                    for column, cell in enumerate(row)], width)
+                    and not (cell.isalpha() and not in_marker(rows, number, column)) else cell
+                    for column, cell in enumerate(rows[number])], width)
 
 
-def in_marker(row, column):
-    """Whether the word that a cell is in may be a marker, which ends with a dot."""
-    end = column
-    while end < len(row) and row[end] != " ":
-        end += 1
-    return row[end - 1] == "."
+def in_marker(rows, number, column):
+    """Whether a cell may be of a marker, the longest being "viii.", whose cells may stand one under
+    the other."""
+    word = "".join(rows[number][column:]).strip()
+    for row in rows[number + 1:number + 5]:
+        if "." in word or " " in word:
+            break
+        word += "".join(row).strip()
+    return "." in word.split(" ")[0][:5]
 
 
 def misfit(page, answer, actual):
@@ -102,7 +105,7 @@ def misfit(page, answer, actual):
     Where columns stand side by side, any order will do."""
     letters = unicodedata.normalize("NFC", answer.rows[0]).casefold()
     printed = "".join(cell for row in actual for cell in row if cell.strip()).casefold()
-    if "<table" in page.source:
+    if re.search("<table|display: table", page.source):
         missing = collections.Counter(letters) - collections.Counter(printed)
     else:
         rest = iter(printed)

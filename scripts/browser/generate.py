@@ -165,7 +165,7 @@ class Blocks:
         if tag == "ol" and chosen.chance(0.3):
             start = chosen.use("list start", f' start="{chosen.pick([0, 1, 3, 8, 9])}"')
         # Room for "viii." and the blank behind it.
-        style.append("padding-left: 7ch")
+        style.append("padding-left: 7ch !important")
         items = "".join(self._item(depth) for _ in range(chosen.number(1, 4)))
         chosen.use(f"list depth {min(depth, 2)}")
         return f"<{tag}{start}{self._attributes(style, 0.1)}>{items}</{tag}>"

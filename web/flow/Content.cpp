@@ -91,12 +91,13 @@ Widths measure(Paragraph const& paragraph, Wrapping wrapping) {
     constexpr int s_unlimited = std::numeric_limits<int>::max() / 2;
     auto const widest = [&](int cells) {
         LineBreaker breaker(paragraph, 0, LineBreaker::Purpose::measuring, wrapping);
-        int const indent = across(paragraph.block().textIndent, 0);
+        int indent = across(paragraph.block().textIndent, 0);
         int result = 0;
         for (Place at; !breaker.isAtEnd(at);) {
-            TextLine const line = breaker.next(at, cells);
-            result = std::max(result, line.width + (at == Place() ? indent : 0));
+            TextLine const line = breaker.next(at, cells, indent);
+            result = std::max(result, indent + line.width);
             at = line.end;
+            indent = 0;
         }
         return result;
     };

@@ -93,7 +93,7 @@ void Flow::add(Paragraph const& paragraph) {
     int indent = std::exchange(hasContent, true) ? 0 : across(style.textIndent, container);
     start();
     for (Place at; !breaker.isAtEnd(at);) {
-        TextLine const line = breaker.next(at, container - indent);
+        TextLine const line = breaker.next(at, container, indent);
         int const spare = std::max(0, container - indent - line.width);
         int offset = indent;
         if (style.textAlign == TextAlign::right) offset += spare;
@@ -102,7 +102,7 @@ void Flow::add(Paragraph const& paragraph) {
         int const column = contentLeft() + offset;
         beginRow();
         row.fill(column, blankOn(background()));
-        paintLine(row, paragraph, line, container, contentLeft(), isSpread ? spare : 0);
+        paintLine(row, paragraph, line, container, column - indent, isSpread ? spare : 0);
         endRow();
         at = line.end;
         indent = 0;

@@ -5,6 +5,7 @@
 
 #include "web/flow/lengths.h"
 #include "web/flow/transformText.h"
+#include "web/text/utf8.h"
 
 namespace galley::web {
 
@@ -40,6 +41,10 @@ TextOptions optionsFor(Style const& style) {
     return options;
 }
 
+bool isTag(Item const& item) {
+    return item.kind == Item::Kind::open || item.kind == Item::Kind::close;
+}
+
 /// A container in which any per cent are columns.
 constexpr int s_wide = 100'000;
 
@@ -63,7 +68,7 @@ void Paragraph::begin(Style const& block, Colour background) {
     elements.assign(1, {.style = &block, .look = lookOf(block, background), .around = background});
     current = 0;
     isBehindBlank = true;
-    isInWord = false;
+    lastCharacter = ' ';
     contentEnd = 0;
 }
 
@@ -95,6 +100,7 @@ void Paragraph::close() {
 }
 
 void Paragraph::partInto(Paragraph& done) {
+    finish();
     // Innermost last, as they were opened.
     std::vector<std::uint32_t> parted;
     for (std::uint32_t i = current; i > 0; i = elements[i].parent) parted.push_back(i);
@@ -111,8 +117,44 @@ void Paragraph::partInto(Paragraph& done) {
     contentEnd = 0;
 }
 
+void Paragraph::finish() {
+    dropBlank();
+    // Elements that end or are empty there stand in the last line, too.
+    if (contentEnd == 0 || all[contentEnd - 1].kind == Item::Kind::lineFeed) return;
+    while (contentEnd < all.size() && isTag(all[contentEnd])) ++contentEnd;
+}
+
+/// White space at the end of a line is none, whatever elements end behind it.
+void Paragraph::dropBlank() {
+    std::size_t end = all.size();
+    while (end > 0 && isTag(all[end - 1])) --end;
+    if (end == 0) return;
+    Item& last = all[end - 1];
+    if (last.kind == Item::Kind::blank) {
+        all.erase(all.begin() + static_cast<std::ptrdiff_t>(end) - 1);
+        if (contentEnd >= end) --contentEnd;
+    } else if (last.kind == Item::Kind::words) {
+        std::string_view const words = textOf(last).substr(0, last.end - last.begin - 1);
+        std::size_t const begin = words.rfind(' ') + 1;
+        Item word = last;
+        word.kind = Item::Kind::word;
+        word.begin += static_cast<std::uint32_t>(begin);
+        --word.end;
+        word.width = word.end - word.begin;
+        last.end = word.begin;
+        if (begin == 0) {
+            last = word;
+        } else {
+            all.insert(all.begin() + static_cast<std::ptrdiff_t>(end), word);
+            ++contentEnd;
+        }
+    }
+}
+
 void Paragraph::addLineFeed() {
+    dropBlank();
     isBehindBlank = true;
+    lastCharacter = '\n';
     add(Item::Kind::lineFeed);
     contentEnd = all.size();
 }
@@ -126,9 +168,12 @@ void Paragraph::addBlank() {
 }
 
 void Paragraph::addText(std::string_view decoded) {
+    if (decoded.empty()) return;
+    char32_t const before = lastCharacter;
+    lastCharacter = decodeAt(decoded, startBefore(decoded, decoded.size())).value;
     if (style().textTransform != TextTransform::none) {
         std::string transformed;
-        transformText(transformed, decoded, style().textTransform, isInWord);
+        transformText(transformed, decoded, style().textTransform, before);
         addGenerated(transformed);
     } else {
         addGenerated(decoded);
@@ -154,7 +199,10 @@ void Paragraph::addGenerated(std::string_view decoded) {
         if (!reader.next(segment)) return;
         bool const isWord = isWrapped && segment.isPlain && segment.end > segment.begin &&
                             segment.behind == Segment::Behind::space;
-        std::string_view const bytes = decoded.substr(segment.begin, segment.end - segment.begin);
+        // A soft hyphen is there, since a word may be parted before it.
+        bool const isHyphen = segment.behind == Segment::Behind::softHyphen;
+        std::size_t const end = isHyphen ? segment.next : segment.end;
+        std::string_view const bytes = decoded.substr(segment.begin, end - segment.begin);
         if (isWord) {
             addWords(bytes);
             text += ' ';

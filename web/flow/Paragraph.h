@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -65,6 +66,14 @@ struct Item {
     std::uint32_t width = 0;
 };
 
+/// A place in a paragraph: before an item, or so many bytes within its text.
+struct Place {
+    std::uint32_t item = 0;
+    std::uint32_t offset = 0;
+
+    auto operator<=>(Place const&) const = default;
+};
+
 /// Text and inline elements between two blocks: what lines are made of. White space is collapsed
 /// when it is added, but for what depends on where lines break.
 class Paragraph {
@@ -75,25 +84,35 @@ public:
     void close();
     /// Adds text of the innermost element.
     void addText(std::string_view decoded);
-    /// Adds text that is not from the document: its letters stay as they are.
+    /// Adds text of which no letter is transformed, here or behind it.
     void addGenerated(std::string_view decoded);
     /// Ends the line, whatever white space means here.
     void addLineFeed();
     /// Lets a line break here.
     void addBreakable();
 
+    /// To be called when all has been added.
+    void finish();
     /// Parts the open elements: what has been added becomes `done`, and this one goes on with them.
     void partInto(Paragraph& done);
 
     Style const& block() const { return *elements.front().style; }
+    bool isAmbiguousWide() const { return block().cells.isAmbiguousWide; }
     /// Whether it makes lines: text, or an edge of an element, is there.
     bool isEmpty() const { return contentEnd == 0; }
     /// Behind the last item that makes a line.
     std::size_t end() const { return contentEnd; }
     std::vector<Item> const& items() const { return all; }
     Inline const& element(Item const& item) const { return elements[item.element]; }
+    Inline const& around(Inline const& element) const { return elements[element.parent]; }
     std::string_view textOf(Item const& item) const {
         return std::string_view(text).substr(item.begin, item.end - item.begin);
+    }
+    /// So many bytes behind a place in the text of an item, where that ends before the next one.
+    Place behind(Place place, std::size_t bytes) const {
+        place.offset += static_cast<std::uint32_t>(bytes);
+        Item const& item = all[place.item];
+        return item.begin + place.offset == item.end ? Place{place.item + 1, 0} : place;
     }
     /// Whether an inline element is.
     bool hasOpen() const { return current > 0; }
@@ -108,6 +127,7 @@ private:
     void addUnbroken(std::string_view bytes);
     void addBehind(Segment const& segment);
     void addBlank();
+    void dropBlank();
     Item& add(Item::Kind kind);
     Style const& style() const { return *elements[current].style; }
 
@@ -120,8 +140,8 @@ private:
     /// a line.
     bool isBehindBlank = true;
     std::size_t contentEnd = 0;
-    /// A letter that comes now goes on with a word.
-    bool isInWord = false;
+    /// Of the text that was added last, a blank if there is none.
+    char32_t lastCharacter = ' ';
 };
 
 }  // namespace galley::web

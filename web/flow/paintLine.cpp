@@ -12,30 +12,59 @@ namespace galley::web {
 
 namespace {
 
+/// Whether a justified line may be spread on both sides of a character: in scripts without blanks
+/// between words, and around emoji, as far as Chromium does so.
+bool isSpreadAround(char32_t c) {
+    struct Range {
+        char32_t first;
+        char32_t last;
+    };
+    constexpr Range s_ranges[] = {{0x2E80, 0x312F},   {0x3190, 0x31E3},   {0x3200, 0x9FFF},
+                                  {0xF900, 0xFAFF},   {0xFE30, 0xFE6F},   {0xFF01, 0xFF9D},
+                                  {0x1B000, 0x1B2FF}, {0x1F1E6, 0x1FAFF}, {0x20000, 0x3FFFF}};
+    return std::any_of(std::begin(s_ranges), std::end(s_ranges),
+                       [c](Range const& range) { return c >= range.first && c <= range.last; });
+}
+
+/// What is spare in a justified line, and the gaps that share it, of which the first get more.
+struct Spread {
+    int cells = 0;
+    int gaps = 0;
+};
+
 class LinePainter {
 public:
     LinePainter(Row& painted, Paragraph const& source, TextLine const& part, int columns, int left)
-        : row(painted), paragraph(source), line(part), container(columns), start(left) {}
-
-    void paint(int spareCells) {
+        : row(painted), paragraph(source), line(part), container(columns), start(left) {
         findLast();
-        if (spareCells > 0) countGaps();
-        spare = spareCells;
+    }
+
+    void paint() {
         for (std::uint32_t i = line.begin.item; i < endItem(); ++i) {
             index = i;
             paintItem(paragraph.items()[i]);
         }
-        if (line.hyphenates) addPlain("-", paragraph.element(paragraph.items()[last]));
     }
+
+    void paintSpread(Spread shared) {
+        isSpread = true;
+        rest = shared;
+        paint();
+    }
+
+    /// Gaps that have been painted, but for one at the end.
+    int gaps() const { return passed - (isBehindGap && passed > 0 ? 1 : 0); }
 
 private:
     /// One past the last item of which something is on the line.
     std::uint32_t endItem() const { return line.end.item + (line.end.offset > 0 ? 1 : 0); }
 
-    static bool isText(Item const& item) {
+    /// White space that would hang is none.
+    bool isText(Item const& item) const {
+        bool const isBlank = item.kind == Item::Kind::blanks || item.kind == Item::Kind::tab;
         return item.kind == Item::Kind::words || item.kind == Item::Kind::word ||
-               item.kind == Item::Kind::ideographs || item.kind == Item::Kind::blanks ||
-               item.kind == Item::Kind::tab;
+               item.kind == Item::Kind::ideographs ||
+               (isBlank && !wraps(*paragraph.element(item).style));
     }
 
     /// Blanks behind the last text show nowhere.
@@ -56,50 +85,22 @@ private:
         return text;
     }
 
-    void countGaps() {
-        bool isBehindText = false;
-        for (std::uint32_t i = line.begin.item; hasText && i <= last; ++i) {
-            index = i;
-            Item const& item = paragraph.items()[i];
-            if (item.kind == Item::Kind::words) {
-                std::string_view const text = textOf(item);
-                gaps += static_cast<int>(std::count(text.begin(), text.end(), ' '));
-            } else if (item.kind == Item::Kind::blank && isBehindText) {
-                ++gaps;
-            }
-            isBehindText = isBehindText || isText(item);
-        }
-    }
-
     void paintItem(Item const& item) {
         Inline const& element = paragraph.element(item);
         switch (item.kind) {
             case Item::Kind::words:
-                paintWords(textOf(item), element);
-                isBegun = true;
-                break;
             case Item::Kind::word:
-                paintWord(item, element);
-                isBegun = true;
-                break;
             case Item::Kind::ideographs:
-                add(textOf(item), cellsOfIdeographs(textOf(item)), element);
-                isBegun = true;
+                paintText(item, element);
                 break;
             case Item::Kind::blank:
-                if (isBegun && index < last && hasText) paintGap(element.look);
+                if (isBegun && index < last && hasText) paintBlank(element.look);
                 break;
             case Item::Kind::blanks:
-                row.fill(row.width() + static_cast<int>(item.width), element.look);
-                isBegun = true;
+                if (!isHanging(element)) paintBlanks(item.width, element);
                 break;
             case Item::Kind::tab:
-                if (element.style->tabSize > 0) {
-                    int const column = row.width() - start;
-                    row.fill(row.width() + element.style->tabSize - column % element.style->tabSize,
-                             element.look);
-                }
-                isBegun = true;
+                if (!isHanging(element)) paintTab(element);
                 break;
             case Item::Kind::open:
                 paintLeftEdge(element);
@@ -113,52 +114,106 @@ private:
         }
     }
 
-    /// A blank, and its part of what is spare.
-    void paintGap(Look const& look) {
-        int cells = 1;
-        if (spare > 0) {
-            int const part = (spare + gaps - 1) / gaps;
-            cells += part;
-            spare -= part;
-            --gaps;
+    /// White space behind all text hangs where a line may break.
+    bool isHanging(Inline const& element) const {
+        return (index > last || !hasText) && wraps(*element.style);
+    }
+
+    void paintText(Item const& item, Inline const& element) {
+        std::string_view const text = textOf(item);
+        isBegun = true;
+        if (!isSpread) {
+            addText(text, cellsOf(item, text), item.isPrintedAsIs, element);
+        } else if (isAscii(item)) {
+            paintWords(text, element);
+        } else {
+            paintClusters(text, element);
         }
-        row.fill(row.width() + cells, look);
+        if (line.hyphenates && index == last) addText("-", 1, true, element);
+    }
+
+    static bool isAscii(Item const& item) {
+        return item.isPlain && item.kind != Item::Kind::ideographs;
+    }
+
+    int cellsOf(Item const& item, std::string_view text) const {
+        if (isAscii(item)) return static_cast<int>(text.size());
+        if (item.kind == Item::Kind::ideographs) return cellsOfIdeographs(text);
+        bool const isWhole = text.size() == item.end - item.begin;
+        return isWhole ? static_cast<int>(item.width) : countCells(text, isAmbiguousWide(item));
+    }
+
+    bool isAmbiguousWide(Item const& item) const {
+        return paragraph.element(item).style->cells.isAmbiguousWide;
     }
 
     void paintWords(std::string_view text, Inline const& element) {
-        while (spare > 0) {
+        for (;;) {
             std::size_t const blank = text.find(' ');
-            if (blank == std::string_view::npos) break;
-            addPlain(text.substr(0, blank), element);
-            paintGap(element.look);
+            std::string_view const word = text.substr(0, blank);
+            if (!word.empty()) isBehindGap = false;
+            addText(word, static_cast<int>(word.size()), true, element);
+            if (blank == std::string_view::npos) return;
+            paintBlank(element.look);
             text.remove_prefix(blank + 1);
         }
-        addPlain(text, element);
     }
 
-    void addPlain(std::string_view text, Inline const& element) {
-        add(text, static_cast<int>(text.size()), element);
-    }
-
-    /// Adds what is printed as it is, and takes so many cells.
-    void add(std::string_view text, int cells, Inline const& element) {
-        if (isVisible(*element.style)) {
-            row.add(text, cells, element.look);
-        } else {
-            row.fill(row.width() + cells, element.look);
+    void paintClusters(std::string_view text, Inline const& element) {
+        constexpr char32_t noBreakSpace = 0xA0;
+        for (std::size_t i = 0; i < text.size();) {
+            Cluster const cluster = clusterAt(text, i, element.style->cells.isAmbiguousWide);
+            bool const isSpreadHere = isSpreadAround(cluster.first);
+            if (isSpreadHere && !isBehindGap) paintGap(element.look);
+            isBehindGap = false;
+            addText(text.substr(i, cluster.end - i), static_cast<int>(cluster.width), false,
+                    element);
+            if (isSpreadHere || cluster.first == noBreakSpace) paintGap(element.look);
+            i = cluster.end;
         }
     }
 
-    void paintWord(Item const& item, Inline const& element) {
-        std::string_view const text = textOf(item);
-        if (item.isPlain) return addPlain(text, element);
-        bool const isWhole = text.size() == item.end - item.begin;
-        int const cells = isWhole ? static_cast<int>(item.width)
-                                  : countCells(text, element.style->cells.isAmbiguousWide);
-        if (item.isPrintedAsIs) return add(text, cells, element);
-        printed.clear();
-        appendPrinted(printed, text);
-        add(printed, cells, element);
+    void paintBlank(Look const& look) {
+        row.fill(row.width() + 1, look);
+        paintGap(look);
+    }
+
+    void paintBlanks(std::uint32_t count, Inline const& element) {
+        isBegun = true;
+        for (; count > 0; --count) paintBlank(element.look);
+    }
+
+    void paintTab(Inline const& element) {
+        isBegun = true;
+        int const stop = element.style->tabSize;
+        if (stop == 0) return;
+        int const column = row.width() - start - added;
+        row.fill(row.width() + stop - column % stop, element.look);
+        paintGap(element.look);
+    }
+
+    /// Adds a part of what is spare.
+    void paintGap(Look const& look) {
+        ++passed;
+        isBehindGap = true;
+        if (rest.cells == 0) return;
+        int const part = (rest.cells + rest.gaps - 1) / rest.gaps;
+        row.fill(row.width() + part, look);
+        added += part;
+        rest.cells -= part;
+        --rest.gaps;
+    }
+
+    void addText(std::string_view text, int cells, bool isPrintedAsIs, Inline const& element) {
+        if (!isVisible(*element.style)) {
+            row.fill(row.width() + cells, element.look);
+        } else if (isPrintedAsIs) {
+            row.add(text, cells, element.look);
+        } else {
+            printed.clear();
+            appendPrinted(printed, text);
+            row.add(printed, cells, element.look);
+        }
     }
 
     void paintLeftEdge(Inline const& element) {
@@ -184,13 +239,19 @@ private:
     TextLine const& line;
     int container;
     int start;
-    int spare = 0;
-    int gaps = 0;
     /// The last item that is text, if there is one, and the one at hand.
     std::uint32_t last = 0;
     std::uint32_t index = 0;
     bool hasText = false;
     bool isBegun = false;
+    /// Of a line whose gaps are wider: what they have not got yet, and what they have.
+    ///@{
+    bool isSpread = false;
+    Spread rest;
+    int added = 0;
+    ///@}
+    int passed = 0;
+    bool isBehindGap = true;
     std::string printed;
 };
 
@@ -198,7 +259,12 @@ private:
 
 void paintLine(Row& row, Paragraph const& paragraph, TextLine const& line, int container, int start,
                int spare) {
-    LinePainter(row, paragraph, line, container, start).paint(spare);
+    LinePainter painter(row, paragraph, line, container, start);
+    if (spare == 0) return painter.paint();
+    Row unspread;
+    LinePainter counter(unspread, paragraph, line, container, 0);
+    counter.paintSpread({});
+    painter.paintSpread({counter.gaps() > 0 ? spare : 0, counter.gaps()});
 }
 
 }  // namespace galley::web

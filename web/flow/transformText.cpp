@@ -16,18 +16,56 @@ bool isLetterOrNumber(std::int32_t c) {
            (category >= UTF8PROC_CATEGORY_ND && category <= UTF8PROC_CATEGORY_NO);
 }
 
-/// What shows no character of its own: a mark, or what only formats.
-bool isWithinWord(std::int32_t c) {
+/// A mark, or what only formats: words go on behind it as they would without it.
+bool isPassedOver(std::int32_t c) {
+    constexpr std::int32_t zeroWidthSpace = 0x200B;
     utf8proc_category_t const category = utf8proc_category(c);
     return (category >= UTF8PROC_CATEGORY_MN && category <= UTF8PROC_CATEGORY_ME) ||
-           category == UTF8PROC_CATEGORY_CF || c == '\'' || c == 0x2019;
+           (category == UTF8PROC_CATEGORY_CF && c != zeroWidthSpace);
 }
+
+/// Joins letters on both sides: the classes MidLetter, MidNumLet and Single_Quote of UAX #29 as
+/// Chromium's data have them, which is without full stops and colons.
+bool joinsLetters(std::int32_t c) {
+    constexpr std::u32string_view s_joining =
+        U"'\u00B7\u0387\u055F\u05F4\u2018\u2019\u2024\u2027\uFE13\uFE52\uFF07";
+    return s_joining.find(static_cast<char32_t>(c)) != std::u32string_view::npos;
+}
+
+bool isWithinWord(std::int32_t c) {
+    return isLetterOrNumber(c) || utf8proc_category(c) == UTF8PROC_CATEGORY_PC;
+}
+
+/// Finds the beginnings of words, one character after the other.
+class Words {
+public:
+    explicit Words(char32_t before) { take(static_cast<std::int32_t>(before)); }
+
+    /// Whether a word begins with a character.
+    bool take(std::int32_t c) {
+        if (isPassedOver(c)) return false;
+        State const before = state;
+        if (isWithinWord(c)) {
+            state = State::inside;
+        } else {
+            bool const joins = before == State::inside && joinsLetters(c);
+            state = joins ? State::joining : State::outside;
+        }
+        return state == State::inside && before == State::outside;
+    }
+
+private:
+    enum class State { outside, inside, joining };
+
+    State state = State::outside;
+};
 
 }  // namespace
 
 void transformText(std::string& out, std::string_view text, TextTransform transform,
-                   bool& isInWord) {
+                   char32_t before) {
     out.clear();
+    Words words(before);
     for (std::size_t at = 0; at < text.size();) {
         CodePoint const decoded = decodeAt(text, at);
         std::string_view const bytes = text.substr(at, decoded.length);
@@ -38,10 +76,9 @@ void transformText(std::string& out, std::string_view text, TextTransform transf
             mapped = utf8proc_toupper(c);
         } else if (transform == TextTransform::lowercase) {
             mapped = utf8proc_tolower(c);
-        } else if (!isInWord && isLetterOrNumber(c)) {
+        } else if (words.take(c)) {
             mapped = utf8proc_totitle(c);
         }
-        isInWord = isLetterOrNumber(c) || (isWithinWord(c) && isInWord);
         if (mapped == c) {
             out += bytes;
         } else {

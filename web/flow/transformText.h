@@ -8,9 +8,9 @@
 namespace galley::web {
 
 /// Puts a text in `out` as `text-transform` says, character by character, by Unicode's simple
-/// mappings; what is no character stays. Words begin behind white space and punctuation, but for
-/// one that the text before ends with: `isInWord` says of both ends whether one is there.
+/// mappings; what is no character stays. Words begin where UAX #29 says for letters, digits and
+/// what joins these, of the text before no more than the last character being known.
 void transformText(std::string& out, std::string_view text, TextTransform transform,
-                   bool& isInWord);
+                   char32_t before);
 
 }  // namespace galley::web
