@@ -61,7 +61,7 @@ void Table::complete() {
     frame.emplace(grid, ownStyle);
 }
 
-std::vector<ColumnNeed> const& Table::needs(Wrapping wrapping) {
+std::vector<ColumnNeed>& Table::needs(Wrapping wrapping) {
     auto& known = wrapping == Wrapping::anywhere ? needsAnywhere : needsAsStyled;
     if (!known) {
         known = isFixed() ? fixedNeeds(grid, *frame) : automaticNeeds(grid, *frame, wrapping);
@@ -104,8 +104,12 @@ void Table::layOut(int columns, Wrapping wrapping, TableSink& rows, PageBudget& 
     complete();
     int const margins =
         across(ownStyle.margin.left, columns) + across(ownStyle.margin.right, columns);
-    // Where its words do not fit, a cell parts them.
     if (innerWidths(wrapping, columns).least + margins > columns) wrapping = Wrapping::anywhere;
+    // Where its words do not fit, cells part them, but no more of them than they must.
+    if (wrapping == Wrapping::anywhere && !isFixed()) {
+        int const width = columns - margins - frame->edges(columns);
+        keepWords(needs(wrapping), needs(Wrapping::asStyled), width);
+    }
     Widths content = innerWidths(wrapping, columns);
     // Percentages widen a table only as far as there is room, so not what is around it.
     int const widened = widthOfPercentages(needs(wrapping)) + frame->edges(columns);

@@ -68,7 +68,7 @@ private:
 
     void complete();
     bool isFixed() const { return ownStyle.hasFixedColumns && !isAutomatic(ownStyle.width); }
-    std::vector<ColumnNeed> const& needs(Wrapping wrapping);
+    std::vector<ColumnNeed>& needs(Wrapping wrapping);
     Widths innerWidths(Wrapping wrapping, int container);
     int usedWidth(Widths const& content, int container) const;
     void layOutCaptions(CaptionSide side, int width, RowSink& rows, PageBudget& budget);
