@@ -79,8 +79,8 @@ void Row::draw(int column, RowView const& other, Colour ground, bool isAmbiguous
     for (std::size_t i = 0; i < drawn.size(); ++i) {
         bool const hasSecond = i + 1 < drawn.size() && drawn[i + 1].text.empty();
         bool const isWide = hasSecond && countCells(drawn[i].text, isAmbiguousWide) == 2;
-        bool const isHalf = drawn[i].text.empty() ||
-                            (!isWide && countCells(drawn[i].text, isAmbiguousWide) == 2);
+        bool const isHalf =
+            drawn[i].text.empty() || (!isWide && countCells(drawn[i].text, isAmbiguousWide) == 2);
         result.add(isHalf ? " " : drawn[i].text, isWide ? 2 : 1, drawn[i].look);
         if (isWide) ++i;
     }

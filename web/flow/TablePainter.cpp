@@ -192,7 +192,7 @@ void TablePainter::paintPiece(Row& piece, LaidCell const& cell, int left, int y)
     Colour const background = cell.cell->background;
     int const right = left + cell.right - cell.left;
     int const line = y - cell.top;
-    bool const isShown = cell.cell->isVisible();
+    bool const isShown = cell.cell->isVisible() && right > left;
     bool const isTop = line == 0 && frame.hasBorder(border.top);
     bool const isBottom = line == cell.height - 1 && frame.hasBorder(border.bottom);
     auto const begin = [&] { piece.fill(left, blankOn(grid.background())); };
