@@ -80,7 +80,7 @@ class Choices:
             "word-break": ("word-break", ["keep-all", "break-all"]),
             "text-transform": ("text-transform", ["uppercase", "uppercase", "capitalize"]),
             "visibility": ("visibility", ["hidden"]),
-            "display": ("display", ["none", "block", "block", "inline"]),
+            "display": ("display", ["none", "block", "block"]),
             "inherit": (self.pick(["margin", "padding-left", "text-align", "text-indent"]),
                         ["inherit", "initial", "unset"])}
         name, options = values[kind]

@@ -1,9 +1,10 @@
 """Makes pages from seeds: each uses a few of the features of the web dialect.
 
 No word begins with a hyphen, and markers have room at the page's left edge: there galley means to
-differ from browsers.
+differ from browsers. Where Chromium is not right, by the list in docs/web.md, pages do not go.
 """
 import re
+import unicodedata
 import xml.etree.ElementTree as tree
 
 from choices import CLASSES, Choices
@@ -26,7 +27,14 @@ def make_page(seed):
     body = f"<body>{blocks.blocks(0, chosen.number(1, 4))}</body>"
     rules = make_rules(chosen, width, body) if chosen.chance(0.5) else ""
     head = f"<head><style>{rules}</style></head>" if rules else "<head/>"
-    return Page(seed, width, f"<html>{head}{body}</html>", sorted(chosen.features))
+    return Page(seed, width, avoid(f"<html>{head}{body}</html>"), sorted(chosen.features))
+
+
+def avoid(source):
+    """The page without what Chromium lays out in another way than the standards say."""
+    if "break-all" in source:
+        source = re.sub("[\u0300-\u036f]", "", unicodedata.normalize("NFC", source))
+    return source
 
 
 def make_rules(chosen, width, body):
@@ -105,8 +113,9 @@ class Blocks:
         return text + (f' style="{"; ".join(style)}"' if style else "")
 
     def _paragraph(self, _):
-        tag = self._chosen.pick(BLOCKS)
-        return f"<{tag}{self._attributes()}>{self._words.text()}</{tag}>"
+        chosen, tag = self._chosen, self._chosen.pick(BLOCKS)
+        own = [chosen.use("display: inline", "display: inline")] if chosen.chance(0.05) else []
+        return f"<{tag}{self._attributes(own)}>{self._words.text()}</{tag}>"
 
     def _narrow(self, _):
         """A paragraph whose lines break; where that matters, a browser mostly lays it at whole

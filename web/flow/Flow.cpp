@@ -219,12 +219,26 @@ void Flow::addRightEdges(std::size_t count) {
         if (!block.hasStarted || !block.hasShownEdges) continue;
         Border const& border = block.style->border.right;
         int const column = block.right - (border.isThere() ? 1 : 0);
-        if (border.isThere() || isShown(block.background)) {
+        if (!border.isThere() && block.background == block.around) continue;
+        if (row.width() > column) {
+            addRightEdgeBelow(block, column);
+        } else {
             row.fill(column, blankOn(block.background));
-        }
-        if (row.width() == column)
             addVertical(row, border, block.background, isVisible(*block.style));
+        }
     }
+}
+
+/// Where content sticks out of its block, the block's right edge is below it, and behind that what
+/// is around the block.
+void Flow::addRightEdgeBelow(Block const& block, int column) {
+    Row below;
+    bool const isAmbiguousWide = block.style->cells.isAmbiguousWide;
+    below.addPart(row.view(), 0, column, isAmbiguousWide);
+    addVertical(below, block.style->border.right, block.background, isVisible(*block.style));
+    below.fill(row.width(), blankOn(block.around));
+    below.draw(0, row.view(), block.background, isAmbiguousWide);
+    std::swap(row, below);
 }
 
 /// Adds the border at the top or the bottom of the innermost block.

@@ -67,6 +67,7 @@ private:
     void addLeftEdges(std::size_t count, bool isContent);
     void addMarker(Block& block);
     void addRightEdges(std::size_t count);
+    void addRightEdgeBelow(Block const& block, int column);
     void addBorder(bool isTop);
 
     RowSink& sink;

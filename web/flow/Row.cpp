@@ -1,5 +1,6 @@
 #include "web/flow/Row.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "web/flow/PageBudget.h"
@@ -11,6 +12,26 @@ namespace {
 
 /// In cells.
 constexpr int s_widest = 1'000'000;
+
+struct Cell {
+    /// A cluster; empty in the second cell of a wide one.
+    std::string_view text;
+    Look look;
+};
+
+std::vector<Cell> cellsOf(RowView const& row, bool isAmbiguousWide) {
+    std::vector<Cell> cells;
+    for (RowSpan const& span : row.spans) {
+        std::string_view const text = row.textOf(span);
+        for (std::size_t i = 0; i < text.size();) {
+            Cluster const cluster = clusterAt(text, i, isAmbiguousWide);
+            cells.push_back({text.substr(i, cluster.end - i), span.look});
+            if (cluster.width == 2) cells.push_back({{}, span.look});
+            i = cluster.end;
+        }
+    }
+    return cells;
+}
 
 }  // namespace
 
@@ -36,17 +57,33 @@ void Row::add(RowView const& other) {
     cells += other.width;
 }
 
-void Row::draw(int column, RowView const& other, Colour background, bool isAmbiguousWide) {
+void Row::draw(int column, RowView const& other, Colour ground, bool isAmbiguousWide) {
     if (column >= cells) {
         if (other.width == 0) return;
-        fill(column, blankOn(background));
+        fill(column, blankOn(ground));
         add(other);
         return;
     }
+    std::vector<Cell> drawn = cellsOf(view(), isAmbiguousWide);
+    int at = column;
+    for (Cell cell : cellsOf(other, isAmbiguousWide)) {
+        drawn.resize(std::max(drawn.size(), static_cast<std::size_t>(at) + 1),
+                     Cell{" ", blankOn(ground)});
+        Cell& below = drawn[static_cast<std::size_t>(at++)];
+        bool const isThrough = cell.look.background == ground;
+        if (isThrough && cell.text == " " && below.text != " ") continue;
+        if (isThrough) cell.look.background = below.look.background;
+        below = cell;
+    }
     Row result;
-    result.addPart(view(), 0, column, isAmbiguousWide);
-    result.add(other);
-    result.addPart(view(), column + other.width, cells, isAmbiguousWide);
+    for (std::size_t i = 0; i < drawn.size(); ++i) {
+        bool const hasSecond = i + 1 < drawn.size() && drawn[i + 1].text.empty();
+        bool const isWide = hasSecond && countCells(drawn[i].text, isAmbiguousWide) == 2;
+        bool const isHalf =
+            drawn[i].text.empty() || (!isWide && countCells(drawn[i].text, isAmbiguousWide) == 2);
+        result.add(isHalf ? " " : drawn[i].text, isWide ? 2 : 1, drawn[i].look);
+        if (isWide) ++i;
+    }
     *this = std::move(result);
 }
 

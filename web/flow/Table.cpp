@@ -57,7 +57,9 @@ Content& Table::addCell(Style const& cell, int columnSpan, int rowSpan) {
 void Table::complete() {
     if (frame) return;
     endColumnGroup();
-    grid.complete();
+    // Borders above and below a row without cells would lie on one another.
+    using EmptyRows = TableGrid::EmptyRows;
+    grid.complete(ownStyle.collapsesBorders ? EmptyRows::dropped : EmptyRows::kept);
     frame.emplace(grid, ownStyle);
 }
 
@@ -117,7 +119,9 @@ void Table::layOut(int columns, Wrapping wrapping, TableSink& rows, PageBudget& 
     int const width = usedWidth(content, columns);
     int const spare = std::max(0, columns - margins - width);
     rows.begin(leftMargin(ownStyle, columns, spare));
-    std::vector<int> const shared = shareWidth(needs(wrapping), width - frame->edges(columns));
+    std::vector<int> shared = shareWidth(needs(wrapping), width - frame->edges(columns));
+    int column = 0;
+    for (int& cells : shared) cells = std::max(0, cells - frame->lineBehind(column++));
     layOutCaptions(CaptionSide::top, width, rows, budget);
     TablePainter(grid, *frame, ownStyle, rows, budget).paint(width, shared, columns, wrapping);
     layOutCaptions(CaptionSide::bottom, width, rows, budget);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -31,17 +32,24 @@ public:
         if (collapsed) return collapsed->hasHorizontal(line) ? 1 : 0;
         return grid.columns().empty() ? 0 : table.borderSpacing.down;
     }
-    /// Between lines, without these.
-    int columnGaps(int begin, int end) const {
-        int sum = 0;
-        for (int line = begin + 1; line < end; ++line) sum += columnGap(line);
-        return sum;
+    /// A line of borders that collapse counts with the column before it.
+    int lineBehind(int column) const { return collapsed ? columnGap(column + 1) : 0; }
+    /// Columns of a cell that are not its content, as far as they count with its columns.
+    int columnEdges(TableCell const& cell) const {
+        return cellEdges(*cell.style, 0) + lineBehind(cell.endColumn() - 1);
     }
-    /// Of all that is not columns, in a container of so many. Without columns there are two lines.
+    /// Of the gaps that a cell spans those that do not count with its columns.
+    int gapsWithin(TableCell const& cell) const {
+        int sum = 0;
+        for (int line = cell.column + 1; line < cell.endColumn(); ++line) sum += columnGap(line);
+        return collapsed ? 0 : sum;
+    }
+    /// Of all that does not count with columns, in a container of so many. Without columns there
+    /// are two lines.
     int edges(int container) const {
-        int gaps = columnGaps(-1, static_cast<int>(grid.columns().size()) + 1);
-        if (grid.columns().empty() && !collapsed) gaps = 2 * table.borderSpacing.across;
-        return gaps + (collapsed ? 0 : innerEdges(table, container));
+        if (collapsed) return columnGap(0);
+        int const lines = std::max(2, static_cast<int>(grid.columns().size()) + 1);
+        return lines * table.borderSpacing.across + innerEdges(table, container);
     }
     int leftEdge(int container) const {
         if (collapsed) return 0;

@@ -99,11 +99,31 @@ Colour TableGrid::background(TableRow const& row) const {
     return onTop(row.style, onTop(row.group, ground));
 }
 
-void TableGrid::complete() {
+void TableGrid::complete(EmptyRows empty) {
     endGroup();
+    if (empty == EmptyRows::dropped) dropEmptyRows();
     if (!ranges.empty()) ranges.back().column.endsGroup = true;
     orderGroups();
     joinColumns();
+}
+
+/// Rows that no cell begins in or reaches into.
+void TableGrid::dropEmptyRows() {
+    std::vector<TableRow> kept;
+    for (Group& group : groups) {
+        std::size_t const first = kept.size();
+        std::size_t reached = group.firstRow;
+        for (std::size_t i = group.firstRow; i < group.endRow; ++i) {
+            TableRow const& row = allRows[i];
+            for (std::size_t c = row.firstCell; c < row.endCell; ++c) {
+                reached = std::max(reached, i + static_cast<std::size_t>(allCells[c].rowSpan));
+            }
+            if (i < reached) kept.push_back(row);
+        }
+        group.firstRow = first;
+        group.endRow = kept.size();
+    }
+    allRows = std::move(kept);
 }
 
 /// The first head and the first foot are such; others are groups as any.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <memory>
 #include <vector>
@@ -69,8 +70,10 @@ public:
     bool hasOpenGroup() const { return isGroupOpen; }
     bool hasOpenRow() const { return isRowOpen; }
 
+    enum class EmptyRows : std::uint8_t { kept, dropped };
+
     /// Ends all that is open, and brings groups in their order: the head first, the foot last.
-    void complete();
+    void complete(EmptyRows empty);
 
     std::deque<TableCell>& cells() { return allCells; }
     std::deque<TableCell> const& cells() const { return allCells; }
@@ -103,6 +106,7 @@ private:
     ColumnRange const* rangeAt(int column) const;
     void findFreeColumn();
     void appendGroup(Group const& group, std::vector<TableRow>& ordered);
+    void dropEmptyRows();
     void orderGroups();
     void joinColumns();
 

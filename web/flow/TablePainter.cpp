@@ -11,13 +11,6 @@ namespace {
 
 bool isDrawn(Colour background) { return background.kind != Colour::Kind::terminal; }
 
-/// Cells of the background at the beginning of a row.
-int leadingBlanks(RowView const& row, Colour background) {
-    if (row.spans.empty() || row.spans.front().look != blankOn(background)) return 0;
-    std::string_view const text = row.textOf(row.spans.front());
-    return static_cast<int>(std::min(text.find_first_not_of(' '), text.size()));
-}
-
 }  // namespace
 
 TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
@@ -189,7 +182,7 @@ void TablePainter::paintCell(LaidCell const& cell, int y) {
     }
     Row piece;
     paintPiece(piece, cell, 0, y);
-    row.draw(cell.left, piece.view(), cell.cell->background, table.cells.isAmbiguousWide);
+    row.draw(cell.left, piece.view(), grid.background(), table.cells.isAmbiguousWide);
 }
 
 /// Adds what a cell has in a row of text, from column `left` on.
@@ -199,7 +192,7 @@ void TablePainter::paintPiece(Row& piece, LaidCell const& cell, int left, int y)
     Colour const background = cell.cell->background;
     int const right = left + cell.right - cell.left;
     int const line = y - cell.top;
-    bool const isShown = cell.cell->isVisible();
+    bool const isShown = cell.cell->isVisible() && right > left;
     bool const isTop = line == 0 && frame.hasBorder(border.top);
     bool const isBottom = line == cell.height - 1 && frame.hasBorder(border.bottom);
     auto const begin = [&] { piece.fill(left, blankOn(grid.background())); };
@@ -237,12 +230,7 @@ void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int 
 
 void TablePainter::paintOverlays() {
     for (Overlay const& overlay : overlays) {
-        int const blanks = leadingBlanks(overlay.content, overlay.background);
-        if (blanks == overlay.content.width) continue;
-        Row text;
-        bool const isAmbiguousWide = table.cells.isAmbiguousWide;
-        text.addPart(overlay.content, blanks, overlay.content.width, isAmbiguousWide);
-        row.draw(overlay.column + blanks, text.view(), overlay.background, isAmbiguousWide);
+        row.draw(overlay.column, overlay.content, overlay.background, table.cells.isAmbiguousWide);
     }
 }
 

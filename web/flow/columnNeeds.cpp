@@ -28,7 +28,7 @@ ColumnNeed needOf(TableCell const& cell, TableFrame const& frame, Wrapping wrapp
         content.most = std::min(content.most, style.maxWidth.value);
     }
     if (isCells(style.minWidth)) content.least = std::max(content.least, style.minWidth.value);
-    int const edges = frame.cellEdges(style, 0);
+    int const edges = frame.columnEdges(cell);
     ColumnNeed need = needOf(style.width, edges);
     need.least = content.least + edges;
     need.most = std::max(content.least, content.most) + edges;
@@ -89,7 +89,7 @@ std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& 
     });
     for (TableCell const* const cell : spanning) {
         ColumnNeed need = needOf(*cell, frame, wrapping, scratch);
-        int const gaps = frame.columnGaps(cell->column, cell->endColumn());
+        int const gaps = frame.gapsWithin(*cell);
         need.least = std::max(0, need.least - gaps);
         need.most = std::max(0, need.most - gaps);
         widen(columnsOf(needs, *cell), need);
@@ -104,7 +104,7 @@ std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& fram
         TableRow const& first = grid.rows().front();
         for (std::size_t i = first.firstCell; i < first.endCell; ++i) {
             TableCell const& cell = grid.cells()[i];
-            int const edges = frame.cellEdges(*cell.style, 0);
+            int const edges = frame.columnEdges(cell);
             ColumnNeed need = needOf(cell.style->width, edges);
             need.percentEdges = edges;
             setFixed(columnsOf(needs, cell), need);
