@@ -187,21 +187,38 @@ int LineBreaker::restWidth(Item const& item) const {
     return width;
 }
 
+/// As much of a word as there is room for; something of it in any case where nothing is before it.
+/// Not its last cluster unless `isAll`.
+LineBreaker::Part LineBreaker::partOf(Item const& item, std::string_view word, bool isAll) const {
+    bool const isAmbiguousWide = styleOf(item).cells.isAmbiguousWide;
+    Part part;
+    while (part.bytes < word.size()) {
+        Cluster const cluster = clusterAt(word, part.bytes, isAmbiguousWide);
+        auto const cells = static_cast<int>(cluster.width);
+        bool const isFirst = part.bytes == 0 && !hasText;
+        if (used + part.width + cells > available && !isFirst) break;
+        if (!isAll && cluster.end == word.size()) break;
+        part.width += cells;
+        part.bytes = cluster.end;
+    }
+    return part;
+}
+
+/// The same of a word in which each byte is a cluster of one cell.
+LineBreaker::Part LineBreaker::partOfPlain(std::string_view word, bool isAll) const {
+    int const least = hasText ? 0 : 1;
+    int const most = static_cast<int>(word.size()) - (isAll ? 0 : 1);
+    int const taken = std::min(std::max(available - used, least), most);
+    return {static_cast<std::size_t>(taken), taken};
+}
+
 /// Ends the line within a word, or before it: behind the last cluster that fits. A line has one at
 /// least.
 bool LineBreaker::part(Item const& item, bool isAll) {
     std::string_view const rest = paragraph.textOf(item).substr(at.offset);
-    int width = 0;
-    std::size_t taken = 0;
-    while (taken < rest.size() && rest[taken] != ' ') {
-        Cluster const cluster = clusterAt(rest, taken, styleOf(item).cells.isAmbiguousWide);
-        auto const cells = static_cast<int>(cluster.width);
-        bool const isFirst = taken == 0 && !hasText;
-        if (used + width + cells > available && !isFirst) break;
-        if (!isAll && cluster.end == rest.size()) break;
-        width += cells;
-        taken = cluster.end;
-    }
+    std::string_view const word = rest.substr(0, rest.find(' '));
+    Part const fit = item.isPlain ? partOfPlain(word, isAll) : partOf(item, word, isAll);
+    std::size_t taken = fit.bytes;
     if (taken == 0) {
         // A soft hyphen for which there is no room: the letter before it goes on, too.
         bool const isHyphenated = lastWord && paragraph.items()[lastWord->item].hyphenates;
@@ -211,7 +228,7 @@ bool LineBreaker::part(Item const& item, bool isAll) {
     if (taken < rest.size() && rest[taken] == ' ') ++taken;
     Place place = {at.item, at.offset + static_cast<std::uint32_t>(taken)};
     if (item.begin + place.offset == item.end) place = {at.item + 1, 0};
-    return end({place, used + width, false, true});
+    return end({place, used + fit.width, false, true});
 }
 
 /// Parts the word before the end of an element, whose edge has no room behind it: its last cluster

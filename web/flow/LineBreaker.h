@@ -60,11 +60,20 @@ private:
         bool isThere = false;
     };
 
+    /// A part of a word.
+    struct Part {
+        std::size_t bytes = 0;
+        /// In cells.
+        int width = 0;
+    };
+
     bool step();
     bool takeWords(Item const& item);
     bool endInWords(std::size_t blank);
     bool takeWord(Item const& item);
     bool takeIdeographs(Item const& item);
+    Part partOf(Item const& item, std::string_view word, bool isAll) const;
+    Part partOfPlain(std::string_view word, bool isAll) const;
     bool part(Item const& item, bool isAll = true);
     bool partLastWord();
     bool endBefore(Place place);
