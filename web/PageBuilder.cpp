@@ -5,10 +5,12 @@
 #include <string>
 #include <utility>
 
+#include "web/css/Tokenizer.h"
 #include "web/css/computeStyle.h"
 #include "web/flow/markers.h"
 #include "web/markup/attributes.h"
 #include "web/text/Cluster.h"
+#include "web/wording.h"
 
 namespace galley::web {
 
@@ -42,6 +44,11 @@ PageBuilder::PageBuilder(Sheet const& defaults, std::span<Sheet const* const> au
 }
 
 void PageBuilder::styleSheet(EmbeddedSheet const& sheet) {
+    embeddedBytes += sheet.text().size();
+    if (embeddedBytes > Tokenizer::s_longest) {
+        return warn(problems, sheet.offsetOf(0),
+                    "sheets of a document are read up to 4 MiB; this one has no effect");
+    }
     std::string text(sheet.text());
     std::size_t before = 0;
     if (!sheet.media().empty()) {
@@ -54,7 +61,7 @@ void PageBuilder::styleSheet(EmbeddedSheet const& sheet) {
     sheets.push_back(&embedded.back());
     for (Problem& problem : found) {
         problem.offset = sheet.offsetOf(std::max(problem.offset, before) - before);
-        problems.push_back(std::move(problem));
+        tell(problems, std::move(problem));
     }
 }
 

@@ -105,6 +105,7 @@ private:
     Sheet const& defaultSheet;
     std::vector<Sheet const*> sheets;
     std::deque<Sheet> embedded;
+    std::size_t embeddedBytes = 0;
     Media media;
     std::vector<Problem>& problems;
     std::optional<Cascade> cascade;

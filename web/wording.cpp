@@ -25,8 +25,14 @@ std::string quoted(std::string_view text) {
     return quote.append(shortened(text)).append("'");
 }
 
+void tell(std::vector<Problem>& problems, Problem problem) {
+    if (problems.size() > s_mostWarnings) return;
+    if (problems.size() == s_mostWarnings) problem.message = "there are more warnings than these";
+    problems.push_back(std::move(problem));
+}
+
 void warn(std::vector<Problem>& problems, std::size_t offset, std::string message) {
-    problems.push_back({Problem::Kind::warning, offset, std::move(message)});
+    tell(problems, {Problem::Kind::warning, offset, std::move(message)});
 }
 
 bool fail(std::vector<Problem>& problems, std::size_t offset, std::string message) {

@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 #include "galley/galley.h"
 #include "tests/memory/allocations.h"
+#include "tests/support/webDocument.h"
 
 namespace galley {
 namespace {
@@ -51,6 +53,25 @@ TEST(LibraryMemory, FailsInResults) {
         failOnce("parse", [&] { (void)Sheet::parse(text); });
         failOnce("check of a sheet", [&] { (void)checkSheet(text); });
     }
+}
+
+TEST(LibraryMemory, FailsInResultsInTheDialectWeb) {
+    Sheet const sheet = *Sheet::parse(WebDocument::css, {}, Dialect::web);
+    Options options;
+    options.dialect = Dialect::web;
+    options.width = 30;
+    std::string const page = *render(WebDocument::markup, sheet, options);
+    std::string const bad = std::string(WebDocument::markup) + "<p title=\"a&b\">c</q>";
+    for (Format const format : {Format::ansi, Format::html, Format::svg}) {
+        options.format = format;
+        failOnce("render", [&] { (void)render(WebDocument::markup, sheet, options); });
+    }
+    failOnce("an error", [&] { (void)render(bad, sheet, options); });
+    failOnce("check", [&] { (void)check(bad, sheet, options); });
+    failOnce("parse", [] { (void)Sheet::parse(WebDocument::css, {}, Dialect::web); });
+    failOnce("check of a sheet", [] { (void)checkSheet(WebDocument::css, {}, Dialect::web); });
+    options.format = Format::ansi;
+    EXPECT_EQ(*render(WebDocument::markup, sheet, options), page);
 }
 
 }  // namespace

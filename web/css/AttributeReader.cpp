@@ -88,7 +88,9 @@ AttributeReader::Value const& AttributeReader::valueOf(Attribute const& attribut
 AttributeReader::Value AttributeReader::parse(std::string_view text, Property const* property) {
     Value value;
     DeclarationParser parser(value.problems);
-    std::vector<Token> const tokens = Tokenizer(text).run();
+    Tokenizer tokenizer(text);
+    std::vector<Token> const tokens = tokenizer.run();
+    tokenizer.warnOfRest(value.problems);
     if (property == nullptr) {
         value.block = parser.parse(tokens);
     } else {
@@ -105,7 +107,7 @@ void AttributeReader::report(Value const& value, std::size_t offset) {
         hasWarnedOfFonts |= isAboutFonts;
         Problem problem = value.problems[i];
         problem.offset += offset;
-        problems.push_back(std::move(problem));
+        tell(problems, std::move(problem));
     }
 }
 

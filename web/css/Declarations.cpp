@@ -23,21 +23,26 @@ bool Declarations::declare(Property const& property, ValueReader value) {
         if (!rest.atEnd()) return false;
         bool const isParents =
             source == Default::inherited || (source == Default::either && property.isInherited);
-        if (!isParents) property.copy({}, values);
+        if (!isParents) property.copy({}, ownValues());
         add(property, isParents);
         return true;
     }
-    Style read = values;
+    Style read = values != nullptr ? *values : Style();
     if (value.atEnd() || !property.read(value, read) || !value.atEnd()) return false;
-    property.copy(read, values);
+    property.copy(read, ownValues());
     add(property, false);
     return true;
 }
 
 void Declarations::applyTo(Style& style, Style const& parent) const {
     for (auto const [property, isParents] : entries) {
-        property->copy(isParents ? parent : values, style);
+        property->copy(isParents ? parent : *values, style);
     }
+}
+
+Style& Declarations::ownValues() {
+    if (values == nullptr) values = std::make_unique<Style>();
+    return *values;
 }
 
 void Declarations::add(Property const& property, bool isParents) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "web/css/properties.h"
@@ -27,11 +28,12 @@ private:
         bool isParents;
     };
 
+    Style& ownValues();
     void add(Property const& property, bool isParents);
 
     std::vector<Entry> entries;
-    /// Of the properties in `entries`, the last value of each field.
-    Style values;
+    /// Of the properties in `entries`, the last value of each field. Null without any.
+    std::unique_ptr<Style> values;
 };
 
 /// What a rule or an attribute declares.

@@ -32,6 +32,7 @@ Sheet SheetParser::parse(std::string_view text) {
     Tokenizer tokenizer(text);
     std::vector<Token> const tokens = tokenizer.run();
     parseRules(tokens, 0, 0);
+    tokenizer.warnOfRest(problems);
     if (tokenizer.unclosedComment()) {
         warn(problems, *tokenizer.unclosedComment(), "missing '*/' behind '/*'");
     }

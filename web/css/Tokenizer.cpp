@@ -6,6 +6,7 @@
 
 #include "web/css/characters.h"
 #include "web/css/pairBlocks.h"
+#include "web/wording.h"
 
 namespace galley::web {
 
@@ -55,6 +56,10 @@ std::vector<Token> Tokenizer::run() {
     }
     pairBlocks(tokens);
     return tokens;
+}
+
+void Tokenizer::warnOfRest(std::vector<Problem>& problems) const {
+    if (isCut) warn(problems, s_longest, "sheets are read up to 4 MiB; the rest has no effect");
 }
 
 Token Tokenizer::next() {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "web/Problem.h"
 #include "web/css/Token.h"
 
 namespace galley::web {
@@ -12,10 +13,17 @@ namespace galley::web {
 /// Splits a sheet, or a part of one, into tokens. Nothing fails: what is wrong is a token, too.
 class Tokenizer {
 public:
-    /// The source must outlive the tokens.
-    explicit Tokenizer(std::string_view text) : source(text) {}
+    /// In bytes. All tokens are in memory at once, and take fifty times as much.
+    static constexpr std::size_t s_longest = std::size_t{4} << 20;
+
+    /// The source must outlive the tokens. What is longer is read up to that length.
+    explicit Tokenizer(std::string_view text)
+        : source(text.substr(0, s_longest)), isCut(text.size() > s_longest) {}
 
     std::vector<Token> run();
+
+    /// Says so where not all has been read.
+    void warnOfRest(std::vector<Problem>& problems) const;
 
     /// Where the comment begins that has no end, once all is read.
     std::optional<std::size_t> const& unclosedComment() const { return commentStart; }
@@ -42,6 +50,7 @@ private:
     bool startsNumber() const;
 
     std::string_view source;
+    bool isCut;
     std::size_t position = 0;
     std::optional<std::size_t> commentStart;
 };

@@ -17,6 +17,23 @@ void widen(Widths& around, Widths const& child) {
     around.most = std::max(around.most, child.most);
 }
 
+/// Whether there are words of single cells, without edges or an indent, so that with these parted
+/// anywhere a cell is enough.
+bool isOfSingleCells(Paragraph const& paragraph) {
+    Style const& style = paragraph.block();
+    if (style.whiteSpace != WhiteSpace::normal || style.textIndent != Length()) return false;
+    return std::all_of(paragraph.items().begin(), paragraph.items().end(), [](Item const& item) {
+        bool const isText = item.kind == Item::Kind::word || item.kind == Item::Kind::words;
+        return (isText && item.isPlain) || item.kind == Item::Kind::blank;
+    });
+}
+
+/// Whether there is nothing but a word that its style does not let be parted to make room.
+bool isOneWord(Paragraph const& paragraph) {
+    bool const mayPart = paragraph.block().overflowWrap == OverflowWrap::anywhere;
+    return paragraph.end() == 1 && paragraph.items().front().kind == Item::Kind::word && !mayPart;
+}
+
 }  // namespace
 
 Content::Content() = default;
@@ -101,7 +118,10 @@ Widths measure(Paragraph const& paragraph, Wrapping wrapping) {
         }
         return result;
     };
-    return {widest(0), widest(s_unlimited)};
+    int const most = widest(s_unlimited);
+    if (wrapping == Wrapping::anywhere && isOfSingleCells(paragraph)) return {1, most};
+    if (wrapping == Wrapping::asStyled && isOneWord(paragraph)) return {most, most};
+    return {widest(0), most};
 }
 
 Widths withLimits(Widths content, Style const& style) {

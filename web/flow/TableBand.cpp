@@ -60,8 +60,13 @@ void TableBand::layOutCell(TableCell& cell, int row, Wrapping wrapping) {
     placed.left = places.left[static_cast<std::size_t>(cell.column)];
     placed.right = places.right[static_cast<std::size_t>(cell.endColumn()) - 1];
     int const edges = frame.cellEdges(style, places.width);
-    int const width = std::max(0, placed.right - placed.left - edges);
-    flow.restart(width, cell.background, wrapping);
+    placed.contentLeft = placed.left + (frame.hasBorder(style.border.left) ? 1 : 0) +
+                         across(style.padding.left, places.width);
+    placed.contentWidth = placed.right - placed.left - edges;
+    placed.isBare = cell.background.kind == Colour::Kind::terminal &&
+                    !frame.hasBorder(style.border.left) && !frame.hasBorder(style.border.right) &&
+                    !frame.hasBorder(style.border.top) && !frame.hasBorder(style.border.bottom);
+    flow.restart(std::max(0, placed.contentWidth), cell.background, wrapping);
     placed.firstLine = content.size();
     cell.content.moveTo(flow, scratch);
     flow.finish();

@@ -38,6 +38,11 @@ struct LaidCell {
     int right = 0;
     int top = 0;
     int height = 0;
+    /// Where its content begins, and how wide that can be.
+    int contentLeft = 0;
+    int contentWidth = 0;
+    /// Nothing of it shows but its content.
+    bool isBare = false;
     /// Rows of the cell above the content; and those that it takes in all.
     ///@{
     int above = 0;

@@ -176,6 +176,10 @@ void TablePainter::paintVertical(int line, bool isGap, Colour background) {
 
 /// Adds a cell where it stands, or puts it over others on which it stands.
 void TablePainter::paintCell(LaidCell const& cell, int y) {
+    if (cell.isBare) {
+        int const line = y - cell.top - cell.above;
+        if (line < 0 || line >= cell.contentHeight()) return;
+    }
     if (row.width() <= cell.left) {
         paintPiece(row, cell, cell.left, y);
         return;
@@ -215,16 +219,12 @@ void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int 
     if (line < 0 || line >= cell.contentHeight()) return;
     RowView const content = band.rowOf(cell, line);
     if (content.width == 0) return;
-    Style const& style = *cell.cell->style;
-    int const edge =
-        (frame.hasBorder(style.border.left) ? 1 : 0) + across(style.padding.left, places.width);
-    int const room = cell.right - cell.left - frame.cellEdges(style, places.width);
     Colour const background = cell.cell->background;
-    if (!overlays.empty() || content.width > room || left != cell.left) {
-        overlays.push_back({cell.left + edge, content, background});
+    if (!overlays.empty() || content.width > cell.contentWidth || left != cell.left) {
+        overlays.push_back({cell.contentLeft, content, background});
         return;
     }
-    piece.fill(left + edge, blankOn(background));
+    piece.fill(cell.contentLeft, blankOn(background));
     piece.add(content);
 }
 

@@ -1,6 +1,9 @@
 // Pages of the dialect as pictures: each row behind a bar, blanks at its end left out.
 
+#include <random>
+
 #include "tests/web/flow/Pictures.h"
+#include "web/text/utf8.h"
 
 namespace galley::web {
 namespace {
@@ -135,6 +138,27 @@ TEST(Pages, MayBeOfferedAnyWidth) {
     for (unsigned const width : {1'000'000U, 2'147'483'648U, 4'294'967'295U}) {
         EXPECT_EQ(textOf("<p>a b</p>", width, "|", ""), "|a b");
         EXPECT_EQ(textOf("<hr/>", width, "|", "").size(), 1 + 3 * 1'000'000U);
+    }
+}
+
+TEST(Pages, OfAnyBytesAreWellFormed) {
+    constexpr std::string_view parts[] = {
+        "漢字", "\xE6\xBC", "\x82",  "\xED\xA0\x80", "\xF4\x90", "\xFF", "\x1B[",
+        "\x9B", "\u009B",   "&#27;", "e\u0301",      "\xCC",     "a ",
+    };
+    std::minstd_rand random(1);
+    for (int round = 0; round < 2000; ++round) {
+        std::string markup = "<p title='";
+        for (int i = 0; i < 8; ++i) markup += parts[random() % std::size(parts)];
+        markup += "'>";
+        for (int i = 0; i < 20; ++i) markup += parts[random() % std::size(parts)];
+        markup += "</p>";
+        std::string const page = textOf(markup, 1 + static_cast<unsigned>(round) % 9);
+        EXPECT_EQ(findIllFormed(page), std::string::npos) << markup;
+        for (std::size_t i = 0; i < page.size(); i += decodeAt(page, i).length) {
+            char32_t const c = decodeAt(page, i).value;
+            EXPECT_TRUE(c == '\n' || (c >= 0x20 && c < 0x7F) || c >= 0xA0) << markup;
+        }
     }
 }
 

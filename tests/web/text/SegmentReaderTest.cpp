@@ -48,6 +48,8 @@ void check(std::string_view text, Segment const& segment, TextOptions options) {
     EXPECT_TRUE(isPlain || !segment.isPlain);
     std::string printed;
     appendPrinted(printed, text.substr(segment.begin, segment.end - segment.begin));
+    bool const isAsIs = printed == text.substr(segment.begin, segment.end - segment.begin);
+    EXPECT_TRUE(isAsIs || !segment.isPrintedAsIs);
     EXPECT_EQ(findIllFormed(printed), std::string::npos);
     for (std::size_t i = 0; i < printed.size(); i += decodeAt(printed, i).length) {
         char32_t const c = decodeAt(printed, i).value;

@@ -1,0 +1,64 @@
+// Runs of ideographs, and of blanks and words that are preserved, are laid out as their characters
+// are one by one.
+
+#include "tests/web/flow/Pictures.h"
+#include "web/text/LineBreaks.h"
+#include "web/text/ideographs.h"
+
+namespace galley::web {
+namespace {
+
+TEST(Runs, OfIdeographsBreakAnywhere) {
+    expectPictures({
+        {"漢字かな交じり文", 7, "\n漢字か\nな交じ\nり文\n"},
+        {"漢字かな、交じり", 8, "\n漢字か\nな、交じ\nり\n"},
+        {"a漢字（かな）", 6, "\na漢字\n（か\nな）\n"},
+        {"漢字漢字", 1, "\n漢\n字\n漢\n字\n"},
+        {"한글한글 한글", 7, "\n한글한\n글 한글\n"},
+        {"カードを", 5, "\nカー\nドを\n"},
+        {"<b>漢字</b>漢<i>字漢字</i>", 4, "\n漢字\n漢字\n漢字\n"},
+        {"<b>漢字漢<i style='padding-right: 1ch'>字</i></b>", 8, "\n漢字漢\n字\n"},
+        {"(<b>漢字漢</b>", 2, "\n(\n漢\n字\n漢\n"},
+        {"<p style='overflow-wrap: normal'>(<b>漢字漢</b></p>", 2, "\n(漢\n字\n漢\n"},
+        {"<p style='word-break: keep-all'>漢字 漢字漢</p>", 6, "\n漢字\n漢字漢\n"},
+        {"<p style='white-space: nowrap'>漢字 漢字漢</p>", 6, "\n漢字 漢字漢\n"},
+        {"<p style='white-space: pre-wrap'>漢字漢字</p>", 5, "\n漢字\n漢字\n"},
+        {"<p style='text-align: justify'>漢字漢 字</p>", 7, "\n漢字漢\n字\n"},
+        {"<table><tr><td>漢字漢</td><td>字漢字</td></tr></table>", 12,
+         "\n 漢字  字漢\n 漢    字\n"},
+    });
+}
+
+TEST(Runs, OfIdeographsEndBeforeWhatJoinsTheirLast) {
+    expectPictures({
+        {"漢字か\u3099な", 4, "\n漢字\nか\u3099な\n"},
+        {"漢字한\u11A8", 6, "\n漢字한\u11A8\n"},
+        {"漢字\u2060漢", 5, "\n漢\n字漢\n"},
+    });
+}
+
+// As the tables of Unicode say.
+TEST(Runs, OfIdeographsAreOfTheseOnly) {
+    for (char32_t c = 0x800; c < 0x10000; ++c) {
+        if (!isIdeograph(c)) continue;
+        Properties const properties = propertiesOf(c);
+        EXPECT_EQ(properties.width, EastAsianWidth::wide) << std::hex << unsigned(c);
+        bool const breaks = properties.lineClass == LineClass::ID ||
+                            properties.lineClass == LineClass::H2 ||
+                            properties.lineClass == LineClass::H3;
+        EXPECT_TRUE(breaks && !properties.takesEmojiStyle) << std::hex << unsigned(c);
+    }
+}
+
+TEST(Runs, ThatArePreservedAreOneWord) {
+    expectPictures({
+        {"<pre>  a b\n\tc  d \n e</pre>", 3, "\n  a b\n        c  d\n e\n"},
+        {"<pre>a b\u0301c \u00E9</pre>", 9, "\na b\u0301c \u00E9\n"},
+        {"<pre>a\rb\u0007</pre>", 9, "\na\nb\uFFFD\n"},
+        {"ab <code style='white-space: pre'>c d</code>", 5, "\nab\nc d\n"},
+        {"<pre>a <b>b </b>c</pre>", 9, "\na b c\n"},
+    });
+}
+
+}  // namespace
+}  // namespace galley::web
