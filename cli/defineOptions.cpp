@@ -55,9 +55,9 @@ CLI::Option* addChoice(CLI::App& app, std::string const& names, Target& target,
 void definePage(CLI::App& app, Options& options) {
     addChoice<galley::Dialect>(
         app, "--dialect", options.dialect,
-        {{"core", galley::Dialect::core}, {"web", galley::Dialect::web}},
-        "The language of documents and sheets: a small one with rules of its own (the default), or "
-        "elements and style sheets as a browser shows them. Where it is not given a document may "
+        {{"web", galley::Dialect::web}, {"core", galley::Dialect::core}},
+        "The language of documents and sheets: elements and style sheets as a browser shows them "
+        "(the default), or a small one with rules of its own. Where it is not given a document may "
         "say it at its beginning, by <?galley dialect=\"core\"?>, and sheets are of the dialect of "
         "the first document");
     app.add_option("-s,--css", options.sheets,

@@ -8,7 +8,7 @@
 #include "cli/describe.h"
 #include "galley/terminal/terminal.h"
 
-// The page is a document as any other. Margins stand above blocks alone, where none counts twice.
+// The page is a document of the core. Margins stand above blocks alone, where none counts twice.
 
 namespace {
 
@@ -113,4 +113,6 @@ std::string helpDocument(unsigned width) {
            options(width < s_wide ? s_narrowColumn : s_wideColumn) + statuses() + examples();
 }
 
-galley::Sheet helpSheet() { return galley::Sheet::parse(s_sheet).value(); }
+galley::Sheet helpSheet() {
+    return galley::Sheet::parse(s_sheet, "<sheet>", galley::Dialect::core).value();
+}

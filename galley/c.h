@@ -60,8 +60,8 @@ enum galley_links {
 enum galley_format { GALLEY_ANSI, GALLEY_PLAIN, GALLEY_HTML, GALLEY_SVG };
 /** As galley::Theme. */
 enum galley_theme { GALLEY_THEME_AUTOMATIC, GALLEY_THEME_LIGHT, GALLEY_THEME_DARK };
-/** As galley::Dialect. The default is what a document says itself, else that of core, which will be
- * another one by the first release: say which you write. */
+/** As galley::Dialect. The default of a document is what it says itself, else web, as that of a
+ * sheet. */
 enum galley_dialect { GALLEY_DIALECT_DEFAULT, GALLEY_DIALECT_CORE, GALLEY_DIALECT_WEB };
 /** As galley::Severity. */
 enum galley_severity { GALLEY_ERROR, GALLEY_WARNING };

@@ -7,7 +7,7 @@
 namespace galley {
 
 /// What a document is in that says nothing else, and a sheet.
-constexpr Dialect s_defaultDialect = Dialect::core;
+constexpr Dialect s_defaultDialect = Dialect::web;
 
 /// The dialect of a document: what the options say, else what its own processing instruction does,
 /// else the default. A failure where that instruction names no dialect.

@@ -3,7 +3,7 @@
 /// Galley turns a document, styled by sheets, into a page of text for a terminal: blocks, wrapped
 /// words, tables, borders, colours.
 ///
-///     auto const sheet = galley::Sheet::parse("h1 { color: green; font-style: bold; }");
+///     auto const sheet = galley::Sheet::parse("h1 { color: green }");
 ///     if (sheet) galley::print("<h1>Hello, terminal</h1>", *sheet);
 ///
 /// Nothing but `value()` throws: what fails is said by a `Result`, lack of memory too, unless there
@@ -23,11 +23,10 @@
 
 namespace galley {
 
-/// The language of documents and sheets. The default will be `web` by the first release: who wants
-/// `core` says so.
+/// The language of documents and sheets.
 enum class Dialect {
     core,  ///< A small subset of XHTML and CSS with rules of its own, exact to the byte.
-    web,   ///< Elements and style sheets as a browser shows them, in cells. It is being built.
+    web,   ///< Elements and style sheets as a browser shows them, in cells: the default.
 };
 
 /// When the format `ansi` has its escape sequences, and for how many colours: where that is not
@@ -86,7 +85,7 @@ struct Options {
     /// `ansi` and the dialect `core`. Otherwise all but white space become question marks.
     bool raw = false;
     /// Of the document; a sheet of the other one is an error. Where this says nothing the document
-    /// may, by `<?galley dialect="core"?>` at its beginning, else it is `core`.
+    /// may, by `<?galley dialect="core"?>` at its beginning, else it is `web`.
     std::optional<Dialect> dialect = std::nullopt;
     /// What errors and warnings call the document.
     std::string name = "<document>";
@@ -207,7 +206,7 @@ public:
     /// Reads the text of a sheet. Of a text that is at fault all errors are told; `name` is what
     /// they call it. In the dialect `web` no text is: what is wrong there has no effect.
     static Result<Sheet> parse(std::string_view css, std::string_view name = "<sheet>",
-                               Dialect dialect = Dialect::core);
+                               Dialect dialect = Dialect::web);
 
     /// Adds the rules of another sheet behind its own.
     Sheet& operator+=(Sheet const& other);
@@ -241,7 +240,7 @@ Result<void> print(std::string_view markup, Sheet const& sheet = {}, Options con
 /// The same of the text of a sheet, which may be at fault.
 [[nodiscard]] std::vector<Diagnostic> checkSheet(std::string_view css,
                                                  std::string_view name = "<sheet>",
-                                                 Dialect dialect = Dialect::core);
+                                                 Dialect dialect = Dialect::web);
 
 /// `text` as the content of an element, where it stands for itself.
 [[nodiscard]] std::string escape(std::string_view text);

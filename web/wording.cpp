@@ -1,5 +1,7 @@
 #include "web/wording.h"
 
+#include <algorithm>
+#include <cctype>
 #include <utility>
 
 namespace galley::web {
@@ -9,20 +11,28 @@ namespace {
 /// In bytes.
 constexpr std::size_t s_longest = 40;
 
+bool isControl(unsigned char c) { return std::iscntrl(c) != 0; }
 bool continuesCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80; }
 
 }  // namespace
 
 std::string shortened(std::string_view text) {
-    if (text.length() <= s_longest) return std::string(text);
-    std::size_t length = s_longest;
-    while (length > 0 && continuesCharacter(text[length])) --length;
-    return std::string(text.substr(0, length)) + "...";
+    std::size_t length = std::min(text.length(), s_longest);
+    bool const isCut = length < text.length();
+    while (isCut && length > 0 && continuesCharacter(text[length])) --length;
+    std::string shown(text.substr(0, length));
+    std::replace_if(shown.begin(), shown.end(), isControl, '?');
+    return isCut ? shown.append("...") : shown;
 }
 
 std::string quoted(std::string_view text) {
     std::string quote = "'";
     return quote.append(shortened(text)).append("'");
+}
+
+std::string didYouMean(std::string_view suggestion, std::string_view otherwise) {
+    if (suggestion.empty()) return std::string(otherwise);
+    return std::string("; did you mean ").append(quoted(suggestion)).append("?");
 }
 
 void tell(std::vector<Problem>& problems, Problem problem) {

@@ -5,7 +5,7 @@
 #include <string.h>
 
 int main(void) {
-    char const* css = "p { color: green; padding-left: 2; }";
+    char const* css = "p { color: green; margin-left: 2ch }";
     char const* markup = "<p>Hello, terminal</p>";
     galley_report* report = NULL;
     galley_sheet* sheet = galley_sheet_new();

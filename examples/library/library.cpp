@@ -4,8 +4,7 @@
 #include <string>
 
 int main() {
-    auto const sheet = galley::Sheet::parse(
-        "h1 { color: green; font-style: bold; margin-bottom: 1; } td { margin-right: 3; }");
+    auto const sheet = galley::Sheet::parse("h1 { color: green } td { padding: 0 3ch 0 0 }");
     std::string rows;
     for (std::string const name : {"photos & films", "mail <2026>"}) {
         rows += "<tr><td>" + galley::escape(name) + "</td><td>saved</td></tr>";

@@ -9,9 +9,9 @@ import sys
 
 MARKUP = """
 <h1>Backup finished</h1>
-<p>All {files} files under <b>{folder} </b>are safe.</p>
+<p>All {files} files under <b>{folder}</b> are safe.</p>
 """
-CSS = b"h1 { color: green; font-style: bold; } p { margin-top: 1; margin-left: 2; }"
+CSS = b"h1 { color: green } p { margin-left: 2ch }"
 
 
 class Options(ctypes.Structure):

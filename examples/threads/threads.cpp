@@ -8,7 +8,7 @@
 #include <vector>
 
 int main() {
-    auto const sheet = galley::Sheet::parse("p { border-width: 1; border-style: .; }");
+    auto const sheet = galley::Sheet::parse("p { border: solid }");
     constexpr unsigned widths[] = {12, 20, 48};
     std::vector<std::string> pages(std::size(widths));
     std::vector<std::thread> threads;

@@ -4,9 +4,9 @@
 #include <iterator>
 #include <set>
 
-#include "galley/check/suggest.h"
 #include "galley/check/values.h"
 #include "galley/check/wording.h"
+#include "web/suggest.h"
 
 namespace galley {
 
@@ -22,7 +22,7 @@ void checkOne(Declaration const& declaration, bool isOfRule, Findings& findings)
         std::begin(Property::s_all), std::end(Property::s_all),
         [&declaration](Property::Entry const& e) { return nameOf(e) == declaration.name; });
     if (entry == std::end(Property::s_all)) {
-        std::string_view const suggestion = suggest(name, Property::s_all, nameOf);
+        std::string_view const suggestion = web::suggest(name, Property::s_all, nameOf);
         std::string const verdict = suggestion.empty() ? " has no effect" : " is no property";
         warn(findings, namePosition, quoted(name) + verdict + didYouMean(suggestion, ""));
     } else if (isOfRule && entry->value == Property::Value::Display) {

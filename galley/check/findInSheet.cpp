@@ -6,8 +6,8 @@
 #include "galley/check/SheetReader.h"
 #include "galley/check/declarations.h"
 #include "galley/check/find.h"
-#include "galley/check/suggest.h"
 #include "galley/check/wording.h"
+#include "web/suggest.h"
 #include "xml/dom/vocabulary.h"
 
 namespace galley {
@@ -51,7 +51,7 @@ private:
         auto const isOfName = [](unsigned char c) { return std::isalnum(c) != 0; };
         bool const isName = std::all_of(name.begin(), name.end(), isOfName);
         std::string_view const suggestion =
-            suggest(name, CLI::XML::s_vocabulary, &VocabularyEntry::tag);
+            web::suggest(name, CLI::XML::s_vocabulary, &VocabularyEntry::tag);
         warn(findings, reader.positionOf(name),
              "no element is named " + quoted(name) +
                  didYouMean(suggestion, isName ? "" : "; a selector is one name"));

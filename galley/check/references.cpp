@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "galley/check/suggest.h"
 #include "galley/check/wording.h"
+#include "web/suggest.h"
 #include "xml/dom/textEntities.h"
 #include "xml/parser/PullParser.h"
 
@@ -36,7 +36,7 @@ std::string aboutUnknown(std::string_view reference, Names const& known, std::st
         return quoted(reference) + " disappears; write '&amp;' for an ampersand";
     }
     std::string const complaint = quoted(reference) + " is no reference in " + place;
-    std::string_view const suggestion = suggest(name, known, std::identity());
+    std::string_view const suggestion = web::suggest(name, known, std::identity());
     if (suggestion.empty()) return complaint + " and disappears; write the character itself";
     return complaint + didYouMean("&" + std::string(suggestion) + ";", "");
 }

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "galley/check/suggest.h"
 #include "galley/check/wording.h"
+#include "web/suggest.h"
 #include "xml/dom/displayKeywords.h"
 #include "xml/render/colorNames.h"
 #include "xml/render/fontStyles.h"
@@ -45,7 +45,7 @@ std::string aboutName(std::string_view value, Table const& table, NameOf const& 
                       std::string_view complaint, std::string_view effect) {
     auto const isValue = [&](auto const& entry) { return std::invoke(nameOf, entry) == value; };
     if (value.empty() || std::any_of(std::begin(table), std::end(table), isValue)) return {};
-    return quoted(value).append(complaint) + didYouMean(suggest(value, table, nameOf), effect);
+    return quoted(value).append(complaint) + didYouMean(web::suggest(value, table, nameOf), effect);
 }
 
 std::string aboutColor(std::string_view value) {

@@ -3,15 +3,13 @@
 #include <string>
 
 #include "galley/check/Finding.h"
+#include "web/wording.h"
 
 /// How findings are worded.
 namespace galley {
 
-/// `text` in single quotes, in one line, and not all of it where it is long.
-std::string quoted(std::string_view text);
-
-/// "; did you mean 'SUGGESTION'?", or `otherwise` where there is none.
-std::string didYouMean(std::string_view suggestion, std::string_view otherwise);
+using web::didYouMean;
+using web::quoted;
 
 /// Adds a warning.
 void warn(Findings& findings, std::size_t position, std::string message);

@@ -11,7 +11,7 @@
 
 namespace {
 
-using Output = Tool;
+using Output = CoreTool;
 
 std::string const s_colored = "\x1b[0m\x1b[1mx\x1b[0m\n";
 

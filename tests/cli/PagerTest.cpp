@@ -9,7 +9,7 @@
 
 namespace {
 
-using Pager = Tool;
+using Pager = CoreTool;
 
 TEST_F(Pager, ShowsWhatATerminalWouldAndTheErrorsBehindIt) {
     std::string words;

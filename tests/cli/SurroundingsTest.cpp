@@ -8,7 +8,7 @@
 
 namespace {
 
-using Surroundings = Tool;
+using Surroundings = CoreTool;
 
 TEST_F(Surroundings, NeedNotReadAllThatIsPrinted) {
     std::string words;

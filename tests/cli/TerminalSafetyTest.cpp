@@ -7,7 +7,7 @@
 
 namespace {
 
-using TerminalSafety = Tool;
+using TerminalSafety = CoreTool;
 
 /// Clear the screen, set the title, write the clipboard, ring, go back, in 7 and in 8 bits.
 constexpr char const* s_attacks[] = {

@@ -9,21 +9,21 @@
 
 namespace {
 
-TEST_F(Tool, ReadsAFileOrStandardInput) {
+TEST_F(CoreTool, ReadsAFileOrStandardInput) {
     write("page.xml", "<p>from a file</p>");
     EXPECT_EQ(run("page.xml").out, "from a file\n");
     EXPECT_EQ(run("", "<p>piped</p>").out, "piped\n");
     EXPECT_EQ(run("-", "<p>piped</p>").out, "piped\n");
 }
 
-TEST_F(Tool, SkipsTheMarkThatEditorsPutBeforeUtf8) {
+TEST_F(CoreTool, SkipsTheMarkThatEditorsPutBeforeUtf8) {
     std::string const mark = "\xef\xbb\xbf";
     write("page.xml", mark + "<p>a</p>" + mark);
     write("sheet.css", mark + "p { padding-left: 2; }");
     EXPECT_EQ(run("--css sheet.css page.xml").out, "  a\n" + mark + "\n");
 }
 
-TEST_F(Tool, JoinsTheRulesOfAllSheetsInTheirOrder) {
+TEST_F(CoreTool, JoinsTheRulesOfAllSheetsInTheirOrder) {
     write("one.css", "p { padding-left: 1; } b { padding-left: 3; }");
     write("two.css", "p { padding-left: 2; }");
     std::string const page = "<p><b>x</b></p>";
@@ -33,7 +33,7 @@ TEST_F(Tool, JoinsTheRulesOfAllSheetsInTheirOrder) {
               "    \x1b[0m\x1b[1mx\x1b[0m\n");
 }
 
-TEST_F(Tool, BreaksLinesAtTheWidthAskedForElseAt80) {
+TEST_F(CoreTool, BreaksLinesAtTheWidthAskedForElseAt80) {
     std::string words;
     for (int i = 0; i < 40; ++i) words += "abc ";
     EXPECT_EQ(run("--width 8", "a b c d e").out, "a b c d\ne\n");
@@ -42,7 +42,7 @@ TEST_F(Tool, BreaksLinesAtTheWidthAskedForElseAt80) {
     EXPECT_EQ(run("--width 99999999999", words).out.find('\n'), words.size() - 1);
 }
 
-TEST_F(Tool, DumpsEitherTree) {
+TEST_F(CoreTool, DumpsEitherTree) {
     std::string const document = "<p>hi <b>you</b></p>";
     EXPECT_EQ(run("--dump dom", document).out, "html:\n  p:\n    'hi '\n    b:\n      'you'\n");
     EXPECT_EQ(run("--dump boxes --width 3", document).out,
@@ -55,7 +55,7 @@ TEST_F(Tool, DumpsEitherTree) {
               "        inline: 'you': (0, 0, 3, 1)\n");
 }
 
-TEST_F(Tool, SaysWhichFileAndLineIsAtFault) {
+TEST_F(CoreTool, SaysWhichFileAndLineIsAtFault) {
     write("page.xml", "<p>\n<q/></p>");
     write("good.css", "p {}");
     write("bad.css", "p {\n color red; }");
@@ -101,7 +101,7 @@ TEST_F(Tool, SaysWhichFileAndLineIsAtFault) {
     }
 }
 
-TEST_F(Tool, SaysWhereMemoryEnds) {
+TEST_F(CoreTool, SaysWhereMemoryEnds) {
     // Builds without it are for sanitizers, which take more than any limit.
     if (!GALLEY_HAS_JEMALLOC) GTEST_SKIP();
     Outcome const outcome = run("", "<p margin-left=\"60000000\">x</p>", "ulimit -v 150000; ");
@@ -113,7 +113,7 @@ TEST_F(Tool, SaysWhereMemoryEnds) {
     EXPECT_EQ(run("--dump dom", large, "ulimit -v 100000; ").out, "html:\n  b:\n");
 }
 
-TEST_F(Tool, RefusesWhatItDoesNotKnow) {
+TEST_F(CoreTool, RefusesWhatItDoesNotKnow) {
     write("page.xml", "page");
     for (char const* arguments : {"--nonsense",
                                   "--width x",
@@ -186,7 +186,7 @@ TEST_F(Tool, RefusesWhatItDoesNotKnow) {
     EXPECT_EQ(read("page.xml"), "page");
 }
 
-TEST_F(Tool, TakesShortNamesWithTheirValuesBehindThemOrInTheSameWord) {
+TEST_F(CoreTool, TakesShortNamesWithTheirValuesBehindThemOrInTheSameWord) {
     write("page.css", "p { padding-left: 2; }");
     struct Case {
         char const* arguments;
@@ -226,7 +226,7 @@ std::string rowsAt(std::string const& page, std::string const& start) {
     return page.substr(row, end - row);
 }
 
-TEST_F(Tool, PrintsItsHelpAsAPageOfTheWidthThereIs) {
+TEST_F(CoreTool, PrintsItsHelpAsAPageOfTheWidthThereIs) {
     struct Case {
         char const* columns;
         std::size_t longest;
@@ -258,7 +258,7 @@ TEST_F(Tool, PrintsItsHelpAsAPageOfTheWidthThereIs) {
     EXPECT_TRUE(run("--version").out.starts_with("galley "));
 }
 
-TEST_F(Tool, ColorsItsHelpOnATerminalThatWelcomesIt) {
+TEST_F(CoreTool, ColorsItsHelpOnATerminalThatWelcomesIt) {
     struct Case {
         char const* before;
         char const* start;

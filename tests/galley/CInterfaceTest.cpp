@@ -44,25 +44,37 @@ std::string render(std::string const& markup, galley_sheet const* sheet,
     return take(page);
 }
 
+/// Options of the core.
+galley_options core() {
+    galley_options options = {};
+    options.size = sizeof options;
+    options.dialect = GALLEY_DIALECT_CORE;
+    return options;
+}
+
 TEST(CInterface, RendersWithSheetsInTheirOrder) {
     galley_sheet* const sheet = galley_sheet_new();
     for (std::string const css : {"p { padding-left: 1; }", "p { padding-left: 2; }"}) {
-        EXPECT_EQ(galley_sheet_add(sheet, css.data(), css.length(), nullptr, 0, nullptr), 1);
+        EXPECT_EQ(galley_sheet_add(sheet, css.data(), css.length(), nullptr, GALLEY_DIALECT_CORE,
+                                   nullptr),
+                  1);
     }
     Report report;
     std::string const bad = "p {}\nq";
-    EXPECT_EQ(galley_sheet_add(sheet, bad.data(), bad.length(), "s.css", 0, &report.report), 0);
+    EXPECT_EQ(galley_sheet_add(sheet, bad.data(), bad.length(), "s.css", GALLEY_DIALECT_CORE,
+                               &report.report),
+              0);
     EXPECT_EQ(report.headings(), "s.css:2:2: error: Expecting '{'\n");
     Report none;
-    EXPECT_EQ(render("<p>x</p>", sheet, nullptr, none), "  x\n");
-    EXPECT_EQ(render("<p>x</p>", nullptr, nullptr, none), "x\n");
+    galley_options const options = core();
+    EXPECT_EQ(render("<p>x</p>", sheet, &options, none), "  x\n");
+    EXPECT_EQ(render("<p>x</p>", nullptr, &options, none), "x\n");
     EXPECT_EQ(none.report, nullptr);
     galley_sheet_free(sheet);
 }
 
 TEST(CInterface, TakesOptionsOfAnySize) {
-    galley_options options = {};
-    options.size = sizeof options;
+    galley_options options = core();
     options.width = 3;
     options.color = GALLEY_COLOR_ALWAYS;
     options.name = "d.xml";
@@ -85,7 +97,8 @@ TEST(CInterface, TakesOptionsOfAnySize) {
 TEST(CInterface, ReportsAllThatItFinds) {
     std::string const markup = "<p class=\"a\">x</p>\n<td/>";
     Report report;
-    report.report = galley_check(markup.data(), markup.length(), nullptr, nullptr);
+    galley_options const options = core();
+    report.report = galley_check(markup.data(), markup.length(), nullptr, &options);
     ASSERT_EQ(galley_report_count(report.report), 2U);
     EXPECT_EQ(galley_report_severity(report.report, 0), GALLEY_WARNING);
     EXPECT_EQ(galley_report_severity(report.report, 1), GALLEY_ERROR);
@@ -94,12 +107,27 @@ TEST(CInterface, ReportsAllThatItFinds) {
     EXPECT_EQ(galley_report_line(report.report, 1), 2U);
     EXPECT_EQ(galley_report_column(report.report, 1), 1U);
     Report ofSheet;
-    ofSheet.report = galley_check_sheet("P {}", 4, "s.css", 0);
+    ofSheet.report = galley_check_sheet("P {}", 4, "s.css", GALLEY_DIALECT_CORE);
     EXPECT_EQ(ofSheet.headings().substr(0, 19), "s.css:1:1: warning:");
     Report clean;
     clean.report = galley_check("x", 1, nullptr, nullptr);
     EXPECT_NE(clean.report, nullptr);
     EXPECT_EQ(galley_report_count(clean.report), 0U);
+}
+
+TEST(CInterface, ReadsADialectOnlyWhereItIsAskedForOrSaid) {
+    std::string const table = "<table><tr><td>a</td><td>b</td></tr></table>";
+    Report report;
+    galley_options options = core();
+    EXPECT_EQ(render(table, nullptr, nullptr, report), " a  b\n");
+    EXPECT_EQ(render("<?galley dialect=\"core\"?>" + table, nullptr, nullptr, report), "ab\n");
+    EXPECT_EQ(render(table, nullptr, &options, report), "ab\n");
+    options.dialect = GALLEY_DIALECT_WEB;
+    EXPECT_EQ(render("<?galley dialect=\"core\"?>" + table, nullptr, &options, report), " a  b\n");
+    galley_sheet* const sheet = galley_sheet_new();
+    EXPECT_EQ(galley_sheet_add(sheet, "td { padding: 0 }", 17, nullptr, 0, nullptr), 1);
+    EXPECT_EQ(render(table, sheet, nullptr, report), "ab\n");
+    galley_sheet_free(sheet);
 }
 
 TEST(CInterface, EscapesByTheLengthOfTheText) {

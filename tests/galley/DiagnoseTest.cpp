@@ -9,12 +9,13 @@ namespace {
 
 std::string documentError(std::string const& document) {
     galley::Options options;
+    options.dialect = galley::Dialect::core;
     options.name = "x";
     return galley::render(document, {}, options).error().text();
 }
 
 std::string sheetError(std::string const& sheet) {
-    return galley::Sheet::parse(sheet, "x").error().text();
+    return galley::Sheet::parse(sheet, "x", galley::Dialect::core).error().text();
 }
 
 /// A source, the line and the words of its error, the line as it is shown, and below it the caret,
@@ -186,8 +187,11 @@ TEST(Diagnose, ShowsThePlaceThatItNames) {
     for (Source const& example : exampleSources()) {
         for (int i = 0; i < 50; ++i) {
             Source const source = mutant(example, random);
-            auto const found =
-                source.isSheet ? galley::checkSheet(source.text) : galley::check(source.text);
+            galley::Options options;
+            options.dialect = i % 2 == 0 ? galley::Dialect::core : galley::Dialect::web;
+            auto const found = source.isSheet
+                                   ? galley::checkSheet(source.text, "x", *options.dialect)
+                                   : galley::check(source.text, {}, options);
             unsigned line = 1;
             for (galley::Diagnostic const& diagnostic : found) {
                 EXPECT_GE(diagnostic.line(), line) << source.text;
@@ -210,7 +214,9 @@ TEST(Diagnose, ShowsThePlaceThatItNames) {
 TEST(Diagnose, FindsManyPlacesInOneLine) {
     std::string line;
     for (int i = 0; i < 100000; ++i) line += "<b a=\"\"/>";
-    auto const found = galley::check(line);
+    galley::Options options;
+    options.dialect = galley::Dialect::core;
+    auto const found = galley::check(line, {}, options);
     ASSERT_EQ(found.size(), 100000U);
     EXPECT_EQ(found.back().column(), 99999U * 9 + 4);
     EXPECT_EQ(found.front().column(), 4U);

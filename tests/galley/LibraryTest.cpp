@@ -18,10 +18,16 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-galley::Options sized(unsigned width) {
+/// Options of the core, for which all pages here are but the last.
+galley::Options core(unsigned width = 0) {
     galley::Options options;
+    options.dialect = galley::Dialect::core;
     options.width = width;
     return options;
+}
+
+galley::Result<galley::Sheet> parse(std::string const& css, std::string const& name = "<sheet>") {
+    return galley::Sheet::parse(css, name, galley::Dialect::core);
 }
 
 /// The text of what failed.
@@ -60,12 +66,12 @@ TEST(Library, RendersAsTheOptionsSay) {
         {galley::Color::never, galley::Format::svg, "<svg "},
     };
     for (auto const& [color, format, page] : cases) {
-        galley::Options options = sized(6);
+        galley::Options options = core(6);
         options.color = color;
         options.format = format;
         EXPECT_THAT(*galley::render("aa <b>bb </b>cc", {}, options), StartsWith(page));
     }
-    galley::Options options;
+    galley::Options options = core();
     options.format = galley::Format::html;
     options.standalone = true;
     options.name = "folder/page.xml";
@@ -76,21 +82,21 @@ TEST(Library, RendersAsTheOptionsSay) {
 
 TEST(Library, PrintsWhatSuitsTheFile) {
     setenv("COLUMNS", "3", 1);
-    EXPECT_EQ(print("aa <b>bb</b>", {}).text, "aa\nbb\n");
-    EXPECT_EQ(*galley::render("aa bb"), "aa\nbb\n");
-    EXPECT_EQ(print("aa bb", sized(9)).text, "aa bb\n");
+    EXPECT_EQ(print("aa <b>bb</b>", core()).text, "aa\nbb\n");
+    EXPECT_EQ(*galley::render("aa bb", {}, core()), "aa\nbb\n");
+    EXPECT_EQ(print("aa bb", core(9)).text, "aa bb\n");
     Terminal terminal;
     {
         std::unique_ptr<std::FILE, int (*)(std::FILE*)> const file(
             std::fopen(ttyname(terminal.terminal), "w"), std::fclose);
-        EXPECT_TRUE(galley::print("aa <b>bb</b> cc", {}, {}, file.get()));
+        EXPECT_TRUE(galley::print("aa <b>bb</b> cc", {}, core(), file.get()));
     }
     EXPECT_EQ(terminal.seen(), "aa \x1b[0m\x1b[1mbb\x1b[0m\r\ncc\r\n");
     unsetenv("COLUMNS");
 }
 
 TEST(Library, SaysWhyThereIsNoPage) {
-    galley::Options options;
+    galley::Options options = core();
     options.name = "page.xml";
     auto const page = galley::render("<p>\n \xc3\xa9 <b>x</p>", {}, options);
     ASSERT_FALSE(page);
@@ -110,38 +116,38 @@ TEST(Library, SaysWhyThereIsNoPage) {
     } catch (galley::Failure const& failure) {
         EXPECT_EQ(failure.what(), error.text());
     }
-    EXPECT_EQ(galley::render("<p padding=\"2000000000\"/>x").error().text(),
+    EXPECT_EQ(galley::render("<p padding=\"2000000000\"/>x", {}, core()).error().text(),
               "<document>: error: Page too large: more than 67108864 cells\n");
 }
 
 TEST(Library, WritesNothingOfAPageThatFails) {
-    Printed const printed = print("<p>a</p><q/>", {});
+    Printed const printed = print("<p>a</p><q/>", core());
     EXPECT_EQ(printed.text, "");
     EXPECT_THAT(errorsOf(printed.result), StartsWith("<document>:1:9: error: Invalid tag: <q>\n"));
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> const full(std::fopen("/dev/full", "w"),
                                                                std::fclose);
-    EXPECT_EQ(errorsOf(galley::print("a", {}, {}, full.get())),
+    EXPECT_EQ(errorsOf(galley::print("a", {}, core(), full.get())),
               "<output>: error: No space left on device\n");
 }
 
 TEST(Library, AddsSheetsUpInTheirOrder) {
     auto const rule = [](char const* cells) {
-        return *galley::Sheet::parse("p { padding-left: " + std::string(cells) + "; }");
+        return *parse("p { padding-left: " + std::string(cells) + "; }");
     };
     galley::Sheet const one = rule("1");
     galley::Sheet const three = rule("3");
     galley::Sheet sum = one + three;
-    EXPECT_EQ(*galley::render("<p>x</p>", sum), "   x\n");
-    EXPECT_EQ(*galley::render("<p>x</p>", galley::Sheet() + sum + one), " x\n");
+    EXPECT_EQ(*galley::render("<p>x</p>", sum, core()), "   x\n");
+    EXPECT_EQ(*galley::render("<p>x</p>", galley::Sheet() + sum + one, core()), " x\n");
     galley::Sheet const copy = sum;
     sum += rule("2");
-    EXPECT_EQ(*galley::render("<p>x</p>", sum), "  x\n");
-    EXPECT_EQ(*galley::render("<p>x</p>", copy), "   x\n");
-    EXPECT_EQ(*galley::render("<p>x</p>", three + galley::Sheet()), "   x\n");
+    EXPECT_EQ(*galley::render("<p>x</p>", sum, core()), "  x\n");
+    EXPECT_EQ(*galley::render("<p>x</p>", copy, core()), "   x\n");
+    EXPECT_EQ(*galley::render("<p>x</p>", three + galley::Sheet(), core()), "   x\n");
 }
 
 TEST(Library, TellsAllFaultsOfASheetAtOnce) {
-    auto const sheet = galley::Sheet::parse("p { color red; }\nb {}\nh1 { margin: 1 }", "s.css");
+    auto const sheet = parse("p { color red; }\nb {}\nh1 { margin: 1 }", "s.css");
     ASSERT_FALSE(sheet);
     EXPECT_EQ(errorsOf(sheet),
               "s.css:1:11: error: Expecting ':'\n"
@@ -153,8 +159,8 @@ TEST(Library, TellsAllFaultsOfASheetAtOnce) {
 }
 
 TEST(Library, ChecksADocumentAndItsSheet) {
-    galley::Sheet const sheet = *galley::Sheet::parse("p { colour: red; }", "s.css");
-    galley::Options options;
+    galley::Sheet const sheet = *parse("p { colour: red; }", "s.css");
+    galley::Options options = core();
     options.name = "d.xml";
     std::vector<std::string> told;
     for (auto const& found : galley::check("<p class=\"a\">x<td/></p>", sheet, options)) {
@@ -164,14 +170,13 @@ TEST(Library, ChecksADocumentAndItsSheet) {
     EXPECT_THAT(told, ElementsAre(StartsWith("s.css:1:5: warning: 'colour' "),
                                   StartsWith("d.xml:1:4: warning: 'class' "),
                                   "d.xml:1:15: error: Cannot layout 'td' within 'p'"));
-    EXPECT_TRUE(galley::check("<p>x</p>").empty());
-    EXPECT_EQ(galley::check("<p padding=\"2000000000\"/>x").size(), 1U);
+    EXPECT_TRUE(galley::check("<p>x</p>", {}, core()).empty());
+    EXPECT_EQ(galley::check("<p padding=\"2000000000\"/>x", {}, core()).size(), 1U);
 }
 
 TEST(Library, LetsControlsThroughWhereTheyAreWanted) {
-    galley::Sheet const sheet =
-        *galley::Sheet::parse("p { border-left-width: 1; border-left-style: \x1b; }");
-    galley::Options options;
+    galley::Sheet const sheet = *parse("p { border-left-width: 1; border-left-style: \x1b; }");
+    galley::Options options = core();
     options.color = galley::Color::always;
     EXPECT_EQ(*galley::render("<p>\x07</p>", sheet, options), "??\n");
     options.raw = true;
@@ -189,26 +194,26 @@ TEST(Library, LetsControlsThroughWhereTheyAreWanted) {
 TEST(Library, SkipsTheMarkThatEditorsPutBeforeUtf8) {
     std::string const mark = "\xef\xbb\xbf";
     for (bool const isRaw : {false, true}) {
-        galley::Options options;
+        galley::Options options = core();
         options.raw = isRaw;
-        galley::Sheet const sheet = *galley::Sheet::parse(mark + "p { padding-left: 2; }");
+        galley::Sheet const sheet = *parse(mark + "p { padding-left: 2; }");
         EXPECT_EQ(*galley::render(mark + "<p>a</p>" + mark, sheet, options), "  a\n" + mark + "\n");
         EXPECT_EQ(galley::render(mark + "<q/>", {}, options).error().column(), 1U);
     }
-    EXPECT_TRUE(galley::check(mark + "<p>a</p>").empty());
-    EXPECT_TRUE(galley::checkSheet(mark + "p { color: red; }").empty());
+    EXPECT_TRUE(galley::check(mark + "<p>a</p>", {}, core()).empty());
+    EXPECT_TRUE(galley::checkSheet(mark + "p { color: red; }", "", galley::Dialect::core).empty());
 }
 
 TEST(Library, EscapesDataForWhereItStands) {
     std::string all;
     for (char c = '!'; c <= '~'; ++c) all += c;
     for (std::string const& data : {all, std::string("&amp;"), std::string("R&D; \"x\" <b>")}) {
-        EXPECT_EQ(*galley::render("<p>" + galley::escape(data) + "</p>", {}, sized(200)),
+        EXPECT_EQ(*galley::render("<p>" + galley::escape(data) + "</p>", {}, core(200)),
                   data + "\n");
         // The corners of a border as wide as one letter.
         std::string const markup =
             "<p border-width=\"1\" border-corner-style=\"" + galley::escapeAttribute(data) + "\"/>";
-        EXPECT_THAT(galley::render(markup, {}, sized(200)).value(), HasSubstr(data));
+        EXPECT_THAT(galley::render(markup, {}, core(200)).value(), HasSubstr(data));
     }
     EXPECT_EQ(galley::escape(""), "");
 }

@@ -36,22 +36,27 @@ TEST(LibraryMemory, FailsInResults) {
     constexpr std::string_view good = "<p class=\"a\">one <b>two</b> three &mdash; four</p>";
     constexpr std::string_view bad = "<p>one</p><p class=\"a\"><q/>";
     constexpr std::string_view css = "p { padding-left: 2; colour: red; }\nb { color: \x01; }";
-    Sheet const sheet = *Sheet::parse(css);
     using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
     File const null(std::fopen("/dev/null", "w"), std::fclose);
     File const full(std::fopen("/dev/full", "w"), std::fclose);
-    Options html;
-    html.format = Format::html;
-    for (std::string_view const markup : {good, bad}) {
-        failOnce("render", [&] { (void)render(markup, sheet); });
-        failOnce("html", [&] { (void)render(markup, sheet, html); });
-        failOnce("print", [&] { (void)print(markup, sheet, {}, null.get()); });
-        failOnce("print in vain", [&] { (void)print(markup, sheet, {}, full.get()); });
-        failOnce("check", [&] { (void)check(markup, sheet); });
-    }
-    for (std::string_view const text : {css, std::string_view("p { color red; }\n\x01 { x }")}) {
-        failOnce("parse", [&] { (void)Sheet::parse(text); });
-        failOnce("check of a sheet", [&] { (void)checkSheet(text); });
+    for (Dialect const dialect : {Dialect::core, Dialect::web}) {
+        Sheet const sheet = *Sheet::parse(css, "", dialect);
+        Options options;
+        options.dialect = dialect;
+        Options html = options;
+        html.format = Format::html;
+        for (std::string_view const markup : {good, bad}) {
+            failOnce("render", [&] { (void)render(markup, sheet, options); });
+            failOnce("html", [&] { (void)render(markup, sheet, html); });
+            failOnce("print", [&] { (void)print(markup, sheet, options, null.get()); });
+            failOnce("print in vain", [&] { (void)print(markup, sheet, options, full.get()); });
+            failOnce("check", [&] { (void)check(markup, sheet, options); });
+        }
+        for (std::string_view const text :
+             {css, std::string_view("p { color red; }\n\x01 { x }")}) {
+            failOnce("parse", [&] { (void)Sheet::parse(text, "", dialect); });
+            failOnce("check of a sheet", [&] { (void)checkSheet(text, "", dialect); });
+        }
     }
 }
 

@@ -43,3 +43,12 @@ protected:
 
     std::filesystem::path folder;
 };
+
+/// Runs it on documents and sheets of the core.
+class CoreTool : public Tool {
+protected:
+    Outcome run(std::string const& arguments, std::string const& input = "",
+                std::string const& before = "", std::string const& program = GALLEY_TOOL) const {
+        return Tool::run("--dialect core " + arguments, input, before, program);
+    }
+};

@@ -71,9 +71,17 @@ void AttributeReader::read(Element const& element, Found& found) {
         if (property != nullptr && property->name == attribute.name) {
             found.presentational.push_back(&valueOf(attribute, property).block.normal);
         } else if (!isAllowed(element, attribute.name)) {
-            warn(problems, attribute.nameOffset, "unknown attribute " + quoted(attribute.name));
+            warn(problems, attribute.nameOffset,
+                 "unknown attribute " + quoted(attribute.name) + nameMeant(attribute.name));
         }
     }
+}
+
+std::string AttributeReader::nameMeant(std::string_view name) {
+    if (!suggester.isAsked()) return {};
+    std::string_view const allowed = suggest(name, s_allowed, std::identity());
+    return suggester.worded(allowed.empty() ? suggest(name, allProperties(), &Property::name)
+                                            : allowed);
 }
 
 AttributeReader::Value const& AttributeReader::valueOf(Attribute const& attribute,
@@ -87,7 +95,7 @@ AttributeReader::Value const& AttributeReader::valueOf(Attribute const& attribut
 
 AttributeReader::Value AttributeReader::parse(std::string_view text, Property const* property) {
     Value value;
-    DeclarationParser parser(value.problems);
+    DeclarationParser parser(value.problems, suggester);
     Tokenizer tokenizer(text);
     std::vector<Token> const tokens = tokenizer.run();
     tokenizer.warnOfRest(value.problems);

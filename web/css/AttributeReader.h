@@ -9,6 +9,7 @@
 #include "web/Element.h"
 #include "web/Problem.h"
 #include "web/css/Declarations.h"
+#include "web/suggest.h"
 
 namespace galley::web {
 
@@ -44,7 +45,9 @@ private:
     };
 
     Value const& valueOf(Attribute const& attribute, Property const* property);
-    static Value parse(std::string_view text, Property const* property);
+    /// What an attribute was probably meant to be, to be appended to a warning.
+    std::string nameMeant(std::string_view name);
+    Value parse(std::string_view text, Property const* property);
     /// Says what is wrong with a value, at the place where it is.
     void report(Value const& value, std::size_t offset);
 
@@ -53,6 +56,7 @@ private:
     std::unordered_map<std::string, Value> known;
     std::string key;
     bool hasWarnedOfFonts = false;
+    Suggester suggester;
 };
 
 }  // namespace galley::web

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "web/css/characters.h"
+#include "web/css/suggestValue.h"
 
 namespace galley::web {
 
@@ -104,7 +105,9 @@ void DeclarationParser::declare(Declarations& declarations, Property const& prop
     if (!declarations.declare(property, ValueReader(value, property.name, problems))) {
         problems.resize(before);
         std::size_t const offset = value.empty() ? 0 : value.front().offset;
-        warn(problems, offset, quoted(excerpt(value)) + " is no value of " + quoted(property.name));
+        warn(problems, offset,
+             quoted(excerpt(value)) + " is no value of " + quoted(property.name) +
+                 valueMeant(property, value));
     }
     // What stands for several sides was read for each.
     auto const first = problems.begin() + static_cast<std::ptrdiff_t>(before);
@@ -113,10 +116,19 @@ void DeclarationParser::declare(Declarations& declarations, Property const& prop
     problems.erase(std::unique(first, problems.end()), problems.end());
 }
 
+/// What a value was probably meant to be that is one word, to be appended to a warning.
+std::string DeclarationParser::valueMeant(Property const& property, Tokens value) {
+    bool const isWord = value.size() == 1 && value.front().kind == Kind::identifier;
+    if (!isWord || !suggestion.isAsked()) return {};
+    return suggestion.worded(suggestValue(property, value.front().text));
+}
+
 void DeclarationParser::warnAboutUnknown(Token const& name) {
     IgnoredProperty const* const ignored = findIgnoredProperty(name.text);
     if (ignored == nullptr) {
-        warn(problems, name.offset, "unknown property " + quoted(name.source));
+        warn(problems, name.offset,
+             "unknown property " + quoted(name.source) +
+                 suggestion(name.text, allProperties(), &Property::name));
         return;
     }
     if (ignored->isAboutFonts) {

@@ -8,6 +8,7 @@
 #include "web/Problem.h"
 #include "web/css/Declarations.h"
 #include "web/css/Token.h"
+#include "web/suggest.h"
 
 namespace galley::web {
 
@@ -15,8 +16,9 @@ namespace galley::web {
 /// effect is left out, with a warning; about fonts there is one only, the first.
 class DeclarationParser {
 public:
-    /// Warnings are appended to `found`, which must outlive the parser.
-    explicit DeclarationParser(std::vector<Problem>& found) : problems(found) {}
+    /// Warnings are appended to `found`. Both must outlive the parser.
+    DeclarationParser(std::vector<Problem>& found, Suggester& suggester)
+        : problems(found), suggestion(suggester) {}
 
     DeclarationBlock parse(std::span<Token const> tokens);
 
@@ -30,8 +32,10 @@ public:
 private:
     void parseDeclaration(std::span<Token const> tokens, DeclarationBlock& block);
     void warnAboutUnknown(Token const& name);
+    std::string valueMeant(Property const& property, std::span<Token const> value);
 
     std::vector<Problem>& problems;
+    Suggester& suggestion;
     std::optional<std::size_t> aboutFonts;
 };
 

@@ -13,7 +13,8 @@ namespace galley::web {
 class SheetParser {
 public:
     /// Warnings are appended to `found`, which must outlive the parser.
-    explicit SheetParser(std::vector<Problem>& found) : problems(found), declarations(found) {}
+    explicit SheetParser(std::vector<Problem>& found)
+        : problems(found), declarations(found, suggester) {}
 
     Sheet parse(std::string_view text);
 
@@ -30,6 +31,7 @@ private:
     Tokens contentOf(Tokens tokens);
 
     std::vector<Problem>& problems;
+    Suggester suggester;
     DeclarationParser declarations;
     Sheet sheet;
 };

@@ -132,6 +132,8 @@ constexpr Property s_properties[] = {
 
 }  // namespace
 
+std::span<Property const> allProperties() { return s_properties; }
+
 Property const* findProperty(std::string_view name) { return findWord(s_properties, name); }
 
 }  // namespace galley::web

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string_view>
 
 #include "web/Style.h"
@@ -18,6 +19,8 @@ struct Property {
     /// Whether an element has it from its parent where nothing is declared.
     bool isInherited;
 };
+
+std::span<Property const> allProperties();
 
 /// The property of a name, whatever the case of its letters; null where there is none.
 Property const* findProperty(std::string_view name);

@@ -107,6 +107,20 @@ constexpr Keyword<LineKind> s_lineKinds[] = {
     {"outset", LineKind::solid},
 };
 
+constexpr Keyword<FontWeight> s_fontWeights[] = {
+    {"normal", {400}},
+    {"bold", {700}},
+    {"lighter", FontWeight::lighter()},
+    {"bolder", FontWeight::bolder()},
+};
+
+constexpr Keyword<Decoration> s_decorationLines[] = {
+    {"underline", {true, false}},
+    {"line-through", {false, true}},
+    {"overline", {}, true},
+    {"blink", {}, true},
+};
+
 constexpr Keyword<bool> s_borderCollapses[] = {{"separate", false}, {"collapse", true}};
 constexpr Keyword<bool> s_tableLayouts[] = {{"auto", false}, {"fixed", true}};
 constexpr Keyword<bool> s_fontStyles[] = {{"normal", false}, {"italic", true}, {"oblique", true}};

@@ -10,20 +10,6 @@ namespace {
 
 using Kind = Token::Kind;
 
-constexpr Keyword<FontWeight> s_fontWeights[] = {
-    {"normal", {400}},
-    {"bold", {700}},
-    {"lighter", FontWeight::lighter()},
-    {"bolder", FontWeight::bolder()},
-};
-
-constexpr Keyword<Decoration> s_decorationLines[] = {
-    {"underline", {true, false}},
-    {"line-through", {false, true}},
-    {"overline", {}, true},
-    {"blink", {}, true},
-};
-
 }  // namespace
 
 bool readFontWeight(ValueReader& reader, FontWeight& weight) {

@@ -11,6 +11,7 @@
 #include "web/markup/findLastChildren.h"
 #include "web/markup/readSheets.h"
 #include "web/markup/vocabulary.h"
+#include "web/suggest.h"
 #include "web/wording.h"
 
 namespace galley::web {
@@ -85,7 +86,10 @@ private:
 
     void warnAboutUnknown(OpenElement const& opened) {
         if (!unknownNames.insert(opened.element.name).second) return;
-        warn(problems, opened.offset, "unknown element " + quoted(opened.element.name));
+        std::string_view const name = opened.element.name;
+        warn(
+            problems, opened.offset,
+            "unknown element " + quoted(name) + suggestion(name, vocabulary(), &ElementType::name));
     }
 
     void decodeAttributes(OpenElement& opened) {
@@ -158,6 +162,7 @@ private:
     std::size_t count = 0;
     /// Of elements by their number; empty where nobody asks.
     std::vector<bool> isLast;
+    Suggester suggestion;
     /// Those of which there has been a warning.
     std::unordered_set<std::string_view> unknownNames;
 };

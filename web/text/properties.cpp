@@ -56,7 +56,7 @@ constexpr std::uint16_t s_uniform = 0x8000;
 struct Table {
     /// The value of all its code points, with `s_uniform`, or which of the pages below it is.
     std::array<std::uint16_t, s_pages> pages = {};
-    std::array<std::uint16_t, s_mixedPages * s_pageSize> values = {};
+    std::array<std::uint16_t, s_mixedPages* s_pageSize> values = {};
 };
 
 constexpr Table s_table = [] {

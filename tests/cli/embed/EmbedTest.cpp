@@ -49,6 +49,7 @@ TEST_F(Embed, APageThatCannotBeWrittenSaysWhy) {
 }
 
 TEST_F(Embed, AFaultIsReportedAndLeavesNoOutput) {
+    std::string const core = "<?galley dialect='core'?>";
     std::string const documentError =
         "bad.xml:2:1: error: Invalid tag: <q>\n    2 | <q/></p>\n      | ^\n";
     std::string const sheetError =
@@ -67,8 +68,8 @@ TEST_F(Embed, AFaultIsReportedAndLeavesNoOutput) {
         {"absent.xml", 3, "absent.xml: error: No such file or directory\n"},
         {"bad.xml absent.css", 3, "absent.css: error: No such file or directory\n" + documentError},
     };
-    write("good.xml", "<p>good</p>");
-    write("bad.xml", "<p>\n<q/></p>");
+    write("good.xml", core + "<p>good</p>");
+    write("bad.xml", core + "<p>\n<q/></p>");
     write("good.css", "p { margin: 1; }");
     write("bad.css", "p {\n margin 1; }");
     for (Case const& c : cases) {

@@ -102,7 +102,8 @@ struct Applied {
 
 DeclarationBlock declared(std::string_view text) {
     std::vector<Problem> ignored;
-    return DeclarationParser(ignored).parse(Tokenizer(text).run());
+    Suggester unused;
+    return DeclarationParser(ignored, unused).parse(Tokenizer(text).run());
 }
 
 /// Tries all rules of all sheets on an element, sorts them as CSS says and shares nothing.

@@ -64,7 +64,8 @@ TEST(CssSheet, IsReadAsTokens) {
 
 TEST(CssSheet, LeavesOutWhatIsWrong) {
     check({
-        {"p{colour:red;color:blue}", "2 unknown property 'colour'\n", "p{color:blue}"},
+        {"p{colour:red;color:blue}", "2 unknown property 'colour'; did you mean 'color'?\n",
+         "p{color:blue}"},
         {"p{color;color:blue}", "2 missing ':' behind 'color'\n", "p{color:blue}"},
         {"p{color red;color:blue}", "2 missing ':' behind 'color'\n", "p{color:blue}"},
         {"p{;;1px:2;color:blue}", "4 '1px:2' is no declaration\n", "p{color:blue}"},
@@ -100,7 +101,8 @@ TEST(CssSheet, SkipsAtRulesThatItDoesNotKnow) {
         {"@media;p{color:red}", "0 missing '{' behind '@media'\n", "p{color:red}"},
         {"@media screen{p{color:red}@x;b{color:blue}}i{color:lime}", "26 unknown at-rule '@x'\n",
          "p{color:red}b{color:blue}i{color:lime}"},
-        {"@media print{p{colour:red}}", "15 unknown property 'colour'\n", ""},
+        {"@media print{p{colour:red}}", "15 unknown property 'colour'; did you mean 'color'?\n",
+         ""},
         {"@media screen{@media print{p{color:red}}b{color:blue}}", "", "b{color:blue}"},
         {"@media print{@media screen{p{color:red}}}", "", ""},
         {"@media all{p{color:red}", "10 missing '}' behind '{'\n", "p{color:red}"},

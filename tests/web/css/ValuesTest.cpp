@@ -142,13 +142,13 @@ TEST(CssValues, ColoursAreNamesOrExact) {
         {"color:rgb(1,2 3)", "", "8 'rgb(1,2 3)' is no value of 'color'\n"},
         {"color:rgb(1,2%,3)", "", "8 'rgb(1,2%,3)' is no value of 'color'\n"},
         {"color:rgb(1,2,3) x", "", "8 'rgb(1,2,3) x' is no value of 'color'\n"},
-        {"color:rad", "", "8 'rad' is no value of 'color'\n"},
+        {"color:rad", "", "8 'rad' is no value of 'color'; did you mean 'red'?\n"},
         {"background:blue", "background=palette 4;", ""},
         {"background:url(a;b.png) #fff no-repeat 0 50%", "background=#ffffff;",
          "13 'url(a;b.png)' has no effect as a value of 'background'\n"},
         {"background:red;background:none", "", ""},
         {"background:red;background:rad", "background=palette 1;",
-         "28 'rad' is no value of 'background'\n"},
+         "28 'rad' is no value of 'background'; did you mean 'red'?\n"},
         {"color:red;background-color:currentColor", "colour=palette 1;background=palette 1;", ""},
     });
 }

@@ -149,7 +149,8 @@ TEST(ReadDocument, WarnsOfWhatItDoesNotKnow) {
     std::string const utf8 = "bytes that are no UTF-8 are shown as U+FFFD\n";
     for (Case const& c : std::initializer_list<Case>{
              {"a<blink>b</blink><P/><blink/>",
-              "1 warning: unknown element 'blink'\n17 warning: unknown element 'P'\n"},
+              "1 warning: unknown element 'blink'\n17 warning: unknown element 'P'; did you mean "
+              "'p'?\n"},
              // Once a line.
              {"a\xFF\xFF<p>\xFF</p>\nb\n\xC3\xA9\xC3 \xC3\n\xC3",
               "1 warning: " + utf8 + "16 warning: " + utf8 + "20 warning: " + utf8},

@@ -2,9 +2,12 @@
 
 #include <cstddef>
 #include <functional>
+#include <string>
 #include <string_view>
 
-namespace galley {
+#include "web/wording.h"
+
+namespace galley::web {
 
 /// Whether one word becomes the other, letters of both cases being the same, by at most `edits`
 /// insertions, removals or replacements of a byte, or exchanges of two neighbours.
@@ -24,4 +27,28 @@ std::string_view suggest(std::string_view word, Table const& table, NameOf const
     return {};
 }
 
-}  // namespace galley
+/// Suggestions for one source. There are so many and no more: they take time that nobody would have
+/// who reads the rest.
+class Suggester {
+public:
+    /// The same in words, to be appended to a warning about `word`.
+    template <class Table, class NameOf>
+    std::string operator()(std::string_view word, Table const& table, NameOf const& nameOf) {
+        return left == 0 ? std::string() : worded(suggest(word, table, nameOf));
+    }
+
+    /// Of a suggestion that has been found, if it is one; whoever looks for it asks before whether
+    /// that is worth while.
+    ///@{
+    bool isAsked() const { return left > 0; }
+    std::string worded(std::string_view suggestion) {
+        --left;
+        return didYouMean(suggestion, "");
+    }
+    ///@}
+
+private:
+    unsigned left = 100;
+};
+
+}  // namespace galley::web

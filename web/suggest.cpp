@@ -1,8 +1,8 @@
-#include "galley/check/suggest.h"
+#include "web/suggest.h"
 
 #include <algorithm>
 
-namespace galley {
+namespace galley::web {
 
 namespace {
 
@@ -27,4 +27,4 @@ bool isWithinEdits(std::string_view word, std::string_view other, std::size_t ed
            (areExchanged && isWithinRest(2, 2));
 }
 
-}  // namespace galley
+}  // namespace galley::web
