@@ -46,7 +46,6 @@ void Grid::leaveAndCover() {
     Frame const& inner = frames.back();
     cover.left = inner.left;
     cover.top = inner.top;
-    cover.ends.clear();
     for (std::int64_t y = inner.top; y < inner.end && pay(1); ++y) {
         cover.ends.push_back(extent(inner.extents, y));
     }

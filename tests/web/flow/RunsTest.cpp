@@ -23,7 +23,7 @@ TEST(Runs, OfIdeographsBreakAnywhere) {
         {"<p style='word-break: keep-all'>漢字 漢字漢</p>", 6, "\n漢字\n漢字漢\n"},
         {"<p style='white-space: nowrap'>漢字 漢字漢</p>", 6, "\n漢字 漢字漢\n"},
         {"<p style='white-space: pre-wrap'>漢字漢字</p>", 5, "\n漢字\n漢字\n"},
-        {"<p style='text-align: justify'>漢字漢 字</p>", 7, "\n漢字漢\n字\n"},
+        {"<p style='text-align: justify'>漢字漢 字</p>", 7, "\n漢 字漢\n字\n"},
         {"<table><tr><td>漢字漢</td><td>字漢字</td></tr></table>", 12,
          "\n 漢字  字漢\n 漢    字\n"},
     });
