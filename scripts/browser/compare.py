@@ -126,7 +126,7 @@ def paint_difference(page, answer, rows):
             expected[start:end] = [colour] * (end - start)
         under = itertools.zip_longest(expected, backgrounds(row), cells(text), fillvalue=WHITE)
         for column, (colour, actual, cell) in enumerate(under):
-            if column < page.width and colour != actual and cell != BORDER:
+            if column < page.width and colour not in (actual, BORDER) and cell != BORDER:
                 return f"background at row {number}, column {column}: {actual}, not {colour}"
     return None
 

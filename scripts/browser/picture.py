@@ -93,5 +93,8 @@ def has_background(strip):
 
 
 def background(cell):
+    """BORDER if one is there, under a letter or not: what it stands on cannot be seen."""
+    if any(colour == (255, 0, 255) for _, colour in cell.getcolors(128)):
+        return BORDER
     light = [(count, colour) for count, colour in cell.getcolors(128) if min(colour[:2]) >= 128]
     return "#%02x%02x%02x" % max(light)[1] if light else WHITE

@@ -12,11 +12,6 @@ namespace galley::web {
 
 namespace {
 
-void widen(Widths& around, Widths const& child) {
-    around.least = std::max(around.least, child.least);
-    around.most = std::max(around.most, child.most);
-}
-
 /// Whether there are words of single cells, without edges or an indent, so that with these parted
 /// anywhere a cell is enough.
 bool isOfSingleCells(Paragraph const& paragraph) {
@@ -42,46 +37,53 @@ Content::~Content() = default;
 
 void Content::open(Style const& block, OutsideMarker marker) {
     bool const hasMarker = !marker.text.empty();
+    int const columns = columnsOf(marker);
     entries.emplace_back(
         Open{&block, hasMarker ? std::make_unique<OutsideMarker>(std::move(marker)) : nullptr});
-    openBlocks.push_back({&block, {}});
+    around().takeBlock();
+    openBlocks.push_back({&block, {}, columns});
 }
 
 void Content::close() {
     entries.emplace_back(Close{});
     Measured const block = openBlocks.back();
     openBlocks.pop_back();
-    take(withEdges(block.content, *block.style));
+    around().take(withEdges(block.content, *block.style));
 }
 
 void Content::add(Paragraph const& paragraph) {
-    take(measure(paragraph, Wrapping::asStyled));
+    around().take(measure(paragraph, Wrapping::asStyled));
     entries.emplace_back(PackedParagraph(paragraph));
 }
 
 void Content::add(std::unique_ptr<Table> table) {
-    take(table->outerWidths(Wrapping::asStyled));
+    around().takeBlock();
+    around().take(table->outerWidths(Wrapping::asStyled));
     entries.emplace_back(std::move(table));
 }
 
-void Content::take(Widths const& child) {
-    widen(openBlocks.empty() ? measured : openBlocks.back().content, child);
+void Content::Measured::take(Widths const& child) {
+    content.least = std::max(content.least, child.least);
+    content.most = std::max(content.most, child.most);
 }
 
 Widths Content::partedWidths(Paragraph& scratch) const {
-    std::vector<Measured> blocks = {{nullptr, {}}};
+    std::vector<Measured> blocks(1);
     for (auto const& entry : entries) {
         if (auto const* const opened = std::get_if<Open>(&entry)) {
-            blocks.push_back({opened->style, {}});
+            blocks.back().takeBlock();
+            bool const hasMarker = opened->marker != nullptr;
+            blocks.push_back({opened->style, {}, hasMarker ? columnsOf(*opened->marker) : 0});
         } else if (auto const* const paragraph = std::get_if<PackedParagraph>(&entry)) {
             paragraph->unpackTo(scratch);
-            widen(blocks.back().content, measure(scratch, Wrapping::anywhere));
+            blocks.back().take(measure(scratch, Wrapping::anywhere));
         } else if (auto const* const table = std::get_if<std::unique_ptr<Table>>(&entry)) {
-            widen(blocks.back().content, (*table)->outerWidths(Wrapping::anywhere));
+            blocks.back().takeBlock();
+            blocks.back().take((*table)->outerWidths(Wrapping::anywhere));
         } else {
             Measured const block = blocks.back();
             blocks.pop_back();
-            widen(blocks.back().content, withEdges(block.content, *block.style));
+            blocks.back().take(withEdges(block.content, *block.style));
         }
     }
     return blocks.front().content;

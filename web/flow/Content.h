@@ -39,7 +39,7 @@ public:
     /// only.
     void moveTo(BlockSink& sink, Paragraph& scratch);
     /// Of all that has been added; per cent count nothing.
-    Widths widths() const { return measured; }
+    Widths widths() const { return measured.content; }
     /// The same where words are parted anywhere. Walks through all of it.
     Widths partedWidths(Paragraph& scratch) const;
 
@@ -56,12 +56,21 @@ private:
     struct Measured {
         Style const* style = nullptr;
         Widths content;
+        /// Columns of its marker and the blank behind that.
+        int marker = 0;
+
+        void take(Widths const& child);
+        /// A marker that no line of the item's own stands beside is as wide as a block in it.
+        void takeBlock() { take({marker, marker}); }
     };
 
-    void take(Widths const& child);
+    static int columnsOf(OutsideMarker const& marker) {
+        return marker.text.empty() ? 0 : marker.columns + 1;
+    }
+    Measured& around() { return openBlocks.empty() ? measured : openBlocks.back(); }
 
     std::vector<Entry> entries;
-    Widths measured;
+    Measured measured;
     std::vector<Measured> openBlocks;
 };
 

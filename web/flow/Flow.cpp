@@ -44,7 +44,7 @@ void Flow::open(Style const& style, OutsideMarker marker) {
     HorizontalPlace const place = placeBlock(style, container);
     int const left = contentLeft() + place.marginLeft;
     int const edge = (style.border.left.isThere() ? 1 : 0) + across(style.padding.left, container);
-    int const right = left + place.width + innerEdges(style, container);
+    int const right = left + place.borderWidth;
     pending = std::max(pending, down(style.margin.top, container));
     blocks.push_back({.style = &style,
                       .marker = std::move(marker),

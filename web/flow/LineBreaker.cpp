@@ -1,5 +1,7 @@
 #include "web/flow/LineBreaker.h"
 
+#include <algorithm>
+
 #include "web/flow/lengths.h"
 
 namespace galley::web {
@@ -207,9 +209,11 @@ void LineBreaker::leaveOpenTags() {
     }
 }
 
-/// Cells of the white space at the end that hangs.
+/// Cells of the white space at the end that hangs. What counts does so at the end of a last line
+/// only as far as there is no room.
 int LineBreaker::trailingBlanks() const {
     int cells = 0;
+    bool counts = false;
     for (std::size_t i = parts.size(); i-- > 0;) {
         Part const& part = parts[i];
         Item const& item = itemOf(part);
@@ -221,9 +225,10 @@ int LineBreaker::trailingBlanks() const {
         bool const isTab = item.kind == Kind::tab;
         int const blanks = isTab ? part.width : texts.blanksAtEnd(part.begin, part.end);
         cells += blanks;
-        if (blanks < part.width || !preserves(style)) break;
+        counts = preserves(style);
+        if (blanks < part.width || !counts) break;
     }
-    return cells;
+    return line.isLast && counts ? std::clamp(used - available, 0, cells) : cells;
 }
 
 }  // namespace galley::web

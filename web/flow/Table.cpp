@@ -58,8 +58,7 @@ void Table::complete() {
     if (frame) return;
     endColumnGroup();
     // Borders above and below a row without cells would lie on one another.
-    using EmptyRows = TableGrid::EmptyRows;
-    grid.complete(ownStyle.collapsesBorders ? EmptyRows::dropped : EmptyRows::kept);
+    grid.complete({.dropsEmptyRows = ownStyle.collapsesBorders, .joinsColumns = !isFixed()});
     frame.emplace(grid, ownStyle);
 }
 
@@ -71,22 +70,31 @@ std::vector<ColumnNeed>& Table::needs(Wrapping wrapping) {
     return *known;
 }
 
-/// Of the border box, by its content alone. The longest word of a caption widens it.
-Widths Table::innerWidths(Wrapping wrapping, int container) {
-    Widths widths = sumOf(needs(wrapping));
-    int const edges = frame->edges(container);
-    widths.least += edges;
+/// Of the border box, by its content alone.
+Widths Table::innerWidths(Wrapping wrapping, int captionWidth, int container) {
+    Widths const parts = sumOf(needs(wrapping));
+    int const least = std::max(captionWidth, frame->widthFor(parts.least, container));
+    return {least, std::max(least, frame->widthFor(parts.most, container))};
+}
+
+/// The longest word of a caption widens the table.
+int Table::captionWidth(Wrapping wrapping) {
+    std::optional<int>& known = wrapping == Wrapping::anywhere ? captionAnywhere : captionAsStyled;
+    if (known) return *known;
+    known = 0;
+    Paragraph scratch;
     for (Caption const& caption : captions) {
-        Widths const around = withEdges(caption.content.widths(), *caption.style);
-        widths.least = std::max(widths.least, around.least);
+        Widths const content = wrapping == Wrapping::anywhere
+                                   ? caption.content.partedWidths(scratch)
+                                   : caption.content.widths();
+        known = std::max(*known, withEdges(content, *caption.style).least);
     }
-    widths.most = std::max(widths.most + edges, widths.least);
-    return widths;
+    return *known;
 }
 
 Widths Table::outerWidths(Wrapping wrapping) {
     complete();
-    Widths const content = innerWidths(wrapping, 0);
+    Widths const content = innerWidths(wrapping, captionWidth(wrapping), 0);
     Widths widths = withLimits(content, ownStyle);
     int const margins = across(ownStyle.margin.left, 0) + across(ownStyle.margin.right, 0);
     return {std::max(widths.least, content.least) + margins,
@@ -102,35 +110,37 @@ int Table::usedWidth(Widths const& content, int container) const {
     return std::max(limitWidth(wanted, ownStyle, container), content.least);
 }
 
-void Table::layOut(int columns, Wrapping wrapping, TableSink& rows, PageBudget& budget) {
+void Table::layOut(int columns, Wrapping around, TableSink& rows, PageBudget& budget) {
     complete();
     int const margins =
         across(ownStyle.margin.left, columns) + across(ownStyle.margin.right, columns);
-    if (innerWidths(wrapping, columns).least + margins > columns) wrapping = Wrapping::anywhere;
+    int const caption = captionWidth(around);
+    bool const isTooWide = innerWidths(around, caption, columns).least + margins > columns;
+    Wrapping const wrapping = isTooWide ? Wrapping::anywhere : around;
     // Where its words do not fit, cells part them, but no more of them than they must.
     if (wrapping == Wrapping::anywhere && !isFixed()) {
-        int const width = columns - margins - frame->edges(columns);
+        int const width = frame->partsFor(columns - margins, columns);
         keepWords(needs(wrapping), needs(Wrapping::asStyled), width);
     }
-    Widths content = innerWidths(wrapping, columns);
+    Widths content = innerWidths(wrapping, caption, columns);
     // Percentages widen a table only as far as there is room, so not what is around it.
-    int const widened = widthOfPercentages(needs(wrapping)) + frame->edges(columns);
+    int const widened = frame->widthFor(widthOfPercentages(needs(wrapping)), columns);
     content.most = std::max(content.most, widened);
     int const width = usedWidth(content, columns);
     int const spare = std::max(0, columns - margins - width);
     rows.begin(leftMargin(ownStyle, columns, spare));
-    std::vector<int> shared = shareWidth(needs(wrapping), width - frame->edges(columns));
-    int column = 0;
-    for (int& cells : shared) cells = std::max(0, cells - frame->lineBehind(column++));
-    layOutCaptions(CaptionSide::top, width, rows, budget);
+    std::vector<int> const shared =
+        frame->toCells(shareWidth(needs(wrapping), frame->partsFor(width, columns)));
+    layOutCaptions(CaptionSide::top, width, around, rows, budget);
     TablePainter(grid, *frame, ownStyle, rows, budget).paint(width, shared, columns, wrapping);
-    layOutCaptions(CaptionSide::bottom, width, rows, budget);
+    layOutCaptions(CaptionSide::bottom, width, around, rows, budget);
 }
 
-void Table::layOutCaptions(CaptionSide side, int width, RowSink& rows, PageBudget& budget) {
+void Table::layOutCaptions(CaptionSide side, int width, Wrapping wrapping, RowSink& rows,
+                           PageBudget& budget) {
     for (Caption& caption : captions) {
         if (caption.style->captionSide != side) continue;
-        Flow flow(rows, budget, width, ground, Flow::OuterMargins::shown);
+        Flow flow(rows, budget, width, ground, Flow::OuterMargins::shown, wrapping);
         flow.open(*caption.style, {});
         Paragraph scratch;
         caption.content.moveTo(flow, scratch);

@@ -53,7 +53,7 @@ public:
     /// With its margins. To be called when all parts have been added.
     Widths outerWidths(Wrapping wrapping);
     /// Makes its rows in a container of so many columns. Once only.
-    void layOut(int columns, Wrapping wrapping, TableSink& rows, PageBudget& budget);
+    void layOut(int columns, Wrapping around, TableSink& rows, PageBudget& budget);
 
 private:
     struct Caption {
@@ -69,9 +69,11 @@ private:
     void complete();
     bool isFixed() const { return ownStyle.hasFixedColumns && !isAutomatic(ownStyle.width); }
     std::vector<ColumnNeed>& needs(Wrapping wrapping);
-    Widths innerWidths(Wrapping wrapping, int container);
+    Widths innerWidths(Wrapping wrapping, int captionWidth, int container);
+    int captionWidth(Wrapping wrapping);
     int usedWidth(Widths const& content, int container) const;
-    void layOutCaptions(CaptionSide side, int width, RowSink& rows, PageBudget& budget);
+    void layOutCaptions(CaptionSide side, int width, Wrapping wrapping, RowSink& rows,
+                        PageBudget& budget);
 
     Style const& ownStyle;
     Colour ground;
@@ -83,6 +85,8 @@ private:
     std::optional<TableFrame> frame;
     std::optional<std::vector<ColumnNeed>> needsAsStyled;
     std::optional<std::vector<ColumnNeed>> needsAnywhere;
+    std::optional<int> captionAsStyled;
+    std::optional<int> captionAnywhere;
     ///@}
 };
 

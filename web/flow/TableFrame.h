@@ -32,24 +32,48 @@ public:
         if (collapsed) return collapsed->hasHorizontal(line) ? 1 : 0;
         return grid.columns().empty() ? 0 : table.borderSpacing.down;
     }
-    /// A line of borders that collapse counts with the column before it.
-    int lineBehind(int column) const { return collapsed ? columnGap(column + 1) : 0; }
-    /// Columns of a cell that are not its content, as far as they count with its columns.
-    int columnEdges(TableCell const& cell) const {
-        return cellEdges(*cell.style, 0) + lineBehind(cell.endColumn() - 1);
+    /// Widths of columns are counted in parts of a cell, so many: a line of borders that collapse
+    /// counts with the columns on both sides, half of it with each.
+    int partsOfCell() const { return collapsed ? 2 : 1; }
+    int linesAround(int begin, int end) const {
+        return collapsed ? columnGap(begin) + columnGap(end) : 0;
     }
-    /// Of the gaps that a cell spans those that do not count with its columns.
+    /// Parts of a cell that are not its content, as far as they count with its columns.
+    int columnEdges(TableCell const& cell) const {
+        int const lines = linesAround(cell.column, cell.endColumn());
+        return partsOfCell() * cellEdges(*cell.style, 0) + lines;
+    }
+    /// Of the gaps that a cell spans those that do not count with columns.
     int gapsWithin(TableCell const& cell) const {
         int sum = 0;
         for (int line = cell.column + 1; line < cell.endColumn(); ++line) sum += columnGap(line);
         return collapsed ? 0 : sum;
     }
-    /// Of all that does not count with columns, in a container of so many. Without columns there
-    /// are two lines.
-    int edges(int container) const {
-        if (collapsed) return columnGap(0);
-        int const lines = std::max(2, static_cast<int>(grid.columns().size()) + 1);
-        return lines * table.borderSpacing.across + innerEdges(table, container);
+    /// Cells of a table whose columns have so many parts, in a container of so many cells; and the
+    /// other way round.
+    ///@{
+    int widthFor(int parts, int container) const {
+        return (parts + edges(container) + partsOfCell() - 1) / partsOfCell();
+    }
+    int partsFor(int width, int container) const {
+        return width * partsOfCell() - edges(container);
+    }
+    ///@}
+    /// Cells of columns that have so many parts, without lines around them: halves that come to
+    /// whole cells go to the leftmost ones.
+    std::vector<int> toCells(std::vector<int> parts) const {
+        if (!collapsed) return parts;
+        int halves = 0;
+        for (int i = 0; int& part : parts) {
+            part = std::max(0, part - linesAround(i, i + 1));
+            halves += part % 2;
+            ++i;
+        }
+        for (int& part : parts) {
+            bool const isRoundedUp = part % 2 > 0 && (halves -= 2) >= 0;
+            part = part / 2 + (isRoundedUp ? 1 : 0);
+        }
+        return parts;
     }
     int leftEdge(int container) const {
         if (collapsed) return 0;
@@ -62,6 +86,13 @@ public:
     }
 
 private:
+    /// Parts of a table that do not count with columns. Without columns there are two lines.
+    int edges(int container) const {
+        auto const count = static_cast<int>(grid.columns().size());
+        if (collapsed) return linesAround(0, count);
+        return std::max(2, count + 1) * table.borderSpacing.across + innerEdges(table, container);
+    }
+
     TableGrid const& grid;
     Style const& table;
     std::optional<CollapsedBorders> collapsed;

@@ -99,15 +99,15 @@ Colour TableGrid::background(TableRow const& row) const {
     return onTop(row.style, onTop(row.group, ground));
 }
 
-void TableGrid::complete(EmptyRows empty) {
+void TableGrid::complete(Rules rules) {
     endGroup();
-    if (empty == EmptyRows::dropped) dropEmptyRows();
+    if (rules.dropsEmptyRows) dropEmptyRows();
+    if (!rules.joinsColumns) isStart.assign(isStart.size(), true);
     if (!ranges.empty()) ranges.back().column.endsGroup = true;
     orderGroups();
     joinColumns();
 }
 
-/// Rows that no cell begins in or reaches into.
 void TableGrid::dropEmptyRows() {
     std::vector<TableRow> kept;
     for (Group& group : groups) {
@@ -156,7 +156,6 @@ void TableGrid::appendGroup(Group const& group, std::vector<TableRow>& ordered) 
     }
 }
 
-/// Columns in which nothing begins go with the one before them.
 void TableGrid::joinColumns() {
     for (ColumnRange const& range : ranges) {
         auto const end = static_cast<std::size_t>(range.end);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <deque>
 #include <memory>
 #include <vector>
@@ -51,7 +50,7 @@ struct TableColumn {
 /// 1. Cells are in the order of the document; those of a row are neighbours.
 /// 2. Until it is complete, columns are those of the document and rows are in its order.
 /// 3. Then a cell spans no row of another group, and in each column a cell begins, or an element of
-///    columns.
+///    columns, if columns are joined.
 class TableGrid {
 public:
     /// Of a table with that background.
@@ -70,10 +69,15 @@ public:
     bool hasOpenGroup() const { return isGroupOpen; }
     bool hasOpenRow() const { return isRowOpen; }
 
-    enum class EmptyRows : std::uint8_t { kept, dropped };
+    struct Rules {
+        /// In which no cell begins and into which none reaches.
+        bool dropsEmptyRows = false;
+        /// Columns in which nothing begins go with the one before them.
+        bool joinsColumns = true;
+    };
 
     /// Ends all that is open, and brings groups in their order: the head first, the foot last.
-    void complete(EmptyRows empty);
+    void complete(Rules rules);
 
     std::deque<TableCell>& cells() { return allCells; }
     std::deque<TableCell> const& cells() const { return allCells; }

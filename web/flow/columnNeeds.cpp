@@ -8,11 +8,11 @@ namespace {
 
 bool isCells(Length length) { return length.kind == Length::Kind::cells; }
 
-/// What a width asks for, with edges.
-ColumnNeed needOf(Length width, int edges) {
+/// What a width asks for, with edges, in parts of cells.
+ColumnNeed needOf(Length width, int edges, int parts) {
     ColumnNeed need;
     need.isFixed = isCells(width);
-    if (isCells(width)) need.most = width.value + edges;
+    if (isCells(width)) need.most = width.value * parts + edges;
     if (width.kind == Length::Kind::percent) need.percent = width.value;
     return need;
 }
@@ -29,9 +29,10 @@ ColumnNeed needOf(TableCell const& cell, TableFrame const& frame, Wrapping wrapp
     }
     if (isCells(style.minWidth)) content.least = std::max(content.least, style.minWidth.value);
     int const edges = frame.columnEdges(cell);
-    ColumnNeed need = needOf(style.width, edges);
-    need.least = content.least + edges;
-    need.most = std::max(content.least, content.most) + edges;
+    int const parts = frame.partsOfCell();
+    ColumnNeed need = needOf(style.width, edges, parts);
+    need.least = content.least * parts + edges;
+    need.most = std::max(content.least, content.most) * parts + edges;
     return need;
 }
 
@@ -40,10 +41,10 @@ Length widthOf(TableColumn const& column) {
     return column.group == nullptr ? Length::automatic() : column.group->width;
 }
 
-std::vector<ColumnNeed> needsOfElements(TableGrid const& grid) {
+std::vector<ColumnNeed> needsOfElements(TableGrid const& grid, TableFrame const& frame) {
     std::vector<ColumnNeed> needs;
     for (TableColumn const& column : grid.columns()) {
-        ColumnNeed& need = needs.emplace_back(needOf(widthOf(column), 0));
+        ColumnNeed& need = needs.emplace_back(needOf(widthOf(column), 0, frame.partsOfCell()));
         need.count = column.count;
     }
     return needs;
@@ -73,7 +74,7 @@ void setFixed(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
 
 std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& frame,
                                        Wrapping wrapping) {
-    std::vector<ColumnNeed> needs = needsOfElements(grid);
+    std::vector<ColumnNeed> needs = needsOfElements(grid, frame);
     std::vector<TableCell const*> spanning;
     Paragraph scratch;
     for (TableCell const& cell : grid.cells()) {
@@ -99,13 +100,13 @@ std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& 
 }
 
 std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& frame) {
-    std::vector<ColumnNeed> needs = needsOfElements(grid);
+    std::vector<ColumnNeed> needs = needsOfElements(grid, frame);
     if (!grid.rows().empty()) {
         TableRow const& first = grid.rows().front();
         for (std::size_t i = first.firstCell; i < first.endCell; ++i) {
             TableCell const& cell = grid.cells()[i];
             int const edges = frame.columnEdges(cell);
-            ColumnNeed need = needOf(cell.style->width, edges);
+            ColumnNeed need = needOf(cell.style->width, edges, frame.partsOfCell());
             need.percentEdges = edges;
             setFixed(columnsOf(needs, cell), need);
         }

@@ -7,7 +7,8 @@
 
 namespace galley::web {
 
-/// What the columns of a table ask for by automatic layout: as all of its cells do.
+/// What the columns of a table ask for, in parts of cells, by automatic layout: as all of its cells
+/// do.
 std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& frame,
                                        Wrapping wrapping);
 

@@ -48,8 +48,11 @@ inline int limitWidth(int width, Style const& style, int columns) {
 /// Where a block stands in its container.
 struct HorizontalPlace {
     int marginLeft;
-    /// Of the content box.
+    /// Of the content box, and of the border box.
+    ///@{
     int width;
+    int borderWidth;
+    ///@}
 };
 
 /// The left margin of a box that leaves so many columns of its container free: `auto` margins share
@@ -62,18 +65,21 @@ inline int leftMargin(Style const& style, int columns, int spare) {
 /// A block that is as wide as its container where its style does not say otherwise.
 inline HorizontalPlace placeBlock(Style const& style, int columns) {
     // What content has to fit into is rounded down as a whole.
+    auto const without = [columns](std::int64_t edges) {
+        return static_cast<int>(std::max<std::int64_t>(0, columns * s_parts - edges) / s_parts);
+    };
+    std::int64_t const margins =
+        exactlyAcross(style.margin.left, columns) + exactlyAcross(style.margin.right, columns);
     std::int64_t edges =
-        (style.border.left.isThere() ? s_parts : 0) + (style.border.right.isThere() ? s_parts : 0);
-    for (Length const length :
-         {style.margin.left, style.margin.right, style.padding.left, style.padding.right}) {
-        edges += exactlyAcross(length, columns);
-    }
-    int const filling =
-        static_cast<int>(std::max<std::int64_t>(0, columns * s_parts - edges) / s_parts);
-    bool const isFilling = isAutomatic(style.width);
-    int const wanted = isFilling ? filling : across(style.width, columns);
+        exactlyAcross(style.padding.left, columns) + exactlyAcross(style.padding.right, columns);
+    if (style.border.left.isThere()) edges += s_parts;
+    if (style.border.right.isThere()) edges += s_parts;
+    int const filling = without(margins + edges);
+    int const wanted = isAutomatic(style.width) ? filling : across(style.width, columns);
     int const width = limitWidth(wanted, style, columns);
-    return {leftMargin(style, columns, std::max(0, filling - width)), width};
+    bool const isFilling = isAutomatic(style.width) && width == filling && filling > 0;
+    int const borderWidth = isFilling ? without(margins) : width + innerEdges(style, columns);
+    return {leftMargin(style, columns, std::max(0, filling - width)), width, borderWidth};
 }
 
 }  // namespace galley::web
