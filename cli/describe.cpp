@@ -5,13 +5,13 @@
 #include "cli/Options.h"
 #include "cli/defineOptions.h"
 
-char const* toolSummary() { return "render a small XML/XHTML subset as text for a terminal"; }
+char const* toolSummary() { return "show documents and style sheets as pages in a terminal"; }
 
 char const* toolDescription() {
-    return "Each document is laid out in columns as blocks, lines of words and tables, styled by "
-           "its attributes and by the sheets, and its page is printed. A document is a run of "
-           "elements and words; a sheet is a list of rules, each a tag name and declarations in "
-           "braces.";
+    return "Each document, XHTML or a fragment of it, is laid out in cells by its style sheets, as "
+           "a "
+           "browser would do it, and its page is printed: blocks, lists, tables, frames, colours, "
+           "links.";
 }
 
 std::vector<OptionEntry> describeOptions() {

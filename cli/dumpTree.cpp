@@ -33,7 +33,7 @@ XCode dump(String& tree, String const& markup, Product product, CLI::XML::StyleL
 galley::Result<void> dumpTree(String& tree, String& markup, Product product,
                               galley::Sheet const& sheet, galley::Options const& options) {
     galley::Result<galley::Dialect> const dialect = galley::dialectOf(markup.view(), options);
-    if (!dialect) return dialect;
+    if (!dialect) return galley::Result<void>(dialect.errors());
     bool const isWeb = *dialect == galley::Dialect::web;
     if (isWeb != (product == Product::StyleTree)) {
         return galley::Result<void>(

@@ -60,7 +60,7 @@ if(GALLEY_BUILD_TOOL)
     set(share ${CMAKE_INSTALL_DATADIR})
     install(FILES ${manual}/man/galley.1
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
-    install(FILES docs/galley.7
+    install(FILES docs/galley.7 docs/galley-core.7
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man7 COMPONENT tool)
     install(FILES ${manual}/bash/galley
         DESTINATION ${share}/bash-completion/completions COMPONENT tool)

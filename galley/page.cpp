@@ -27,7 +27,7 @@ Options settle(Options options, std::FILE* out) {
 Result<void> makePage(String& page, String& markup, Sheet const& sheet, Options const& options) {
     return guarded(options.name, [&]() -> Result<void> {
         Result<Dialect> const dialect = dialectOf(markup.view(), options);
-        if (!dialect) return dialect;
+        if (!dialect) return Result<void>(dialect.errors());
         if (*dialect == Dialect::web) return makeWebPage(page, markup.view(), sheet, options);
         if (auto misfits = SheetAccess::misfits(sheet, Dialect::core); !misfits.empty()) {
             return Result<void>(std::move(misfits));

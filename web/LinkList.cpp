@@ -34,7 +34,7 @@ void LinkList::moveTo(BlockSink& sink, Style const& around, Colour background) {
         Paragraph paragraph;
         paragraph.begin(style, background);
         paragraph.addGenerated(addresses[written]);
-        sink.add(std::move(paragraph));
+        sink.add(paragraph);
         sink.close();
     }
 }

@@ -30,7 +30,9 @@ constexpr char const* s_environment =
 constexpr char const* s_seeAlso =
     ".SH SEE ALSO\n"
     ".BR galley (7),\n"
-    "on what documents and sheets have in them.\n";
+    "on what documents and sheets have in them, and\n"
+    ".BR galley\\-core (7),\n"
+    "on those of the dialect core.\n";
 
 /// `text` as it is, whatever requests it looks like.
 std::string literal(std::string const& text) {

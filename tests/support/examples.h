@@ -11,7 +11,7 @@
 
 namespace CLI::XML {
 
-/// A page of `examples/`, and the sheet beside it, empty where there is none.
+/// A page of the core in `examples/`, and the sheet beside it, empty where there is none.
 struct Example {
     std::string name;
     std::string markup;
@@ -25,7 +25,7 @@ inline std::vector<Example> examples() {
         return std::string(std::istreambuf_iterator<char>(stream), {});
     };
     std::vector<Example> found;
-    std::filesystem::path const folder = GALLEY_SOURCE_DIR "/examples";
+    std::filesystem::path const folder = GALLEY_SOURCE_DIR "/examples/core";
     for (auto const& entry : std::filesystem::recursive_directory_iterator(folder)) {
         std::filesystem::path file = entry.path();
         if (file.extension() != ".xml") continue;
@@ -35,7 +35,7 @@ inline std::vector<Example> examples() {
     }
     std::sort(found.begin(), found.end(),
               [](Example const& a, Example const& b) { return a.name < b.name; });
-    EXPECT_GT(found.size(), 4);
+    EXPECT_GT(found.size(), 1);
     return found;
 }
 

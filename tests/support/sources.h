@@ -34,11 +34,11 @@ struct Source {
     std::string message() const { return isSheet ? sheetMessage(text) : documentMessage(text); }
 };
 
-/// Those in the examples.
+/// Those of the core in the examples.
 inline std::vector<Source> exampleSources() {
     std::vector<Source> sources;
     for (auto const& entry :
-         std::filesystem::recursive_directory_iterator(GALLEY_SOURCE_DIR "/examples")) {
+         std::filesystem::recursive_directory_iterator(GALLEY_SOURCE_DIR "/examples/core")) {
         bool const isSheet = entry.path().extension() == ".css";
         if (!isSheet && entry.path().extension() != ".xml") continue;
         std::ifstream file(entry.path(), std::ios::binary);
