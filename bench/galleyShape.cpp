@@ -11,6 +11,7 @@
 
 #include "bench/Conversion.h"
 #include "bench/allocations.h"
+#include "galley/galley.h"
 
 namespace {
 
@@ -47,6 +48,24 @@ std::size_t convert(Bench::Source const& source, unsigned width) {
     String out;
     Bench::check(CLI::XML::xmlToText(out, source.markup, source.styles, width));
     return sizeOf(out);
+}
+
+/// The page of the dialect web.
+std::size_t renderPage(Bench::Corpus const& corpus, galley::Sheet const& sheet, unsigned width) {
+    galley::Options options;
+    options.dialect = galley::Dialect::web;
+    options.width = width;
+    options.color = galley::Color::always;
+    auto const page = galley::render(corpus.markup, sheet, options);
+    if (!page) {
+        std::cerr << page.errors().front().message() << std::endl;
+        std::exit(1);
+    }
+    return page->size();
+}
+
+galley::Sheet parseWebSheet(Bench::Corpus const& corpus) {
+    return *galley::Sheet::parse(corpus.sheet, {}, galley::Dialect::web);
 }
 
 std::size_t countBoxes(CLI::XML::Box const& root) {
@@ -87,7 +106,8 @@ std::size_t parseSheet(String const& sheet) {
 }
 
 int usage() {
-    std::cerr << "usage: galley-shape convert|boxes|tree|dumps|sheet SHAPE SIZE [WIDTH]\n";
+    std::cerr
+        << "usage: galley-shape convert|boxes|tree|dumps|sheet|web|web-sheet SHAPE SIZE [WIDTH]\n";
     return 2;
 }
 
@@ -107,6 +127,11 @@ int main(int argc, char** argv) {
     if (operation == "sheet") {
         String const sheet = Bench::toString(corpus->sheet);
         cost = measure([&] { return parseSheet(sheet); });
+    } else if (operation == "web-sheet") {
+        cost = measure([&] { return parseWebSheet(*corpus), std::size_t{0}; });
+    } else if (operation == "web") {
+        galley::Sheet const sheet = parseWebSheet(*corpus);
+        cost = measure([&] { return renderPage(*corpus, sheet, width); });
     } else {
         Bench::Source const source(*corpus);
         if (operation == "convert") {
