@@ -49,25 +49,24 @@ class Browser:
                 fits = False
                 between = between or "capitalize" in source
         if between or any(picture.UNKNOWN in cells for cells in rows):
-            return Answer(["".join(uncovered(laid["clusters"]))], between=True, fits=fits)
+            letters = "".join(cluster for cluster, _, _ in laid["clusters"])
+            # Which ones are covered depends on how cells are rounded.
+            shown = "" if overlap(laid["clusters"]) else letters
+            return Answer([shown], between=True, fits=fits)
         rows = ["".join(cells).rstrip() for cells in rows]
         return Answer(rows, fits=fits, paint=picture.backgrounds(laid["picture"]))
 
 
-def uncovered(clusters):
-    """Those that stand on no other: of two that do, galley shows one."""
-    boxes = [(left, top, left + 8 * picture.cells_of(cluster)) for cluster, left, top in clusters]
-    order = sorted(range(len(boxes)), key=lambda one: boxes[one][1])
-    covered = set()
-    for place, one in enumerate(order):
-        left, top, right = boxes[one]
-        for other in order[place + 1:]:
-            other_left, other_top, other_right = boxes[other]
+def overlap(clusters):
+    """Whether letters stand on one another. Galley shows one of them then."""
+    boxes = sorted((top, left, left + 8 * picture.cells_of(cluster)) for cluster, left, top in clusters)
+    for place, (top, left, right) in enumerate(boxes):
+        for other_top, other_left, other_right in boxes[place + 1:]:
             if other_top >= top + 16:
                 break
             if other_left < right and left < other_right:
-                covered |= {one, other}
-    return [cluster for number, (cluster, _, _) in enumerate(clusters) if number not in covered]
+                return True
+    return False
 
 
 def put(rows, row, column, cluster):

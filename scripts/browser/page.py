@@ -15,7 +15,7 @@ class Page:
 class Answer:
     """`rows` are those of the page without blanks at their ends, borders as picture.BORDER.
     `paint` is the backgrounds of each row. `between`: Chromium lays at fractions of cells; the one
-    row is then all letters in their order. `fits`: no letter sticks out of the page."""
+    row is then all letters in their order, unless some stand on one another. `fits`: no letter sticks out of the page."""
     rows: list
     between: bool = False
     fits: bool = True

@@ -92,6 +92,7 @@ void Flow::add(Paragraph const& paragraph) {
     bool& hasContent = blocks.empty() ? hasOwnContent : blocks.back().hasContent;
     int indent = std::exchange(hasContent, true) ? 0 : across(style.textIndent, container);
     start();
+    if (!firstLine) firstLine = rowCount;
     for (Place at; !breaker.isAtEnd(at);) {
         TextLine const line = breaker.next(at, container, indent);
         int const spare = std::max(0, container - indent - line.width);
@@ -123,6 +124,8 @@ void Flow::add(std::unique_ptr<Table> table) {
 }
 
 void Flow::addTableRow(RowView const& tableRow, int left) {
+    bool const isBlank = tableRow.text.find_first_not_of(' ') == std::string_view::npos;
+    if (!firstLine && !isBlank) firstLine = rowCount;
     beginRow();
     row.fill(contentLeft() + left, blankOn(background()));
     row.add(tableRow);
@@ -139,6 +142,8 @@ void Flow::restart(int columns, Colour newGround, Wrapping wrapped) {
     ground = newGround;
     wrapping = wrapped;
     hasRows = hasOwnContent = false;
+    rowCount = 0;
+    firstLine.reset();
 }
 
 /// Makes the rows of the margin that waits. From now on rows are those of all open blocks.
@@ -210,6 +215,7 @@ void Flow::handOn() {
     budget.take(static_cast<std::size_t>(row.width()) + blocks.size() + 1);
     sink.take(row);
     hasRows = true;
+    ++rowCount;
 }
 
 /// Adds what is right of the content of the outermost blocks, so many.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "web/flow/BlockSink.h"
@@ -32,6 +33,8 @@ public:
     void addTableRow(RowView const& tableRow, int left);
     /// Begins another container, which hands its rows to the same sink. To be called behind
     /// `finish`.
+    /// The row that the first line is in, or the first row of a table that is not blank.
+    std::optional<int> baseline() const { return firstLine; }
     void restart(int columns, Colour newGround, Wrapping wrapped);
     /// To be called behind all content.
     void finish();
@@ -77,6 +80,8 @@ private:
     bool dropsMargins;
     Wrapping wrapping;
     bool hasRows = false;
+    int rowCount = 0;
+    std::optional<int> firstLine;
     bool hasOwnContent = false;
     /// Rows of margins that wait.
     int pending = 0;

@@ -71,19 +71,12 @@ void TableBand::layOutCell(TableCell& cell, int row, Wrapping wrapping) {
     cell.content.moveTo(flow, scratch);
     flow.finish();
     placed.endLine = content.size();
+    placed.baseline = flow.baseline().value_or(placed.contentHeight() - 1);
     placed.above =
         (frame.hasBorder(style.border.top) ? 1 : 0) + down(style.padding.top, places.width);
     placed.needed = placed.above + placed.contentHeight() +
                     down(style.padding.bottom, places.width) +
                     (frame.hasBorder(style.border.bottom) ? 1 : 0);
-}
-
-/// The row of the first text, which lies on the baseline of the cell, or the last one.
-int TableBand::firstTextRow(LaidCell const& cell) const {
-    for (int line = 0; line < cell.contentHeight(); ++line) {
-        if (rowOf(cell, line).text.find_first_not_of(' ') != std::string_view::npos) return line;
-    }
-    return cell.contentHeight() - 1;
 }
 
 /// Moves content down so that first texts are in one row.
@@ -94,12 +87,12 @@ void TableBand::alignBaselines(std::size_t firstOfRow) {
     };
     for (std::size_t i = firstOfRow; i < laid.size(); ++i) {
         if (!isAligned(laid[i])) continue;
-        lowest = std::max(lowest, laid[i].above + firstTextRow(laid[i]));
+        lowest = std::max(lowest, laid[i].above + laid[i].baseline);
     }
     for (std::size_t i = firstOfRow; i < laid.size(); ++i) {
         LaidCell& cell = laid[i];
         if (!isAligned(cell)) continue;
-        int const shift = lowest - cell.above - firstTextRow(cell);
+        int const shift = lowest - cell.above - cell.baseline;
         cell.above += shift;
         cell.needed += shift;
     }

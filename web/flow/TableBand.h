@@ -48,6 +48,8 @@ struct LaidCell {
     int above = 0;
     int needed = 0;
     ///@}
+    /// The row of the content that lies on the baseline.
+    int baseline = 0;
 
     int contentHeight() const { return static_cast<int>(endLine - firstLine); }
 };
@@ -82,7 +84,6 @@ private:
     std::size_t index(int row) const { return static_cast<std::size_t>(row - first); }
     int layOutRow(int row, Wrapping wrapping);
     void layOutCell(TableCell& cell, int row, Wrapping wrapping);
-    int firstTextRow(LaidCell const& cell) const;
     void alignBaselines(std::size_t firstOfRow);
     void placeRows();
     void placeContent(LaidCell& cell) const;

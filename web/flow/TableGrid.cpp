@@ -92,7 +92,7 @@ TableCell& TableGrid::addCell(Style const& style, int columnSpan, int rowSpan) {
     }
     background = onTop(allRows.back().style, onTop(allRows.back().group, background));
     return allCells.emplace_back(
-        TableCell{&style, backgroundOf(style, background), column, span, rows, span > 1, {}});
+        TableCell{&style, backgroundOf(style, background), column, span, rows, span, {}});
 }
 
 Colour TableGrid::background(TableRow const& row) const {

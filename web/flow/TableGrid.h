@@ -16,11 +16,12 @@ struct TableCell {
     int column;
     int columnSpan;
     int rowSpan;
-    /// Whether it spans more than one column of the document.
-    bool isWide;
+    /// Columns of the document.
+    int documentSpan;
     Content content;
 
     int endColumn() const { return column + columnSpan; }
+    bool isWide() const { return documentSpan > 1; }
     bool isVisible() const { return style->visibility == Visibility::visible; }
 };
 

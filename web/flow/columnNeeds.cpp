@@ -1,6 +1,7 @@
 #include "web/flow/columnNeeds.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace galley::web {
 
@@ -78,7 +79,7 @@ std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& 
     std::vector<TableCell const*> spanning;
     Paragraph scratch;
     for (TableCell const& cell : grid.cells()) {
-        if (cell.isWide) {
+        if (cell.isWide()) {
             spanning.push_back(&cell);
         } else {
             widen(needs[static_cast<std::size_t>(cell.column)],
@@ -86,7 +87,7 @@ std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& 
         }
     }
     std::stable_sort(spanning.begin(), spanning.end(), [](TableCell const* a, TableCell const* b) {
-        return a->columnSpan < b->columnSpan;
+        return std::pair(a->documentSpan, a->column) < std::pair(b->documentSpan, b->column);
     });
     for (TableCell const* const cell : spanning) {
         ColumnNeed need = needOf(*cell, frame, wrapping, scratch);
@@ -107,7 +108,7 @@ std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& fram
             TableCell const& cell = grid.cells()[i];
             int const edges = frame.columnEdges(cell);
             ColumnNeed need = needOf(cell.style->width, edges, frame.partsOfCell());
-            need.percentEdges = edges;
+            if (!cell.isWide()) need.percentEdges = edges;
             setFixed(columnsOf(needs, cell), need);
         }
     }
