@@ -104,6 +104,16 @@ TEST(PullParser, RefusesWhatDoesNotComeNext) {
     }
 }
 
+TEST(PullParser, ForgetsTheTagBeforeOneThatCannotBeRead) {
+    for (auto const operation : {&PullParser::readStartTag, &PullParser::readEndTag}) {
+        PullParser parser("<a x=\"1\">b");
+        EXPECT_EQ(readNext(parser), "<a x=[1]>");
+        EXPECT_FALSE((parser.*operation)());
+        EXPECT_EQ(shown(parser.name), "");
+        EXPECT_EQ(parser.attributes.count, 0U);
+    }
+}
+
 TEST(PullParser, FailsSilentlyInsideAnEmptyElement) {
     PullParser parser("<a x=\"1\"/><b>");
     EXPECT_EQ(readNext(parser), "<a x=[1]>");
