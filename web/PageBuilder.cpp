@@ -137,7 +137,7 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
     if (style.display == Display::listItem) {
         std::string text = markerText(style.marker, numberOf(element));
         if (style.markerPosition == MarkerPosition::inside) {
-            inside = text + " ";
+            inside = std::move(text);
         } else {
             int const columns = countCells(text, style.cells.isAmbiguousWide);
             marker = {std::move(text), columns};
@@ -146,7 +146,7 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
     BlockSink& sink = *frame().sink;
     sink.open(style, std::move(marker));
     push(sink, style, backgroundOf(style, frame().background));
-    if (inside.size() > 1) frame().paragraph.addGenerated(inside);
+    if (!inside.empty()) frame().paragraph.addGenerated(inside);
 }
 
 /// The number of a list item: its own, or the next one of the list around it.

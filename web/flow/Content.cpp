@@ -37,7 +37,7 @@ Content::~Content() = default;
 
 void Content::open(Style const& block, OutsideMarker marker) {
     bool const hasMarker = !marker.text.empty();
-    int const columns = columnsOf(marker);
+    int const columns = marker.columns;
     entries.emplace_back(
         Open{&block, hasMarker ? std::make_unique<OutsideMarker>(std::move(marker)) : nullptr});
     around().takeBlock();
@@ -73,7 +73,7 @@ Widths Content::partedWidths(Paragraph& scratch) const {
         if (auto const* const opened = std::get_if<Open>(&entry)) {
             blocks.back().takeBlock();
             bool const hasMarker = opened->marker != nullptr;
-            blocks.push_back({opened->style, {}, hasMarker ? columnsOf(*opened->marker) : 0});
+            blocks.push_back({opened->style, {}, hasMarker ? opened->marker->columns : 0});
         } else if (auto const* const paragraph = std::get_if<PackedParagraph>(&entry)) {
             paragraph->unpackTo(scratch);
             blocks.back().take(measure(scratch, Wrapping::anywhere));

@@ -64,9 +64,6 @@ private:
         void takeBlock() { take({marker, marker}); }
     };
 
-    static int columnsOf(OutsideMarker const& marker) {
-        return marker.text.empty() ? 0 : marker.columns + 1;
-    }
     Measured& around() { return openBlocks.empty() ? measured : openBlocks.back(); }
 
     std::vector<Entry> entries;

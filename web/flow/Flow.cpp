@@ -194,7 +194,7 @@ void Flow::addLeftEdges(std::size_t count, bool isContent) {
 /// Adds a marker to the left of its block, or where that begins further left than there is room,
 /// before it.
 void Flow::addMarker(Block& block) {
-    row.fill(block.left - 1 - block.marker.columns, blankOn(block.around));
+    row.fill(block.left - block.marker.columns, blankOn(block.around));
     Look look = lookOf(*block.style, block.around);
     look.isUnderlined = look.isStruckThrough = false;
     if (isVisible(*block.style)) {
@@ -202,7 +202,6 @@ void Flow::addMarker(Block& block) {
     } else {
         row.fill(row.width() + block.marker.columns, look);
     }
-    row.fill(row.width() + 1, blankOn(block.around));
     block.marker.text.clear();
 }
 

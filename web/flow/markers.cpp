@@ -87,11 +87,11 @@ std::string markerText(Marker const& marker, int number) {
         case MarkerKind::none:
             return {};
         case MarkerKind::disc:
-            return "•";
+            return "• ";
         case MarkerKind::circle:
-            return "◦";
+            return "◦ ";
         case MarkerKind::square:
-            return "▪";
+            return "▪ ";
         case MarkerKind::text:
             return marker.text;
         default:
@@ -99,7 +99,7 @@ std::string markerText(Marker const& marker, int number) {
     }
     std::string text = numeral(marker.kind, number);
     if (text.empty()) text = decimal(number);
-    return text + ".";
+    return text + ". ";
 }
 
 }  // namespace galley::web

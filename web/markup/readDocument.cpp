@@ -69,7 +69,11 @@ private:
         opened.element.isLast = number < isLast.size() && isLast[number];
         ElementType const* const type = findElementType(tag.name);
         if (type != nullptr && type->display == Display::none) opened.isHidden = true;
-        if (!opened.isHidden) show(opened, type);
+        if (opened.isHidden) {
+            warnAboutSheet(opened);
+        } else {
+            show(opened, type);
+        }
         if (tag.isClosed) close();
         return true;
     }
@@ -90,6 +94,15 @@ private:
         warn(
             problems, opened.offset,
             "unknown element " + quoted(name) + suggestion(name, vocabulary(), &ElementType::name));
+    }
+
+    void warnAboutSheet(OpenElement const& opened) {
+        if (opened.element.name != "link") return;
+        for (Attribute const& attribute : opened.attributes) {
+            if (attribute.name != "rel" || attribute.value != "stylesheet") continue;
+            warn(problems, opened.offset,
+                 "a linked sheet is not read; pass it beside the document");
+        }
     }
 
     void decodeAttributes(OpenElement& opened) {
