@@ -211,7 +211,8 @@ void TablePainter::paintPiece(Row& piece, LaidCell const& cell, int left, int y)
     bool const hasRight = frame.hasBorder(border.right);
     if (!isShown || (!hasRight && !isDrawn(background))) return;
     piece.fill(right - (hasRight ? 1 : 0), blankOn(background));
-    if (hasRight) addVertical(piece, border.right, background);
+    // In a cell of one column both borders are one.
+    if (hasRight && piece.width() < right) addVertical(piece, border.right, background);
 }
 
 /// Adds a row of a cell's content, if there is such a one, where nothing sticks out.

@@ -80,7 +80,28 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         {"ab<wbr/>cd", 3, "|ab|cd"},
         {"aaa <b style='padding-right: 2ch'>bbb</b>", 8, "|aaa|bbb"},
         {"aaa <b style='padding-right: 1ch'>bbb</b>c", 8, "|aaa|bbb c"},
+        // What is left of a parted word may begin with a soft hyphen.
+        {"a&#173;bc", 1, "|a|-|b|c"},
+        {"ab&#173;<b style='padding-right: 1ch'>c</b>", 3, "|ab-|c"},
+        // Empty elements trail, and edges go on with the letter before them.
+        {"ab <b style='padding-left: 1ch'></b>cd", 3, "|ab|cd"},
+        {"<i><b style='padding-right: 1ch'>abc</b></i>", 3, "|ab|c"},
+        {"<b style='padding-right: 1ch'>ab<br/></b>c", 9, "|ab|c"},
+        {"<span style='white-space: nowrap'>ab-</span>cd", 3, "|ab-|cd"},
+        {"ab<b/> <br/>", 2, "|ab"},
     });
+}
+
+TEST(Pages, LetWhiteSpaceThatCountsHang) {
+    constexpr char const* preWrap = "<pre style='white-space: pre-wrap; text-align: right'>";
+    std::string const markup(preWrap);
+    for (auto const& [text, page] :
+         std::vector<std::pair<char const*, char const*>>{{"abc   de</pre>", "|  abc|   de"},
+                                                          {"ab \nc</pre>", "|  ab|    c"},
+                                                          {"abc   \nd</pre>", "|abc|    d"},
+                                                          {"\tx</pre>", "||    x"}}) {
+        EXPECT_EQ(textOf(markup + text, 5, "|", ""), page) << text;
+    }
 }
 
 TEST(Pages, AlignAndIndentText) {
@@ -88,6 +109,10 @@ TEST(Pages, AlignAndIndentText) {
         {"<p style='text-align: right'>ab c</p>", 6, "|  ab c"},
         {"<p style='text-align: center'>ab c</p>", 7, "| ab c"},
         {"<p style='text-align: justify'>a b c dddd</p>", 8, "|a   b  c|dddd"},
+        {"<p style='text-align: justify'>日本 dddddd</p>", 8, "|日    本|dddddd"},
+        {"<p style='text-align: justify'>a&#160;b c dddd</p>", 8, "|a   b  c|dddd"},
+        {"<p style='text-align: justify; white-space: pre-wrap'>a\tb dddd</p>", 12,
+         "|a          b|dddd"},
         {"<p style='text-indent: 2ch'>aa bb</p>", 5, "|  aa|bb"},
         {"<div style='text-indent: 2ch'><p>a</p>b</div>", 5, "|  a||b"},
     });
@@ -132,6 +157,42 @@ TEST(Pages, HideWhatIsNotVisibleAndKeepItsRoom) {
     expectPages({{"a<b style='visibility: hidden'>bc</b>d", 9, "|a  d"},
                  {"a<hr style='visibility: hidden'/>b", 3, "|a||b"},
                  {"a<b style='display: none'>b</b>c", 9, "|ac"}});
+}
+
+TEST(Pages, LayTablesOutAsChromiumDoes) {
+    expectPages({
+        // Half of each border counts with the column beside it.
+        {"<table style='border-collapse: collapse'><tr><td style='border: solid; width: 25%'/></tr>"
+         "</table>",
+         99, "|┌───────────┐|└───────────┘"},
+        {"<table style='table-layout: fixed; width: 8ch; border-collapse: collapse; border: solid'>"
+         "<tr><td>vw</td><td/></tr></table>",
+         99, "|┌──────┐|│ v    │|│ w    │|└──────┘"},
+        {"<table style='border-collapse: collapse'><tr><td style='border: "
+         "solid'/></tr><tr/></table>",
+         9, "|┌──┐|└──┘"},
+        {"<table style='table-layout: fixed; width: 8ch'><tr><td>mxy</td></tr>"
+         "<tr><td colspan='2'/></tr></table>",
+         99, "| mx| y"},
+        // A marker beside a block is as wide as one.
+        {"<table><tr><td style='border: solid'><ol style='padding-left: 4ch; margin: 0'>"
+         "<li><p style='margin: 0'/></li></ol></td></tr></table>",
+         99, "|┌─────────┐|│  1.     │|└─────────┘"},
+        // First lines stand on one baseline, with text or not.
+        {"<div style='display: table'><span style='display: table-cell'>a</span>"
+         "<span style='display: table-cell'><br/>b</span></div>",
+         9, "|a| b"},
+        {"<table style='table-layout: fixed; width: 3ch; border-spacing: 1ch 0'>"
+         "<tr><td style='border: solid'/></tr></table>",
+         9, "| ┌| └"},
+    });
+}
+
+TEST(Pages, ShowBordersThroughWhatSticksOut) {
+    expectPages({{"<div style='border: solid; width: 3ch; white-space: nowrap'>ab de f</div>", 20,
+                  "|┌───┐|│ab de f|└───┘"},
+                 {"<div style='border: solid; width: 3ch; white-space: nowrap'>abc de</div>", 20,
+                  "|┌───┐|│abc│de|└───┘"}});
 }
 
 TEST(Pages, MayBeOfferedAnyWidth) {

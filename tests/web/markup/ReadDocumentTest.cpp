@@ -158,7 +158,7 @@ TEST(ReadDocument, WarnsOfWhatItDoesNotKnow) {
              {"<!-- \xFF --><script>\xFF</script><style>\xFF\n</style>\xFF",
               "35 warning: " + utf8 + "45 warning: " + utf8},
              {"<head><title/><link href='a'/><link rel='stylesheet' href='a'/></head>",
-              "31 warning: a linked sheet is not read; pass it beside the document\n"},
+              "30 warning: a linked sheet is not read; pass it beside the document\n"},
              {"<style>&x;</style>", "7 warning: unknown reference '&x;'\n"},
          }) {
         Reading const reading(c.markup);
