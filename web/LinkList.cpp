@@ -9,7 +9,7 @@ namespace galley::web {
 namespace {
 
 std::string markerOf(std::size_t number) {
-    return std::string("[").append(std::to_string(number)).append("]");
+    return std::string("[").append(std::to_string(number)).append("] ");
 }
 
 }  // namespace
@@ -26,8 +26,8 @@ void LinkList::moveTo(BlockSink& sink, Style const& around, Colour background) {
         std::string marker = markerOf(written + 1);
         Style& style = styles.emplace_back(computeStyle(around, {}));
         style.overflowWrap = OverflowWrap::anywhere;
-        // A blank stands behind the longest marker.
-        style.margin.left.value = static_cast<int>(markerOf(addresses.size()).size()) + 1;
+        // The longest marker stands at the edge of the page.
+        style.margin.left.value = static_cast<int>(markerOf(addresses.size()).size());
         style.margin.top.value = written == first ? 1 : 0;
         int const columns = static_cast<int>(marker.size());
         sink.open(style, {std::move(marker), columns});
