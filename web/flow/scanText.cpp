@@ -44,7 +44,9 @@ private:
         }
         std::string_view const text = paragraph.textOf(item).substr(at.offset);
         if (item.kind == Kind::ideographs) return takeIdeographs(text);
-        if (parting == Parting::anywhere) return takeCluster(text);
+        if (parting == Parting::anywhere) {
+            return item.isPlain ? takeLetters(text) : takeCluster(text);
+        }
         return item.kind == Kind::words ? takeWords(text) : takeWord(item);
     }
 
@@ -95,6 +97,18 @@ private:
         used += width;
         at = behind;
         return offer(cluster.first == s_softHyphen);
+    }
+
+    /// Those that there is room for, of text in which each byte is a cluster of one cell.
+    bool takeLetters(std::string_view text) {
+        if (text.front() == ' ') return takeBlanks(paragraph.behind(at, 1), 1);
+        auto const fit = static_cast<std::size_t>(overflows ? 1 : std::max(0, room - used));
+        std::string_view const fitting = text.substr(0, fit);
+        std::size_t const taken = std::min(fitting.find(' '), fitting.size());
+        if (taken == 0) return overflow();
+        used += static_cast<int>(taken);
+        at = paragraph.behind(at, taken);
+        return offer(false);
     }
 
     /// White space before which a line may end, or behind it if the part would be empty.
