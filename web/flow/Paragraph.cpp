@@ -252,7 +252,7 @@ void Paragraph::addIdeographs(std::string_view ideographs) {
     if (ideographs.empty()) return;
     isBehindBlank = false;
     Item& added = add(Item::Kind::ideographs);
-    added.isPlain = added.isPrintedAsIs = false;
+    added.isPlain = false;
     contentEnd = all.size();
     text += ideographs;
     added.end = static_cast<std::uint32_t>(text.size());
