@@ -71,6 +71,7 @@ struct Place {
     std::uint32_t item = 0;
     std::uint32_t offset = 0;
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): there is none
     auto operator<=>(Place const&) const = default;
 };
 

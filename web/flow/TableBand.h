@@ -26,9 +26,9 @@ ColumnPlaces placeColumns(TableFrame const& frame, int width, std::vector<int> c
 
 /// A cell that has been laid out. Rows of text are counted from the top of its band.
 struct LaidCell {
-    TableCell* cell;
-    int firstRow;
-    int endRow;
+    TableCell* cell = nullptr;
+    int firstRow = 0;
+    int endRow = 0;
     /// Rows of the band's content.
     ///@{
     std::size_t firstLine = 0;
