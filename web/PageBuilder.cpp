@@ -139,8 +139,8 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
         if (style.markerPosition == MarkerPosition::inside) {
             inside = std::move(text);
         } else {
-            int const columns = countCells(text, style.cells.isAmbiguousWide);
-            marker = {std::move(text), columns};
+            appendPrinted(marker.text, text);
+            marker.columns = countCells(text, style.cells.isAmbiguousWide);
         }
     }
     BlockSink& sink = *frame().sink;
@@ -192,7 +192,7 @@ void PageBuilder::endRole(Role role) {
     switch (role) {
         case Role::quote:
             // As in Chromium, it ends no word.
-            frame().paragraph.addGenerated(--quoteDepth % 2 == 0 ? "”" : "’");
+            frame().paragraph.addGenerated(--quoteDepth == 0 ? "”" : "’");
             frame().paragraph.close();
             break;
         case Role::inlined:

@@ -18,11 +18,27 @@ std::string_view attribute(Element const& element, std::string_view name) {
     return {};
 }
 
+/// As the URL Standard reads it, 4.4: blanks and controls around it count nothing, and neither do
+/// tabs and the ends of lines in it.
+std::string addressOf(Element const& element) {
+    std::string_view address = attribute(element, "href");
+    auto const isAround = [](char c) { return static_cast<unsigned char>(c) <= ' '; };
+    while (!address.empty() && isAround(address.front())) address.remove_prefix(1);
+    while (!address.empty() && isAround(address.back())) address.remove_suffix(1);
+    std::string result(address);
+    std::erase_if(result, [](char c) { return c == '\t' || c == '\n' || c == '\r'; });
+    return result;
+}
+
 /// Where a terminal may be sent.
 bool mayFollow(std::string_view address) {
     constexpr std::string_view s_schemes[] = {"http:", "https:", "mailto:", "file:"};
-    return std::any_of(std::begin(s_schemes), std::end(s_schemes),
-                       [&](std::string_view scheme) { return address.starts_with(scheme); });
+    auto const lower = [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
+    };
+    std::string scheme(address.substr(0, address.find(':') + 1));
+    std::transform(scheme.begin(), scheme.end(), scheme.begin(), lower);
+    return std::find(std::begin(s_schemes), std::end(s_schemes), scheme) != std::end(s_schemes);
 }
 
 }  // namespace
@@ -38,11 +54,13 @@ PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& s
         paragraph.addBreakable();
         return Role::point;
     }
-    std::string_view const address = attribute(element, "href");
-    if (element.name == "a" && mayFollow(address)) return openLink(address, style);
+    if (element.name == "a") {
+        std::string const address = addressOf(element);
+        if (mayFollow(address)) return openLink(address, style);
+    }
     paragraph.open(style, nullptr);
     if (element.name != "q") return Role::inlined;
-    paragraph.addText(quoteDepth++ % 2 == 0 ? "“" : "‘");
+    paragraph.addText(quoteDepth++ == 0 ? "“" : "‘");
     return Role::quote;
 }
 

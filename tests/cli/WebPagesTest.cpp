@@ -82,6 +82,7 @@ TEST_F(Links, ThatAreListedAreNumberedBeforeThePageIsLaidOut) {
         {"<p><a href='http://a/'>a</a> <a href='#x'>x</a> <a href='mailto:b@c'>b</a> "
          "<a href='http://a/'>a</a></p>",
          "a [1] x b [2] a [1]\n\n[1] http://a/\n[2] mailto:b@c\n"},
+        {"<p><a href=' HTTP://a/&#10;b '>a</a></p>", "a [1]\n\n[1] HTTP://a/b\n"},
         // A number stays with its word.
         {"<p>aaaa bbbb cccc <a href='http://a/'>dddd</a> e</p>",
          "aaaa bbbb cccc\ndddd [1] e\n\n[1] http://a/\n"},

@@ -2,17 +2,17 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <string_view>
 
 namespace galley::web {
 
 namespace {
 
+/// With zeros before it up to so many characters, of which a minus sign is one.
 std::string decimal(int number, std::size_t digits = 1) {
-    std::string text = std::to_string(std::llabs(number));
+    std::string text = std::to_string(number);
     if (text.size() < digits) text.insert(0, digits - text.size(), '0');
-    return (number < 0 ? "-" : "") + text;
+    return text;
 }
 
 /// Counts as columns of a sheet are counted: a to z, aa, ab. Without a form for 0 and below.

@@ -135,6 +135,12 @@ TEST(Pages, NumberListsAndPutMarkersBeside) {
         {"<ol><li value='7'>a</li><li>b</li></ol>", 9, "| 7. a| 8. b"},
         {"<ul><li><p>a</p></li><li><ul><li>b</li></ul></li></ul>", 40, "|  • a||  •   ◦ b"},
         {"<ol style='list-style: inside upper-roman'><li>a</li></ol>", 40, "|    I. a"},
+        // A string is all of the marker, but for what is never printed.
+        {"<ul style='list-style-type: \"–\\202e\"'><li>a</li></ul>", 40, "|   –a"},
+        {"<ol style='list-style-type: decimal-leading-zero'><li value='-5'>a</li><li "
+         "value='5'>b</li></ol>",
+         40, "|-5. a|05. b"},
+        {"<q>a <q>b <q>c</q></q></q>", 40, "|“a ‘b ‘c’’”"},
         {"<ol style='padding: 0'><li>a b</li></ol>", 9, "|1. a b"},
         {"<div style='background: red'><ol><li>a</li></ol></div>", 9, "| 1. a"},
     });
@@ -224,11 +230,17 @@ TEST(Pages, OfAnyBytesAreWellFormed) {
 }
 
 TEST(Pages, AreRefusedWhereTheyWouldBeTooLarge) {
-    for (char const* const markup :
-         {"<div style='padding-top: 900000lh; padding-left: 99ch; background: red'>a</div>",
-          "<div style='border: solid; width: 2000000ch'>a</div>",
-          "<table style='width: 90ch; border: solid'><tr><td style='padding-top: 900000lh'/></tr>"
-          "</table>"}) {
+    std::string frames;
+    for (int i = 0; i < 500; ++i) frames += "<div style='border: solid'>";
+    frames += "a";
+    for (int i = 0; i < 500; ++i) frames += "</div>";
+    for (std::string const& markup :
+         {frames,
+          std::string(
+              "<div style='padding-top: 900000lh; padding-left: 99ch; background: red'>a</div>"),
+          std::string("<div style='border: solid; width: 2000000ch'>a</div>"),
+          std::string("<table style='width: 90ch; border: solid'><tr><td style='padding-top: "
+                      "900000lh'/></tr></table>")}) {
         TextOfRows rows("", "");
         std::vector<Problem> problems;
         EXPECT_FALSE(renderPage(markup, {}, Media(), rows, problems)) << markup;
