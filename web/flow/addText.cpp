@@ -1,0 +1,189 @@
+// How text becomes items of a paragraph.
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "web/flow/Paragraph.h"
+#include "web/flow/transformText.h"
+#include "web/text/utf8.h"
+
+namespace galley::web {
+
+namespace {
+
+TextOptions optionsFor(Style const& style) {
+    TextOptions options;
+    options.isAmbiguousWide = style.cells.isAmbiguousWide;
+    switch (style.whiteSpace) {
+        case WhiteSpace::normal:
+        case WhiteSpace::nowrap:
+            options.whiteSpace = TextOptions::WhiteSpace::collapsed;
+            break;
+        case WhiteSpace::preLine:
+            options.whiteSpace = TextOptions::WhiteSpace::lines;
+            break;
+        case WhiteSpace::pre:
+        case WhiteSpace::preWrap:
+            options.whiteSpace = TextOptions::WhiteSpace::preserved;
+            break;
+    }
+    switch (style.wordBreak) {
+        case WordBreak::normal:
+            options.wordBreak = TextOptions::WordBreak::normal;
+            break;
+        case WordBreak::keepAll:
+            options.wordBreak = TextOptions::WordBreak::keepAll;
+            break;
+        case WordBreak::breakAll:
+            options.wordBreak = TextOptions::WordBreak::breakAll;
+            break;
+    }
+    return options;
+}
+
+}  // namespace
+
+void Paragraph::addText(std::string_view decoded) {
+    if (decoded.empty()) return;
+    char32_t const before = lastCharacter;
+    lastCharacter = decodeAt(decoded, startBefore(decoded, decoded.size())).value;
+    if (style().textTransform != TextTransform::none) {
+        std::string transformed;
+        transformText(transformed, decoded, style().textTransform, before);
+        addGenerated(transformed);
+    } else {
+        addGenerated(decoded);
+    }
+}
+
+void Paragraph::addGenerated(std::string_view decoded) {
+    joinTo(decoded);
+    TextOptions const options = optionsFor(style());
+    bool const isWrapped = style().whiteSpace == WhiteSpace::normal;
+    SegmentReader reader(decoded, options);
+    Segment segment;
+    for (;;) {
+        if (isWrapped) {
+            std::string_view const words = reader.takeWords();
+            if (!words.empty()) addWords(words);
+        }
+        if (style().whiteSpace == WhiteSpace::pre) {
+            addUnbroken(reader.takeUnbroken());
+        } else if (style().whiteSpace != WhiteSpace::nowrap) {
+            addIdeographs(reader.takeIdeographs());
+        }
+        if (!reader.next(segment)) return;
+        bool const isWord = isWrapped && segment.isPlain && segment.end > segment.begin &&
+                            segment.behind == Segment::Behind::space;
+        // A soft hyphen is there, since a word may be parted before it.
+        bool const isHyphen = segment.behind == Segment::Behind::softHyphen;
+        std::size_t const end = isHyphen ? segment.next : segment.end;
+        std::string_view const bytes = decoded.substr(segment.begin, end - segment.begin);
+        if (isWord) {
+            addWords(bytes);
+            text += ' ';
+            ++all.back().end;
+        } else {
+            if (!bytes.empty()) addWord(bytes, segment);
+            addBehind(segment);
+        }
+    }
+}
+
+/// Lets a line break between the last word and a text, if it may where both are one text.
+void Paragraph::joinTo(std::string_view decoded) {
+    constexpr std::size_t s_context = 16;
+    auto last = all.rbegin();
+    while (last != all.rend() &&
+           (last->kind == Item::Kind::open || last->kind == Item::Kind::close)) {
+        ++last;
+    }
+    if (last == all.rend() || last->kind != Item::Kind::word || last->mayBreakBehind) return;
+    std::string_view const word = textOf(*last);
+    std::size_t from = word.size() - std::min(word.size(), s_context);
+    while (from < word.size() && (static_cast<unsigned char>(word[from]) & 0xC0U) == 0x80U) ++from;
+    std::string joint(word.substr(from));
+    joint += decoded.substr(0, s_context);
+    std::size_t const place = word.size() - from;
+    SegmentReader reader(joint, optionsFor(style()));
+    Segment segment;
+    while (reader.next(segment) && segment.next <= place) {
+        bool const isOpportunity = segment.behind == Segment::Behind::opportunity;
+        if (segment.next == place && isOpportunity) last->mayBreakBehind = true;
+    }
+}
+
+/// Adds words with a blank behind each, or one whose blank is added next.
+void Paragraph::addWords(std::string_view words) {
+    isBehindBlank = true;
+    bool const goesOn =
+        !all.empty() && all.back().kind == Item::Kind::words && all.back().element == current;
+    if (!goesOn) add(Item::Kind::words);
+    contentEnd = all.size();
+    text += words;
+    all.back().end = static_cast<std::uint32_t>(text.size());
+}
+
+void Paragraph::addIdeographs(std::string_view ideographs) {
+    if (ideographs.empty()) return;
+    isBehindBlank = false;
+    Item& added = add(Item::Kind::ideographs);
+    added.isPlain = false;
+    contentEnd = all.size();
+    text += ideographs;
+    added.end = static_cast<std::uint32_t>(text.size());
+}
+
+/// Adds blanks that count and words as one word.
+void Paragraph::addUnbroken(std::string_view bytes) {
+    if (bytes.empty()) return;
+    addWord(bytes, {.width = bytes.size()});
+}
+
+void Paragraph::addWord(std::string_view bytes, Segment const& segment) {
+    isBehindBlank = false;
+    Item& word = add(Item::Kind::word);
+    contentEnd = all.size();
+    text += bytes;
+    word.end = static_cast<std::uint32_t>(text.size());
+    word.width = static_cast<std::uint32_t>(segment.width);
+    word.isPlain = segment.isPlain;
+    word.isPrintedAsIs = segment.isPrintedAsIs;
+    word.hyphenates = segment.behind == Segment::Behind::softHyphen;
+    word.mayBreakBehind = word.hyphenates || segment.behind == Segment::Behind::opportunity;
+}
+
+void Paragraph::addBehind(Segment const& segment) {
+    bool const isPreserved =
+        style().whiteSpace == WhiteSpace::pre || style().whiteSpace == WhiteSpace::preWrap;
+    switch (segment.behind) {
+        case Segment::Behind::space:
+            if (isPreserved) {
+                Item& blanks = add(Item::Kind::blanks);
+                blanks.width = static_cast<std::uint32_t>(segment.next - segment.end);
+                contentEnd = all.size();
+                isBehindBlank = false;
+            } else {
+                addBlank();
+            }
+            break;
+        case Segment::Behind::tab:
+            add(Item::Kind::tab);
+            contentEnd = all.size();
+            isBehindBlank = false;
+            break;
+        case Segment::Behind::lineFeed:
+            addLineFeed();
+            break;
+        case Segment::Behind::opportunity:
+        case Segment::Behind::softHyphen:
+            // Without a word before it, as at the beginning of a text.
+            if (segment.begin == segment.end) add(Item::Kind::breakable);
+            break;
+        case Segment::Behind::end:
+            break;
+    }
+}
+
+}  // namespace galley::web
