@@ -31,10 +31,10 @@ public:
     void add(std::unique_ptr<Table> table) override;
     /// Adds a row of a table that stands so many columns right of the innermost block's left edge.
     void addTableRow(RowView const& tableRow, int left);
-    /// Begins another container, which hands its rows to the same sink. To be called behind
-    /// `finish`.
     /// The row that the first line is in, or the first row of a table that is not blank.
     std::optional<int> baseline() const { return firstLine; }
+    /// Begins another container, which hands its rows to the same sink. To be called behind
+    /// `finish`.
     void restart(int columns, Colour newGround, Wrapping wrapped);
     /// To be called behind all content.
     void finish();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "web/flow/lengths.h"
+#include "web/flow/plainLine.h"
 
 namespace galley::web {
 
@@ -15,6 +16,9 @@ bool LineBreaker::mayPart(Style const& style) const {
 }
 
 TextLine LineBreaker::next(Place from, int columns, int indentation) {
+    if (paragraph.isPlain()) {
+        return plainLine(paragraph, from, columns - indentation, mayPart(paragraph.block()));
+    }
     line = TextLine();
     line.begin = from;
     indent = indentation;

@@ -38,6 +38,7 @@ void Paragraph::begin(Style const& block, Colour background) {
     isBehindBlank = true;
     lastCharacter = ' ';
     contentEnd = 0;
+    isAllPlain = false;
 }
 
 Item& Paragraph::add(Item::Kind kind) {
@@ -87,9 +88,26 @@ void Paragraph::partInto(Paragraph& done) {
 
 void Paragraph::finish() {
     dropBlank();
+    isAllPlain = findPlain();
     // Elements that end or are empty there stand in the last line, too.
     if (contentEnd == 0 || all[contentEnd - 1].kind == Item::Kind::lineFeed) return;
     while (contentEnd < all.size() && isTag(all[contentEnd])) ++contentEnd;
+}
+
+bool Paragraph::findPlain() const {
+    if (contentEnd == 0 || contentEnd != all.size()) return false;
+    if (elements.size() > 1 || block().whiteSpace != WhiteSpace::normal) return false;
+    return std::all_of(all.begin(), all.end(), [](Item const& item) {
+        bool const isText = item.kind == Item::Kind::words || item.kind == Item::Kind::word;
+        return isText && item.isPlain && !item.mayBreakBehind;
+    });
+}
+
+Place Paragraph::behindPlain(Place from, std::size_t bytes) const {
+    std::size_t const end = all[from.item].begin + from.offset + bytes;
+    while (from.item < all.size() && all[from.item].end <= end) ++from.item;
+    if (from.item == all.size()) return {from.item, 0};
+    return {from.item, static_cast<std::uint32_t>(end - all[from.item].begin)};
 }
 
 /// White space at the end of a line is none, whatever elements end behind it.

@@ -118,6 +118,19 @@ public:
     /// Whether an inline element is.
     bool hasOpen() const { return current > 0; }
 
+    /// Whether it is of nothing but printable ASCII with single blanks between words, where alone a
+    /// line may break: no element, no white space that counts. Known once it is finished.
+    bool isPlain() const { return isAllPlain; }
+    /// Of a plain paragraph what stands from a place on, a cell a byte; and the place that is so
+    /// many bytes behind it.
+    ///@{
+    std::string_view plainText(Place from) const {
+        std::size_t const begin = all[from.item].begin + from.offset;
+        return std::string_view(text).substr(begin, all.back().end - begin);
+    }
+    Place behindPlain(Place from, std::size_t bytes) const;
+    ///@}
+
 private:
     friend class PackedParagraph;
 
@@ -129,6 +142,7 @@ private:
     void addBehind(Segment const& segment);
     void addBlank();
     void dropBlank();
+    bool findPlain() const;
     Item& add(Item::Kind kind);
     Style const& style() const { return *elements[current].style; }
 
@@ -141,6 +155,7 @@ private:
     /// a line.
     bool isBehindBlank = true;
     std::size_t contentEnd = 0;
+    bool isAllPlain = false;
     /// Of the text that was added last, a blank if there is none.
     char32_t lastCharacter = ' ';
 };
