@@ -267,8 +267,12 @@ void PageBuilder::endParagraph() {
         return;
     }
     current.paragraph.finish();
-    if (!current.paragraph.isEmpty()) current.sink->add(current.paragraph);
-    current.paragraph.begin(*current.style, current.background);
+    if (auto const plain = current.paragraph.plainText()) {
+        current.sink->add(*plain);
+    } else if (!current.paragraph.isEmpty()) {
+        current.sink->add(current.paragraph);
+    }
+    current.paragraph.clear();
 }
 
 /// Where nothing of the document waits any more but what is open, drops the rest.

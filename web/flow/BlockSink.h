@@ -24,7 +24,8 @@ public:
 
     virtual void open(Style const& block, OutsideMarker marker) = 0;
     virtual void close() = 0;
-    /// One that makes lines.
+    virtual void add(PlainText const& text) = 0;
+    /// Another one that makes lines.
     virtual void add(Paragraph const& paragraph) = 0;
     virtual void add(std::unique_ptr<Table> table) = 0;
 };

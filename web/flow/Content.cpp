@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <string_view>
 #include <utility>
 
 #include "web/flow/LineBreaker.h"
@@ -23,10 +24,21 @@ bool isOfSingleCells(Paragraph const& paragraph) {
     });
 }
 
-/// Whether there is nothing but a word that its style does not let be parted to make room.
-bool isOneWord(Paragraph const& paragraph) {
-    bool const mayPart = paragraph.block().overflowWrap == OverflowWrap::anywhere;
-    return paragraph.end() == 1 && paragraph.items().front().kind == Item::Kind::word && !mayPart;
+void widen(Widths& widths, Widths const& child) {
+    widths.least = std::max(widths.least, child.least);
+    widths.most = std::max(widths.most, child.most);
+}
+
+/// In the widest line of a text where lines are so long.
+int widestLine(PlainText const& text, int cells, bool partsWords) {
+    int indent = across(text.block->textIndent, 0);
+    int widest = 0;
+    for (std::string_view rest = text.text; !rest.empty(); indent = 0) {
+        PlainLine const line = plainLine(rest, cells - indent, partsWords);
+        widest = std::max(widest, indent + static_cast<int>(line.length));
+        rest.remove_prefix(line.next);
+    }
+    return widest;
 }
 
 }  // namespace
@@ -35,67 +47,98 @@ Content::Content() = default;
 Content::Content(Content&& other) noexcept = default;
 Content::~Content() = default;
 
+Content::Parts& Content::parts() {
+    if (others == nullptr) others = std::make_unique<Parts>();
+    return *others;
+}
+
 void Content::open(Style const& block, OutsideMarker marker) {
     bool const hasMarker = !marker.text.empty();
     int const columns = marker.columns;
-    entries.emplace_back(
+    takeBlock();
+    parts().entries.emplace_back(
         Open{&block, hasMarker ? std::make_unique<OutsideMarker>(std::move(marker)) : nullptr});
-    around().takeBlock();
-    openBlocks.push_back({&block, {}, columns});
+    parts().openBlocks.push_back({&block, {}, columns});
 }
 
 void Content::close() {
-    entries.emplace_back(Close{});
-    Measured const block = openBlocks.back();
-    openBlocks.pop_back();
-    around().take(withEdges(block.content, *block.style));
+    parts().entries.emplace_back(Close{});
+    Measured const block = parts().openBlocks.back();
+    parts().openBlocks.pop_back();
+    take(withEdges(block.content, *block.style));
+}
+
+void Content::add(PlainText const& text) {
+    take(measure(text, Wrapping::asStyled));
+    KeptText kept = {text.block, text.background, std::string(text.text)};
+    if (others == nullptr && first.block == nullptr) {
+        first = std::move(kept);
+    } else {
+        parts().entries.emplace_back(std::move(kept));
+    }
 }
 
 void Content::add(Paragraph const& paragraph) {
-    around().take(measure(paragraph, Wrapping::asStyled));
-    entries.emplace_back(PackedParagraph(paragraph));
+    take(measure(paragraph, Wrapping::asStyled));
+    parts().entries.emplace_back(PackedParagraph(paragraph));
 }
 
 void Content::add(std::unique_ptr<Table> table) {
-    around().takeBlock();
-    around().take(table->outerWidths(Wrapping::asStyled));
-    entries.emplace_back(std::move(table));
+    takeBlock();
+    take(table->outerWidths(Wrapping::asStyled));
+    parts().entries.emplace_back(std::move(table));
 }
 
-void Content::Measured::take(Widths const& child) {
-    content.least = std::max(content.least, child.least);
-    content.most = std::max(content.most, child.most);
+void Content::take(Widths const& child) {
+    bool const isInBlock = others != nullptr && !others->openBlocks.empty();
+    widen(isInBlock ? others->openBlocks.back().content : measured, child);
 }
+
+void Content::takeBlock() {
+    if (others != nullptr && !others->openBlocks.empty()) others->openBlocks.back().takeBlock();
+}
+
+void Content::Measured::takeBlock() { widen(content, {marker, marker}); }
 
 Widths Content::partedWidths(Paragraph& scratch) const {
     std::vector<Measured> blocks(1);
-    for (auto const& entry : entries) {
+    auto const take = [&blocks](Widths const& child) { widen(blocks.back().content, child); };
+    if (first.block != nullptr) take(measure(first.view(), Wrapping::anywhere));
+    if (others == nullptr) return blocks.front().content;
+    for (auto const& entry : others->entries) {
         if (auto const* const opened = std::get_if<Open>(&entry)) {
             blocks.back().takeBlock();
             bool const hasMarker = opened->marker != nullptr;
             blocks.push_back({opened->style, {}, hasMarker ? opened->marker->columns : 0});
+        } else if (auto const* const text = std::get_if<KeptText>(&entry)) {
+            take(measure(text->view(), Wrapping::anywhere));
         } else if (auto const* const paragraph = std::get_if<PackedParagraph>(&entry)) {
             paragraph->unpackTo(scratch);
-            blocks.back().take(measure(scratch, Wrapping::anywhere));
+            take(measure(scratch, Wrapping::anywhere));
         } else if (auto const* const table = std::get_if<std::unique_ptr<Table>>(&entry)) {
             blocks.back().takeBlock();
-            blocks.back().take((*table)->outerWidths(Wrapping::anywhere));
+            take((*table)->outerWidths(Wrapping::anywhere));
         } else {
             Measured const block = blocks.back();
             blocks.pop_back();
-            blocks.back().take(withEdges(block.content, *block.style));
+            take(withEdges(block.content, *block.style));
         }
     }
     return blocks.front().content;
 }
 
 void Content::moveTo(BlockSink& sink, Paragraph& scratch) {
-    for (auto& entry : entries) {
+    if (first.block != nullptr) sink.add(first.view());
+    first = {};
+    if (others == nullptr) return;
+    for (auto& entry : others->entries) {
         if (auto* const opened = std::get_if<Open>(&entry)) {
             sink.open(*opened->style,
                       opened->marker != nullptr ? std::move(*opened->marker) : OutsideMarker());
         } else if (std::holds_alternative<Close>(entry)) {
             sink.close();
+        } else if (auto const* const text = std::get_if<KeptText>(&entry)) {
+            sink.add(text->view());
         } else if (auto const* const paragraph = std::get_if<PackedParagraph>(&entry)) {
             paragraph->unpackTo(scratch);
             sink.add(scratch);
@@ -103,7 +146,16 @@ void Content::moveTo(BlockSink& sink, Paragraph& scratch) {
             sink.add(std::move(std::get<std::unique_ptr<Table>>(entry)));
         }
     }
-    std::vector<Entry>().swap(entries);
+    others.reset();
+}
+
+Widths measure(PlainText const& text, Wrapping wrapping) {
+    bool const partsWords =
+        LineBreaker::mayPart(*text.block, LineBreaker::Purpose::measuring, wrapping);
+    int const indent = across(text.block->textIndent, 0);
+    int const most = std::max(0, static_cast<int>(text.text.size()) + indent);
+    if (partsWords && indent == 0) return {1, most};
+    return {widestLine(text, 0, partsWords), most};
 }
 
 Widths measure(Paragraph const& paragraph, Wrapping wrapping) {
@@ -122,7 +174,6 @@ Widths measure(Paragraph const& paragraph, Wrapping wrapping) {
     };
     int const most = widest(s_unlimited);
     if (wrapping == Wrapping::anywhere && isOfSingleCells(paragraph)) return {1, most};
-    if (wrapping == Wrapping::asStyled && isOneWord(paragraph)) return {most, most};
     return {widest(0), most};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <variant>
 #include <vector>
 
@@ -32,6 +33,7 @@ public:
 
     void open(Style const& block, OutsideMarker marker) override;
     void close() override;
+    void add(PlainText const& text) override;
     void add(Paragraph const& paragraph) override;
     void add(std::unique_ptr<Table> table) override;
 
@@ -39,7 +41,7 @@ public:
     /// only.
     void moveTo(BlockSink& sink, Paragraph& scratch);
     /// Of all that has been added; per cent count nothing.
-    Widths widths() const { return measured.content; }
+    Widths widths() const { return measured; }
     /// The same where words are parted anywhere. Walks through all of it.
     Widths partedWidths(Paragraph& scratch) const;
 
@@ -50,7 +52,14 @@ private:
         std::unique_ptr<OutsideMarker> marker;
     };
     struct Close {};
-    using Entry = std::variant<Open, Close, PackedParagraph, std::unique_ptr<Table>>;
+    struct KeptText {
+        Style const* block = nullptr;
+        Colour background;
+        std::string text;
+
+        PlainText view() const { return {block, background, text}; }
+    };
+    using Entry = std::variant<Open, Close, KeptText, PackedParagraph, std::unique_ptr<Table>>;
 
     /// A block that is open, and how wide what is in it is so far.
     struct Measured {
@@ -59,20 +68,31 @@ private:
         /// Columns of its marker and the blank behind that.
         int marker = 0;
 
-        void take(Widths const& child);
         /// A marker that no line of the item's own stands beside is as wide as a block in it.
-        void takeBlock() { take({marker, marker}); }
+        void takeBlock();
     };
 
-    Measured& around() { return openBlocks.empty() ? measured : openBlocks.back(); }
+    struct Parts {
+        std::vector<Entry> entries;
+        std::vector<Measured> openBlocks;
+    };
 
-    std::vector<Entry> entries;
-    Measured measured;
-    std::vector<Measured> openBlocks;
+    Parts& parts();
+    void take(Widths const& child);
+    void takeBlock();
+
+    /// Comes first, if it has a block. In most cells there is nothing else.
+    KeptText first;
+    /// Null for none.
+    std::unique_ptr<Parts> others;
+    Widths measured;
 };
 
-/// How wide the lines of a paragraph are.
+/// How wide the lines of a text and of a paragraph are.
+///@{
+Widths measure(PlainText const& text, Wrapping wrapping);
 Widths measure(Paragraph const& paragraph, Wrapping wrapping);
+///@}
 
 /// How wide a box is for which its style sets a width in cells, or limits.
 Widths withLimits(Widths content, Style const& style);

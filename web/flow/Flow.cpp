@@ -85,29 +85,60 @@ void Flow::close() {
     pending = std::max(pending, down(style.margin.bottom, container));
 }
 
+void Flow::add(PlainText const& text) {
+    Style const& style = *text.block;
+    using Purpose = LineBreaker::Purpose;
+    bool const partsWords = LineBreaker::mayPart(style, Purpose::layingOut, wrapping);
+    Look const look = lookOf(style, text.background);
+    int indent = beginParagraph(style);
+    for (std::string_view rest = text.text; !rest.empty(); indent = 0) {
+        PlainLine const line = plainLine(rest, columns() - indent, partsWords);
+        auto const length = static_cast<int>(line.length);
+        beginLine(style, indent, length);
+        if (isVisible(style)) {
+            row.add(rest.substr(0, line.length), length, look);
+        } else {
+            row.fill(row.width() + length, look);
+        }
+        endRow();
+        rest.remove_prefix(line.next);
+    }
+}
+
 void Flow::add(Paragraph const& paragraph) {
     int const container = columns();
     LineBreaker breaker(paragraph, container, LineBreaker::Purpose::layingOut, wrapping);
     Style const& style = paragraph.block();
-    bool& hasContent = blocks.empty() ? hasOwnContent : blocks.back().hasContent;
-    int indent = std::exchange(hasContent, true) ? 0 : across(style.textIndent, container);
-    start();
-    if (!firstLine) firstLine = rowCount;
-    for (Place at; !breaker.isAtEnd(at);) {
+    int indent = beginParagraph(style);
+    for (Place at; !breaker.isAtEnd(at); indent = 0) {
         TextLine const line = breaker.next(at, container, indent);
-        int const spare = std::max(0, container - indent - line.width);
-        int offset = indent;
-        if (style.textAlign == TextAlign::right) offset += spare;
-        if (style.textAlign == TextAlign::centre) offset += spare / 2;
         bool const isSpread = style.textAlign == TextAlign::justify && !line.isLast;
-        int const column = contentLeft() + offset;
-        beginRow();
-        row.fill(column, blankOn(background()));
-        paintLine(row, paragraph, line, container, column - indent, isSpread ? spare : 0);
+        int const spare = isSpread ? std::max(0, container - indent - line.width) : 0;
+        int const start = beginLine(style, indent, line.width) - indent;
+        paintLine(row, paragraph, line, container, start, spare);
         endRow();
         at = line.end;
-        indent = 0;
     }
+}
+
+/// Returns the columns that its first line is indented.
+int Flow::beginParagraph(Style const& style) {
+    bool& hasContent = blocks.empty() ? hasOwnContent : blocks.back().hasContent;
+    bool const isFirst = !std::exchange(hasContent, true);
+    start();
+    if (!firstLine) firstLine = rowCount;
+    return isFirst ? across(style.textIndent, columns()) : 0;
+}
+
+/// Begins the row of a line that is so wide. Returns the column where it stands.
+int Flow::beginLine(Style const& style, int indent, int lineWidth) {
+    int const spare = std::max(0, columns() - indent - lineWidth);
+    int column = contentLeft() + indent;
+    if (style.textAlign == TextAlign::right) column += spare;
+    if (style.textAlign == TextAlign::centre) column += spare / 2;
+    beginRow();
+    row.fill(column, blankOn(background()));
+    return column;
 }
 
 void Flow::add(std::unique_ptr<Table> table) {

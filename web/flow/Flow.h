@@ -27,6 +27,7 @@ public:
 
     void open(Style const& style, OutsideMarker marker) override;
     void close() override;
+    void add(PlainText const& text) override;
     void add(Paragraph const& paragraph) override;
     void add(std::unique_ptr<Table> table) override;
     /// Adds a row of a table that stands so many columns right of the innermost block's left edge.
@@ -62,6 +63,8 @@ private:
     int columns() const { return blocks.empty() ? width : blocks.back().contentWidth; }
     int contentLeft() const { return blocks.empty() ? 0 : blocks.back().contentLeft; }
     Colour background() const { return blocks.empty() ? ground : blocks.back().background; }
+    int beginParagraph(Style const& style);
+    int beginLine(Style const& style, int indent, int lineWidth);
     void start();
     void addBlanks(int rows);
     void beginRow();

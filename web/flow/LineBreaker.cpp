@@ -3,22 +3,18 @@
 #include <algorithm>
 
 #include "web/flow/lengths.h"
-#include "web/flow/plainLine.h"
 
 namespace galley::web {
 
 using Kind = Item::Kind;
 
-bool LineBreaker::mayPart(Style const& style) const {
+bool LineBreaker::mayPart(Style const& style, Purpose purpose, Wrapping wrapping) {
     if (!wraps(style)) return false;
     if (wrapping == Wrapping::anywhere || style.overflowWrap == OverflowWrap::anywhere) return true;
     return style.overflowWrap == OverflowWrap::breakWord && purpose == Purpose::layingOut;
 }
 
 TextLine LineBreaker::next(Place from, int columns, int indentation) {
-    if (paragraph.isPlain()) {
-        return plainLine(paragraph, from, columns - indentation, mayPart(paragraph.block()));
-    }
     line = TextLine();
     line.begin = from;
     indent = indentation;

@@ -45,6 +45,9 @@ public:
     /// them are its indent.
     TextLine next(Place from, int columns, int indentation = 0);
 
+    /// Whether words of a style may be parted anywhere if they have no room.
+    static bool mayPart(Style const& style, Purpose purpose, Wrapping wrapping);
+
     bool isAtEnd(Place place) const { return place.item >= paragraph.end(); }
 
 private:
@@ -102,7 +105,7 @@ private:
     Item const& itemOf(Part const& part) const { return paragraph.items()[part.begin.item]; }
     Style const& styleOf(Item const& item) const { return *paragraph.element(item).style; }
     bool isWrapping(Item const& item) const { return wraps(styleOf(item)); }
-    bool mayPart(Style const& style) const;
+    bool mayPart(Style const& style) const { return mayPart(style, purpose, wrapping); }
 
     Paragraph const& paragraph;
     TextBreaker texts;

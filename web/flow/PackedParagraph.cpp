@@ -14,7 +14,6 @@ PackedParagraph::PackedParagraph(Paragraph const& paragraph)
       itemCount(static_cast<std::uint32_t>(paragraph.all.size())),
       textSize(static_cast<std::uint32_t>(paragraph.text.size())),
       contentEnd(static_cast<std::uint32_t>(paragraph.contentEnd)),
-      isPlain(paragraph.isAllPlain),
       memory(new std::byte[elementCount * sizeof(Inline) + itemCount * sizeof(Item) + textSize]) {
     std::byte* to = memory.get();
     auto const put = [&to](void const* from, std::size_t size) {
@@ -39,7 +38,6 @@ void PackedParagraph::unpackTo(Paragraph& paragraph) const {
     take(paragraph.all.data(), itemCount * sizeof(Item));
     take(paragraph.text.data(), textSize);
     paragraph.contentEnd = contentEnd;
-    paragraph.isAllPlain = isPlain;
 }
 
 }  // namespace galley::web

@@ -21,7 +21,6 @@ private:
     std::uint32_t itemCount;
     std::uint32_t textSize;
     std::uint32_t contentEnd;
-    bool isPlain;
     /// Elements, items and text, in this order.
     std::unique_ptr<std::byte[]> memory;
 };

@@ -31,14 +31,18 @@ int Inline::rightEdge(int columns) const {
 }
 
 void Paragraph::begin(Style const& block, Colour background) {
+    elements.assign(1, {.style = &block, .look = lookOf(block, background), .around = background});
+    clear();
+}
+
+void Paragraph::clear() {
     text.clear();
     all.clear();
-    elements.assign(1, {.style = &block, .look = lookOf(block, background), .around = background});
+    elements.resize(1);
     current = 0;
     isBehindBlank = true;
     lastCharacter = ' ';
     contentEnd = 0;
-    isAllPlain = false;
 }
 
 Item& Paragraph::add(Item::Kind kind) {
@@ -88,26 +92,25 @@ void Paragraph::partInto(Paragraph& done) {
 
 void Paragraph::finish() {
     dropBlank();
-    isAllPlain = findPlain();
     // Elements that end or are empty there stand in the last line, too.
     if (contentEnd == 0 || all[contentEnd - 1].kind == Item::Kind::lineFeed) return;
     while (contentEnd < all.size() && isTag(all[contentEnd])) ++contentEnd;
 }
 
-bool Paragraph::findPlain() const {
-    if (contentEnd == 0 || contentEnd != all.size()) return false;
-    if (elements.size() > 1 || block().whiteSpace != WhiteSpace::normal) return false;
-    return std::all_of(all.begin(), all.end(), [](Item const& item) {
+std::optional<PlainText> Paragraph::plainText() const {
+    bool const isOfWords = contentEnd > 0 && contentEnd == all.size() && elements.size() == 1;
+    Style const& style = block();
+    // Those are broken by other rules, and these are spread.
+    if (!isOfWords || style.whiteSpace != WhiteSpace::normal) return std::nullopt;
+    if (style.textAlign == TextAlign::justify) return std::nullopt;
+    bool const isPlain = std::all_of(all.begin(), all.end(), [](Item const& item) {
         bool const isText = item.kind == Item::Kind::words || item.kind == Item::Kind::word;
         return isText && item.isPlain && !item.mayBreakBehind;
     });
-}
-
-Place Paragraph::behindPlain(Place from, std::size_t bytes) const {
-    std::size_t const end = all[from.item].begin + from.offset + bytes;
-    while (from.item < all.size() && all[from.item].end <= end) ++from.item;
-    if (from.item == all.size()) return {from.item, 0};
-    return {from.item, static_cast<std::uint32_t>(end - all[from.item].begin)};
+    if (!isPlain) return std::nullopt;
+    std::string_view const plain = text;
+    return PlainText{&style, elements.front().around,
+                     plain.substr(all.front().begin, all.back().end - all.front().begin)};
 }
 
 /// White space at the end of a line is none, whatever elements end behind it.

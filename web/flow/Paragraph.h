@@ -2,11 +2,13 @@
 
 #include <compare>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "web/flow/Look.h"
+#include "web/flow/PlainText.h"
 #include "web/text/SegmentReader.h"
 
 namespace galley::web {
@@ -81,6 +83,8 @@ class Paragraph {
 public:
     /// Begins the paragraph of a block, with no element in it.
     void begin(Style const& block, Colour background);
+    /// Begins another one in the same block. No element is open.
+    void clear();
     void open(Style const& style, Link const* link);
     void close();
     /// Adds text of the innermost element.
@@ -94,6 +98,8 @@ public:
 
     /// To be called when all has been added.
     void finish();
+    /// The same as plain text, if it is such a one. Until it is changed.
+    std::optional<PlainText> plainText() const;
     /// Parts the open elements: what has been added becomes `done`, and this one goes on with them.
     void partInto(Paragraph& done);
 
@@ -118,19 +124,6 @@ public:
     /// Whether an inline element is.
     bool hasOpen() const { return current > 0; }
 
-    /// Whether it is of nothing but printable ASCII with single blanks between words, where alone a
-    /// line may break: no element, no white space that counts. Known once it is finished.
-    bool isPlain() const { return isAllPlain; }
-    /// Of a plain paragraph what stands from a place on, a cell a byte; and the place that is so
-    /// many bytes behind it.
-    ///@{
-    std::string_view plainText(Place from) const {
-        std::size_t const begin = all[from.item].begin + from.offset;
-        return std::string_view(text).substr(begin, all.back().end - begin);
-    }
-    Place behindPlain(Place from, std::size_t bytes) const;
-    ///@}
-
 private:
     friend class PackedParagraph;
 
@@ -142,7 +135,6 @@ private:
     void addBehind(Segment const& segment);
     void addBlank();
     void dropBlank();
-    bool findPlain() const;
     Item& add(Item::Kind kind);
     Style const& style() const { return *elements[current].style; }
 
@@ -155,7 +147,6 @@ private:
     /// a line.
     bool isBehindBlank = true;
     std::size_t contentEnd = 0;
-    bool isAllPlain = false;
     /// Of the text that was added last, a blank if there is none.
     char32_t lastCharacter = ' ';
 };

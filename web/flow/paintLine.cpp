@@ -255,21 +255,10 @@ private:
     std::string printed;
 };
 
-void paintPlain(Row& row, Paragraph const& paragraph, TextLine const& line) {
-    Inline const& block = paragraph.element(paragraph.items().front());
-    auto const length = static_cast<std::size_t>(line.width);
-    if (isVisible(*block.style)) {
-        row.add(paragraph.plainText(line.begin).substr(0, length), line.width, block.look);
-    } else {
-        row.fill(row.width() + line.width, block.look);
-    }
-}
-
 }  // namespace
 
 void paintLine(Row& row, Paragraph const& paragraph, TextLine const& line, int container, int start,
                int spare) {
-    if (spare == 0 && paragraph.isPlain()) return paintPlain(row, paragraph, line);
     LinePainter painter(row, paragraph, line, container, start);
     if (spare == 0) return painter.paint();
     Row unspread;

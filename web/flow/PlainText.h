@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "web/Colour.h"
+#include "web/Style.h"
+
+namespace galley::web {
+
+/// A paragraph of nothing but printable ASCII, a cell a byte, with one blank between two words,
+/// where alone a line may break unless words are parted. Most paragraphs are such; their lines are
+/// those that `LineBreaker` comes to by its rules for all, found by a search for blanks.
+struct PlainText {
+    Style const* block = nullptr;
+    Colour background;
+    /// Begins and ends with a word.
+    std::string_view text;
+};
+
+/// The first line of a plain text.
+struct PlainLine {
+    /// In bytes, which are cells.
+    std::size_t length;
+    /// Where the next line begins.
+    std::size_t next;
+};
+
+/// That of at most so many columns where it can be. Words that have no room are parted, or stick
+/// out.
+PlainLine plainLine(std::string_view text, int columns, bool partsWords);
+
+}  // namespace galley::web
