@@ -160,12 +160,13 @@ int PageBuilder::numberOf(Element const& element) {
 }
 
 void PageBuilder::text(std::string_view decoded) {
-    if (!isBlank(decoded)) openRoot({});
+    bool const isOfBlanks = isBlank(decoded);
+    if (!isOfBlanks) openRoot({});
     if (open.empty()) return;
     if (open.back().role == Role::hidden || open.back().role == Role::columnGroup) return;
-    if (!isBlank(decoded)) closeImpliedTable();
+    if (!isOfBlanks) closeImpliedTable();
     if (isInTable()) {
-        if (isBlank(decoded)) return;
+        if (isOfBlanks) return;
         openAnonymousCell();
     }
     frame().paragraph.addText(decoded);

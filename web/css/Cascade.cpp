@@ -50,11 +50,15 @@ void Cascade::letGo(std::span<Style const* const> inUse) {
 }
 
 void Cascade::forgetFamilies() {
-    lastFamily = nullptr;
+    bareFamily = nullptr;
     families.clear();
 }
 
 Cascade::Family& Cascade::familyOf(Element const& element, Style const& parent) {
+    bool const isBare = element.attributes.empty();
+    if (isBare && bareFamily != nullptr && bareParent == &parent && bareName == element.name) {
+        return *bareFamily;
+    }
     key.clear();
     append(key, &parent);
     // No name has a zero byte.
@@ -67,10 +71,13 @@ Cascade::Family& Cascade::familyOf(Element const& element, Style const& parent) 
         append(key, declarations);
     }
     append(key, ofAttributes.style);
-    if (lastFamily != nullptr && key == lastFamily->first) return lastFamily->second;
     auto const [found, isNew] = families.try_emplace(key);
     if (isNew) rules.find(element, found->second.matching, found->second.placed);
-    lastFamily = &*found;
+    if (isBare) {
+        bareFamily = &found->second;
+        bareParent = &parent;
+        bareName = element.name;
+    }
     return found->second;
 }
 

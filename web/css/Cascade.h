@@ -79,8 +79,13 @@ private:
     /// By all that tells elements apart, as bytes: addresses of the parent's style and of what the
     /// attributes declare, and names.
     std::unordered_map<std::string, Family> families;
-    /// The one that was asked for last: siblings are often of one family.
-    std::pair<std::string const, Family>* lastFamily = nullptr;
+    /// The last one of an element without attributes, of that parent and name: most are such, and
+    /// siblings are often of one family.
+    ///@{
+    Family* bareFamily = nullptr;
+    Style const* bareParent = nullptr;
+    std::string bareName;
+    ///@}
 
     /// Of the element at hand.
     AttributeReader::Found ofAttributes;

@@ -47,7 +47,9 @@ TextOptions optionsFor(Style const& style) {
 void Paragraph::addText(std::string_view decoded) {
     if (decoded.empty()) return;
     char32_t const before = lastCharacter;
-    lastCharacter = decodeAt(decoded, startBefore(decoded, decoded.size())).value;
+    lastCharacter = isAscii(decoded.back())
+                        ? static_cast<char32_t>(decoded.back())
+                        : decodeAt(decoded, startBefore(decoded, decoded.size())).value;
     if (style().textTransform != TextTransform::none) {
         std::string transformed;
         transformText(transformed, decoded, style().textTransform, before);

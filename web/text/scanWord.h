@@ -64,8 +64,7 @@ inline std::size_t scanPlain(std::string_view text, std::size_t from) {
 }
 
 /// The first byte at `from` or behind it that is neither plain nor a blank, or that is a blank and
-/// has another one behind it. It may be found up to 17 bytes before the text's end where nothing
-/// is.
+/// has another one behind it. The text's size without one.
 inline std::size_t scanWords(std::string_view text, std::size_t from) {
     for (; text.size() - from > 16; from += 16) {
         Bytes const bytes = bytesAt(text.data() + from);
@@ -75,6 +74,11 @@ inline std::size_t scanWords(std::string_view text, std::size_t from) {
         Mask const areOthers = areNotPlain(bytes) & ~areBlanks;
         unsigned const count = firstOf(areOthers | (areBlanks & areBeforeBlanks));
         if (count < 16) return from + count;
+    }
+    for (; from < text.size(); ++from) {
+        bool const isBlank = text[from] == ' ';
+        if (isBlank && from + 1 < text.size() && text[from + 1] == ' ') return from;
+        if (!isBlank && !isPlain(text[from])) return from;
     }
     return from;
 }

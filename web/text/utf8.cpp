@@ -75,6 +75,7 @@ CodePoint decodeAnyAt(std::string_view text, std::size_t at) {
 }
 
 std::size_t startBefore(std::string_view text, std::size_t at) {
+    if (isAscii(text[at - 1])) return at - 1;
     for (std::size_t length = 2; length <= std::min<std::size_t>(4, at); ++length) {
         CodePoint const found = decodeAt(text, at - length);
         if (found.isWellFormed && found.length == length) return at - length;
@@ -83,7 +84,7 @@ std::size_t startBefore(std::string_view text, std::size_t at) {
 }
 
 std::size_t findIllFormed(std::string_view text, std::size_t from) {
-    while (from < text.size()) {
+    for (from = skipAscii(text, from); from < text.size();) {
         CodePoint const found = decodeAt(text, from);
         if (!found.isWellFormed) return from;
         from += found.length;
