@@ -80,7 +80,6 @@ private:
     Role openInline(Element const& element, Style const& style);
     Role openLink(std::string_view address, Style const& style);
     void openBlock(Element const& element, Style const& style);
-    OutsideMarker openItem(Element const& element, Style const& style);
     Role openTablePart(Element const& element, Style const& style);
     Role openCell(Element const& element, Style const& style);
     void openAnonymousCell();
@@ -94,6 +93,7 @@ private:
     void openImpliedTable();
     void closeImpliedTable();
     void closeAnonymousCell();
+    int firstNumberOf(Element const& list);
     int numberOf(Element const& element);
     void push(BlockSink& sink, Style const& style, Colour background);
     void pop();
