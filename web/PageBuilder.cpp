@@ -1,15 +1,10 @@
 #include "web/PageBuilder.h"
 
 #include <algorithm>
-#include <limits>
 #include <string>
 #include <utility>
 
 #include "web/css/Tokenizer.h"
-#include "web/css/computeStyle.h"
-#include "web/flow/markers.h"
-#include "web/markup/attributes.h"
-#include "web/text/Cluster.h"
 #include "web/wording.h"
 
 namespace galley::web {
@@ -26,8 +21,6 @@ bool isTablePart(Display display) { return display > Display::table; }
 
 /// In cells; a wider one shows no more.
 constexpr unsigned s_widestPage = 1'000'000;
-
-constexpr Limits s_numbers = {std::numeric_limits<int>::min(), 1'000'000'000};
 
 }  // namespace
 
@@ -107,9 +100,7 @@ void PageBuilder::startElement(Element& element) {
     OpenElement& opened = open.emplace_back(OpenElement{role, style});
     opened.isBody = element.name == "body";
     opened.isList = !isHidden && (element.name == "ol" || element.name == "ul");
-    if (opened.isList) {
-        opened.nextNumber = integerAttribute(element, "start", s_numbers, problems).value_or(1);
-    }
+    if (opened.isList) opened.nextNumber = firstNumberOf(element);
 }
 
 PageBuilder::Role PageBuilder::openElement(Element const& element, Style const& style) {
@@ -127,36 +118,6 @@ PageBuilder::Role PageBuilder::openElement(Element const& element, Style const& 
         default:
             return openTablePart(element, style);
     }
-}
-
-void PageBuilder::openBlock(Element const& element, Style const& style) {
-    if (isInTable()) openAnonymousCell();
-    endParagraph();
-    OutsideMarker marker;
-    std::string inside;
-    if (style.display == Display::listItem) {
-        std::string text = markerText(style.marker, numberOf(element));
-        if (style.markerPosition == MarkerPosition::inside) {
-            inside = std::move(text);
-        } else {
-            appendPrinted(marker.text, text);
-            marker.columns = countCells(text, style.cells.isAmbiguousWide);
-        }
-    }
-    BlockSink& sink = *frame().sink;
-    sink.open(style, std::move(marker));
-    push(sink, style, backgroundOf(style, frame().background));
-    if (!inside.empty()) frame().paragraph.addGenerated(inside);
-}
-
-/// The number of a list item: its own, or the next one of the list around it.
-int PageBuilder::numberOf(Element const& element) {
-    auto const list = std::find_if(open.rbegin(), open.rend(),
-                                   [](OpenElement const& each) { return each.isList; });
-    int& next = list == open.rend() ? looseNumber : list->nextNumber;
-    int const number = integerAttribute(element, "value", s_numbers, problems).value_or(next);
-    next = number + 1;
-    return number;
 }
 
 void PageBuilder::text(std::string_view decoded) {
@@ -246,34 +207,6 @@ void PageBuilder::finish() {
         linkList.moveTo(page, *frame().style, frame().background);
     }
     page.finish();
-}
-
-void PageBuilder::push(BlockSink& sink, Style const& style, Colour background) {
-    if (depth == frames.size()) frames.emplace_back();
-    Frame& opened = frames[depth++];
-    opened.sink = &sink;
-    opened.style = &style;
-    opened.background = background;
-    opened.paragraph.begin(style, opened.background);
-}
-
-void PageBuilder::pop() { --depth; }
-
-/// Hands on what has been read since the last block. Inline elements that are open go on behind it.
-void PageBuilder::endParagraph() {
-    Frame& current = frame();
-    if (current.paragraph.hasOpen()) {
-        current.paragraph.partInto(done);
-        if (!done.isEmpty()) current.sink->add(done);
-        return;
-    }
-    current.paragraph.finish();
-    if (auto const plain = current.paragraph.plainText()) {
-        current.sink->add(*plain);
-    } else if (!current.paragraph.isEmpty()) {
-        current.sink->add(current.paragraph);
-    }
-    current.paragraph.clear();
 }
 
 /// Where nothing of the document waits any more but what is open, drops the rest.

@@ -80,7 +80,6 @@ private:
     Role openInline(Element const& element, Style const& style);
     Role openLink(std::string_view address, Style const& style);
     void openBlock(Element const& element, Style const& style);
-    OutsideMarker openItem(Element const& element, Style const& style);
     Role openTablePart(Element const& element, Style const& style);
     Role openCell(Element const& element, Style const& style);
     void openAnonymousCell();
@@ -94,7 +93,9 @@ private:
     void openImpliedTable();
     void closeImpliedTable();
     void closeAnonymousCell();
+    int firstNumberOf(Element const& list);
     int numberOf(Element const& element);
+    OutsideMarker const& outsideMarker(std::string text, bool isAmbiguousWide);
     void push(BlockSink& sink, Style const& style, Colour background);
     void pop();
     void endParagraph();
@@ -135,6 +136,11 @@ private:
     /// Of the next item in no list.
     int looseNumber = 1;
     Paragraph done;
+    /// What an item's marker was made of, and became, last.
+    ///@{
+    std::string markerSource;
+    OutsideMarker lastMarker;
+    ///@}
 };
 
 }  // namespace galley::web

@@ -42,6 +42,10 @@ TextOptions optionsFor(Style const& style) {
     return options;
 }
 
+bool isOfBlanks(std::string_view text) {
+    return text.find_first_not_of(" \t\n\r") == std::string_view::npos;
+}
+
 }  // namespace
 
 void Paragraph::addText(std::string_view decoded) {
@@ -50,6 +54,8 @@ void Paragraph::addText(std::string_view decoded) {
     lastCharacter = isAscii(decoded.back())
                         ? static_cast<char32_t>(decoded.back())
                         : decodeAt(decoded, startBefore(decoded, decoded.size())).value;
+    bool const isCollapsed = style().whiteSpace == WhiteSpace::normal;
+    if (isBehindBlank && isCollapsed && isOfBlanks(decoded)) return;
     if (style().textTransform != TextTransform::none) {
         std::string transformed;
         transformText(transformed, decoded, style().textTransform, before);

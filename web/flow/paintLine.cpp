@@ -1,9 +1,9 @@
 #include "web/flow/paintLine.h"
 
-#include <algorithm>
-#include <string>
+#include <string_view>
 
 #include "web/flow/Border.h"
+#include "web/flow/SpreadRow.h"
 #include "web/flow/lengths.h"
 #include "web/text/Cluster.h"
 #include "web/text/ideographs.h"
@@ -12,30 +12,10 @@ namespace galley::web {
 
 namespace {
 
-/// Whether a justified line may be spread on both sides of a character: in scripts without blanks
-/// between words, and around emoji, as far as Chromium does so.
-bool isSpreadAround(char32_t c) {
-    struct Range {
-        char32_t first;
-        char32_t last;
-    };
-    constexpr Range s_ranges[] = {{0x2E80, 0x312F},   {0x3190, 0x31E3},   {0x3200, 0x9FFF},
-                                  {0xF900, 0xFAFF},   {0xFE30, 0xFE6F},   {0xFF01, 0xFF9D},
-                                  {0x1B000, 0x1B2FF}, {0x1F1E6, 0x1FAFF}, {0x20000, 0x3FFFF}};
-    return std::any_of(std::begin(s_ranges), std::end(s_ranges),
-                       [c](Range const& range) { return c >= range.first && c <= range.last; });
-}
-
-/// What is spare in a justified line, and the gaps that share it, of which the first get more.
-struct Spread {
-    int cells = 0;
-    int gaps = 0;
-};
-
 class LinePainter {
 public:
-    LinePainter(Row& painted, Paragraph const& source, TextLine const& part, int columns, int left)
-        : row(painted), paragraph(source), line(part), container(columns), start(left) {
+    LinePainter(SpreadRow& painted, Paragraph const& source, TextLine const& part, int columns)
+        : row(painted), paragraph(source), line(part), container(columns) {
         findLast();
     }
 
@@ -45,15 +25,6 @@ public:
             paintItem(paragraph.items()[i]);
         }
     }
-
-    void paintSpread(Spread shared) {
-        isSpread = true;
-        rest = shared;
-        paint();
-    }
-
-    /// Gaps that have been painted, but for one at the end.
-    int gaps() const { return passed - (isBehindGap && passed > 0 ? 1 : 0); }
 
 private:
     /// One past the last item of which something is on the line.
@@ -94,13 +65,17 @@ private:
                 paintText(item, element);
                 break;
             case Item::Kind::blank:
-                if (isBegun && index < last && hasText) paintBlank(element.look);
+                if (isBegun && index < last && hasText) row.addBlank(element.look);
                 break;
             case Item::Kind::blanks:
-                if (!isHanging(element)) paintBlanks(item.width, element);
+                if (isHanging(element)) break;
+                isBegun = true;
+                row.addBlanks(item.width, element.look);
                 break;
             case Item::Kind::tab:
-                if (!isHanging(element)) paintTab(element);
+                if (isHanging(element)) break;
+                isBegun = true;
+                row.addTab(element);
                 break;
             case Item::Kind::open:
                 paintLeftEdge(element);
@@ -122,14 +97,14 @@ private:
     void paintText(Item const& item, Inline const& element) {
         std::string_view const text = textOf(item);
         isBegun = true;
-        if (!isSpread) {
-            addText(text, cellsOf(item, text), item.isPrintedAsIs, element);
+        if (!row.isSpread()) {
+            row.addText(text, cellsOf(item, text), item.isPrintedAsIs, element);
         } else if (isAscii(item)) {
-            paintWords(text, element);
+            row.addWords(text, element);
         } else {
-            paintClusters(text, element);
+            row.addClusters(text, element);
         }
-        if (line.hyphenates && index == last) addText("-", 1, true, element);
+        if (line.hyphenates && index == last) row.addText("-", 1, true, element);
     }
 
     static bool isAscii(Item const& item) {
@@ -147,124 +122,48 @@ private:
         return paragraph.element(item).style->cells.isAmbiguousWide;
     }
 
-    void paintWords(std::string_view text, Inline const& element) {
-        for (;;) {
-            std::size_t const blank = text.find(' ');
-            std::string_view const word = text.substr(0, blank);
-            if (!word.empty()) isBehindGap = false;
-            addText(word, static_cast<int>(word.size()), true, element);
-            if (blank == std::string_view::npos) return;
-            paintBlank(element.look);
-            text.remove_prefix(blank + 1);
-        }
-    }
-
-    void paintClusters(std::string_view text, Inline const& element) {
-        constexpr char32_t noBreakSpace = 0xA0;
-        for (std::size_t i = 0; i < text.size();) {
-            Cluster const cluster = clusterAt(text, i, element.style->cells.isAmbiguousWide);
-            bool const isSpreadHere = isSpreadAround(cluster.first);
-            if (isSpreadHere && !isBehindGap) paintGap(element.look);
-            isBehindGap = false;
-            addText(text.substr(i, cluster.end - i), static_cast<int>(cluster.width), false,
-                    element);
-            if (isSpreadHere || cluster.first == noBreakSpace) paintGap(element.look);
-            i = cluster.end;
-        }
-    }
-
-    void paintBlank(Look const& look) {
-        row.fill(row.width() + 1, look);
-        paintGap(look);
-    }
-
-    void paintBlanks(std::uint32_t count, Inline const& element) {
-        isBegun = true;
-        for (; count > 0; --count) paintBlank(element.look);
-    }
-
-    void paintTab(Inline const& element) {
-        isBegun = true;
-        int const stop = element.style->tabSize;
-        if (stop == 0) return;
-        int const column = row.width() - start - added;
-        row.fill(row.width() + stop - column % stop, element.look);
-        paintGap(element.look);
-    }
-
-    /// Adds a part of what is spare.
-    void paintGap(Look const& look) {
-        ++passed;
-        isBehindGap = true;
-        if (rest.cells == 0) return;
-        int const part = (rest.cells + rest.gaps - 1) / rest.gaps;
-        row.fill(row.width() + part, look);
-        added += part;
-        rest.cells -= part;
-        --rest.gaps;
-    }
-
-    void addText(std::string_view text, int cells, bool isPrintedAsIs, Inline const& element) {
-        if (!isVisible(*element.style)) {
-            row.fill(row.width() + cells, element.look);
-        } else if (isPrintedAsIs) {
-            row.add(text, cells, element.look);
-        } else {
-            printed.clear();
-            appendPrinted(printed, text);
-            row.add(printed, cells, element.look);
-        }
-    }
-
     void paintLeftEdge(Inline const& element) {
         if (!element.begins) return;
         Style const& style = *element.style;
-        row.fill(row.width() + across(style.margin.left, container), blankOn(element.around));
+        row.addCells(across(style.margin.left, container), blankOn(element.around));
         Colour const ground = element.look.background;
-        addVertical(row, style.border.left, ground, isVisible(style));
-        row.fill(row.width() + across(style.padding.left, container), blankOn(ground));
+        addVertical(row.painted(), style.border.left, ground, isVisible(style));
+        row.addCells(across(style.padding.left, container), blankOn(ground));
     }
 
     void paintRightEdge(Inline const& element) {
         if (!element.ends) return;
         Style const& style = *element.style;
         Colour const ground = element.look.background;
-        row.fill(row.width() + across(style.padding.right, container), blankOn(ground));
-        addVertical(row, style.border.right, ground, isVisible(style));
-        row.fill(row.width() + across(style.margin.right, container), blankOn(element.around));
+        row.addCells(across(style.padding.right, container), blankOn(ground));
+        addVertical(row.painted(), style.border.right, ground, isVisible(style));
+        row.addCells(across(style.margin.right, container), blankOn(element.around));
     }
 
-    Row& row;
+    SpreadRow& row;
     Paragraph const& paragraph;
     TextLine const& line;
     int container;
-    int start;
     /// The last item that is text, if there is one, and the one at hand.
     std::uint32_t last = 0;
     std::uint32_t index = 0;
     bool hasText = false;
     bool isBegun = false;
-    /// Of a line whose gaps are wider: what they have not got yet, and what they have.
-    ///@{
-    bool isSpread = false;
-    Spread rest;
-    int added = 0;
-    ///@}
-    int passed = 0;
-    bool isBehindGap = true;
-    std::string printed;
 };
 
 }  // namespace
 
 void paintLine(Row& row, Paragraph const& paragraph, TextLine const& line, int container, int start,
                int spare) {
-    LinePainter painter(row, paragraph, line, container, start);
-    if (spare == 0) return painter.paint();
-    Row unspread;
-    LinePainter counter(unspread, paragraph, line, container, 0);
-    counter.paintSpread({});
-    painter.paintSpread({counter.gaps() > 0 ? spare : 0, counter.gaps()});
+    SpreadRow painted(row, start);
+    if (spare != 0) {
+        Row unspread;
+        SpreadRow counted(unspread, 0);
+        counted.spread({});
+        LinePainter(counted, paragraph, line, container).paint();
+        painted.spread({counted.gaps() > 0 ? spare : 0, counted.gaps()});
+    }
+    LinePainter(painted, paragraph, line, container).paint();
 }
 
 }  // namespace galley::web

@@ -1,0 +1,95 @@
+// How blocks and list items come into the page while they are read, and the paragraphs between
+// them.
+
+#include <algorithm>
+#include <limits>
+#include <string>
+#include <utility>
+
+#include "web/PageBuilder.h"
+#include "web/flow/markers.h"
+#include "web/markup/attributes.h"
+#include "web/text/Cluster.h"
+
+namespace galley::web {
+
+namespace {
+
+constexpr Limits s_numbers = {std::numeric_limits<int>::min(), 1'000'000'000};
+
+}  // namespace
+
+void PageBuilder::openBlock(Element const& element, Style const& style) {
+    if (isInTable()) openAnonymousCell();
+    endParagraph();
+    OutsideMarker marker;
+    std::string inside;
+    if (style.display == Display::listItem) {
+        std::string text = markerText(style.marker, numberOf(element));
+        if (style.markerPosition == MarkerPosition::inside) {
+            inside = std::move(text);
+        } else {
+            marker = outsideMarker(std::move(text), style.cells.isAmbiguousWide);
+        }
+    }
+    BlockSink& sink = *frame().sink;
+    sink.open(style, std::move(marker));
+    push(sink, style, backgroundOf(style, frame().background));
+    if (!inside.empty()) frame().paragraph.addGenerated(inside);
+}
+
+/// Those of a list without numbers are all alike.
+OutsideMarker const& PageBuilder::outsideMarker(std::string text, bool isAmbiguousWide) {
+    if (text != markerSource) {
+        lastMarker.text.clear();
+        appendPrinted(lastMarker.text, text);
+        lastMarker.columns = countCells(text, isAmbiguousWide);
+        markerSource = std::move(text);
+    }
+    return lastMarker;
+}
+
+/// The number of a list's first item.
+int PageBuilder::firstNumberOf(Element const& list) {
+    return integerAttribute(list, "start", s_numbers, problems).value_or(1);
+}
+
+/// The number of a list item: its own, or the next one of the list around it.
+int PageBuilder::numberOf(Element const& element) {
+    auto const list = std::find_if(open.rbegin(), open.rend(),
+                                   [](OpenElement const& each) { return each.isList; });
+    int& next = list == open.rend() ? looseNumber : list->nextNumber;
+    int const number = integerAttribute(element, "value", s_numbers, problems).value_or(next);
+    next = number + 1;
+    return number;
+}
+
+void PageBuilder::push(BlockSink& sink, Style const& style, Colour background) {
+    if (depth == frames.size()) frames.emplace_back();
+    Frame& opened = frames[depth++];
+    opened.sink = &sink;
+    opened.style = &style;
+    opened.background = background;
+    opened.paragraph.begin(style, opened.background);
+}
+
+void PageBuilder::pop() { --depth; }
+
+/// Hands on what has been read since the last block. Inline elements that are open go on behind it.
+void PageBuilder::endParagraph() {
+    Frame& current = frame();
+    if (current.paragraph.hasOpen()) {
+        current.paragraph.partInto(done);
+        if (!done.isEmpty()) current.sink->add(done);
+        return;
+    }
+    current.paragraph.finish();
+    if (auto const plain = current.paragraph.plainText()) {
+        current.sink->add(*plain);
+    } else if (!current.paragraph.isEmpty()) {
+        current.sink->add(current.paragraph);
+    }
+    current.paragraph.clear();
+}
+
+}  // namespace galley::web
