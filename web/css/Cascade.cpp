@@ -50,15 +50,15 @@ void Cascade::letGo(std::span<Style const* const> inUse) {
 }
 
 void Cascade::forgetFamilies() {
-    bareFamily = nullptr;
+    bareFamilies.fill({});
     families.clear();
 }
 
 Cascade::Family& Cascade::familyOf(Element const& element, Style const& parent) {
     bool const isBare = element.attributes.empty();
-    if (isBare && bareFamily != nullptr && bareParent == &parent && bareName == element.name) {
-        return *bareFamily;
-    }
+    auto const letter = static_cast<unsigned char>(element.name.back());
+    BareFamily& bare = bareFamilies[letter % bareFamilies.size()];
+    if (isBare && bare.parent == &parent && bare.name == element.name) return *bare.family;
     key.clear();
     append(key, &parent);
     // No name has a zero byte.
@@ -73,11 +73,7 @@ Cascade::Family& Cascade::familyOf(Element const& element, Style const& parent) 
     append(key, ofAttributes.style);
     auto const [found, isNew] = families.try_emplace(key);
     if (isNew) rules.find(element, found->second.matching, found->second.placed);
-    if (isBare) {
-        bareFamily = &found->second;
-        bareParent = &parent;
-        bareName = element.name;
-    }
+    if (isBare) bare = {&found->second, &parent, std::string(element.name)};
     return found->second;
 }
 

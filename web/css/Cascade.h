@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <map>
 #include <memory>
 #include <span>
@@ -79,13 +80,14 @@ private:
     /// By all that tells elements apart, as bytes: addresses of the parent's style and of what the
     /// attributes declare, and names.
     std::unordered_map<std::string, Family> families;
-    /// The last one of an element without attributes, of that parent and name: most are such, and
-    /// siblings are often of one family.
-    ///@{
-    Family* bareFamily = nullptr;
-    Style const* bareParent = nullptr;
-    std::string bareName;
-    ///@}
+    /// That of elements without attributes whose parent has that style: most are such.
+    struct BareFamily {
+        Family* family = nullptr;
+        Style const* parent = nullptr;
+        std::string name;
+    };
+    /// The last ones, by the last letters of names.
+    std::array<BareFamily, 32> bareFamilies;
 
     /// Of the element at hand.
     AttributeReader::Found ofAttributes;

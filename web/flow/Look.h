@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <cstring>
 #include <string>
+#include <type_traits>
 
 #include "web/Colour.h"
 #include "web/Style.h"
@@ -32,8 +35,14 @@ struct Look {
     /// Null for none. It outlives the look.
     Link const* link = nullptr;
 
-    bool operator==(Look const&) const = default;
+    bool operator==(Look const& other) const {
+        // Whatever is before the link is of single bytes, without gaps.
+        constexpr std::size_t s_size = offsetof(Look, isHidden) + sizeof(isHidden);
+        static_assert(s_size == 2 * sizeof(Colour) + 8);
+        return link == other.link && std::memcmp(this, &other, s_size) == 0;
+    }
 };
+static_assert(std::has_unique_object_representations_v<Colour>);
 
 inline bool isVisible(Style const& style) { return style.visibility == Visibility::visible; }
 

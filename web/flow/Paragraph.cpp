@@ -31,7 +31,11 @@ int Inline::rightEdge(int columns) const {
 }
 
 void Paragraph::begin(Style const& block, Colour background) {
-    elements.assign(1, {.style = &block, .look = lookOf(block, background), .around = background});
+    elements.resize(1);
+    Inline& own = elements.front();
+    own.style = &block;
+    own.look = lookOf(block, background);
+    own.around = background;
     clear();
 }
 

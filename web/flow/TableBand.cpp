@@ -103,8 +103,11 @@ void TableBand::alignBaselines(std::size_t firstOfRow) {
 void TableBand::placeRows() {
     byEnd.clear();
     for (LaidCell& cell : laid) byEnd.push_back(&cell);
-    std::stable_sort(byEnd.begin(), byEnd.end(),
-                     [](LaidCell const* a, LaidCell const* b) { return a->endRow < b->endRow; });
+    if (heights.size() > 1) {
+        std::stable_sort(byEnd.begin(), byEnd.end(), [](LaidCell const* a, LaidCell const* b) {
+            return a->endRow < b->endRow;
+        });
+    }
     auto next = byEnd.begin();
     for (int row = first; row < endRow(); ++row) {
         int const gap = row > first ? height(row - 1) + frame.rowGap(row) : 0;

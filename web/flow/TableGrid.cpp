@@ -156,6 +156,19 @@ void TableGrid::appendGroup(Group const& group, std::vector<TableRow>& ordered) 
     }
 }
 
+/// Columns become those that begin at `starts`.
+void TableGrid::moveCells(std::vector<int> const& starts) {
+    auto const indexOf = [&starts](int column) {
+        auto const behind = std::upper_bound(starts.begin(), starts.end(), column);
+        return static_cast<int>(behind - starts.begin()) - 1;
+    };
+    for (TableCell& cell : allCells) {
+        int const last = indexOf(cell.endColumn() - 1);
+        cell.column = indexOf(cell.column);
+        cell.columnSpan = last - cell.column + 1;
+    }
+}
+
 void TableGrid::joinColumns() {
     for (ColumnRange const& range : ranges) {
         auto const end = static_cast<std::size_t>(range.end);
@@ -167,15 +180,7 @@ void TableGrid::joinColumns() {
     for (std::size_t i = 0; i < isStart.size(); ++i) {
         if (isStart[i] || i == 0) starts.push_back(static_cast<int>(i));
     }
-    auto const indexOf = [&starts](int column) {
-        auto const behind = std::upper_bound(starts.begin(), starts.end(), column);
-        return static_cast<int>(behind - starts.begin()) - 1;
-    };
-    for (TableCell& cell : allCells) {
-        int const last = indexOf(cell.endColumn() - 1);
-        cell.column = indexOf(cell.column);
-        cell.columnSpan = last - cell.column + 1;
-    }
+    if (starts.size() < isStart.size()) moveCells(starts);
     auto const end = static_cast<int>(isStart.size());
     for (std::size_t i = 0; i < starts.size(); ++i) {
         ColumnRange const* const range = rangeAt(starts[i]);

@@ -113,6 +113,7 @@ private:
     void appendGroup(Group const& group, std::vector<TableRow>& ordered);
     void dropEmptyRows();
     void orderGroups();
+    void moveCells(std::vector<int> const& starts);
     void joinColumns();
 
     Colour ground;

@@ -66,10 +66,14 @@ void TablePainter::paintBand() {
             int const gap = frame.rowGap(at);
             paintGap(at, gap, band.top(at) - gap);
         }
+        bool const isAlone = active.empty();
         for (; next != band.cells().end() && next->firstRow == at; ++next) active.push_back(&*next);
-        std::stable_sort(active.begin(), active.end(), [](LaidCell const* a, LaidCell const* b) {
-            return a->cell->column < b->cell->column;
-        });
+        if (!isAlone) {
+            std::stable_sort(active.begin(), active.end(),
+                             [](LaidCell const* a, LaidCell const* b) {
+                                 return a->cell->column < b->cell->column;
+                             });
+        }
         paintRow(at);
         if (frame.collapses()) frame.borders()->next();
     }

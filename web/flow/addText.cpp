@@ -74,7 +74,10 @@ void Paragraph::addGenerated(std::string_view decoded) {
     for (;;) {
         if (isWrapped) {
             std::string_view const words = reader.takeWords();
-            if (!words.empty()) addWords(words);
+            std::size_t const length = words.rfind(' ') + 1;
+            if (length > 0) addWords(words.substr(0, length));
+            std::string_view const last = words.substr(length);
+            if (!last.empty()) addWord(last, {.width = last.size()});
         }
         if (style().whiteSpace == WhiteSpace::pre) {
             addUnbroken(reader.takeUnbroken());

@@ -21,6 +21,7 @@ inline std::int64_t exactlyAcross(Length length, int columns) {
 
 /// In cells: parts of one are dropped.
 inline int across(Length length, int columns) {
+    if (length.kind == Length::Kind::cells) return length.value;
     return static_cast<int>(exactlyAcross(length, columns) / s_parts);
 }
 

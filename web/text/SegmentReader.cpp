@@ -66,11 +66,11 @@ std::string_view SegmentReader::takeWords() {
     // A blank before other white space is part of that.
     bool const isBehindBlank = end > at && text[end - 1] == ' ';
     if (isBehindBlank && end < text.size() && isWhiteSpace(text[end])) --end;
-    std::string_view const words = text.substr(at, end - at);
-    std::size_t const lastBlank = words.rfind(' ');
-    if (lastBlank == std::string_view::npos || words.front() == ' ') return {};
-    at += lastBlank + 1;
-    return words.substr(0, lastBlank + 1);
+    std::string_view words = text.substr(at, end - at);
+    if (words.empty() || words.front() == ' ') return {};
+    if (end < text.size()) words = words.substr(0, words.rfind(' ') + 1);
+    at += words.size();
+    return words;
 }
 
 std::string_view SegmentReader::takeIdeographs() {

@@ -68,9 +68,10 @@ public:
     bool next(Segment& segment);
 
     /// Takes what comes next as far as it is plain words with one blank behind each, where nothing
-    /// but these blanks lets a line break; the word behind it is not white space. Empty where no
-    /// such word comes. This is what most of a text in ASCII is, faster than by segments: a line is
-    /// filled by a search for a blank, from behind.
+    /// but these blanks lets a line break; what is behind it is not white space. At the text's end
+    /// the last word is without a blank. Empty where no such word comes. This is what most of a
+    /// text in ASCII is, faster than by segments: a line is filled by a search for a blank, from
+    /// behind.
     std::string_view takeWords();
 
     /// Takes what comes next as far as it is ideographs, kana and syllables of Hangul, each of
