@@ -9,8 +9,8 @@
 /// How messages name what is read: "-" is "<stdin>".
 std::string inputName(std::string const& file);
 
-/// An error that is about no place in its source, as a line: "SOURCE: error: MESSAGE". Control
-/// characters become question marks.
+/// An error that is about no place in its source, as a line: "SOURCE: error: MESSAGE". What
+/// would not be seen, such as controls, is shown as "<U+001B>".
 std::string errorText(std::string const& source, std::string const& message);
 
 /// Prints such a line on standard error.

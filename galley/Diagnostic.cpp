@@ -1,8 +1,7 @@
-#include <algorithm>
-
 #include "base/append.h"
 #include "galley/galley.h"
 #include "galley/terminal/controls.h"
+#include "web/text/visible.h"
 
 namespace galley {
 
@@ -10,15 +9,14 @@ namespace {
 
 constexpr char const* s_severities[] = {"error: ", "warning: ", "note: "};
 
-/// Leaves nothing in a text that would drive a terminal or end the line.
+/// Leaves nothing in a text that would drive a terminal, change how the rest is shown, or end the
+/// line.
 std::string inOneLine(std::string_view text) {
     String line;
-    CLI::XML::append(line, text);
+    CLI::XML::append(line, web::visible(text));
+    // Bytes that belong to no character.
     replaceControls(line);
-    std::string shown(line.view());
-    auto const isControl = [](char c) { return c >= '\t' && c <= '\r'; };
-    std::replace_if(shown.begin(), shown.end(), isControl, '?');
-    return shown;
+    return std::string(line.view());
 }
 
 }  // namespace

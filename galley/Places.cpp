@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "base/append.h"
 #include "galley/terminal/columns.h"
 #include "galley/terminal/controls.h"
+#include "web/text/utf8.h"
+#include "web/text/visible.h"
 
 namespace galley {
 
@@ -17,10 +18,28 @@ constexpr std::string_view s_cut = "...";
 /// Digits that a line number has room for.
 constexpr std::size_t s_numberWidth = 5;
 
+/// How a character is shown that would not be seen, or drive a terminal; empty for another one.
+/// Tabs are shown as tabs, and other white space of ASCII as a blank.
+std::string replacementAt(std::string_view line, std::size_t i) {
+    if (line[i] == '\t') return "";
+    if (line[i] == '\v' || line[i] == '\f' || line[i] == '\r') return " ";
+    web::CodePoint const c = web::decodeAt(line, i);
+    if (c.isWellFormed) return web::isHidden(c.value) ? web::notation(c.value) : "";
+    // A terminal may take it for a control of one byte.
+    bool const isControl = (static_cast<unsigned char>(line[i]) & 0xE0U) == 0x80;
+    return isControl ? "?" : "";
+}
+
+/// Columns that the character at `i` is shown in.
+unsigned shownColumns(std::string_view line, std::size_t i) {
+    std::string const replacement = replacementAt(line, i);
+    return replacement.empty() ? columnsAt(line, i) : static_cast<unsigned>(replacement.length());
+}
+
 /// The index behind the characters from `i` on that fit into `room` columns.
 std::size_t forward(std::string_view line, std::size_t i, unsigned room) {
-    while (i < line.length() && columnsAt(line, i) <= room) {
-        room -= columnsAt(line, i);
+    while (i < line.length() && shownColumns(line, i) <= room) {
+        room -= shownColumns(line, i);
         i += lengthAt(line, i);
     }
     return i;
@@ -31,7 +50,7 @@ std::size_t backward(std::string_view line, std::size_t i, unsigned room) {
     while (i > 0) {
         std::size_t length = std::min(i, s_longestCharacter);
         while (length > 1 && characterLength(line, i - length) != length) --length;
-        unsigned const columns = columnsAt(line, i - length);
+        unsigned const columns = shownColumns(line, i - length);
         if (columns > room) break;
         room -= columns;
         i -= length;
@@ -39,16 +58,15 @@ std::size_t backward(std::string_view line, std::size_t i, unsigned room) {
     return i;
 }
 
-/// Leaves only bytes in a part of a line that take the cursor to the right, also of a source whose
-/// control characters are wanted on the page.
+/// Leaves only what takes the cursor to the right, also of a source whose control characters are
+/// wanted on the page.
 std::string printable(std::string_view part) {
-    String cleaned;
-    CLI::XML::append(cleaned, part);
-    replaceControls(cleaned);
-    std::string text(cleaned.view());
-    auto const isVertical = [](char c) { return c == '\v' || c == '\f' || c == '\r'; };
-    std::replace_if(text.begin(), text.end(), isVertical, ' ');
-    return text;
+    std::string shown;
+    for (std::size_t i = 0; i < part.length(); i += lengthAt(part, i)) {
+        std::string const replacement = replacementAt(part, i);
+        shown += replacement.empty() ? part.substr(i, lengthAt(part, i)) : replacement;
+    }
+    return shown;
 }
 
 /// Blanks as wide as `text`, with its tabs.
@@ -102,16 +120,15 @@ std::string Places::excerpt(std::size_t position) {
 
     std::size_t const column = std::min(position - start, line.length());
     // At an end of the line, what that leaves free goes to the other side.
-    std::size_t const behind = forward(line, column, s_longestExcerpt / 2);
-    std::size_t const first = backward(line, behind, s_longestExcerpt);
+    std::size_t const reached = forward(line, column, s_longestExcerpt / 2);
+    std::size_t const first = backward(line, reached, s_longestExcerpt);
     std::size_t const last = forward(line, first, s_longestExcerpt);
 
     std::string const opening(first > 0 ? s_cut : "");
-    std::string const shown = opening + printable(line.substr(first, last - first));
+    std::string const before = opening + printable(line.substr(first, column - first));
+    std::string const behind = printable(line.substr(column, last - column));
     std::string const number = std::to_string(place.line);
-    std::string_view const before =
-        std::string_view(shown).substr(0, opening.length() + column - first);
-    return margin(number) + shown + (last < line.length() ? "...\n" : "\n") +
+    return margin(number) + before + behind + (last < line.length() ? "...\n" : "\n") +
            margin(std::string(number.length(), ' ')) + padding(before) + "^\n";
 }
 

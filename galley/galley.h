@@ -125,7 +125,8 @@ public:
     /// Adds one.
     void addNote(Diagnostic note) { ownNotes.push_back(std::move(note)); }
     /// All of it in lines as a compiler prints them: "SOURCE:LINE:COLUMN: error: MESSAGE", the
-    /// excerpt, the notes. Control characters become question marks.
+    /// excerpt, the notes. What would not be seen, such as controls and marks of direction, is
+    /// shown as "<U+202E>".
     std::string text() const;
 
 private:

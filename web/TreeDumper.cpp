@@ -4,10 +4,14 @@
 
 #include "web/css/characters.h"
 #include "web/css/describeStyle.h"
+#include "web/text/visible.h"
 
 namespace galley::web {
 
 namespace {
+
+/// With nothing in it that would not be seen.
+std::string shown(std::string_view text) { return printable(visible(text)); }
 
 /// With each run of white space as one blank, and none at the ends.
 std::string collapsed(std::string_view text) {
@@ -18,12 +22,12 @@ std::string collapsed(std::string_view text) {
         words += isBlank ? ' ' : c;
     }
     if (words.ends_with(' ')) words.pop_back();
-    return printable(words);
+    return shown(words);
 }
 
 /// As a selector has it.
 std::string nameOf(Element const& element) {
-    std::string name = printable(element.name);
+    std::string name = shown(element.name);
     for (Attribute const& attribute : element.attributes) {
         if (attribute.name == "id") name.append("#").append(collapsed(attribute.value));
         if (attribute.name != "class") continue;

@@ -1,8 +1,9 @@
 #include "web/wording.h"
 
 #include <algorithm>
-#include <cctype>
 #include <utility>
+
+#include "web/text/visible.h"
 
 namespace galley::web {
 
@@ -11,7 +12,6 @@ namespace {
 /// In bytes.
 constexpr std::size_t s_longest = 40;
 
-bool isControl(unsigned char c) { return std::iscntrl(c) != 0; }
 bool continuesCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80; }
 
 }  // namespace
@@ -20,8 +20,7 @@ std::string shortened(std::string_view text) {
     std::size_t length = std::min(text.length(), s_longest);
     bool const isCut = length < text.length();
     while (isCut && length > 0 && continuesCharacter(text[length])) --length;
-    std::string shown(text.substr(0, length));
-    std::replace_if(shown.begin(), shown.end(), isControl, '?');
+    std::string shown = visible(text.substr(0, length));
     return isCut ? shown.append("...") : shown;
 }
 

@@ -42,7 +42,7 @@ TEST_F(Pager, ShowsWhatATerminalWouldAndTheErrorsBehindIt) {
         {"-", "--color never bold.xml", 0, "x y z\r\nab\r\n", "Cannot run the pager '-'"},
         {"kill -SEGV $$", "--color never bold.xml", 0, "x y z\r\nab\r\n", "Cannot run the pager"},
         {"cat; exit 2", "--color never bold.xml", 0, "x y z\r\nab\r\n", ""},
-        {"a\tb\nc", "--color never bold.xml", 0, "x y z\r\nab\r\n", "'a?b?c'"},
+        {"a\tb\nc", "--color never bold.xml", 0, "x y z\r\nab\r\n", "'a<U+0009>b<U+000A>c'"},
         {"/dev/null", "--color never bold.xml", 0, "x y z\r\nab\r\n", "Cannot run the pager"},
     };
     for (Case const& c : cases) {

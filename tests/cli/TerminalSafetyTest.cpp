@@ -107,8 +107,29 @@ TEST_F(TerminalSafety, HoldsForNamesOfFiles) {
          {quoted, "--css " + quoted, "--output " + quoted + " " + quoted,
           "--output-dir o " + quoted + " ./" + quoted}) {
         Outcome const outcome = run(arguments, "<p/>");
-        EXPECT_NE(outcome.err.find("?]0;t??."), std::string::npos) << outcome.err;
+        EXPECT_NE(outcome.err.find("<U+001B>]0;t<U+0007>?."), std::string::npos) << outcome.err;
         EXPECT_FALSE(drivesATerminal(outcome.err)) << arguments;
+    }
+}
+
+/// A source that is shown from right to left would be shown as what it is not.
+TEST_F(TerminalSafety, HoldsForTheDirectionOfWhatIsShownOfASource) {
+    for (std::string const mark : {"\u202A", "\u202B", "\u202C", "\u202D", "\u202E", "\u2066",
+                                   "\u2067", "\u2068", "\u2069", "\u200E", "\u200F", "\u061C"}) {
+        std::string const document = "<p " + mark + "='" + mark + "' class='" + mark + "'>" + mark +
+                                     "&" + mark + ";<" + mark + "/>";
+        write("sheet.css", "." + mark + ":" + mark + "{" + mark + ": " + mark + "; color: " + mark +
+                               "}\n@media " + mark + "{}\np{list-style-type:'" + mark + "'}");
+        for (std::string const arguments :
+             {"--check --css sheet.css", "--dump tree --css sheet.css",
+              "--dialect core --check --css sheet.css"}) {
+            for (char const* const end : {"</p>", "</q>"}) {
+                Outcome const outcome = Tool::run(arguments, document + end);
+                std::string const shown = outcome.out + outcome.err;
+                EXPECT_EQ(shown.find(mark), std::string::npos) << arguments << shown;
+                EXPECT_NE(shown.find("<U+"), std::string::npos) << arguments << shown;
+            }
+        }
     }
 }
 

@@ -84,11 +84,12 @@ TEST_F(CoreTool, SaysWhichFileAndLineIsAtFault) {
          "      | ^\n"},
         {"absent.xml", "", 3, "absent.xml: error: No such file or directory\n"},
         {"--css absent.css", "", 3, "absent.css: error: No such file or directory\n"},
-        {"\"$(printf 'a\\033b')\"", "", 3, "a?b: error: No such file or directory\n"},
+        {"\"$(printf 'a\\033b')\"", "", 3, "a<U+001B>b: error: No such file or directory\n"},
         {".", "", 3, ".: error: Is a directory\n"},
-        {"\"$(printf 'a\\nb\\tc')\"", "", 3, "a?b?c: error: No such file or directory\n"},
+        {"\"$(printf 'a\\nb\\tc')\"", "", 3,
+         "a<U+000A>b<U+0009>c: error: No such file or directory\n"},
         {"", "<p\f/>", 1,
-         "<stdin>:1:1: error: Invalid tag: <p?>\n"
+         "<stdin>:1:1: error: Invalid tag: <p<U+000C>>\n"
          "    1 | <p />\n"
          "      | ^\n"},
         {">/dev/full", "<p>x</p>", 3, "<stdout>: error: No space left on device\n"},
@@ -182,7 +183,7 @@ TEST_F(CoreTool, RefusesWhatItDoesNotKnow) {
     EXPECT_EQ(run("-s").err, "galley: error: --css: no value is given" + more);
     EXPECT_EQ(run("-o= page.xml").err, "galley: error: -o: no value is given" + more);
     EXPECT_EQ(run("\"$(printf -- '--a\\nb')\"").err,
-              "galley: error: The following argument was not expected: --a?b" + more);
+              "galley: error: The following argument was not expected: --a<U+000A>b" + more);
     EXPECT_EQ(read("page.xml"), "page");
 }
 

@@ -140,9 +140,13 @@ TEST(Diagnose, ShowsLinesAsTheyCanBeShown) {
         {"a\v\rb<q/>", 1, invalid, "a  b<q/>", "    ^"},
         {"\xe9\xa9\xc3" + smiley + "\t<q/>", 1, invalid, "\xe9\xa9\xc3" + smiley + "\t<q/>",
          "     \t^", 6},
-        // An accent on the letter before, a wide letter, and a mark without width.
-        {"e\xcc\x81\xe4\xb8\xad\xef\xbb\xbf<q/>", 1, invalid,
-         "e\xcc\x81\xe4\xb8\xad\xef\xbb\xbf<q/>", "   ^", 5},
+        // An accent on the letter before, a wide letter, and a joiner without width.
+        {"e\u0301\u4E2D\u200D<q/>", 1, invalid, "e\u0301\u4E2D\u200D<q/>", "   ^", 5},
+        // What would be shown from right to left, or not at all.
+        {"a\u202Eb\u2069<q/>\u200F", 1, invalid, "a<U+202E>b<U+2069><q/><U+200F>",
+         std::string(18, ' ') + "^", 5},
+        {repeat("\u202E", 50) + "<q/>", 1, invalid, dots + repeat("<U+202E>", 8) + "<q/>",
+         std::string(67, ' ') + "^", 51},
         {std::string(68, 'a') + "<q/>", 1, invalid, std::string(68, 'a') + "<q/>",
          std::string(68, ' ') + "^"},
         {std::string(69, 'a') + "<q/>", 1, invalid, dots + std::string(68, 'a') + "<q/>",

@@ -183,7 +183,7 @@ TEST(Library, LetsControlsThroughWhereTheyAreWanted) {
     EXPECT_EQ(*galley::render("<p>\x07</p>", sheet, options), "\x1b\x07\n");
     // But never where an error is shown; and what is checked is what would be shown.
     EXPECT_EQ(galley::render("\x1b\x07x<q/>", sheet, options).error().excerpt(),
-              "    1 | ??x<q/>\n      |    ^\n");
+              "    1 | <U+001B><U+0007>x<q/>\n      |                  ^\n");
     using namespace std::literals;
     std::string_view const nul = "<p>a\0</p>"sv;
     EXPECT_EQ(galley::check(nul, sheet, options).size(), 1U);

@@ -5,6 +5,7 @@
 
 #include "web/css/colourNames.h"
 #include "web/css/valueWords.h"
+#include "web/text/visible.h"
 
 namespace galley::web {
 
@@ -20,7 +21,7 @@ std::string wordOf(T value) {
 }
 
 std::string quotedText(std::string_view text) {
-    return std::string("\"").append(text).append("\"");
+    return std::string("\"").append(visible(text)).append("\"");
 }
 
 std::string thousandths(std::int32_t value) {

@@ -110,15 +110,15 @@ TEST(CheckSheet, WarnsAboutValues) {
 TEST(CheckSheet, TakesAFormFeedForAByteOfAToken) {
     check({
         {"p\f{ color: red; }",
-         "1:2 warning: a form feed is no white space in a sheet, but a part of 'p?'\n", ""},
+         "1:2 warning: a form feed is no white space in a sheet, but a part of 'p<U+000C>'\n", ""},
         {"p { margin: 1;\fcolor: red; }",
-         "1:15 warning: a form feed is no white space in a sheet, but a part of '?color'\n",
+         "1:15 warning: a form feed is no white space in a sheet, but a part of '<U+000C>color'\n",
          "p { margin: 1; }"},
         {"p { color:\fred; }",
-         "1:11 warning: a form feed is no white space in a sheet, but a part of '?red'\n",
+         "1:11 warning: a form feed is no white space in a sheet, but a part of '<U+000C>red'\n",
          "p { color: default; }"},
-        {"\fp{}", "1:1 warning: a form feed is no white space in a sheet, but a part of '?p'\n",
-         ""},
+        {"\fp{}",
+         "1:1 warning: a form feed is no white space in a sheet, but a part of '<U+000C>p'\n", ""},
     });
 }
 
