@@ -127,6 +127,11 @@ Widths Content::partedWidths(Paragraph& scratch) const {
     return blocks.front().content;
 }
 
+std::optional<PlainText> Content::plainText() const {
+    if (first.block == nullptr || others != nullptr) return std::nullopt;
+    return first.view();
+}
+
 void Content::moveTo(BlockSink& sink, Paragraph& scratch) {
     if (first.block != nullptr) sink.add(first.view());
     first = {};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -36,6 +37,9 @@ public:
     void add(PlainText const& text) override;
     void add(Paragraph const& paragraph) override;
     void add(std::unique_ptr<Table> table) override;
+
+    /// If there is no more than one plain text, that. As long as the content stays.
+    std::optional<PlainText> plainText() const;
 
     /// Hands all of it on, paragraphs in `scratch`. Its tables have been moved away then: once
     /// only.

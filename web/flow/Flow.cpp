@@ -132,10 +132,7 @@ int Flow::beginParagraph(Style const& style) {
 
 /// Begins the row of a line that is so wide. Returns the column where it stands.
 int Flow::beginLine(Style const& style, int indent, int lineWidth) {
-    int const spare = std::max(0, columns() - indent - lineWidth);
-    int column = contentLeft() + indent;
-    if (style.textAlign == TextAlign::right) column += spare;
-    if (style.textAlign == TextAlign::centre) column += spare / 2;
+    int const column = contentLeft() + columnOfLine(style, columns(), indent, lineWidth);
     beginRow();
     row.fill(column, blankOn(background()));
     return column;

@@ -26,6 +26,7 @@ TableBand::TableBand(TableGrid& banded, TableFrame const& tableFrame,
     : grid(banded),
       frame(tableFrame),
       places(columnPlaces),
+      budget(cells),
       flow(content, cells, 0, {}, Flow::OuterMargins::shown) {}
 
 void TableBand::layOut(int firstRow, Wrapping wrapping) {
@@ -66,17 +67,38 @@ void TableBand::layOutCell(TableCell& cell, int row, Wrapping wrapping) {
     placed.isBare = cell.background.kind == Colour::Kind::terminal &&
                     !frame.hasBorder(style.border.left) && !frame.hasBorder(style.border.right) &&
                     !frame.hasBorder(style.border.top) && !frame.hasBorder(style.border.bottom);
+    if (!layOutLine(placed)) layOutContent(placed, wrapping);
+    placed.above =
+        (frame.hasBorder(style.border.top) ? 1 : 0) + down(style.padding.top, places.width);
+    placed.needed = placed.above + placed.contentHeight() +
+                    down(style.padding.bottom, places.width) +
+                    (frame.hasBorder(style.border.bottom) ? 1 : 0);
+}
+
+/// Lays out what is no more than a line of plain text, which then stays in the cell. Fails where
+/// there is more.
+bool TableBand::layOutLine(LaidCell& placed) {
+    std::optional<PlainText> const plain = placed.cell->content.plainText();
+    if (!plain) return false;
+    Style const& style = *plain->block;
+    auto const width = static_cast<int>(plain->text.size());
+    int const indent = across(style.textIndent, placed.contentWidth);
+    if (indent < 0 || indent + width > placed.contentWidth || !isVisible(style)) return false;
+    placed.contentLeft += columnOfLine(style, placed.contentWidth, indent, width);
+    placed.text = plain->text;
+    placed.looks = {0, plain->text.size(), lookOf(style, plain->background)};
+    budget.take(plain->text.size() + 1);
+    return true;
+}
+
+void TableBand::layOutContent(LaidCell& placed, Wrapping wrapping) {
+    TableCell& cell = *placed.cell;
     flow.restart(std::max(0, placed.contentWidth), cell.background, wrapping);
     placed.firstLine = content.size();
     cell.content.moveTo(flow, scratch);
     flow.finish();
     placed.endLine = content.size();
     placed.baseline = flow.baseline().value_or(placed.contentHeight() - 1);
-    placed.above =
-        (frame.hasBorder(style.border.top) ? 1 : 0) + down(style.padding.top, places.width);
-    placed.needed = placed.above + placed.contentHeight() +
-                    down(style.padding.bottom, places.width) +
-                    (frame.hasBorder(style.border.bottom) ? 1 : 0);
 }
 
 /// Moves content down so that first texts are in one row.

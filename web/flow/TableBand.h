@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+#include <string_view>
 #include <vector>
 
 #include "web/flow/Flow.h"
@@ -34,6 +36,11 @@ struct LaidCell {
     std::size_t firstLine = 0;
     std::size_t endLine = 0;
     ///@}
+    /// Instead of these, the only row of most cells, which is the cell's own text.
+    ///@{
+    std::string_view text = {};
+    RowSpan looks = {};
+    ///@}
     int left = 0;
     int right = 0;
     int top = 0;
@@ -51,7 +58,9 @@ struct LaidCell {
     /// The row of the content that lies on the baseline.
     int baseline = 0;
 
-    int contentHeight() const { return static_cast<int>(endLine - firstLine); }
+    int contentHeight() const {
+        return text.empty() ? static_cast<int>(endLine - firstLine) : 1;
+    }
 };
 
 /// Rows of a table from one that no cell reaches into to the next such one, laid out together: with
@@ -77,13 +86,16 @@ public:
     std::vector<LaidCell>& cells() { return laid; }
     /// A row of a cell's content, which has that many. As long as the band is the same.
     RowView rowOf(LaidCell const& cell, int line) const {
-        return content[cell.firstLine + static_cast<std::size_t>(line)];
+        if (cell.text.empty()) return content[cell.firstLine + static_cast<std::size_t>(line)];
+        return {cell.text, std::span(&cell.looks, 1), static_cast<int>(cell.text.size())};
     }
 
 private:
     std::size_t index(int row) const { return static_cast<std::size_t>(row - first); }
     int layOutRow(int row, Wrapping wrapping);
     void layOutCell(TableCell& cell, int row, Wrapping wrapping);
+    bool layOutLine(LaidCell& placed);
+    void layOutContent(LaidCell& placed, Wrapping wrapping);
     void alignBaselines(std::size_t firstOfRow);
     void placeRows();
     void placeContent(LaidCell& cell) const;
@@ -91,6 +103,7 @@ private:
     TableGrid& grid;
     TableFrame const& frame;
     ColumnPlaces const& places;
+    PageBudget& budget;
     int first = 0;
     /// Rows of all cells.
     RowBlock content;

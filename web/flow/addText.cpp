@@ -78,6 +78,7 @@ void Paragraph::addGenerated(std::string_view decoded) {
             if (length > 0) addWords(words.substr(0, length));
             std::string_view const last = words.substr(length);
             if (!last.empty()) addWord(last, {.width = last.size()});
+            if (reader.isAtEnd()) return;
         }
         if (style().whiteSpace == WhiteSpace::pre) {
             addUnbroken(reader.takeUnbroken());

@@ -63,6 +63,13 @@ inline int leftMargin(Style const& style, int columns, int spare) {
     return isAutomatic(style.margin.right) ? spare / 2 : spare;
 }
 
+/// Where a line of that width stands in a container, the first columns of which are its indent.
+inline int columnOfLine(Style const& style, int columns, int indent, int width) {
+    int const spare = std::max(0, columns - indent - width);
+    if (style.textAlign == TextAlign::right) return indent + spare;
+    return style.textAlign == TextAlign::centre ? indent + spare / 2 : indent;
+}
+
 /// A block that is as wide as its container where its style does not say otherwise.
 inline HorizontalPlace placeBlock(Style const& style, int columns) {
     // What content has to fit into is rounded down as a whole.

@@ -37,6 +37,11 @@ public:
         at += text.size();
         return true;
     }
+    bool take(char byte) {
+        if (at == source.size() || source[at] != byte) return false;
+        ++at;
+        return true;
+    }
     /// Takes the bytes before the next one that is `end`, or all.
     std::string_view takeUntil(char end);
     /// Steps behind the next `end`, if there is one.

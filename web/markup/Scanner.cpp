@@ -72,7 +72,7 @@ bool Scanner::skipDocumentType() {
             continue;
         }
         char const c = cursor.peek();
-        cursor.take({&c, 1});
+        cursor.take(c);
         if (c == '>' && !isInBrackets) return true;
         if (c == '[' || c == ']') isInBrackets = c == '[';
         bool const isQuote = c == '"' || c == '\'';

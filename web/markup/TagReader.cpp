@@ -9,7 +9,7 @@ namespace galley::web {
 
 bool TagReader::readStartTag(Piece& piece) {
     piece.kind = Piece::Kind::startTag;
-    cursor.take("<");
+    cursor.take('<');
     piece.name = cursor.takeName();
     if (piece.name.empty()) {
         return fail(problems, piece.offset,
@@ -19,7 +19,7 @@ bool TagReader::readStartTag(Piece& piece) {
     for (;;) {
         bool const isApart = cursor.skipWhitespace();
         piece.isClosed = cursor.take("/>");
-        if (piece.isClosed || cursor.take(">")) return areDistinct(piece.attributes);
+        if (piece.isClosed || cursor.take('>')) return areDistinct(piece.attributes);
         if (!readAttribute(piece, isApart)) return false;
     }
 }
@@ -36,7 +36,7 @@ bool TagReader::readAttribute(Piece& piece, bool isApart) {
                     "Expecting white space before " + quoted(attribute.name));
     }
     cursor.skipWhitespace();
-    if (!cursor.take("=")) {
+    if (!cursor.take('=')) {
         return failInTag(piece, attribute.nameOffset,
                          "Expecting '=' and a value behind " + quoted(attribute.name));
     }
@@ -54,7 +54,7 @@ bool TagReader::readValue(Piece const& piece, Attribute& attribute) {
                          "Expecting quotation marks around the value of " + quoted(attribute.name));
     }
     char const mark = cursor.peek();
-    cursor.take({&mark, 1});
+    cursor.take(mark);
     attribute.valueOffset = cursor.position();
     attribute.value = cursor.takeUntil(mark);
     std::size_t const tag = attribute.value.find('<');
@@ -62,7 +62,7 @@ bool TagReader::readValue(Piece const& piece, Attribute& attribute) {
         return fail(problems, attribute.valueOffset + tag,
                     "Expecting quotation mark before '<'; write '&lt;' for the character itself");
     }
-    if (cursor.take({&mark, 1})) return true;
+    if (cursor.take(mark)) return true;
     return fail(problems, start,
                 "Missing quotation mark behind the value of " + quoted(attribute.name));
 }
@@ -92,7 +92,7 @@ bool TagReader::readEndTag(Piece& piece) {
     if (piece.name.empty())
         return fail(problems, piece.offset, "Expecting element name behind '</'");
     cursor.skipWhitespace();
-    if (cursor.take(">")) return true;
+    if (cursor.take('>')) return true;
     return failInTag(piece, cursor.position(), "Expecting '>' in end tag of " + quoted(piece.name));
 }
 

@@ -52,7 +52,7 @@ std::size_t behindLineFeed(std::string_view text, std::size_t from) {
 }  // namespace
 
 bool SegmentReader::next(Segment& segment) {
-    if (at == text.size()) return false;
+    if (isAtEnd()) return false;
     segment = {.begin = at};
     bool const isByClusters = options.wordBreak == WordBreak::breakAll || !isAscii(text[at]);
     if (isByClusters || !readAscii(segment)) readClusters(segment);

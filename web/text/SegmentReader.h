@@ -63,6 +63,8 @@ public:
     explicit SegmentReader(std::string_view source, TextOptions how = {})
         : text(source), options(how) {}
 
+    bool isAtEnd() const { return at == text.size(); }
+
     /// The next segment; false, and the segment as it was, once there is none. An empty text has
     /// none, and one that ends with white space has none behind that.
     bool next(Segment& segment);
