@@ -31,13 +31,11 @@ void widen(Widths& widths, Widths const& child) {
 
 /// In the widest line of a text where lines are so long.
 int widestLine(PlainText const& text, int cells, bool partsWords) {
-    int indent = across(text.block->textIndent, 0);
     int widest = 0;
-    for (std::string_view rest = text.text; !rest.empty(); indent = 0) {
-        PlainLine const line = plainLine(rest, cells - indent, partsWords);
-        widest = std::max(widest, indent + static_cast<int>(line.length));
-        rest.remove_prefix(line.next);
-    }
+    breakLines(text, cells, partsWords, across(text.block->textIndent, 0),
+               [&widest](std::string_view line, int indent) {
+                   widest = std::max(widest, indent + static_cast<int>(line.size()));
+               });
     return widest;
 }
 

@@ -90,19 +90,18 @@ void Flow::add(PlainText const& text) {
     using Purpose = LineBreaker::Purpose;
     bool const partsWords = LineBreaker::mayPart(style, Purpose::layingOut, wrapping);
     Look const look = lookOf(style, text.background);
-    int indent = beginParagraph(style);
-    for (std::string_view rest = text.text; !rest.empty(); indent = 0) {
-        PlainLine const line = plainLine(rest, columns() - indent, partsWords);
-        auto const length = static_cast<int>(line.length);
+    int const firstIndent = beginParagraph(style);
+    auto const addLine = [&](std::string_view line, int indent) {
+        auto const length = static_cast<int>(line.size());
         beginLine(style, indent, length);
         if (isVisible(style)) {
-            row.add(rest.substr(0, line.length), length, look);
+            row.add(line, length, look);
         } else {
             row.fill(row.width() + length, look);
         }
         endRow();
-        rest.remove_prefix(line.next);
-    }
+    };
+    breakLines(text, columns(), partsWords, firstIndent, addLine);
 }
 
 void Flow::add(Paragraph const& paragraph) {

@@ -18,7 +18,7 @@ struct PlainText {
     std::string_view text;
 };
 
-/// The first line of a plain text.
+/// The first line of a text.
 struct PlainLine {
     /// In bytes, which are cells.
     std::size_t length;
@@ -29,5 +29,15 @@ struct PlainLine {
 /// That of at most so many columns where it can be. Words that have no room are parted, or stick
 /// out.
 PlainLine plainLine(std::string_view text, int columns, bool partsWords);
+
+/// Calls `take` with each line and the columns that it is indented, in a container of so many.
+template <class Take>
+void breakLines(PlainText const& plain, int columns, bool partsWords, int indent, Take take) {
+    for (std::string_view rest = plain.text; !rest.empty(); indent = 0) {
+        PlainLine const line = plainLine(rest, columns - indent, partsWords);
+        take(rest.substr(0, line.length), indent);
+        rest.remove_prefix(line.next);
+    }
+}
 
 }  // namespace galley::web

@@ -33,6 +33,7 @@ void TableBand::layOut(int firstRow, Wrapping wrapping) {
     first = firstRow;
     laid.clear();
     content.clear();
+    lines.clear();
     int end = first + 1;
     for (int row = first; row < end; ++row) end = std::max(end, layOutRow(row, wrapping));
     heights.assign(static_cast<std::size_t>(end - first), 0);
@@ -67,7 +68,12 @@ void TableBand::layOutCell(TableCell& cell, int row, Wrapping wrapping) {
     placed.isBare = cell.background.kind == Colour::Kind::terminal &&
                     !frame.hasBorder(style.border.left) && !frame.hasBorder(style.border.right) &&
                     !frame.hasBorder(style.border.top) && !frame.hasBorder(style.border.bottom);
-    if (!layOutLine(placed)) layOutContent(placed, wrapping);
+    std::optional<PlainText> const text = cell.content.plainText();
+    if (text && isVisible(*text->block)) {
+        layOutText(placed, *text, wrapping);
+    } else {
+        layOutContent(placed, wrapping);
+    }
     placed.above =
         (frame.hasBorder(style.border.top) ? 1 : 0) + down(style.padding.top, places.width);
     placed.needed = placed.above + placed.contentHeight() +
@@ -75,20 +81,22 @@ void TableBand::layOutCell(TableCell& cell, int row, Wrapping wrapping) {
                     (frame.hasBorder(style.border.bottom) ? 1 : 0);
 }
 
-/// Lays out what is no more than a line of plain text, which then stays in the cell. Fails where
-/// there is more.
-bool TableBand::layOutLine(LaidCell& placed) {
-    std::optional<PlainText> const plain = placed.cell->content.plainText();
-    if (!plain) return false;
-    Style const& style = *plain->block;
-    auto const width = static_cast<int>(plain->text.size());
-    int const indent = across(style.textIndent, placed.contentWidth);
-    if (indent < 0 || indent + width > placed.contentWidth || !isVisible(style)) return false;
-    placed.contentLeft += columnOfLine(style, placed.contentWidth, indent, width);
-    placed.text = plain->text;
-    placed.looks = {0, plain->text.size(), lookOf(style, plain->background)};
-    budget.take(plain->text.size() + 1);
-    return true;
+void TableBand::layOutText(LaidCell& placed, PlainText const& text, Wrapping wrapping) {
+    Style const& style = *text.block;
+    int const columns = std::max(0, placed.contentWidth);
+    using Purpose = LineBreaker::Purpose;
+    bool const partsWords = LineBreaker::mayPart(style, Purpose::layingOut, wrapping);
+    Look const look = lookOf(style, text.background);
+    placed.isPlain = true;
+    placed.firstLine = lines.size();
+    breakLines(text, columns, partsWords, across(style.textIndent, columns),
+               [&](std::string_view line, int indent) {
+                   auto const width = static_cast<int>(line.size());
+                   int const column = columnOfLine(style, columns, indent, width);
+                   lines.push_back({line, {0, line.size(), look}, std::max(0, column)});
+                   budget.take(line.size() + 1);
+               });
+    placed.endLine = lines.size();
 }
 
 void TableBand::layOutContent(LaidCell& placed, Wrapping wrapping) {

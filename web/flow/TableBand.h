@@ -31,15 +31,11 @@ struct LaidCell {
     TableCell* cell = nullptr;
     int firstRow = 0;
     int endRow = 0;
-    /// Rows of the band's content.
+    /// Rows of the band's content, or if the cell is of plain text, of its lines.
     ///@{
     std::size_t firstLine = 0;
     std::size_t endLine = 0;
-    ///@}
-    /// Instead of these, the only row of most cells, which is the cell's own text.
-    ///@{
-    std::string_view text = {};
-    RowSpan looks = {};
+    bool isPlain = false;
     ///@}
     int left = 0;
     int right = 0;
@@ -58,9 +54,7 @@ struct LaidCell {
     /// The row of the content that lies on the baseline.
     int baseline = 0;
 
-    int contentHeight() const {
-        return text.empty() ? static_cast<int>(endLine - firstLine) : 1;
-    }
+    int contentHeight() const { return static_cast<int>(endLine - firstLine); }
 };
 
 /// Rows of a table from one that no cell reaches into to the next such one, laid out together: with
@@ -86,15 +80,30 @@ public:
     std::vector<LaidCell>& cells() { return laid; }
     /// A row of a cell's content, which has that many. As long as the band is the same.
     RowView rowOf(LaidCell const& cell, int line) const {
-        if (cell.text.empty()) return content[cell.firstLine + static_cast<std::size_t>(line)];
-        return {cell.text, std::span(&cell.looks, 1), static_cast<int>(cell.text.size())};
+        std::size_t const index = cell.firstLine + static_cast<std::size_t>(line);
+        return cell.isPlain ? lines[index].view() : content[index];
+    }
+    /// Columns that such a row stands to the right of the others.
+    int indentOf(LaidCell const& cell, int line) const {
+        return cell.isPlain ? lines[cell.firstLine + static_cast<std::size_t>(line)].indent : 0;
     }
 
 private:
+    /// Of a plain text, which stays in its cell.
+    struct Line {
+        std::string_view text;
+        RowSpan looks;
+        int indent;
+
+        RowView view() const {
+            return {text, std::span(&looks, 1), static_cast<int>(text.size())};
+        }
+    };
+
     std::size_t index(int row) const { return static_cast<std::size_t>(row - first); }
     int layOutRow(int row, Wrapping wrapping);
     void layOutCell(TableCell& cell, int row, Wrapping wrapping);
-    bool layOutLine(LaidCell& placed);
+    void layOutText(LaidCell& placed, PlainText const& text, Wrapping wrapping);
     void layOutContent(LaidCell& placed, Wrapping wrapping);
     void alignBaselines(std::size_t firstOfRow);
     void placeRows();
@@ -105,10 +114,13 @@ private:
     ColumnPlaces const& places;
     PageBudget& budget;
     int first = 0;
-    /// Rows of all cells.
+    /// Rows of all cells that are not of plain text, and what makes them.
+    ///@{
     RowBlock content;
-    /// Makes them.
     Flow flow;
+    ///@}
+    /// Of the others.
+    std::vector<Line> lines;
     std::vector<LaidCell> laid;
     std::vector<LaidCell*> byEnd;
     Paragraph scratch;

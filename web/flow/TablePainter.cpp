@@ -180,13 +180,11 @@ void TablePainter::paintVertical(int line, bool isGap, Colour background) {
 
 /// Adds a cell where it stands, or puts it over others on which it stands.
 void TablePainter::paintCell(LaidCell const& cell, int y) {
-    if (cell.isBare) {
-        int const line = y - cell.top - cell.above;
-        if (line < 0 || line >= cell.contentHeight()) return;
-    }
+    int const line = y - cell.top - cell.above;
+    if (cell.isBare && (line < 0 || line >= cell.contentHeight())) return;
     if (row.width() <= cell.left) {
-        paintPiece(row, cell, cell.left, y);
-        return;
+        if (cell.isBare) return paintContent(row, cell, cell.left, line);
+        return paintPiece(row, cell, cell.left, y);
     }
     Row piece;
     paintPiece(piece, cell, 0, y);
@@ -225,11 +223,13 @@ void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int 
     RowView const content = band.rowOf(cell, line);
     if (content.width == 0) return;
     Colour const background = cell.cell->background;
-    if (!overlays.empty() || content.width > cell.contentWidth || left != cell.left) {
-        overlays.push_back({cell.contentLeft, content, background});
+    int const indent = band.indentOf(cell, line);
+    int const column = cell.contentLeft + indent;
+    if (!overlays.empty() || indent + content.width > cell.contentWidth || left != cell.left) {
+        overlays.push_back({column, content, background});
         return;
     }
-    piece.fill(cell.contentLeft, blankOn(background));
+    piece.fill(column, blankOn(background));
     piece.add(content);
 }
 
