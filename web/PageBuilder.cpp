@@ -212,8 +212,8 @@ void PageBuilder::finish() {
 /// Where nothing of the document waits any more but what is open, drops the rest.
 void PageBuilder::letGo() {
     if (!tables.empty() || frame().paragraph.hasOpen()) return;
-    links.clear();
-    anonymousStyles.clear();
+    if (!links.empty()) links.clear();
+    if (!anonymousStyles.empty()) anonymousStyles.clear();
     if (!cascade->isFull()) return;
     std::vector<Style const*> inUse = {html.style, body.style};
     for (OpenElement const& each : open) inUse.push_back(each.style);

@@ -83,6 +83,7 @@ void PageBuilder::endParagraph() {
         if (!done.isEmpty()) current.sink->add(done);
         return;
     }
+    if (current.paragraph.items().empty()) return;
     current.paragraph.finish();
     if (auto const plain = current.paragraph.plainText()) {
         current.sink->add(*plain);

@@ -38,7 +38,7 @@ std::vector<Cell> cellsOf(RowView const& row, bool isAmbiguousWide) {
 void Row::add(std::string_view printed, int columns, Look const& look) {
     bytes.append(printed);
     cells += columns;
-    close(look);
+    close(look, bytes.size());
 }
 
 void Row::fill(int column, Look const& look) {
@@ -46,14 +46,13 @@ void Row::fill(int column, Look const& look) {
     if (column > s_widest) throw PageTooLarge();
     bytes.append(static_cast<std::size_t>(column - cells), ' ');
     cells = column;
-    close(look);
+    close(look, bytes.size());
 }
 
 void Row::add(RowView const& other) {
-    for (Span const& span : other.spans) {
-        bytes.append(other.textOf(span));
-        close(span.look);
-    }
+    std::size_t const begin = bytes.size();
+    bytes.append(other.text);
+    for (Span const& span : other.spans) close(span.look, begin + span.end);
     cells += other.width;
 }
 
@@ -111,14 +110,14 @@ void Row::clear() {
     cells = 0;
 }
 
-/// Ends a span behind the text.
-void Row::close(Look const& look) {
+/// Ends a span before a byte.
+void Row::close(Look const& look, std::size_t end) {
     std::size_t const begin = all.empty() ? 0 : all.back().end;
-    if (bytes.size() == begin) return;
+    if (end == begin) return;
     if (!all.empty() && all.back().look == look) {
-        all.back().end = bytes.size();
+        all.back().end = end;
     } else {
-        all.push_back({begin, bytes.size(), look});
+        all.push_back({begin, end, look});
     }
 }
 

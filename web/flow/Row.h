@@ -62,7 +62,7 @@ public:
     void clear();
 
 private:
-    void close(Look const& look);
+    void close(Look const& look, std::size_t end);
 
     std::string bytes;
     std::vector<Span> all;

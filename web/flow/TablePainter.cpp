@@ -120,12 +120,15 @@ void TablePainter::endRow() {
 
 void TablePainter::paintCells(int y, bool isGap) {
     nextLine = 0;
+    bool const hasLines = frame.collapses();
     Colour const* before = nullptr;
     for (LaidCell const* const cell : active) {
         Colour const& background = cell->cell->background;
         bool const isAlike =
             before != nullptr && nextLine == cell->cell->column && *before == background;
-        paintLines(cell->cell->column, isGap, isAlike ? before : nullptr);
+        if (hasLines || nextLine < cell->cell->column) {
+            paintLines(cell->cell->column, isGap, isAlike ? before : nullptr);
+        }
         paintCell(*cell, y);
         nextLine = std::max(nextLine, cell->cell->endColumn());
         before = &background;

@@ -51,6 +51,10 @@ std::size_t skipAscii(std::string_view text, std::size_t from) {
         std::memcpy(&bytes, text.data() + from, sizeof(bytes));
         if ((bytes & s_highBits) != 0) break;
     }
+    if (text.size() >= sizeof(bytes) && text.size() - from < sizeof(bytes)) {
+        std::memcpy(&bytes, text.data() + text.size() - sizeof(bytes), sizeof(bytes));
+        if ((bytes & s_highBits) == 0) return text.size();
+    }
     while (from < text.size() && isAscii(text[from])) ++from;
     return from;
 }
