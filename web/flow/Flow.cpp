@@ -44,19 +44,19 @@ void Flow::open(Style const& style, OutsideMarker marker) {
     HorizontalPlace const place = placeBlock(style, container);
     int const left = contentLeft() + place.marginLeft;
     int const edge = (style.border.left.isThere() ? 1 : 0) + across(style.padding.left, container);
-    int const right = left + place.borderWidth;
     pending = std::max(pending, down(style.margin.top, container));
-    blocks.push_back({.style = &style,
-                      .marker = std::move(marker),
-                      .left = left,
-                      .right = right,
-                      .contentLeft = left + edge,
-                      .contentWidth = place.width,
-                      .around = background(),
-                      .background = backgroundOf(style, background())});
-    Block& block = blocks.back();
+    Colour const around = background();
+    Block& block = blocks.emplace_back();
+    block.style = &style;
+    block.marker = std::move(marker);
+    block.left = left;
+    block.right = left + place.borderWidth;
+    block.contentLeft = left + edge;
+    block.contentWidth = place.width;
+    block.around = around;
+    block.background = backgroundOf(style, around);
     block.hasShownEdges = style.border.left.isThere() || style.border.right.isThere() ||
-                          isShown(block.around) || isShown(block.background);
+                          isShown(around) || isShown(block.background);
     int const padding = down(style.padding.top, container);
     if (!style.border.top.isThere() && padding == 0) return;
     start();
