@@ -5,17 +5,12 @@
 #include <utility>
 
 #include "web/css/Tokenizer.h"
+#include "web/text/whiteSpace.h"
 #include "web/wording.h"
 
 namespace galley::web {
 
 namespace {
-
-constexpr std::string_view s_whiteSpace = " \t\n\r";
-
-bool isBlank(std::string_view text) {
-    return text.find_first_not_of(s_whiteSpace) == std::string_view::npos;
-}
 
 bool isTablePart(Display display) { return display > Display::table; }
 

@@ -7,6 +7,7 @@
 #include "web/flow/Paragraph.h"
 #include "web/flow/transformText.h"
 #include "web/text/utf8.h"
+#include "web/text/whiteSpace.h"
 
 namespace galley::web {
 
@@ -42,10 +43,6 @@ TextOptions optionsFor(Style const& style) {
     return options;
 }
 
-bool isOfBlanks(std::string_view text) {
-    return text.find_first_not_of(" \t\n\r") == std::string_view::npos;
-}
-
 }  // namespace
 
 void Paragraph::addText(std::string_view decoded) {
@@ -55,7 +52,7 @@ void Paragraph::addText(std::string_view decoded) {
                         ? static_cast<char32_t>(decoded.back())
                         : decodeAt(decoded, startBefore(decoded, decoded.size())).value;
     bool const isCollapsed = style().whiteSpace == WhiteSpace::normal;
-    if (isBehindBlank && isCollapsed && isOfBlanks(decoded)) return;
+    if (isBehindBlank && isCollapsed && isBlank(decoded)) return;
     if (style().textTransform != TextTransform::none) {
         std::string transformed;
         transformText(transformed, decoded, style().textTransform, before);

@@ -9,6 +9,7 @@
 #include "web/text/ideographs.h"
 #include "web/text/scanWord.h"
 #include "web/text/utf8.h"
+#include "web/text/whiteSpace.h"
 
 namespace galley::web {
 
@@ -23,8 +24,6 @@ constexpr char32_t s_zeroWidthSpace = 0x200B;
 constexpr char32_t s_softHyphen = 0xAD;
 
 bool isLineFeed(char byte) { return byte == '\n' || byte == '\r'; }
-
-bool isWhiteSpace(char byte) { return byte == ' ' || byte == '\t' || isLineFeed(byte); }
 
 bool isLetterOrNumber(char32_t c) {
     utf8proc_category_t const category = utf8proc_category(static_cast<std::int32_t>(c));
