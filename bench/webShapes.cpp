@@ -146,6 +146,18 @@ void classes(Writer& to) {
     }
 }
 
+/// An element of many classes, and rules that ask for each of them, and for one that all ask for.
+void classList(Writer& to) {
+    std::string& sheet = to.corpus.sheet;
+    to.add("<p class=\"a");
+    while (to.next()) {
+        std::string const name = "c" + std::to_string(to.partCount());
+        sheet += ".a." + name + ", .a." + name + " b { color: red }\n";
+        to.add(" " + name);
+    }
+    to.add("\"><b>").addWord().add("</b></p>\n");
+}
+
 /// Rules that ask about ancestors.
 void descendants(Writer& to) {
     std::string& sheet = to.corpus.sheet;
@@ -168,6 +180,7 @@ constexpr Shape s_shapes[] = {
     {"accents", accents},
     {"boxed-paragraphs", boxedParagraphs},
     {"chinese", chinese},
+    {"class-list", classList},
     {"classes", classes},
     {"collapsed-borders", collapsed},
     {"descendants", descendants},

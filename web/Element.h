@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace galley::web {
 
@@ -17,7 +19,7 @@ struct Attribute {
     std::size_t valueOffset = 0;
 };
 
-/// What selectors ask about an element. It owns nothing, and its parent outlives it.
+/// What selectors ask about an element. It owns no text, and its parent outlives it.
 struct Element {
     /// Null for the outermost element.
     Element const* parent = nullptr;
@@ -29,6 +31,8 @@ struct Element {
     bool isLast = false;
     /// Computed by a cascade, before the style of any child is.
     Style const* style = nullptr;
+    /// What `classesOf` found when it was first asked.
+    mutable std::optional<std::vector<std::string_view>> classes = std::nullopt;
 };
 
 }  // namespace galley::web

@@ -1,8 +1,5 @@
 #include "web/css/RuleIndex.h"
 
-#include <algorithm>
-#include <functional>
-
 namespace galley::web {
 
 namespace {
@@ -49,28 +46,27 @@ void RuleIndex::find(Element const& element, Rules& matching, Rules& placed) con
     add(ofAll);
     addNamed(byType, element.name);
     addNamed(byId, valueOf(element, "id"));
-    for (Rules const* const ofClass : rulesOfClasses(element)) add(*ofClass);
-}
-
-std::vector<RuleIndex::Rules const*> RuleIndex::rulesOfClasses(Element const& element) const {
-    std::vector<Rules const*> found;
-    std::string_view classes = valueOf(element, "class");
-    for (auto name = takeWord(classes); !name.empty(); name = takeWord(classes)) {
-        auto const named = byClass.find(name);
-        if (named != byClass.end()) found.push_back(&named->second);
-    }
-    // A class may be there any number of times.
-    std::sort(found.begin(), found.end(), std::less<>());
-    found.erase(std::unique(found.begin(), found.end()), found.end());
-    return found;
+    for (std::string_view const name : classesOf(element)) addNamed(byClass, name);
 }
 
 RuleIndex::Rules& RuleIndex::rulesLike(CompoundSelector const& subject) {
     using Kind = SimpleSelector::Kind;
     if (auto const id = nameIn(subject, Kind::id); !id.empty()) return byId[id];
-    if (auto const name = nameIn(subject, Kind::className); !name.empty()) return byClass[name];
+    if (Rules* const rules = fewestOfClasses(subject)) return *rules;
     if (auto const type = nameIn(subject, Kind::type); !type.empty()) return byType[type];
     return ofAll;
+}
+
+/// The shortest list for one of the classes, so that a class that many rules ask for does not gather
+/// them all; null without classes.
+RuleIndex::Rules* RuleIndex::fewestOfClasses(CompoundSelector const& subject) {
+    Rules* fewest = nullptr;
+    for (SimpleSelector const& part : subject.parts) {
+        if (part.kind != SimpleSelector::Kind::className) continue;
+        Rules& rules = byClass[part.name];
+        if (fewest == nullptr || rules.size() < fewest->size()) fewest = &rules;
+    }
+    return fewest;
 }
 
 }  // namespace galley::web

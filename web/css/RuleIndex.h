@@ -44,8 +44,7 @@ private:
     using RulesByName = std::unordered_map<std::string_view, Rules>;
 
     Rules& rulesLike(CompoundSelector const& subject);
-    /// Each of them once.
-    std::vector<Rules const*> rulesOfClasses(Element const& element) const;
+    Rules* fewestOfClasses(CompoundSelector const& subject);
 
     /// A rule is in one of them only. Names are those of the selectors.
     RulesByName byId;

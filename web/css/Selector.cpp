@@ -11,12 +11,20 @@ namespace {
 
 using Kind = SimpleSelector::Kind;
 
+/// Takes the first word of those that white space parts; empty where there is none.
+std::string_view takeWord(std::string_view& words) {
+    std::size_t start = 0;
+    while (start < words.length() && isWhitespace(words[start])) ++start;
+    std::size_t end = start;
+    while (end < words.length() && !isWhitespace(words[end])) ++end;
+    std::string_view const word = words.substr(start, end - start);
+    words.remove_prefix(end);
+    return word;
+}
+
 bool hasClass(Element const& element, std::string_view name) {
-    std::string_view words = valueOf(element, "class");
-    while (true) {
-        std::string_view const word = takeWord(words);
-        if (word.empty() || word == name) return !word.empty();
-    }
+    auto const& classes = classesOf(element);
+    return std::binary_search(classes.begin(), classes.end(), name);
 }
 
 /// Specificity has three digits; none overflows into the next.
@@ -107,14 +115,16 @@ std::string_view valueOf(Element const& element, std::string_view name) {
     return found == element.attributes.end() ? std::string_view() : found->value;
 }
 
-std::string_view takeWord(std::string_view& words) {
-    std::size_t start = 0;
-    while (start < words.length() && isWhitespace(words[start])) ++start;
-    std::size_t end = start;
-    while (end < words.length() && !isWhitespace(words[end])) ++end;
-    std::string_view const word = words.substr(start, end - start);
-    words.remove_prefix(end);
-    return word;
+std::vector<std::string_view> const& classesOf(Element const& element) {
+    if (element.classes) return *element.classes;
+    std::vector<std::string_view>& classes = element.classes.emplace();
+    std::string_view words = valueOf(element, "class");
+    for (auto name = takeWord(words); !name.empty(); name = takeWord(words)) {
+        classes.push_back(name);
+    }
+    std::sort(classes.begin(), classes.end());
+    classes.erase(std::unique(classes.begin(), classes.end()), classes.end());
+    return classes;
 }
 
 }  // namespace galley::web

@@ -67,7 +67,8 @@ private:
 /// The value of an attribute; empty without it.
 std::string_view valueOf(Element const& element, std::string_view name);
 
-/// Takes the first word of those that white space parts; empty where there is none.
-std::string_view takeWord(std::string_view& words);
+/// The classes of an element, each once, in ascending order. The attribute is read once, so that
+/// any number of selectors may ask for any number of classes.
+std::vector<std::string_view> const& classesOf(Element const& element);
 
 }  // namespace galley::web
