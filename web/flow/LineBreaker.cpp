@@ -10,7 +10,8 @@ using Kind = Item::Kind;
 
 bool LineBreaker::mayPart(Style const& style, Purpose purpose, Wrapping wrapping) {
     if (!wraps(style)) return false;
-    if (wrapping == Wrapping::anywhere || style.overflowWrap == OverflowWrap::anywhere) return true;
+    if (style.overflowWrap == OverflowWrap::anywhere) return true;
+    if (wrapping == Wrapping::anywhere && style.wrapsAsCell) return true;
     return style.overflowWrap == OverflowWrap::breakWord && purpose == Purpose::layingOut;
 }
 

@@ -176,27 +176,6 @@ Widths sumOf(std::span<ColumnNeed const> columns) {
     return sum;
 }
 
-void keepWords(std::span<ColumnNeed> columns, std::span<ColumnNeed const> whole, int width) {
-    auto const leastAt = [&](std::size_t i, int level) {
-        return std::max(columns[i].least, std::min(whole[i].least, level));
-    };
-    auto const fits = [&](int level) {
-        std::int64_t sum = 0;
-        for (std::size_t i = 0; i < columns.size(); ++i) sum += leastAt(i, level);
-        return sum <= width;
-    };
-    int level = 0;
-    for (int above = width; level < above;) {
-        int const middle = level + (above - level + 1) / 2;
-        if (fits(middle)) {
-            level = middle;
-        } else {
-            above = middle - 1;
-        }
-    }
-    for (std::size_t i = 0; i < columns.size(); ++i) columns[i].least = leastAt(i, level);
-}
-
 int widthOfPercentages(std::span<ColumnNeed const> columns) {
     std::int64_t widest = 0;
     std::int64_t others = 0;

@@ -39,10 +39,6 @@ Widths sumOf(std::span<ColumnNeed const> columns);
 /// How wide columns must be in sum for percentages to come true.
 int widthOfPercentages(std::span<ColumnNeed const> columns);
 
-/// Raises the least widths of columns whose words may be parted to those of `whole`, at which none
-/// is, as far as `width` holds them in sum: none further than a column that stays below.
-void keepWords(std::span<ColumnNeed> columns, std::span<ColumnNeed const> whole, int width);
-
 /// Shares a width among columns. Each has its least first, where that is more in sum, too. Then
 /// percentages, fixed widths and the wishes of the others are met, in this order, as far as there
 /// is room: each by the same part. The rest goes to columns that are not fixed, in proportion to

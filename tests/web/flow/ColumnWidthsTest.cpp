@@ -50,25 +50,6 @@ TEST(ColumnWidths, HaveTheirLeastFirstAndShareTheRest) {
     }
 }
 
-TEST(ColumnWidths, KeepTheShortestWordsWhereNotAllFit) {
-    Columns const whole = {wish(6, 6), wish(20, 20), wish(3, 9), wish(11, 11)};
-    Columns const parted = {wish(1, 6), wish(1, 20), wish(1, 9), wish(5, 11)};
-    struct Case {
-        int width;
-        std::vector<int> least;
-    };
-    Case const cases[] = {{7, {1, 1, 1, 5}},    {8, {1, 1, 1, 5}},    {11, {2, 2, 2, 5}},
-                          {17, {4, 4, 3, 5}},   {22, {6, 6, 3, 6}},   {31, {6, 11, 3, 11}},
-                          {39, {6, 19, 3, 11}}, {90, {6, 20, 3, 11}}, {0, {1, 1, 1, 5}}};
-    for (Case const& each : cases) {
-        Columns columns = parted;
-        keepWords(columns, whole, each.width);
-        std::vector<int> least;
-        for (ColumnNeed const& column : columns) least.push_back(column.least);
-        EXPECT_EQ(least, each.least) << each.width;
-    }
-}
-
 TEST(ColumnWidths, AreSharedCellByCell) {
     Columns const columns = {percent(2, 9, 30), fixed(1, 7), wish(3, 8), wish(0, 0)};
     for (int width = 6; width <= 200; ++width) {

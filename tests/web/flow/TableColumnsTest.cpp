@@ -110,6 +110,29 @@ TEST(TableColumns, PartWordsOnlyWhereTheTableDoesNotFit) {
          l
 )"},
 
+        {"<table><tr><td>abcdef</td><td>ghi</td><td>jklmnopqrst</td></tr></table>", 18, R"(
+ abcde  ghi  jklm
+ f           nopq
+             rst
+)"},
+
+        {"<table><tr><td colspan='2'>abcdefgh</td><td>jklmnopqrst</td></tr><tr><td>a</td><td>bcd"
+         "</td></tr></table>",
+         16, R"(
+ abcdef  jklmno
+ gh      pqrst
+ a  bcd
+)"},
+
+        {"<table><tr><td>abc <b style='overflow-wrap: normal'>defgh</b></td><td>ijkl</td></tr>"
+         "</table>",
+         8, R"(
+ abc    i
+ defgh  j
+        k
+        l
+)"},
+
         {"<table><tr><td style='white-space: nowrap'>abc def</td><td>ghi</td></tr></table>", 8, R"(
  abc def  g
           h
