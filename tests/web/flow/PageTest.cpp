@@ -140,6 +140,12 @@ TEST(Pages, NumberListsAndPutMarkersBeside) {
         {"<ol style='list-style-type: decimal-leading-zero'><li value='-5'>a</li><li "
          "value='5'>b</li></ol>",
          40, "|-5. a|05. b"},
+        // Without a line, it stands beside the first row.
+        {"<ol><li><p/></li><li>a</li></ol>", 9, "| 1.|| 2. a"},
+        {"<ol><li><hr/></li><li><hr/>a</li></ol>", 9, "| 1. ─────|    ─────| 2. a"},
+        {"<ol style='padding: 0'><li style='border: solid'><hr/><p/></li></ol>", 9,
+         "|1. ┌───────┐|│───────│|│       │|└───────┘"},
+        {"<ol><li><ol><li><hr/></li><li/></ol></li></ol>", 14, "|     1. ──────| 1.  2."},
         {"<q>a <q>b <q>c</q></q></q>", 40, "|“a ‘b ‘c’’”"},
         {"<ol style='padding: 0'><li>a b</li></ol>", 9, "|1. a b"},
         {"<div style='background: red'><ol><li>a</li></ol></div>", 9, "| 1. a"},
