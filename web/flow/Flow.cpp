@@ -119,7 +119,7 @@ int Flow::beginParagraph(Style const& style) {
     bool const isFirst = !std::exchange(hasContent, true);
     start();
     if (!firstLine) firstLine = rowCount;
-    return isFirst ? across(style.textIndent, columns()) : 0;
+    return isFirst ? acrossRoundedUp(style.textIndent, columns()) : 0;
 }
 
 /// Begins the row of a line that is so wide. Returns the column where it stands.

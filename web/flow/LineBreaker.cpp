@@ -218,9 +218,7 @@ int LineBreaker::trailingBlanks() const {
     for (std::size_t i = parts.size(); i-- > 0;) {
         Part const& part = parts[i];
         Item const& item = itemOf(part);
-        if (item.kind == Kind::open || item.kind == Kind::close || item.kind == Kind::lineFeed) {
-            continue;
-        }
+        if (isTag(item) || item.kind == Kind::lineFeed) continue;
         Style const& style = styleOf(item);
         if (style.whiteSpace == WhiteSpace::pre) break;
         bool const isTab = item.kind == Kind::tab;
