@@ -75,11 +75,18 @@ void LineBreaker::takeClose(Item const& item) {
         part.mayEndLine = true;
     } else if (wraps(*element.style)) {
         bool const isPreserved = outer.whiteSpace == WhiteSpace::preWrap;
-        part.mayEndLine =
-            texts.isBeforeBlank(at) && (!isPreserved || texts.isBehindBlank(part.begin));
+        part.mayEndLine = texts.isBeforeBlank(at) && !isBeforeOpen() &&
+                          (!isPreserved || texts.isBehindBlank(part.begin));
     } else if (wraps(outer) && !texts.isBehindBlank(part.begin)) {
         part.mayEndLine = (isParting && mayPart(outer)) || texts.isOpportunity(at);
     }
+}
+
+/// Whether an element begins next, others ending before it.
+bool LineBreaker::isBeforeOpen() const {
+    std::size_t next = at.item;
+    while (next < paragraph.end() && paragraph.items()[next].kind == Kind::close) ++next;
+    return next < paragraph.end() && paragraph.items()[next].kind == Kind::open;
 }
 
 void LineBreaker::takeBreakable() { add({at.item + 1, 0}, 0).mayEndLine = true; }

@@ -79,6 +79,7 @@ private:
     void takeClose(Item const& item);
     void takeText(Item const& item);
     void takeWrapped(Item const& item);
+    bool isBeforeOpen() const;
     void takeBreakable();
     void takeLineFeed();
     void takeTrailingBlanks();

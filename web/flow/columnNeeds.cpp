@@ -14,7 +14,10 @@ ColumnNeed needOf(Length width, int edges, int parts) {
     ColumnNeed need;
     need.isFixed = isCells(width);
     if (isCells(width)) need.most = width.value * parts + edges;
-    if (width.kind == Length::Kind::percent) need.percent = width.value;
+    if (width.kind == Length::Kind::percent && width.value > 0) {
+        need.isPercent = true;
+        need.percent = width.value;
+    }
     return need;
 }
 
@@ -77,9 +80,10 @@ void setFixed(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
     std::vector<int> const widths = shareWidth(equal, cell.most);
     std::vector<int> const percentages = shareWidth(equal, cell.percent);
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        if (columns[i].isFixed || columns[i].percent > 0) continue;
+        if (columns[i].isFixed || columns[i].isPercent) continue;
         columns[i].most = widths[i];
         columns[i].percent = percentages[i];
+        columns[i].isPercent = cell.isPercent;
         if (i == 0) columns[i].percentEdges = cell.percentEdges;
         columns[i].isFixed = cell.isFixed;
     }
@@ -157,7 +161,7 @@ std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& fram
         }
     }
     for (ColumnNeed& need : needs) {
-        if (need.percent == 0) need.least = need.most;
+        if (!need.isPercent) need.least = need.most;
     }
     limitPercentages(needs);
     return needs;
