@@ -73,7 +73,8 @@ std::span<ColumnNeed> columnsOf(std::vector<ColumnNeed>& needs, TableCell const&
                                     static_cast<std::size_t>(cell.columnSpan));
 }
 
-/// Shares the width of a cell of the first row among its columns, for which nothing is said.
+/// Shares the width of a cell of the first row among its columns, for which nothing is said. They
+/// would like to be as wide as one another.
 void setFixed(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
     std::vector<ColumnNeed> equal;
     for (ColumnNeed const& column : columns) equal.push_back({.count = column.count});
@@ -81,7 +82,8 @@ void setFixed(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
     std::vector<int> const percentages = shareWidth(equal, cell.percent);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         if (columns[i].isFixed || columns[i].isPercent) continue;
-        columns[i].most = widths[i];
+        columns[i].least = widths[i];
+        columns[i].most = widths.front();
         columns[i].percent = percentages[i];
         columns[i].isPercent = cell.isPercent;
         if (i == 0) columns[i].percentEdges = cell.percentEdges;
@@ -150,6 +152,7 @@ std::vector<ColumnNeed> fittingNeeds(TableGrid const& grid, TableFrame const& fr
 
 std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& frame) {
     std::vector<ColumnNeed> needs = needsOfElements(grid, frame);
+    for (ColumnNeed& need : needs) need.least = need.most;
     if (!grid.rows().empty()) {
         TableRow const& first = grid.rows().front();
         for (std::size_t i = first.firstCell; i < first.endCell; ++i) {
@@ -159,9 +162,6 @@ std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& fram
             if (!cell.isWide()) need.percentEdges = edges;
             setFixed(columnsOf(needs, cell), need);
         }
-    }
-    for (ColumnNeed& need : needs) {
-        if (!need.isPercent) need.least = need.most;
     }
     limitPercentages(needs);
     return needs;

@@ -78,6 +78,13 @@ TEST(TableColumns, ShareTheWidth) {
  a   b
 )"},
 
+        // Both columns have 6.5 cells first.
+        {"<table style='table-layout: fixed; width: 22ch'><tr><td colspan='2' style='width: 11ch'/>"
+         "</tr><tr><td>a</td><td>b</td></tr></table>",
+         30, R"(
+ a          b
+)"},
+
         {"<table style='table-layout: fixed; width: 16ch'><tr><td style='width: 2ch'>abc</td><"
          "td>d</td><td>e</td></tr></table>",
          30, R"(
