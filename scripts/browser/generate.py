@@ -27,6 +27,8 @@ def make_page(seed):
     blocks = Blocks(chosen)
     body = f"<body>{blocks.blocks(0, chosen.number(1, 4))}</body>"
     rules = make_rules(chosen, width, body) if chosen.chance(0.5) else ""
+    if "blocks in a cell" in chosen.features:
+        rules = rules.replace("-right", "-left")
     head = f"<head><style>{rules}</style></head>" if rules else "<head/>"
     page = avoid(f"<html>{head}{body}</html>")
     absent = {feature for feature in chosen.features if feature in AVOIDED and feature not in page}
