@@ -159,6 +159,8 @@ struct InheritedStyle {
     Length textIndent;
     WhiteSpace whiteSpace = WhiteSpace::normal;
     OverflowWrap overflowWrap = OverflowWrap::normal;
+    /// It is what a cell around the element, or a table, says of it.
+    bool wrapsAsCell = false;
     WordBreak wordBreak = WordBreak::normal;
     /// Cells from one stop to the next; with 0, tabs take no room.
     std::int32_t tabSize = 8;

@@ -1,5 +1,6 @@
 """What a page looks like in Chromium, as rows of text: the answer that galley has to give."""
 import html
+import math
 import pathlib
 import re
 
@@ -43,15 +44,16 @@ class Browser:
         between, fits = laid["between"] or laid["exact"] % 16 != 0, True
         for cluster, left, top in laid["clusters"]:
             between = between or left % 8 != 0 or top % 16 != 0
-            # What sticks out is not in the picture, or not wholly.
-            if left + 8 * picture.cells_of(cluster) > 8 * width:
+            # What sticks out, or would if it were at a whole cell, is not in the picture, or not
+            # wholly.
+            if math.ceil(left / 8) + picture.cells_of(cluster) > width:
                 put(rows, int(top // 16), int(left // 8), cluster)
                 fits = False
                 between = between or "capitalize" in source
         if between or any(picture.UNKNOWN in cells for cells in rows):
             letters = "".join(cluster for cluster, _, _ in laid["clusters"])
             # Which ones are covered depends on how cells are rounded.
-            shown = "" if overlap(laid["clusters"]) else letters
+            shown = "" if laid["sticksOut"] or overlap(laid["clusters"]) else letters
             return Answer([shown], between=True, fits=fits)
         rows = ["".join(cells).rstrip() for cells in rows]
         return Answer(rows, fits=fits, paint=picture.backgrounds(laid["picture"]))
@@ -79,9 +81,11 @@ def put(rows, row, column, cluster):
 
 
 def for_browser(source):
-    """The page with our sheet before its own and that of the check behind them. A browser draws
-    the symbols of lists as it likes; it is given the characters instead."""
-    default = f"<style>{escape(DEFAULT_SHEET.read_text())}</style>"
+    """The page with our sheet before its own, weaker whatever its selectors, and that of the check
+    behind them. A browser draws the symbols of lists as it likes; it is given the characters
+    instead."""
+    default = escape(DEFAULT_SHEET.read_text())
+    default = f"<style>@layer check, default; @layer default {{ {default} }}</style>"
     check = f"<style>{escape((HERE / 'check.css').read_text())}</style>"
     source = source.replace("<html>", '<html xmlns="http://www.w3.org/1999/xhtml">', 1)
     source = re.sub(r"<head */>", "<head></head>", source, 1)

@@ -92,12 +92,22 @@ def shown(expected, rows, number, width):
 def in_marker(rows, number, column):
     """Whether a cell may be of a marker, the longest being "viii.", whose cells may stand one under
     the other."""
-    word = "".join(rows[number][column:]).strip()
+    begin, word = word_at(rows[number], column)
     for row in rows[number + 1:number + 5]:
-        if "." in word or " " in word:
+        if "." in word:
             break
-        word += "".join(row).strip()
-    return "." in word.split(" ")[0][:5]
+        word += word_at(row, begin)[1]
+    return "." in word[:5]
+
+
+def word_at(row, column):
+    """Where the word begins that has a cell there, and the word; both may be empty."""
+    begin = end = min(column, len(row))
+    while begin > 0 and row[begin - 1] not in (" ", BORDER):
+        begin -= 1
+    while end < len(row) and row[end] not in (" ", BORDER):
+        end += 1
+    return begin, "".join(row[begin:end])
 
 
 def misfit(page, answer, actual):
@@ -112,9 +122,11 @@ def misfit(page, answer, actual):
         missing = [letter for letter in letters if letter not in rest]
     if missing:
         return f"without {''.join(missing)[:20]!r} in its place"
-    longest = max((len(visible(row, page.width)) for row in actual), default=0)
-    if longest > page.width and answer.fits:
-        return f"{longest} cells wide, which fits into {page.width}"
+    out = [column + 1 for number, row in enumerate(actual) for column, cell in enumerate(row)
+           if column >= page.width and cell not in (" ", BORDER)
+           and not in_marker(actual, number, column)]
+    if out and answer.fits:
+        return f"{max(out)} cells wide, which fits into {page.width}"
     return None
 
 

@@ -27,6 +27,8 @@ def make_page(seed):
     blocks = Blocks(chosen)
     body = f"<body>{blocks.blocks(0, chosen.number(1, 4))}</body>"
     rules = make_rules(chosen, width, body) if chosen.chance(0.5) else ""
+    if "blocks in a cell" in chosen.features:
+        rules = rules.replace("-right", "-left")
     head = f"<head><style>{rules}</style></head>" if rules else "<head/>"
     page = avoid(f"<html>{head}{body}</html>")
     absent = {feature for feature in chosen.features if feature in AVOIDED and feature not in page}
@@ -34,7 +36,11 @@ def make_page(seed):
 
 
 def avoid(source):
-    """The page without what Chromium lays out in another way than the standards say."""
+    """The page without what Chromium lays out in another way than the standards say, and without
+    tables and cells that have no element, which cannot be asked whether they fit."""
+    head, body = source.split("<body>")
+    body = re.sub(r"(<t[dh] [^>]*)display: block", r"\1visibility: hidden", body)
+    source = f"{head.replace('display: block', 'visibility: hidden')}<body>{body}"
     if "break-all" in source:
         source = re.sub("[\u0300-\u036f]", "", unicodedata.normalize("NFC", source))
     return source

@@ -1,5 +1,20 @@
 """Tables, whose collapsed borders run along whole lines of their grid: where they do not, galley
-means to differ from browsers."""
+means to differ from browsers. In those each column has a cell of its own and some room."""
+import dataclasses
+import re
+
+from words import INLINE
+
+RIGHT_EDGE = re.compile(rf"(<(?:{'|'.join(INLINE)}) [^>]*?)-right")
+
+
+@dataclasses.dataclass
+class Cells:
+    """What the cells of a table have in common: how deep it stands, a declaration, and widths that
+    some of them have."""
+    depth: int
+    style: str
+    widths: list
 
 
 class Tables:
@@ -13,7 +28,11 @@ class Tables:
         chosen = self._choices
         columns, rows = chosen.number(1, 4), chosen.number(1, 3)
         style = self._widths(columns)
-        if chosen.chance(0.4):
+        cell_widths = [f"{chosen.number(1, 12)}ch", "50%", "25%"]
+        collapses = chosen.chance(0.4)
+        if collapses:
+            if "fixed" in "".join(style):
+                cell_widths = ["1ch", "25%"]
             style.append(chosen.use("border-collapse", "border-collapse: collapse"))
             cell = chosen.pick(["border: solid", "border: solid", "", "border-bottom: solid",
                                 "border-left: solid"])
@@ -25,7 +44,8 @@ class Tables:
                 spacing = f"border-spacing: {chosen.cells(2)} {chosen.rows(1)}"
                 style.append(chosen.use("border-spacing", spacing))
         spans = cell in ("border: solid", "") and chosen.chance(0.7)
-        body = self._rows(depth, columns, rows, cell, spans)
+        cells = Cells(depth, cell, cell_widths)
+        body = self._rows(cells, columns, rows, spans, collapses)
         caption = self._caption() if chosen.chance(0.25) else ""
         chosen.use("table")
         return f'<table style="{"; ".join(style)}">{caption}{body}</table>'
@@ -59,21 +79,23 @@ class Tables:
         return self._choices.use("caption",
                                  f'<caption style="{style}">{self._words.words(2)}</caption>')
 
-    def _rows(self, depth, columns, rows, style, spans):
+    def _rows(self, kind, columns, rows, spans, collapses):
         taken, parts = set(), []
         for row in range(rows):
             cells = ""
             for column in range(columns):
                 if (row, column) in taken:
                     continue
-                across, down = self._span(taken, row, column, columns, rows) if spans else (1, 1)
+                lasting = rows - 1 if collapses else rows
+                across, down = (self._span(taken, row, column, columns, lasting)
+                                if spans and row < lasting else (1, 1))
                 taken |= {(row + y, column + x) for y in range(down) for x in range(across)}
-                cells += self._cell(depth, style, across, down)
+                cells += self._cell(kind, across, down)
             parts.append(f"<tr>{cells}</tr>")
         if not self._choices.chance(0.15):
             return "".join(parts)
         self._choices.use("thead and tfoot")
-        head, foot = (f"<tr>{self._cell(depth, style, columns, 1)}</tr>" for _ in range(2))
+        head, foot = (f"<tr>{self._cell(kind, columns, 1)}</tr>" for _ in range(2))
         return f"<tfoot>{foot}</tfoot>{''.join(parts)}<thead>{head}</thead>"
 
     def _span(self, taken, row, column, columns, rows):
@@ -82,14 +104,13 @@ class Tables:
         free = next((x for x in range(column, columns) if (row, x) in taken), columns)
         return self._choices.number(1, free - column), self._choices.number(1, rows - row)
 
-    def _cell(self, depth, own, across, down):
+    def _cell(self, kind, across, down):
         chosen = self._choices
-        style = [own] if own else []
+        style = [kind.style] if kind.style else []
         spans = chosen.use("colspan", f' colspan="{across}"') if across > 1 else ""
         spans += chosen.use("rowspan", f' rowspan="{down}"') if down > 1 else ""
         if chosen.chance(0.1):
-            width = chosen.pick([f"{chosen.number(1, 12)}ch", "50%", "25%"])
-            style.append(chosen.use("cell width", f"width: {width}"))
+            style.append(chosen.use("cell width", f"width: {chosen.pick(kind.widths)}"))
         if chosen.chance(0.2):
             side = chosen.pick(["top", "bottom", "bottom", "middle"])
             style.append(chosen.use("vertical-align", f"vertical-align: {side}"))
@@ -98,7 +119,7 @@ class Tables:
         attribute = f' style="{"; ".join(style)}"' if style else ""
         attribute += f' class="{chosen.pick(["one", "two"])}"' if chosen.chance(0.2) else ""
         tag = chosen.pick(["td", "td", "td", "th"])
-        return f"<{tag}{spans}{attribute}>{self._content(depth, down)}</{tag}>"
+        return f"<{tag}{spans}{attribute}>{self._content(kind.depth, down)}</{tag}>"
 
     def _content(self, depth, down):
         chosen = self._choices
@@ -109,5 +130,6 @@ class Tables:
         if down == 1 and depth < 2 and chosen.chance(0.05):
             return chosen.use("table in a cell", self.table(depth + 1))
         if down == 1 and depth < 2 and chosen.chance(0.06):
-            return chosen.use("blocks in a cell", self._blocks(depth + 1, 1))
+            blocks = RIGHT_EDGE.sub(r"\1-left", self._blocks(depth + 1, 1))
+            return chosen.use("blocks in a cell", blocks)
         return text

@@ -49,6 +49,7 @@ void resolve(Style& style, Style const& parent) {
         replaceCurrent(side->colour, style.colour);
         side->cells = style.cells;
     }
+    if (style.display == Display::table || style.display == Display::cell) style.wrapsAsCell = true;
     style.drawn.isUnderlined |= style.decoration.isUnderlined;
     style.drawn.isStruckThrough |= style.decoration.isStruckThrough;
 }

@@ -62,6 +62,15 @@ void copyListStyle(Style const& from, Style& to) {
     to.markerPosition = from.markerPosition;
 }
 
+void copyOverflowWrap(Style const& from, Style& to) {
+    to.overflowWrap = from.overflowWrap;
+    to.wrapsAsCell = from.wrapsAsCell;
+}
+
+bool readOverflowWrap(ValueReader& reader, Style& style) {
+    return readKeyword<s_overflowWraps>(reader, style.overflowWrap);
+}
+
 using Lengths = Edges<Length>;
 using Borders = Edges<Border>;
 
@@ -111,8 +120,8 @@ constexpr Property s_properties[] = {
     ofWords<s_textTransforms, &Style::textTransform>("text-transform"),
     ofWords<s_verticalAligns, &Style::verticalAlign>("vertical-align"),
     ofWords<s_whiteSpaces, &Style::whiteSpace>("white-space"),
-    ofWords<s_overflowWraps, &Style::overflowWrap>("overflow-wrap"),
-    ofWords<s_overflowWraps, &Style::overflowWrap>("word-wrap"),
+    {"overflow-wrap", readOverflowWrap, copyOverflowWrap, true},
+    {"word-wrap", readOverflowWrap, copyOverflowWrap, true},
     ofWords<s_wordBreaks, &Style::wordBreak>("word-break"),
     property<readTabSize, &Style::tabSize>("tab-size"),
     {"list-style", readListStyle, copyListStyle, true},

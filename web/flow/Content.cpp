@@ -18,6 +18,7 @@ namespace {
 bool isOfSingleCells(Paragraph const& paragraph) {
     Style const& style = paragraph.block();
     if (style.whiteSpace != WhiteSpace::normal || style.textIndent != Length()) return false;
+    if (!style.wrapsAsCell) return false;
     return std::all_of(paragraph.items().begin(), paragraph.items().end(), [](Item const& item) {
         bool const isText = item.kind == Item::Kind::word || item.kind == Item::Kind::words;
         return (isText && item.isPlain) || item.kind == Item::Kind::blank;

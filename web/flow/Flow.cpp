@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "web/flow/Border.h"
 #include "web/flow/Table.h"
 #include "web/flow/lengths.h"
 #include "web/flow/paintLine.h"
@@ -11,8 +10,6 @@
 namespace galley::web {
 
 namespace {
-
-bool isShown(Colour background) { return background.kind != Colour::Kind::terminal; }
 
 /// Hands the rows of a table on to what is around it.
 class RowsOfTable final : public TableSink {
@@ -49,6 +46,7 @@ void Flow::open(Style const& style, OutsideMarker marker) {
     Block& block = blocks.emplace_back();
     block.style = &style;
     block.marker = std::move(marker);
+    if (!block.marker.text.empty()) ++waitingMarkers;
     block.left = left;
     block.right = left + place.borderWidth;
     block.contentLeft = left + edge;
@@ -56,7 +54,7 @@ void Flow::open(Style const& style, OutsideMarker marker) {
     block.around = around;
     block.background = backgroundOf(style, around);
     block.hasShownEdges = style.border.left.isThere() || style.border.right.isThere() ||
-                          isShown(around) || isShown(block.background);
+                          isDrawn(around) || isDrawn(block.background);
     int const padding = down(style.padding.top, container);
     if (!style.border.top.isThere() && padding == 0) return;
     start();
@@ -68,13 +66,7 @@ void Flow::close() {
     Style const& style = *blocks.back().style;
     int const container = blocks.size() > 1 ? blocks[blocks.size() - 2].contentWidth : width;
     int const padding = down(style.padding.bottom, container);
-    bool const hasMarker = !blocks.back().marker.text.empty();
-    if (hasMarker) {
-        // An item without a line has the row of its marker.
-        start();
-        beginRow();
-        endRow();
-    }
+    if (!blocks.back().marker.text.empty()) addLateMarker();
     bool const hasBottom = style.border.bottom.isThere() || padding > 0;
     if (hasBottom) {
         start();
@@ -83,6 +75,7 @@ void Flow::close() {
     }
     blocks.pop_back();
     pending = std::max(pending, down(style.margin.bottom, container));
+    if (waitingMarkers == 0) handOnHeld();
 }
 
 void Flow::add(PlainText const& text) {
@@ -126,7 +119,7 @@ int Flow::beginParagraph(Style const& style) {
     bool const isFirst = !std::exchange(hasContent, true);
     start();
     if (!firstLine) firstLine = rowCount;
-    return isFirst ? across(style.textIndent, columns()) : 0;
+    return isFirst ? acrossRoundedUp(style.textIndent, columns()) : 0;
 }
 
 /// Begins the row of a line that is so wide. Returns the column where it stands.
@@ -179,7 +172,9 @@ void Flow::start() {
         int const rows = std::exchange(pending, 0);
         if (hasRows || !dropsMargins) addBlanks(rows);
     }
-    for (Block& block : blocks) block.hasStarted = true;
+    for (Block& block : blocks) {
+        if (!block.firstRow) block.firstRow = rowCount;
+    }
 }
 
 void Flow::addBlanks(int rows) {
@@ -188,103 +183,6 @@ void Flow::addBlanks(int rows) {
         addLeftEdges(blocks.size(), false);
         endRow();
     }
-}
-
-/// Begins a row of content.
-void Flow::beginRow() {
-    row.clear();
-    addLeftEdges(blocks.size(), true);
-}
-
-/// Adds what is left of the content of the outermost blocks, so many, as far as they have started;
-/// in a row of content the markers that have not been shown.
-void Flow::addLeftEdges(std::size_t count, bool isContent) {
-    for (std::size_t i = 0; i < count; ++i) {
-        Block& block = blocks[i];
-        if (!block.hasStarted) break;
-        if (isContent && !block.marker.text.empty()) addMarker(block);
-        if (!block.hasShownEdges) continue;
-        // The next block's marker stands before it, on what is around that.
-        bool const isBeforeMarker =
-            isContent && i + 1 < count && !blocks[i + 1].marker.text.empty();
-        if (block.style->border.left.isThere() || isShown(block.around) ||
-            isShown(block.background)) {
-            row.fill(block.left, blankOn(block.around));
-        }
-        addVertical(row, block.style->border.left, block.background, isVisible(*block.style));
-        if (isShown(block.background) && !isBeforeMarker) {
-            row.fill(block.contentLeft, blankOn(block.background));
-        }
-    }
-}
-
-/// Adds a marker to the left of its block, or where that begins further left than there is room,
-/// before it.
-void Flow::addMarker(Block& block) {
-    row.fill(block.left - block.marker.columns, blankOn(block.around));
-    Look look = lookOf(*block.style, block.around);
-    look.isUnderlined = look.isStruckThrough = false;
-    if (isVisible(*block.style)) {
-        row.add(block.marker.text, block.marker.columns, look);
-    } else {
-        row.fill(row.width() + block.marker.columns, look);
-    }
-    block.marker.text.clear();
-}
-
-void Flow::endRow() {
-    addRightEdges(blocks.size());
-    handOn();
-}
-
-void Flow::handOn() {
-    budget.take(static_cast<std::size_t>(row.width()) + blocks.size() + 1);
-    sink.take(row);
-    hasRows = true;
-    ++rowCount;
-}
-
-/// Adds what is right of the content of the outermost blocks, so many.
-void Flow::addRightEdges(std::size_t count) {
-    for (std::size_t i = count; i-- > 0;) {
-        Block const& block = blocks[i];
-        if (!block.hasStarted || !block.hasShownEdges) continue;
-        Border const& border = block.style->border.right;
-        int const column = block.right - (border.isThere() ? 1 : 0);
-        if (!border.isThere() && block.background == block.around) continue;
-        if (row.width() > column) {
-            addRightEdgeBelow(block, column);
-        } else {
-            row.fill(column, blankOn(block.background));
-            addVertical(row, border, block.background, isVisible(*block.style));
-        }
-    }
-}
-
-/// Where content sticks out of its block, the block's right edge is below it, and behind that what
-/// is around the block.
-void Flow::addRightEdgeBelow(Block const& block, int column) {
-    // The row is made anew, cell by cell, for each such block.
-    constexpr std::size_t s_costOfCell = 8;
-    budget.take(s_costOfCell * static_cast<std::size_t>(row.width()));
-    Row below;
-    bool const isAmbiguousWide = block.style->cells.isAmbiguousWide;
-    below.addPart(row.view(), 0, column, isAmbiguousWide);
-    addVertical(below, block.style->border.right, block.background, isVisible(*block.style));
-    below.fill(row.width(), blankOn(block.around));
-    below.draw(0, row.view(), block.background, isAmbiguousWide);
-    std::swap(row, below);
-}
-
-/// Adds the border at the top or the bottom of the innermost block.
-void Flow::addBorder(bool isTop) {
-    Block const& block = blocks.back();
-    row.clear();
-    addLeftEdges(blocks.size() - 1, false);
-    row.fill(block.left, blankOn(block.around));
-    addHorizontal(row, *block.style, isTop, block.right - block.left, block.background);
-    addRightEdges(blocks.size() - 1);
-    handOn();
 }
 
 }  // namespace galley::web

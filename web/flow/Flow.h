@@ -16,6 +16,8 @@ namespace galley::web {
 /// 1. A margin waits in `pending` until it is known what it collapses with: the larger counts.
 /// 2. A block has *started* once a row of it has been made. Rows of a margin that waits stand
 ///    outside of the blocks that have not started, and of those that have closed.
+/// 3. While the marker of an open block waits for a line, rows are held, so that it can stand
+///    beside the first row of its block if none comes.
 class Flow final : public BlockSink {
 public:
     /// How margins at the top and the bottom of the content show.
@@ -55,7 +57,8 @@ private:
         Colour background;
         /// Whether cells on its left or its right are more than the terminal's own blanks.
         bool hasShownEdges = false;
-        bool hasStarted = false;
+        /// There once it has started.
+        std::optional<int> firstRow;
         /// Only text that comes first is indented.
         bool hasContent = false;
     };
@@ -72,6 +75,8 @@ private:
     void handOn();
     void addLeftEdges(std::size_t count, bool isContent);
     void addMarker(Block& block);
+    void addLateMarker();
+    void handOnHeld();
     void addRightEdges(std::size_t count);
     void addRightEdgeBelow(Block const& block, int column);
     void addBorder(bool isTop);
@@ -89,6 +94,9 @@ private:
     /// Rows of margins that wait.
     int pending = 0;
     std::vector<Block> blocks;
+    /// How many of them have a marker that has not been shown.
+    int waitingMarkers = 0;
+    std::vector<Row> held;
     Row row;
 };
 

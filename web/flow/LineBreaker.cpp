@@ -10,7 +10,8 @@ using Kind = Item::Kind;
 
 bool LineBreaker::mayPart(Style const& style, Purpose purpose, Wrapping wrapping) {
     if (!wraps(style)) return false;
-    if (wrapping == Wrapping::anywhere || style.overflowWrap == OverflowWrap::anywhere) return true;
+    if (style.overflowWrap == OverflowWrap::anywhere) return true;
+    if (wrapping == Wrapping::anywhere && style.wrapsAsCell) return true;
     return style.overflowWrap == OverflowWrap::breakWord && purpose == Purpose::layingOut;
 }
 
@@ -74,11 +75,18 @@ void LineBreaker::takeClose(Item const& item) {
         part.mayEndLine = true;
     } else if (wraps(*element.style)) {
         bool const isPreserved = outer.whiteSpace == WhiteSpace::preWrap;
-        part.mayEndLine =
-            texts.isBeforeBlank(at) && (!isPreserved || texts.isBehindBlank(part.begin));
+        part.mayEndLine = texts.isBeforeBlank(at) && !isBeforeOpen() &&
+                          (!isPreserved || texts.isBehindBlank(part.begin));
     } else if (wraps(outer) && !texts.isBehindBlank(part.begin)) {
         part.mayEndLine = (isParting && mayPart(outer)) || texts.isOpportunity(at);
     }
+}
+
+/// Whether an element begins next, others ending before it.
+bool LineBreaker::isBeforeOpen() const {
+    std::size_t next = at.item;
+    while (next < paragraph.end() && paragraph.items()[next].kind == Kind::close) ++next;
+    return next < paragraph.end() && paragraph.items()[next].kind == Kind::open;
 }
 
 void LineBreaker::takeBreakable() { add({at.item + 1, 0}, 0).mayEndLine = true; }
@@ -217,9 +225,7 @@ int LineBreaker::trailingBlanks() const {
     for (std::size_t i = parts.size(); i-- > 0;) {
         Part const& part = parts[i];
         Item const& item = itemOf(part);
-        if (item.kind == Kind::open || item.kind == Kind::close || item.kind == Kind::lineFeed) {
-            continue;
-        }
+        if (isTag(item) || item.kind == Kind::lineFeed) continue;
         Style const& style = styleOf(item);
         if (style.whiteSpace == WhiteSpace::pre) break;
         bool const isTab = item.kind == Kind::tab;

@@ -20,8 +20,8 @@ struct TextLine {
     bool isLast = false;
 };
 
-/// Where words may be parted: where their style says so, or as if it said `overflow-wrap:
-/// anywhere`.
+/// Where words may be parted: where their style says so, or as if the cells around them said
+/// `overflow-wrap: anywhere`.
 enum class Wrapping : std::uint8_t { asStyled, anywhere };
 
 /// Breaks a paragraph into lines as Chromium does: takes parts of texts, and beginnings and ends of
@@ -79,6 +79,7 @@ private:
     void takeClose(Item const& item);
     void takeText(Item const& item);
     void takeWrapped(Item const& item);
+    bool isBeforeOpen() const;
     void takeBreakable();
     void takeLineFeed();
     void takeTrailingBlanks();

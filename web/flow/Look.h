@@ -52,6 +52,9 @@ inline Colour backgroundOf(Style const& style, Colour around) {
     return isSeen ? style.background : around;
 }
 
+/// Whether a background is more than the terminal's own.
+inline bool isDrawn(Colour background) { return background.kind != Colour::Kind::terminal; }
+
 /// How text of an element looks on a background.
 inline Look lookOf(Style const& style, Colour background, Link const* link = nullptr) {
     return {.text = style.colour,

@@ -9,10 +9,6 @@ namespace galley::web {
 
 namespace {
 
-bool isTag(Item const& item) {
-    return item.kind == Item::Kind::open || item.kind == Item::Kind::close;
-}
-
 /// A container in which any per cent are columns.
 constexpr int s_wide = 100'000;
 

@@ -68,6 +68,11 @@ struct Item {
     std::uint32_t width = 0;
 };
 
+/// Whether an inline element begins or ends there.
+inline bool isTag(Item const& item) {
+    return item.kind == Item::Kind::open || item.kind == Item::Kind::close;
+}
+
 /// A place in a paragraph: before an item, or so many bytes within its text.
 struct Place {
     std::uint32_t item = 0;

@@ -33,6 +33,15 @@ std::vector<Cell> cellsOf(RowView const& row, bool isAmbiguousWide) {
     return cells;
 }
 
+/// Of a border: a character of the block Box Drawing.
+bool isLine(std::string_view cluster) { return cluster >= "\u2500" && cluster <= "\u257F"; }
+
+/// What shows of one cell on another: no blank, and no border on text (CSS 2.2, E.2).
+bool covers(std::string_view cluster, std::string_view below) {
+    if (below == " ") return true;
+    return cluster != " " && (!isLine(cluster) || isLine(below));
+}
+
 }  // namespace
 
 void Row::add(std::string_view printed, int columns, Look const& look) {
@@ -70,7 +79,7 @@ void Row::draw(int column, RowView const& other, Colour ground, bool isAmbiguous
                      Cell{" ", blankOn(ground)});
         Cell& below = drawn[static_cast<std::size_t>(at++)];
         bool const isThrough = cell.look.background == ground;
-        if (isThrough && cell.text == " " && below.text != " ") continue;
+        if (isThrough && !covers(cell.text, below.text)) continue;
         if (isThrough) cell.look.background = below.look.background;
         below = cell;
     }

@@ -53,9 +53,10 @@ public:
     void fill(int column, Look const& look);
     /// Adds another row behind what is there.
     void add(RowView const& other);
-    /// Puts another row over what is there, from a column on, as far as it is not blank: what
-    /// stands on `ground` has no background of its own. A wide character of which half is covered
-    /// becomes a blank. Cells on the way to that column are blanks on the ground.
+    /// Puts another row over what is there, from a column on, as far as it is not blank, and
+    /// borders not over text: what stands on `ground` has no background of its own. A wide
+    /// character of which half is covered becomes a blank. Cells on the way to that column are
+    /// blanks on the ground.
     void draw(int column, RowView const& other, Colour ground, bool isAmbiguousWide = false);
     /// Adds what stands from a column of another row to one. Halves of wide characters are blanks.
     void addPart(RowView const& other, int begin, int end, bool isAmbiguousWide = false);

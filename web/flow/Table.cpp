@@ -119,8 +119,7 @@ void Table::layOut(int columns, Wrapping around, TableSink& rows, PageBudget& bu
     Wrapping const wrapping = isTooWide ? Wrapping::anywhere : around;
     // Where its words do not fit, cells part them, but no more of them than they must.
     if (wrapping == Wrapping::anywhere && !isFixed()) {
-        int const width = frame->partsFor(columns - margins, columns);
-        keepWords(needs(wrapping), needs(Wrapping::asStyled), width);
+        needsAnywhere = fittingNeeds(grid, *frame, frame->partsFor(columns - margins, columns));
     }
     Widths content = innerWidths(wrapping, caption, columns);
     // Percentages widen a table only as far as there is room, so not what is around it.

@@ -89,7 +89,7 @@ void TableBand::layOutText(LaidCell& placed, PlainText const& text, Wrapping wra
     Look const look = lookOf(style, text.background);
     placed.isPlain = true;
     placed.firstLine = lines.size();
-    breakLines(text, columns, partsWords, across(style.textIndent, columns),
+    breakLines(text, columns, partsWords, acrossRoundedUp(style.textIndent, columns),
                [&](std::string_view line, int indent) {
                    auto const width = static_cast<int>(line.size());
                    int const column = columnOfLine(style, columns, indent, width);

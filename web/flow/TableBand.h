@@ -95,9 +95,7 @@ private:
         RowSpan looks;
         int indent;
 
-        RowView view() const {
-            return {text, std::span(&looks, 1), static_cast<int>(text.size())};
-        }
+        RowView view() const { return {text, std::span(&looks, 1), static_cast<int>(text.size())}; }
     };
 
     std::size_t index(int row) const { return static_cast<std::size_t>(row - first); }

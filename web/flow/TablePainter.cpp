@@ -7,12 +7,6 @@
 
 namespace galley::web {
 
-namespace {
-
-bool isDrawn(Colour background) { return background.kind != Colour::Kind::terminal; }
-
-}  // namespace
-
 TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
                            RowSink& output, PageBudget& cells)
     : grid(painted),

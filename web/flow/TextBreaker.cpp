@@ -12,8 +12,6 @@ namespace {
 
 using Kind = Item::Kind;
 
-bool isTag(Item const& item) { return item.kind == Kind::open || item.kind == Kind::close; }
-
 bool isText(Item const& item) {
     return item.kind == Kind::words || item.kind == Kind::word || item.kind == Kind::ideographs ||
            item.kind == Kind::blank || item.kind == Kind::blanks ||
@@ -87,9 +85,10 @@ TextPart TextBreaker::takeAll(Place begin) const {
 bool TextBreaker::isBeforeBlank(Place place) {
     std::size_t const next = textAt(place);
     if (next >= paragraph.end()) return false;
-    Kind const kind = paragraph.items()[next].kind;
-    return kind == Kind::blank || kind == Kind::blanks || kind == Kind::tab ||
-           kind == Kind::lineFeed;
+    Item const& item = paragraph.items()[next];
+    if (item.kind == Kind::word) return paragraph.textOf(item).starts_with(' ');
+    return item.kind == Kind::blank || item.kind == Kind::blanks || item.kind == Kind::tab ||
+           item.kind == Kind::lineFeed;
 }
 
 bool TextBreaker::isBehindBlank(Place place) {

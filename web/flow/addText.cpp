@@ -43,6 +43,11 @@ TextOptions optionsFor(Style const& style) {
     return options;
 }
 
+/// Whether nothing is between what stands before it and behind.
+bool isTextOrTag(Item const& item) {
+    return isTag(item) || item.kind == Item::Kind::word || item.kind == Item::Kind::ideographs;
+}
+
 }  // namespace
 
 void Paragraph::addText(std::string_view decoded) {
@@ -100,21 +105,25 @@ void Paragraph::addGenerated(std::string_view decoded) {
     }
 }
 
-/// Lets a line break between the last word and a text, if it may where both are one text.
+/// Lets a line break between the last word and a text, if it may where both are one text. What
+/// stands before that word has a say, too.
 void Paragraph::joinTo(std::string_view decoded) {
     constexpr std::size_t s_context = 16;
     auto last = all.rbegin();
-    while (last != all.rend() &&
-           (last->kind == Item::Kind::open || last->kind == Item::Kind::close)) {
-        ++last;
-    }
+    while (last != all.rend() && isTag(*last)) ++last;
     if (last == all.rend() || last->kind != Item::Kind::word || last->mayBreakBehind) return;
-    std::string_view const word = textOf(*last);
-    std::size_t from = word.size() - std::min(word.size(), s_context);
-    while (from < word.size() && (static_cast<unsigned char>(word[from]) & 0xC0U) == 0x80U) ++from;
-    std::string joint(word.substr(from));
+    std::uint32_t begin = last->begin;
+    for (auto before = last; before != all.rend() && isTextOrTag(*before); ++before) {
+        begin = before->begin;
+        if (last->end - begin >= s_context) break;
+    }
+    std::string_view const known = std::string_view(text).substr(begin, last->end - begin);
+    std::size_t from = known.size() - std::min(known.size(), s_context);
+    while (from < known.size() && (static_cast<unsigned char>(known[from]) & 0xC0U) == 0x80U)
+        ++from;
+    std::string joint(known.substr(from));
     joint += decoded.substr(0, s_context);
-    std::size_t const place = word.size() - from;
+    std::size_t const place = known.size() - from;
     SegmentReader reader(joint, optionsFor(style()));
     Segment segment;
     while (reader.next(segment) && segment.next <= place) {

@@ -14,12 +14,15 @@ ColumnNeed needOf(Length width, int edges, int parts) {
     ColumnNeed need;
     need.isFixed = isCells(width);
     if (isCells(width)) need.most = width.value * parts + edges;
-    if (width.kind == Length::Kind::percent) need.percent = width.value;
+    if (width.kind == Length::Kind::percent && width.value > 0) {
+        need.isPercent = true;
+        need.percent = width.value;
+    }
     return need;
 }
 
-ColumnNeed needOf(TableCell const& cell, TableFrame const& frame, Wrapping wrapping,
-                  Paragraph& scratch) {
+/// Of what is in a cell, within the limits that its style sets.
+Widths contentOf(TableCell const& cell, Wrapping wrapping, Paragraph& scratch) {
     Style const& style = *cell.style;
     Widths content =
         wrapping == Wrapping::anywhere ? cell.content.partedWidths(scratch) : cell.content.widths();
@@ -29,9 +32,23 @@ ColumnNeed needOf(TableCell const& cell, TableFrame const& frame, Wrapping wrapp
         content.most = std::min(content.most, style.maxWidth.value);
     }
     if (isCells(style.minWidth)) content.least = std::max(content.least, style.minWidth.value);
+    return content;
+}
+
+/// Of each cell.
+std::vector<Widths> contentsOf(TableGrid const& grid, Wrapping wrapping) {
+    std::vector<Widths> contents;
+    Paragraph scratch;
+    for (TableCell const& cell : grid.cells()) {
+        contents.push_back(contentOf(cell, wrapping, scratch));
+    }
+    return contents;
+}
+
+ColumnNeed needOf(TableCell const& cell, TableFrame const& frame, Widths const& content) {
     int const edges = frame.columnEdges(cell);
     int const parts = frame.partsOfCell();
-    ColumnNeed need = needOf(style.width, edges, parts);
+    ColumnNeed need = needOf(cell.style->width, edges, parts);
     need.least = content.least * parts + edges;
     need.most = std::max(content.least, content.most) * parts + edges;
     return need;
@@ -56,41 +73,43 @@ std::span<ColumnNeed> columnsOf(std::vector<ColumnNeed>& needs, TableCell const&
                                     static_cast<std::size_t>(cell.columnSpan));
 }
 
-/// Shares the width of a cell of the first row among its columns, for which nothing is said.
+/// Shares the width of a cell of the first row among its columns, for which nothing is said. They
+/// would like to be as wide as one another.
 void setFixed(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
     std::vector<ColumnNeed> equal;
     for (ColumnNeed const& column : columns) equal.push_back({.count = column.count});
     std::vector<int> const widths = shareWidth(equal, cell.most);
     std::vector<int> const percentages = shareWidth(equal, cell.percent);
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        if (columns[i].isFixed || columns[i].percent > 0) continue;
-        columns[i].most = widths[i];
+        if (columns[i].isFixed || columns[i].isPercent) continue;
+        columns[i].least = widths[i];
+        columns[i].most = widths.front();
         columns[i].percent = percentages[i];
+        columns[i].isPercent = cell.isPercent;
         if (i == 0) columns[i].percentEdges = cell.percentEdges;
         columns[i].isFixed = cell.isFixed;
     }
 }
 
-}  // namespace
-
-std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& frame,
-                                       Wrapping wrapping) {
+/// Of columns whose cells have content that is so wide.
+std::vector<ColumnNeed> needsFor(std::vector<Widths> const& contents, TableGrid const& grid,
+                                 TableFrame const& frame) {
     std::vector<ColumnNeed> needs = needsOfElements(grid, frame);
-    std::vector<TableCell const*> spanning;
-    Paragraph scratch;
-    for (TableCell const& cell : grid.cells()) {
+    std::vector<std::pair<TableCell const*, ColumnNeed>> spanning;
+    for (std::size_t i = 0; i < contents.size(); ++i) {
+        TableCell const& cell = grid.cells()[i];
+        ColumnNeed const need = needOf(cell, frame, contents[i]);
         if (cell.isWide()) {
-            spanning.push_back(&cell);
+            spanning.emplace_back(&cell, need);
         } else {
-            widen(needs[static_cast<std::size_t>(cell.column)],
-                  needOf(cell, frame, wrapping, scratch));
+            widen(needs[static_cast<std::size_t>(cell.column)], need);
         }
     }
-    std::stable_sort(spanning.begin(), spanning.end(), [](TableCell const* a, TableCell const* b) {
-        return std::pair(a->documentSpan, a->column) < std::pair(b->documentSpan, b->column);
+    std::stable_sort(spanning.begin(), spanning.end(), [](auto const& a, auto const& b) {
+        return std::pair(a.first->documentSpan, a.first->column) <
+               std::pair(b.first->documentSpan, b.first->column);
     });
-    for (TableCell const* const cell : spanning) {
-        ColumnNeed need = needOf(*cell, frame, wrapping, scratch);
+    for (auto& [cell, need] : spanning) {
         int const gaps = frame.gapsWithin(*cell);
         need.least = std::max(0, need.least - gaps);
         need.most = std::max(0, need.most - gaps);
@@ -100,8 +119,40 @@ std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& 
     return needs;
 }
 
+}  // namespace
+
+std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& frame,
+                                       Wrapping wrapping) {
+    return needsFor(contentsOf(grid, wrapping), grid, frame);
+}
+
+std::vector<ColumnNeed> fittingNeeds(TableGrid const& grid, TableFrame const& frame, int parts) {
+    std::vector<Widths> const parted = contentsOf(grid, Wrapping::anywhere);
+    std::vector<Widths> const whole = contentsOf(grid, Wrapping::asStyled);
+    auto const needsAt = [&](int cells) {
+        std::vector<Widths> contents = parted;
+        for (std::size_t i = 0; i < contents.size(); ++i) {
+            contents[i].least = std::max(contents[i].least, std::min(whole[i].least, cells));
+        }
+        return needsFor(contents, grid, frame);
+    };
+    int cells = 0;
+    int above = 0;
+    for (Widths const& each : whole) above = std::max(above, each.least);
+    while (cells < above) {
+        int const middle = cells + (above - cells + 1) / 2;
+        if (sumOf(needsAt(middle)).least <= parts) {
+            cells = middle;
+        } else {
+            above = middle - 1;
+        }
+    }
+    return needsAt(cells);
+}
+
 std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& frame) {
     std::vector<ColumnNeed> needs = needsOfElements(grid, frame);
+    for (ColumnNeed& need : needs) need.least = need.most;
     if (!grid.rows().empty()) {
         TableRow const& first = grid.rows().front();
         for (std::size_t i = first.firstCell; i < first.endCell; ++i) {
@@ -111,9 +162,6 @@ std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& fram
             if (!cell.isWide()) need.percentEdges = edges;
             setFixed(columnsOf(needs, cell), need);
         }
-    }
-    for (ColumnNeed& need : needs) {
-        if (need.percent == 0) need.least = need.most;
     }
     limitPercentages(needs);
     return needs;

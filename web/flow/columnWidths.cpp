@@ -12,7 +12,7 @@ constexpr int s_whole = 100'000;
 /// As far as percentages widen a table.
 constexpr std::int64_t s_widest = 1'000'000;
 
-bool isPercent(ColumnNeed const& column) { return column.percent > 0; }
+bool isPercent(ColumnNeed const& column) { return column.isPercent; }
 bool isFixed(ColumnNeed const& column) { return column.isFixed && !isPercent(column); }
 bool isAutomatic(ColumnNeed const& column) { return !column.isFixed && !isPercent(column); }
 
@@ -128,7 +128,10 @@ void widenPercentages(std::span<ColumnNeed> columns, int percent) {
     };
     if (percent <= 0 || sum(counts) == 0) return;
     std::vector<int> const parts = inProportion(sum(weights) > 0 ? weights : counts, percent);
-    for (std::size_t i = 0; i < columns.size(); ++i) columns[i].percent += parts[i];
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        columns[i].percent += parts[i];
+        columns[i].isPercent = true;
+    }
 }
 
 }  // namespace
@@ -143,11 +146,12 @@ void widen(ColumnNeed& column, ColumnNeed const& cell) {
     }
     column.most = std::max(column.most, column.least);
     column.percent = std::max(column.percent, cell.percent);
+    column.isPercent = column.isPercent || cell.isPercent;
     column.isFixed = column.isFixed || cell.isFixed;
 }
 
 void widen(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
-    if (cell.percent > 0) widenPercentages(columns, cell.percent);
+    if (isPercent(cell)) widenPercentages(columns, cell.percent);
     std::vector<int> const least = shareWidth(columns, cell.least);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         columns[i].least = std::max(columns[i].least, least[i]);
@@ -176,36 +180,15 @@ Widths sumOf(std::span<ColumnNeed const> columns) {
     return sum;
 }
 
-void keepWords(std::span<ColumnNeed> columns, std::span<ColumnNeed const> whole, int width) {
-    auto const leastAt = [&](std::size_t i, int level) {
-        return std::max(columns[i].least, std::min(whole[i].least, level));
-    };
-    auto const fits = [&](int level) {
-        std::int64_t sum = 0;
-        for (std::size_t i = 0; i < columns.size(); ++i) sum += leastAt(i, level);
-        return sum <= width;
-    };
-    int level = 0;
-    for (int above = width; level < above;) {
-        int const middle = level + (above - level + 1) / 2;
-        if (fits(middle)) {
-            level = middle;
-        } else {
-            above = middle - 1;
-        }
-    }
-    for (std::size_t i = 0; i < columns.size(); ++i) columns[i].least = leastAt(i, level);
-}
-
 int widthOfPercentages(std::span<ColumnNeed const> columns) {
     std::int64_t widest = 0;
     std::int64_t others = 0;
     std::int64_t left = s_whole;
     for (ColumnNeed const& column : columns) {
         left -= column.percent;
-        if (isPercent(column)) {
+        if (column.percent > 0) {
             widest = std::max(widest, std::int64_t{column.most} * s_whole / column.percent);
-        } else {
+        } else if (!isPercent(column)) {
             others += column.most;
         }
     }

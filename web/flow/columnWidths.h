@@ -12,8 +12,11 @@ struct ColumnNeed {
     int least = 0;
     /// That of a fixed width, or what the content would like. Never below `least`.
     int most = 0;
-    /// Of the width that all columns share; thousandths.
+    /// Of the width that all columns share; thousandths. A percentage may be 0.
+    ///@{
+    bool isPercent = false;
     int percent = 0;
+    ///@}
     /// Cells that come to its percentage.
     int percentEdges = 0;
     bool isFixed = false;
@@ -38,10 +41,6 @@ Widths sumOf(std::span<ColumnNeed const> columns);
 
 /// How wide columns must be in sum for percentages to come true.
 int widthOfPercentages(std::span<ColumnNeed const> columns);
-
-/// Raises the least widths of columns whose words may be parted to those of `whole`, at which none
-/// is, as far as `width` holds them in sum: none further than a column that stays below.
-void keepWords(std::span<ColumnNeed> columns, std::span<ColumnNeed const> whole, int width);
 
 /// Shares a width among columns. Each has its least first, where that is more in sum, too. Then
 /// percentages, fixed widths and the wishes of the others are met, in this order, as far as there

@@ -25,6 +25,12 @@ inline int across(Length length, int columns) {
     return static_cast<int>(exactlyAcross(length, columns) / s_parts);
 }
 
+/// In cells, where the columns that are left count: parts of one of these are dropped.
+inline int acrossRoundedUp(Length length, int columns) {
+    std::int64_t const parts = exactlyAcross(length, columns);
+    return static_cast<int>((parts > 0 ? parts + s_parts - 1 : parts) / s_parts);
+}
+
 /// A percentage is of the container's width, of which two columns are as wide as a row is high.
 inline int down(Length length, int columns) {
     if (length.kind != Length::Kind::percent) return across(length, columns);

@@ -119,8 +119,7 @@ void LineBreaker::removeHyphen() {
 /// If the last text ends with a soft hyphen, shows it.
 void LineBreaker::restoreHyphen() {
     for (std::size_t i = parts.size(); i-- > 0;) {
-        Kind const kind = itemOf(parts[i]).kind;
-        if (kind == Kind::open || kind == Kind::close) continue;
+        if (isTag(itemOf(parts[i]))) continue;
         if (!parts[i].hyphenates) return;
         ++parts[i].width;
         ++used;

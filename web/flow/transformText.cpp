@@ -2,7 +2,9 @@
 
 #include <utf8proc.h>
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 
 #include "web/text/utf8.h"
 
@@ -32,7 +34,23 @@ bool joinsLetters(std::int32_t c) {
     return s_joining.find(static_cast<char32_t>(c)) != std::u32string_view::npos;
 }
 
+/// In a script without spaces between words: Thai and its neighbours, kana, ideographs. Words of
+/// other letters end and begin beside it.
+bool isWithoutSpaces(std::int32_t c) {
+    struct Range {
+        std::int32_t first;
+        std::int32_t last;
+    };
+    constexpr Range s_ranges[] = {{0x0E00, 0x0EFF}, {0x1000, 0x109F},  {0x1780, 0x17FF},
+                                  {0x3005, 0x3007}, {0x3021, 0x3029},  {0x3041, 0x30FF},
+                                  {0x31F0, 0x31FF}, {0x3400, 0x9FFF},  {0xF900, 0xFAFF},
+                                  {0xFF66, 0xFF9F}, {0x20000, 0x3FFFF}};
+    return std::any_of(std::begin(s_ranges), std::end(s_ranges),
+                       [c](Range const& range) { return c >= range.first && c <= range.last; });
+}
+
 bool isWithinWord(std::int32_t c) {
+    if (isWithoutSpaces(c)) return false;
     return isLetterOrNumber(c) || utf8proc_category(c) == UTF8PROC_CATEGORY_PC;
 }
 

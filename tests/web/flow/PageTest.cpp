@@ -89,6 +89,12 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         {"<b style='padding-right: 1ch'>ab<br/></b>c", 9, "|ab|c"},
         {"<span style='white-space: nowrap'>ab-</span>cd", 3, "|ab-|cd"},
         {"ab<b/> <br/>", 2, "|ab"},
+        {"<i>ab cd</i><b style='padding-left: 1ch'></b> e", 5, "|ab|cd  e"},
+        // What stands on both sides of a closing quote is wide.
+        {"川字<b>”</b>水", 6, "|川字”|水"},
+        {"川字a<b>”</b>水", 6, "|川字|a”水"},
+        // A blank that counts begins the next line.
+        {"<pre>x<i style='white-space: normal'>abc d</i> e</pre>", 6, "|xabc d| e"},
     });
 }
 
@@ -115,6 +121,7 @@ TEST(Pages, AlignAndIndentText) {
          "|a          b|dddd"},
         {"<p style='text-indent: 2ch'>aa bb</p>", 5, "|  aa|bb"},
         {"<div style='text-indent: 2ch'><p>a</p>b</div>", 5, "|  a||b"},
+        {"<p style='text-indent: 50%; text-align: right'>abc</p>", 3, "|  a| bc"},
     });
 }
 
@@ -140,6 +147,12 @@ TEST(Pages, NumberListsAndPutMarkersBeside) {
         {"<ol style='list-style-type: decimal-leading-zero'><li value='-5'>a</li><li "
          "value='5'>b</li></ol>",
          40, "|-5. a|05. b"},
+        // Without a line, it stands beside the first row.
+        {"<ol><li><p/></li><li>a</li></ol>", 9, "| 1.|| 2. a"},
+        {"<ol><li><hr/></li><li><hr/>a</li></ol>", 9, "| 1. ─────|    ─────| 2. a"},
+        {"<ol style='padding: 0'><li style='border: solid'><hr/><p/></li></ol>", 9,
+         "|1. ┌───────┐|│───────│|│       │|└───────┘"},
+        {"<ol><li><ol><li><hr/></li><li/></ol></li></ol>", 14, "|     1. ──────| 1.  2."},
         {"<q>a <q>b <q>c</q></q></q>", 40, "|“a ‘b ‘c’’”"},
         {"<ol style='padding: 0'><li>a b</li></ol>", 9, "|1. a b"},
         {"<div style='background: red'><ol><li>a</li></ol></div>", 9, "| 1. a"},
@@ -147,10 +160,12 @@ TEST(Pages, NumberListsAndPutMarkersBeside) {
 }
 
 TEST(Pages, TransformWordsAcrossElementsAndHyphens) {
-    expectPages({{"<p style='text-transform: capitalize'>ab<b>cd</b> it's e&#173;f (gh)</p>", 40,
-                  "|Abcd It's Ef (Gh)"},
-                 {"<p style='text-transform: uppercase'>stra&#xE9; &#x1C6;</p>", 40, "|STRAÉ Ǆ"},
-                 {"<p style='text-transform: lowercase'>ABC</p>", 40, "|abc"}});
+    expectPages(
+        {{"<p style='text-transform: capitalize'>ab<b>cd</b> it's e&#173;f (gh)</p>", 40,
+          "|Abcd It's Ef (Gh)"},
+         {"<p style='text-transform: capitalize'>花a花b なba b花</p>", 40, "|花A花B なBa B花"},
+         {"<p style='text-transform: uppercase'>stra&#xE9; &#x1C6;</p>", 40, "|STRAÉ Ǆ"},
+         {"<p style='text-transform: lowercase'>ABC</p>", 40, "|abc"}});
 }
 
 TEST(Pages, PartInlineElementsAroundBlocks) {

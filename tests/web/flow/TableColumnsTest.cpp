@@ -78,6 +78,13 @@ TEST(TableColumns, ShareTheWidth) {
  a   b
 )"},
 
+        // Both columns have 6.5 cells first.
+        {"<table style='table-layout: fixed; width: 22ch'><tr><td colspan='2' style='width: 11ch'/>"
+         "</tr><tr><td>a</td><td>b</td></tr></table>",
+         30, R"(
+ a          b
+)"},
+
         {"<table style='table-layout: fixed; width: 16ch'><tr><td style='width: 2ch'>abc</td><"
          "td>d</td><td>e</td></tr></table>",
          30, R"(
@@ -108,6 +115,29 @@ TEST(TableColumns, PartWordsOnlyWhereTheTableDoesNotFit) {
  cd   h  j
  ef      k
          l
+)"},
+
+        {"<table><tr><td>abcdef</td><td>ghi</td><td>jklmnopqrst</td></tr></table>", 18, R"(
+ abcde  ghi  jklm
+ f           nopq
+             rst
+)"},
+
+        {"<table><tr><td colspan='2'>abcdefgh</td><td>jklmnopqrst</td></tr><tr><td>a</td><td>bcd"
+         "</td></tr></table>",
+         16, R"(
+ abcdef  jklmno
+ gh      pqrst
+ a  bcd
+)"},
+
+        {"<table><tr><td>abc <b style='overflow-wrap: normal'>defgh</b></td><td>ijkl</td></tr>"
+         "</table>",
+         8, R"(
+ abc    i
+ defgh  j
+        k
+        l
 )"},
 
         {"<table><tr><td style='white-space: nowrap'>abc def</td><td>ghi</td></tr></table>", 8, R"(

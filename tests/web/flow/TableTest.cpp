@@ -152,6 +152,13 @@ abcdefgh───┐
 )"},
 
         {"<table style='table-layout: fixed; width: 12ch'><tr><td style='padding: 0; white-spa"
+         "ce: nowrap'>abcdefg</td><td style='padding: 0'><table><tr><td style='border-left: solid'>"
+         "x</td></tr></table></td></tr></table>",
+         20, R"(
+abcdefg x
+)"},
+
+        {"<table style='table-layout: fixed; width: 12ch'><tr><td style='padding: 0; white-spa"
          "ce: nowrap'>abcdefgh</td><td style='padding: 0'>xy</td></tr></table>",
          20, R"(
 abcdefxy
