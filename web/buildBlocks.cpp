@@ -22,18 +22,19 @@ constexpr Limits s_numbers = {std::numeric_limits<int>::min(), 1'000'000'000};
 void PageBuilder::openBlock(Element const& element, Style const& style) {
     if (isInTable()) openAnonymousCell();
     endParagraph();
-    OutsideMarker marker;
+    static OutsideMarker const s_none;
+    OutsideMarker const* marker = &s_none;
     std::string inside;
     if (style.display == Display::listItem) {
         std::string text = markerText(style.marker, numberOf(element));
         if (style.markerPosition == MarkerPosition::inside) {
             inside = std::move(text);
         } else {
-            marker = outsideMarker(std::move(text), style.cells.isAmbiguousWide);
+            marker = &outsideMarker(std::move(text), style.cells.isAmbiguousWide);
         }
     }
     BlockSink& sink = *frame().sink;
-    sink.open(style, std::move(marker));
+    sink.open(style, *marker);
     push(sink, style, backgroundOf(style, frame().background));
     if (!inside.empty()) frame().paragraph.addGenerated(inside);
 }

@@ -22,7 +22,7 @@ class BlockSink {
 public:
     virtual ~BlockSink() = default;
 
-    virtual void open(Style const& block, OutsideMarker marker) = 0;
+    virtual void open(Style const& block, OutsideMarker const& marker) = 0;
     virtual void close() = 0;
     virtual void add(PlainText const& text) = 0;
     /// Another one that makes lines.

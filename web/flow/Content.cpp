@@ -51,13 +51,12 @@ Content::Parts& Content::parts() {
     return *others;
 }
 
-void Content::open(Style const& block, OutsideMarker marker) {
+void Content::open(Style const& block, OutsideMarker const& marker) {
     bool const hasMarker = !marker.text.empty();
-    int const columns = marker.columns;
     takeBlock();
     parts().entries.emplace_back(
-        Open{&block, hasMarker ? std::make_unique<OutsideMarker>(std::move(marker)) : nullptr});
-    parts().openBlocks.push_back({&block, {}, columns});
+        Open{&block, hasMarker ? std::make_unique<OutsideMarker>(marker) : nullptr});
+    parts().openBlocks.push_back({&block, {}, marker.columns});
 }
 
 void Content::close() {
@@ -138,7 +137,7 @@ void Content::moveTo(BlockSink& sink, Paragraph& scratch) {
     for (auto& entry : others->entries) {
         if (auto* const opened = std::get_if<Open>(&entry)) {
             sink.open(*opened->style,
-                      opened->marker != nullptr ? std::move(*opened->marker) : OutsideMarker());
+                      opened->marker != nullptr ? *opened->marker : OutsideMarker());
         } else if (std::holds_alternative<Close>(entry)) {
             sink.close();
         } else if (auto const* const text = std::get_if<KeptText>(&entry)) {

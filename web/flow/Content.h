@@ -32,7 +32,7 @@ public:
     Content& operator=(Content const&) = delete;
     ~Content() override;
 
-    void open(Style const& block, OutsideMarker marker) override;
+    void open(Style const& block, OutsideMarker const& marker) override;
     void close() override;
     void add(PlainText const& text) override;
     void add(Paragraph const& paragraph) override;

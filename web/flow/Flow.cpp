@@ -35,7 +35,7 @@ Flow::Flow(RowSink& rows, PageBudget& cells, int columns, Colour background, Out
       dropsMargins(outer == OuterMargins::dropped),
       wrapping(wrapped) {}
 
-void Flow::open(Style const& style, OutsideMarker marker) {
+void Flow::open(Style const& style, OutsideMarker const& marker) {
     int const container = columns();
     (blocks.empty() ? hasOwnContent : blocks.back().hasContent) = true;
     HorizontalPlace const place = placeBlock(style, container);
@@ -45,8 +45,10 @@ void Flow::open(Style const& style, OutsideMarker marker) {
     Colour const around = background();
     Block& block = blocks.emplace_back();
     block.style = &style;
-    block.marker = std::move(marker);
-    if (!block.marker.text.empty()) ++waitingMarkers;
+    if (!marker.text.empty()) {
+        block.marker = marker;
+        ++waitingMarkers;
+    }
     block.left = left;
     block.right = left + place.borderWidth;
     block.contentLeft = left + edge;

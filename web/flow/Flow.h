@@ -27,7 +27,7 @@ public:
     Flow(RowSink& rows, PageBudget& cells, int columns, Colour background, OuterMargins outer,
          Wrapping wrapped = Wrapping::asStyled);
 
-    void open(Style const& style, OutsideMarker marker) override;
+    void open(Style const& style, OutsideMarker const& marker) override;
     void close() override;
     void add(PlainText const& text) override;
     void add(Paragraph const& paragraph) override;
