@@ -45,11 +45,12 @@ unsigned codeOf(std::string_view sequence) {
 
 /// Bytes up to a sequence or the end of the row. An escape byte that begins no sequence is text.
 std::size_t textLength(std::string_view page) {
-    std::size_t end = page.find_first_of("\n\x1b");
-    while (end < page.length() && page[end] == '\x1b' && sequenceLength(page.substr(end)) == 0) {
-        end = page.find_first_of("\n\x1b", end + 1);
+    std::size_t end = 0;
+    while (end < page.length() && page[end] != '\n') {
+        if (page[end] == '\x1b' && sequenceLength(page.substr(end)) > 0) break;
+        ++end;
     }
-    return std::min(end, page.length());
+    return end;
 }
 
 int countCharacters(std::string_view text) {
