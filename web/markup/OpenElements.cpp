@@ -11,6 +11,7 @@ OpenElement& OpenElements::push(Piece& startTag) {
     opened.decoded.clear();
     opened.offset = startTag.offset;
     opened.isHidden = parent != nullptr && parent->isHidden;
+    opened.isInLink = parent != nullptr && (parent->isInLink || parent->element.name == "a");
     opened.children = 0;
     opened.element = {parent != nullptr ? &parent->element : nullptr,
                       startTag.name,

@@ -16,6 +16,8 @@ struct OpenElement {
     std::size_t offset = 0;
     /// It, or an element around it, is one that the handler is not told of.
     bool isHidden = false;
+    /// An `a` is around it.
+    bool isInLink = false;
     /// So far, of all kinds.
     unsigned children = 0;
     /// What `element.attributes` are; a value is a part of the document or of `decoded`.

@@ -80,6 +80,9 @@ private:
 
     void show(OpenElement& opened, ElementType const* type) {
         if (type == nullptr) warnAboutUnknown(opened);
+        if (opened.isInLink && opened.element.name == "a") {
+            warn(problems, opened.offset, "'a' is inside of another 'a', which HTML forbids");
+        }
         decodeAttributes(opened);
         handler.startElement(opened.element);
         if (opened.element.name != "img") return;

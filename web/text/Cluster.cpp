@@ -22,6 +22,14 @@ bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
 
 bool isSeparator(char32_t c) { return c == 0x2028 || c == 0x2029; }
 
+/// What stands for a character where clusters begin and end: what is printed for it, so that these
+/// are as wide on the page. The end of a line stays, since both its characters are one.
+char32_t standIn(char32_t c) {
+    if (c == '\r' || c == '\n') return c;
+    if (isControl(c)) return s_replacementCharacter;
+    return isSeparator(c) ? U' ' : c;
+}
+
 bool isBlank(char32_t c) { return isSeparator(c) || c == 0xA0 || c == 0x2007 || c == 0x202F; }
 
 bool isMark(utf8proc_property_t const& properties) {
@@ -30,10 +38,8 @@ bool isMark(utf8proc_property_t const& properties) {
 }
 
 /// Of a cluster's first code point: nothing of it is printed.
-bool isInvisible(char32_t c, utf8proc_property_t const& properties) {
-    if (properties.boundclass == UTF8PROC_BOUNDCLASS_CONTROL) {
-        return !isControl(c) && !isSeparator(c);
-    }
+bool isInvisible(utf8proc_property_t const& properties) {
+    if (properties.boundclass == UTF8PROC_BOUNDCLASS_CONTROL) return true;
     bool const isFormat = properties.category == UTF8PROC_CATEGORY_CF &&
                           properties.boundclass != UTF8PROC_BOUNDCLASS_PREPEND;
     return isMark(properties) || isFormat;
@@ -53,8 +59,13 @@ bool takesRoom(char32_t c, utf8proc_property_t const& properties) {
 /// A code point, and what utf8proc knows of it.
 struct Character {
     explicit Character(CodePoint c)
-        : value(c.value), length(c.length), properties(unicode(value)) {}
+        : original(c.value),
+          value(standIn(original)),
+          length(c.length),
+          properties(unicode(value)) {}
 
+    char32_t original;
+    /// What stands for it.
     char32_t value;
     unsigned length;
     std::reference_wrapper<utf8proc_property_t const> properties;
@@ -136,8 +147,8 @@ Cluster clusterAt(std::string_view text, std::size_t at, bool isAmbiguousWide) {
         return {at, at + 1, 1, true, c, 1, propertiesOf(c)};
     }
     Character last(decodeAt(text, at));
-    char32_t const shown = isControl(last.value) ? s_replacementCharacter : last.value;
-    bool const isPrinted = !isInvisible(last.value, last.properties);
+    char32_t const shown = isControl(last.original) ? s_replacementCharacter : last.original;
+    bool const isPrinted = !isInvisible(last.properties);
     Cluster cluster = {at, at + last.length, 0, false, shown, last.length, propertiesOf(shown)};
     Width width(isAmbiguousWide);
     width.take(last, cluster.properties);

@@ -8,7 +8,8 @@
 
 namespace galley::web {
 
-/// An extended grapheme cluster of UAX #29: what takes one or two cells, and is never parted.
+/// An extended grapheme cluster of UAX #29, controls and separators of lines counting as what is
+/// printed for them: what takes one or two cells, and is never parted.
 struct Cluster {
     /// Bytes of the text.
     std::size_t begin = 0;

@@ -1,6 +1,7 @@
 // Pages of the dialect as pictures: each row behind a bar, blanks at its end left out.
 
 #include <random>
+#include <string>
 
 #include "tests/web/flow/Pictures.h"
 #include "web/text/utf8.h"
@@ -9,7 +10,7 @@ namespace galley::web {
 namespace {
 
 struct PageCase {
-    char const* markup;
+    std::string markup;
     unsigned width;
     char const* page;
 };
@@ -166,6 +167,26 @@ TEST(Pages, TransformWordsAcrossElementsAndHyphens) {
          {"<p style='text-transform: capitalize'>花a花b なba b花</p>", 40, "|花A花B なBa B花"},
          {"<p style='text-transform: uppercase'>stra&#xE9; &#x1C6;</p>", 40, "|STRAÉ Ǆ"},
          {"<p style='text-transform: lowercase'>ABC</p>", 40, "|abc"}});
+}
+
+TEST(Pages, TransformLettersThatAreNotOneForOne) {
+    auto const transformed = [](std::string const& how, std::string const& text) {
+        return "<p style='text-transform: " + how + "'>" + text + "</p>";
+    };
+    expectPages({
+        {transformed("uppercase", "stra&szlig;e \u0149 \uFB03 \u0587 \u01C6"), 40,
+         "|STRASSE \u02BCN FFI \u0535\u0552 \u01C4"},
+        {transformed("uppercase", "\u0390\u1F80"), 40, "|\u0399\u0308\u0301\u1F08\u0399"},
+        {transformed("uppercase", "\u10D0 \u1C90"), 40, "|\u10D0 \u10D0"},
+        {transformed("capitalize", "\u01C6a \u1FB3 \uFB01x \u00DFa \U00010428"), 40,
+         "|\u01C5a \u1FBC \uFB01x \u00DFa \U00010428"},
+        {transformed("lowercase", "\u0130"), 40, "|i\u0307"},
+        // A sigma is final behind a letter and before none, whatever joins or marks there are.
+        {transformed("lowercase", "ΑΣ Σ ΣΑ ΑΣΑ ΑΣ1 1Σ ΑΣ-Α"), 40, "|ας σ σα ασα ας1 1σ ας-α"},
+        {transformed("lowercase", "Α.Σ ΑΣ.Α Α'Σ'Α ΑΣ:Α"), 40, "|α.ς ασ.α α'σ'α ασ:α"},
+        {transformed("lowercase", "ΑΣ\u0301 ΑΣ\u0301Α"), 40, "|ας\u0301 ασ\u0301α"},
+        {transformed("lowercase", "Α<b>Σ</b> ΑΣ<b>Α</b>"), 40, "|ασ αςα"},
+    });
 }
 
 TEST(Pages, PartInlineElementsAroundBlocks) {

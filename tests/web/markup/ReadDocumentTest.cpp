@@ -159,6 +159,8 @@ TEST(ReadDocument, WarnsOfWhatItDoesNotKnow) {
               "35 warning: " + utf8 + "45 warning: " + utf8},
              {"<head><title/><link href='a'/><link rel='stylesheet' href='a'/></head>",
               "30 warning: a linked sheet is not read; pass it beside the document\n"},
+             {"<a>b<i><a/></i></a><a/>",
+              "7 warning: 'a' is inside of another 'a', which HTML forbids\n"},
              {"<style>&x;</style>", "7 warning: unknown reference '&x;'\n"},
          }) {
         Reading const reading(c.markup);
