@@ -50,10 +50,11 @@ class Browser:
                 put(rows, int(top // 16), int(left // 8), cluster)
                 fits = False
                 between = between or "capitalize" in source
-        if between or any(picture.UNKNOWN in cells for cells in rows):
+        covers = overlap(laid["clusters"])
+        if between or covers or any(picture.UNKNOWN in cells for cells in rows):
             letters = "".join(cluster for cluster, _, _ in laid["clusters"])
             # Which ones are covered depends on how cells are rounded.
-            shown = "" if laid["sticksOut"] or overlap(laid["clusters"]) else letters
+            shown = "" if laid["sticksOut"] or covers else letters
             return Answer([shown], between=True, fits=fits)
         rows = ["".join(cells).rstrip() for cells in rows]
         return Answer(rows, fits=fits, paint=picture.backgrounds(laid["picture"]))

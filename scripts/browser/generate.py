@@ -29,6 +29,8 @@ def make_page(seed):
     rules = make_rules(chosen, width, body) if chosen.chance(0.5) else ""
     if "blocks in a cell" in chosen.features:
         rules = rules.replace("-right", "-left")
+    if {"table-layout: fixed", "border-collapse"} <= chosen.features:
+        rules = re.sub(r"(?<!-)width: [^;} ]*", "visibility: hidden", rules)
     head = f"<head><style>{rules}</style></head>" if rules else "<head/>"
     page = avoid(f"<html>{head}{body}</html>")
     absent = {feature for feature in chosen.features if feature in AVOIDED and feature not in page}
@@ -41,6 +43,9 @@ def avoid(source):
     head, body = source.split("<body>")
     body = re.sub(r"(<t[dh] [^>]*)display: block", r"\1visibility: hidden", body)
     source = f"{head.replace('display: block', 'visibility: hidden')}<body>{body}"
+    # White space that hangs has no background.
+    if "pre-wrap" in source:
+        source = re.sub(r"(</?)mark\b", r"\1samp", source)
     if "break-all" in source:
         source = re.sub("[\u0300-\u036f]", "", unicodedata.normalize("NFC", source))
     return source
@@ -123,8 +128,10 @@ class Blocks:
 
     def _paragraph(self, _):
         chosen, tag = self._chosen, self._chosen.pick(BLOCKS)
-        own = [chosen.use("display: inline", "display: inline")] if chosen.chance(0.05) else []
-        return f"<{tag}{self._attributes(own)}>{self._words.text()}</{tag}>"
+        if chosen.chance(0.05):
+            own = [chosen.use("display: inline", "display: inline")]
+            return f"<{tag}{self._attributes(own)}>{self._words.text()} {self._words.word()}</{tag}>"
+        return f"<{tag}{self._attributes()}>{self._words.text()}</{tag}>"
 
     def _narrow(self, _):
         """A paragraph whose lines break; where that matters, a browser mostly lays it at whole

@@ -32,7 +32,7 @@ class Tables:
         collapses = chosen.chance(0.4)
         if collapses:
             if "fixed" in "".join(style):
-                cell_widths = ["1ch", "25%"]
+                cell_widths = ["auto"]
             style.append(chosen.use("border-collapse", "border-collapse: collapse"))
             cell = chosen.pick(["border: solid", "border: solid", "", "border-bottom: solid",
                                 "border-left: solid"])

@@ -93,7 +93,9 @@ void Paragraph::partInto(Paragraph& done) {
 void Paragraph::finish() {
     dropBlank();
     // Elements that end or are empty there stand in the last line, too.
-    if (contentEnd == 0 || all[contentEnd - 1].kind == Item::Kind::lineFeed) return;
+    std::size_t last = contentEnd;
+    while (last > 0 && all[last - 1].kind == Item::Kind::close) --last;
+    if (last == 0 || all[last - 1].kind == Item::Kind::lineFeed) return;
     while (contentEnd < all.size() && isTag(all[contentEnd])) ++contentEnd;
 }
 

@@ -79,10 +79,13 @@ public:
         if (collapsed) return 0;
         return (table.border.left.isThere() ? 1 : 0) + across(table.padding.left, container);
     }
-    /// Columns of a cell's border and padding, in a table that is so wide.
+    /// Columns of a cell's border and padding, in a table that is so wide: what is left of a column
+    /// counts with them.
     int cellEdges(Style const& cell, int width) const {
-        if (!collapsed) return innerEdges(cell, width);
-        return across(cell.padding.left, width) + across(cell.padding.right, width);
+        std::int64_t const padding =
+            exactlyAcross(cell.padding.left, width) + exactlyAcross(cell.padding.right, width);
+        return static_cast<int>((padding + s_parts - 1) / s_parts) +
+               (hasBorder(cell.border.left) ? 1 : 0) + (hasBorder(cell.border.right) ? 1 : 0);
     }
 
 private:

@@ -16,7 +16,7 @@ ColumnNeed needOf(Length width, int edges, int parts) {
     if (isCells(width)) need.most = width.value * parts + edges;
     if (width.kind == Length::Kind::percent && width.value > 0) {
         need.isPercent = true;
-        need.percent = width.value;
+        need.percent = 1000 * width.value;
     }
     return need;
 }
@@ -160,6 +160,7 @@ std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& fram
             int const edges = frame.columnEdges(cell);
             ColumnNeed need = needOf(cell.style->width, edges, frame.partsOfCell());
             if (!cell.isWide()) need.percentEdges = edges;
+            need.most = std::max(0, need.most - frame.gapsWithin(cell));
             setFixed(columnsOf(needs, cell), need);
         }
     }

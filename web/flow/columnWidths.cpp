@@ -8,7 +8,7 @@ namespace galley::web {
 
 namespace {
 
-constexpr int s_whole = 100'000;
+constexpr int s_whole = 100'000'000;
 /// As far as percentages widen a table.
 constexpr std::int64_t s_widest = 1'000'000;
 
@@ -18,6 +18,17 @@ bool isAutomatic(ColumnNeed const& column) { return !column.isFixed && !isPercen
 
 int partOf(int width, int percent) {
     return static_cast<int>(std::int64_t{width} * percent / s_whole);
+}
+
+/// Of which an amount is so many per cent; less than a thousandth of a cell is not missed.
+std::int64_t wholeOf(std::int64_t amount, std::int64_t percent) {
+    return (amount * s_whole + percent / 1000) / percent;
+}
+
+/// Whether a column is wider than its percentage of a width, if only by its edges.
+bool exceedsShare(ColumnNeed const& column, std::int64_t width) {
+    std::int64_t const least = std::int64_t{column.least} * s_whole;
+    return column.percentEdges > 0 || least > width * column.percent + s_whole / 1000;
 }
 
 /// Shares an amount in proportion to weights, of which one is not 0.
@@ -67,9 +78,15 @@ public:
             add(inProportion(missing, static_cast<int>(std::min<std::int64_t>(sum, rest))));
     }
 
+    enum class Parts {
+        /// What columns have already is in proportion to their weights.
+        ofWhole,
+        ofRest,
+    };
+
     /// Gives all that is left to columns of a kind, if there are any.
     template <class Weight>
-    void spend(bool (*isOfKind)(ColumnNeed const&), Weight const& weight) {
+    void spend(bool (*isOfKind)(ColumnNeed const&), Weight const& weight, Parts parts) {
         if (isDone()) return;
         std::vector<std::int64_t> weights(widths.size());
         std::vector<std::int64_t> counts(widths.size());
@@ -80,7 +97,8 @@ public:
         }
         auto const isThere = [](std::int64_t amount) { return amount > 0; };
         if (std::any_of(weights.begin(), weights.end(), isThere)) {
-            addByWeight(weights);
+            if (parts == Parts::ofWhole) return addByWeight(weights);
+            add(inProportion(weights, rest));
         } else if (std::any_of(counts.begin(), counts.end(), isThere)) {
             add(inProportion(counts, rest));
         }
@@ -187,13 +205,13 @@ int widthOfPercentages(std::span<ColumnNeed const> columns) {
     for (ColumnNeed const& column : columns) {
         left -= column.percent;
         if (column.percent > 0) {
-            widest = std::max(widest, std::int64_t{column.most} * s_whole / column.percent);
+            widest = std::max(widest, wholeOf(column.most, column.percent));
         } else if (!isPercent(column)) {
             others += column.most;
         }
     }
     if (left < s_whole && others > 0) {
-        widest = std::max(widest, left > 0 ? others * s_whole / left : s_widest);
+        widest = std::max(widest, left > 0 ? wholeOf(others, left) : s_widest);
     }
     return static_cast<int>(std::min(widest, s_widest));
 }
@@ -201,15 +219,20 @@ int widthOfPercentages(std::span<ColumnNeed const> columns) {
 std::vector<int> shareWidth(std::span<ColumnNeed const> columns, int width) {
     auto const most = [](ColumnNeed const& column) { return column.most; };
     auto const percent = [](ColumnNeed const& column) { return column.percent; };
-    Shares shares(columns, width);
-    shares.grow(isPercent, [=](ColumnNeed const& column) {
+    auto const share = [=](ColumnNeed const& column) {
         return partOf(width, column.percent) + column.percentEdges;
+    };
+    bool const areShares = std::none_of(columns.begin(), columns.end(), [=](auto const& column) {
+        return isPercent(column) && exceedsShare(column, width);
     });
+    using Parts = Shares::Parts;
+    Shares shares(columns, width);
+    shares.grow(isPercent, share);
     shares.grow(isFixed, most);
     shares.grow(isAutomatic, most);
-    shares.spend(isAutomatic, most);
-    shares.spend(isFixed, most);
-    shares.spend(isPercent, percent);
+    shares.spend(isAutomatic, most, Parts::ofWhole);
+    shares.spend(isFixed, most, Parts::ofWhole);
+    shares.spend(isPercent, percent, areShares ? Parts::ofWhole : Parts::ofRest);
     return shares.take();
 }
 

@@ -12,7 +12,7 @@ struct ColumnNeed {
     int least = 0;
     /// That of a fixed width, or what the content would like. Never below `least`.
     int most = 0;
-    /// Of the width that all columns share; thousandths. A percentage may be 0.
+    /// Of the width that all columns share; millionths. A percentage may be 0.
     ///@{
     bool isPercent = false;
     int percent = 0;

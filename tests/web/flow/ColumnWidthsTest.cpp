@@ -12,7 +12,7 @@ using Columns = std::vector<ColumnNeed>;
 ColumnNeed wish(int least, int most) { return {.least = least, .most = most}; }
 ColumnNeed fixed(int least, int width) { return {.least = least, .most = width, .isFixed = true}; }
 ColumnNeed percent(int least, int most, int share) {
-    return {.least = least, .most = most, .isPercent = true, .percent = share * 1000};
+    return {.least = least, .most = most, .isPercent = true, .percent = share * 1'000'000};
 }
 
 struct ShareCase {
@@ -38,10 +38,11 @@ TEST(ColumnWidths, HaveTheirLeastFirstAndShareTheRest) {
         {"least before fixed", {fixed(1, 10), wish(8, 8)}, 10, {2, 8}},
         {"all per cent", {percent(1, 1, 25), percent(1, 1, 50)}, 40, {14, 26}},
         {"per cent rounded once",
-         {{.least = 9, .most = 9, .isPercent = true, .percent = 16'667},
-          {.least = 9, .most = 18, .isPercent = true, .percent = 33'333}},
+         {{.least = 9, .most = 9, .isPercent = true, .percent = 16'666'667},
+          {.least = 9, .most = 18, .isPercent = true, .percent = 33'333'333}},
          54,
          {18, 36}},
+        {"per cent of what is left", {percent(13, 20, 12), percent(9, 20, 12)}, 48, {26, 22}},
         {"per cent and fixed", {percent(1, 1, 25), fixed(1, 10)}, 40, {10, 30}},
         {"of each", {percent(1, 1, 25), fixed(1, 10), wish(1, 1)}, 40, {10, 10, 20}},
         {"per cent before wishes", {percent(4, 4, 80), wish(12, 12)}, 40, {28, 12}},
@@ -74,6 +75,9 @@ TEST(ColumnWidths, AskForWhatMakesPercentagesTrue) {
         {{percent(4, 4, 25), wish(8, 8), wish(1, 1)}, 16},
         {{percent(4, 4, 80), wish(12, 12)}, 60},
         {{percent(4, 4, 100)}, 4},
+        {{{.most = 8, .isPercent = true, .percent = 17'391'304},
+          {.most = 13, .isPercent = true, .percent = 28'260'870}},
+         46},
         {{percent(4, 4, 100), wish(1, 1)}, 1'000'000},
     };
     for (Case const& each : cases) EXPECT_EQ(widthOfPercentages(each.columns), each.width);

@@ -91,6 +91,7 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         {"<span style='white-space: nowrap'>ab-</span>cd", 3, "|ab-|cd"},
         {"ab<b/> <br/>", 2, "|ab"},
         {"<i>ab cd</i><b style='padding-left: 1ch'></b> e", 5, "|ab|cd  e"},
+        {"<b style='padding-right: 1ch'>a<br/></b><i></i>", 5, "|a"},
         // What stands on both sides of a closing quote is wide.
         {"川字<b>”</b>水", 6, "|川字”|水"},
         {"川字a<b>”</b>水", 6, "|川字|a”水"},
