@@ -86,7 +86,7 @@ ExitStatus print(std::string_view text) {
 ExitStatus printHelp() {
     galley::Options options;
     options.width = helpWidth();
-    options.dialect = galley::Dialect::core;
+    options.dialect = galley::Dialect::web;
     auto const page = galley::render(helpDocument(options.width), helpSheet(), options);
     return print(page.value());
 }

@@ -116,10 +116,12 @@ void defineForm(CLI::App& app, Options& options) {
         "Print a tree instead of the page: elements with their styles, or, in the "
         "dialect core, the document's or the boxes after layout")
         ->excludes("--format");
-    app.add_flag("--raw", options.isRaw,
-                 "Pass control characters of the document and the sheets on to the terminal; "
-                 "without it, and in other formats than ansi, all but white space are question "
-                 "marks");
+    app.add_flag(
+        "--raw", options.isRaw,
+        "Pass control characters of documents and sheets of the dialect core on to the "
+        "terminal; without it, and in other formats than ansi, all but white space are "
+        "question marks. Pages of the dialect web never have any: with --raw, its documents "
+        "are errors");
 }
 
 void defineDestination(CLI::App& app, Options& options) {

@@ -8,8 +8,6 @@
 #include "cli/describe.h"
 #include "galley/terminal/terminal.h"
 
-// The page is a document of the core. Margins stand above blocks alone, where none counts twice.
-
 namespace {
 
 // All in columns.
@@ -22,18 +20,32 @@ constexpr unsigned s_indent = 2;
 constexpr unsigned s_shortName = 4;
 
 constexpr char const* s_sheet =
-    "h1 { font-style: bold; }"
-    "h2 { color: green; font-style: bold; margin-top: 1; }"
-    "p  { padding-left: 2; }"
-    "b  { color: cyan; }"
-    "i  { color: cyan; font-style: normal; }";
+    "h1 { margin: 0; text-decoration: none }"
+    "h2 { margin: 1lh 0 0; color: green }"
+    "p  { margin: 1lh 0 0 2ch }"
+    ".usage { margin-top: 0 }"
+    "b  { color: cyan }"
+    "i  { color: cyan; font-style: normal }"
+    "table { width: 100%; table-layout: fixed; border-spacing: 0 }"
+    "span { white-space: nowrap }"
+    "td { padding: 0; vertical-align: top }"
+    ".options { margin-top: 1lh }";
 
 /// What is typed as it stands, and what something else stands for.
 std::string literal(std::string_view text) { return "<b>" + galley::escape(text) + "</b>"; }
 std::string placeholder(std::string_view text) { return "<i>" + galley::escape(text) + "</i>"; }
 
-std::string attribute(char const* name, int value) {
-    return std::string(" ") + name + "=\"" + std::to_string(value) + "\"";
+/// Text in which no line breaks within what is typed: options, and tags.
+std::string prose(std::string_view text) {
+    std::string markup;
+    while (!text.empty()) {
+        std::string_view const word =
+            text.substr(0, std::min(text.find(' '), text.length() - 1) + 1);
+        bool const isTyped = word.starts_with('-') || word.starts_with('<');
+        markup += isTyped ? "<span>" + galley::escape(word) + "</span>" : galley::escape(word);
+        text.remove_prefix(word.length());
+    }
+    return markup;
 }
 
 /// What an entry is about: `columns` wide, as markup.
@@ -46,12 +58,16 @@ struct Term {
 /// A term, and its text from a column on: in the same row where the term leaves room.
 std::string entry(Term const& term, std::string_view text, unsigned column) {
     bool const isBeside = term.indent + term.columns + 2 <= column;
-    std::string markup = "<h3" + attribute("padding-left", static_cast<int>(term.indent));
-    if (isBeside) markup += attribute("margin-bottom", -1);
-    markup += ">" + term.markup + "</h3><p" + attribute("padding-left", static_cast<int>(column));
-    // Its first row has counted; the lower margin makes up for that.
-    if (isBeside) markup += attribute("margin-top", -1) + attribute("margin-bottom", 1);
-    return markup + ">" + galley::escape(text) + "</p>";
+    std::string markup = isBeside ? "<tr><td" : "<tr><td colspan=\"2\"";
+    markup += " style=\"padding-left: " + std::to_string(std::min(term.indent, column)) + "\">" +
+              term.markup + "</td>";
+    if (!isBeside) markup += "</tr><tr><td/>";
+    return markup + "<td>" + prose(text) + "</td></tr>";
+}
+
+/// Entries whose texts begin at a column.
+std::string table(std::string const& entries, unsigned column) {
+    return "<table><col width=\"" + std::to_string(column) + "\"/><col/>" + entries + "</table>";
 }
 
 Term term(OptionEntry const& option) {
@@ -75,31 +91,34 @@ Term term(OptionEntry const& option) {
 std::string options(unsigned column) {
     std::string markup;
     std::string group;
+    std::string entries;
     for (OptionEntry const& option : describeOptions()) {
-        if (option.group != group)
-            markup += "</div><h2>" + galley::escape(option.group) + "</h2><div>";
+        if (option.group != group) {
+            markup += table(entries, column) + "<h2>" + galley::escape(option.group) + "</h2>";
+            entries.clear();
+        }
         group = option.group;
-        markup += entry(term(option), option.description + ".", column);
+        entries += entry(term(option), option.description + ".", column);
     }
-    return "<div margin-top=\"1\">" + markup + "</div>";
+    return "<div class=\"options\">" + markup + table(entries, column) + "</div>";
 }
 
-std::string statuses() {
-    std::string markup = "<h2>Exit status</h2><div>";
+std::string statuses(unsigned column) {
+    std::string entries;
     for (StatusEntry const& status : describeStatuses()) {
         std::string const number = std::to_string(static_cast<int>(status.status));
-        markup += entry({literal(number), number.length()}, status.meaning, s_indent + s_shortName);
+        entries += entry({literal(number), number.length()}, status.meaning, column);
     }
-    return markup + "</div><p margin-top=\"1\">" + galley::escape(statusNote()) + "</p>";
+    return "<h2>Exit status</h2>" + table(entries, column) + "<p>" + prose(statusNote()) + "</p>";
 }
 
-std::string examples() {
-    std::string markup = "<h2>Examples</h2><div>";
+std::string examples(unsigned column) {
+    std::string entries;
     for (ExampleEntry const& example : describeExamples()) {
-        markup += entry({literal(example.command), std::string_view(example.command).length()},
-                        example.effect, s_indent + s_shortName);
+        entries += entry({literal(example.command), std::string_view(example.command).length()},
+                         example.effect, column);
     }
-    return markup + "</div>";
+    return "<h2>Examples</h2>" + table(entries, column);
 }
 
 }  // namespace
@@ -107,12 +126,16 @@ std::string examples() {
 unsigned helpWidth() { return std::min(galley::terminalWidth(stdout), s_mostReadable); }
 
 std::string helpDocument(unsigned width) {
-    return "<h1>galley - " + galley::escape(toolSummary()) + "</h1>" + "<h2>Usage</h2><p>" +
-           literal("galley ") + "[" + placeholder("OPTION") + "]... [" + placeholder("FILE") +
-           "]...</p><p margin-top=\"1\">" + galley::escape(toolDescription()) + "</p>" +
-           options(width < s_wide ? s_narrowColumn : s_wideColumn) + statuses() + examples();
+    // On a terminal of few columns the texts have most of them.
+    unsigned const most = width / 3;
+    unsigned const column = width < s_wide ? std::min(s_narrowColumn, most) : s_wideColumn;
+    unsigned const shortColumn = std::min(s_indent + s_shortName, most);
+    return "<h1>galley - " + galley::escape(toolSummary()) + "</h1>" +
+           "<h2>Usage</h2><p class=\"usage\">" + literal("galley ") + "[" + placeholder("OPTION") +
+           "]... [" + placeholder("FILE") + "]...</p><p>" + prose(toolDescription()) + "</p>" +
+           options(column) + statuses(shortColumn) + examples(shortColumn);
 }
 
 galley::Sheet helpSheet() {
-    return galley::Sheet::parse(s_sheet, "<sheet>", galley::Dialect::core).value();
+    return galley::Sheet::parse(s_sheet, "<sheet>", galley::Dialect::web).value();
 }

@@ -8,6 +8,7 @@
 #include "cli/files.h"
 #include "cli/report.h"
 #include "galley/checkMarkup.h"
+#include "galley/dialect.h"
 #include "galley/failure.h"
 #include "galley/page.h"
 
@@ -20,10 +21,20 @@ Rendering told(ExitStatus status, std::vector<galley::Diagnostic> const& diagnos
     return rendering;
 }
 
+/// Whether a document is one whose controls are wanted on the page, and never are there.
+bool isRawInVain(String const& markup, galley::Options const& options) {
+    galley::Result<galley::Dialect> const dialect = galley::dialectOf(markup.view(), options);
+    return dialect && *dialect == galley::Dialect::web;
+}
+
 Rendering convert(std::string const& document, String& markup, galley::Sheet const& sheet,
                   Manner const& manner) {
     galley::Options options = manner.page;
     options.name = inputName(document);
+    if (manner.isRaw && isRawInVain(markup, options)) {
+        return told(ExitStatus::InputAtFault,
+                    galley::failure(options.name, "--raw is for the dialect core"));
+    }
     if (manner.isCheck) {
         auto const found = galley::checkMarkup(markup, sheet, options);
         return told(statusOf(found, manner.isStrict), found);
@@ -50,7 +61,10 @@ Rendering guarded(std::string const& document, Work const& work) {
 }  // namespace
 
 Manner::Manner(Options const& options)
-    : product(options.product), isCheck(options.isCheck), isStrict(options.isStrict) {
+    : product(options.product),
+      isCheck(options.isCheck),
+      isStrict(options.isStrict),
+      isRaw(options.isRaw) {
     page.width = options.width.value_or(0);
     page.format = options.format;
     page.color = options.color;

@@ -14,6 +14,8 @@ struct Manner {
     bool isCheck;
     /// Of a check: warnings are faults, too.
     bool isStrict;
+    /// Control characters shall reach the terminal, which they do in one dialect only.
+    bool isRaw;
     /// Settled, but for the name of the document.
     galley::Options page;
 

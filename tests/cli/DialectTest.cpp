@@ -53,6 +53,33 @@ TEST_F(Dialects, ThatAreNoneAreErrors) {
     }
 }
 
+/// Pages of the web never have controls, so that none can be asked for.
+TEST_F(Dialects, OfTheWebAreNotRaw) {
+    write("core.xml", "<?galley dialect='core'?>a\x1b");
+    write("web.xml", "<p>a\x1b</p>");
+    std::string const error = "web.xml: error: --raw is for the dialect core\n";
+    struct Case {
+        char const* arguments;
+        std::string out;
+        std::string err;
+    };
+    Case const cases[] = {
+        {"--raw core.xml", "a\x1b\n", ""},
+        {"core.xml", "a?\n", ""},
+        {"web.xml", "a\uFFFD\n", ""},
+        {"--raw web.xml", "", error},
+        {"--raw core.xml web.xml", "a\x1b\n", error},
+        {"--raw --check web.xml", "", error},
+        {"--raw --format html web.xml", "", error},
+    };
+    for (auto const& [arguments, out, err] : cases) {
+        Outcome const outcome = run(arguments + std::string(" --color always"));
+        EXPECT_EQ(outcome.out, out) << arguments;
+        EXPECT_EQ(outcome.err, err) << arguments;
+        EXPECT_EQ(outcome.status, err.empty() ? 0 : 1) << arguments;
+    }
+}
+
 TEST_F(Dialects, OfSheetsAreThatOfTheFirstDocument) {
     write("core.xml", "<?galley dialect='core'?>" + s_table);
     write("web.xml", "<?galley dialect='web'?>" + s_table);

@@ -236,15 +236,18 @@ TEST_F(CoreTool, PrintsItsHelpAsAPageOfTheWidthThereIs) {
     };
     constexpr Case cases[] = {
         {"50", 50, "  -w,", "  -w, --width N\n        Width of the page in columns (default:"},
-        {"80", 79, "  -w,",
+        {"80", 80, "  -w,",
          "  -w, --width N           Width of the page in columns (default: that of the\n"
-         "                          terminal on standard output, else of the"},
-        {"80", 79, "  -f,",
+         "                          terminal on standard output, else of the environment's"},
+        {"80", 80, "  -f,",
          "  -f, --format ansi|plain|html|svg\n"
-         "                          How pages are written: text with escape sequences"},
-        {"80", 79, "  1 ",
+         "                          How pages are written: text with escape sequences (the"},
+        {"80", 80, "                          given a",
+         "                          given a document may say it at its beginning, by\n"
+         "                          <?galley dialect=\"core\"?>, and sheets are of the"},
+        {"80", 80, "  1 ",
          "  1   a document or a sheet is at fault, or memory ran out\n  2   usage"},
-        {"3000", 99, "      --max-width",
+        {"3000", 100, "      --max-width",
          "      --max-width N       The most that the width may be.\n"},
     };
     for (Case const& c : cases) {
@@ -265,8 +268,8 @@ TEST_F(CoreTool, ColorsItsHelpOnATerminalThatWelcomesIt) {
         char const* start;
     };
     constexpr Case cases[] = {
-        {"", "\x1b[0m\x1b[1mgalley \x1b[0m\r\n"},
-        {"export NO_COLOR=1; ", "galley\r\n-\r\n"},
+        {"", "\x1b[1mgalley\x1b[0m\r\n"},
+        {"export NO_COLOR=1; ", "galley\r\n- show\r\n"},
     };
     for (Case const& c : cases) {
         Terminal terminal;
