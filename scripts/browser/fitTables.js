@@ -116,9 +116,9 @@ function fitTables(page) {
     setAll(captions, "display", "none");
     keepWords(table, cells, cells.map(cell => whole.get(cell)));
     captions.forEach(caption => caption.style.removeProperty("display"));
-    if (within.length == 0) continue;
-    // Such padding would change with what is fixed here.
+    // Such padding would change with what is set here.
     if (cells.some(hasSharedPadding)) page.documentElement.setAttribute("data-unasked", "");
+    if (within.length == 0) continue;
     const widths = cells.map(cell => styleOf(cell).width);
     for (const limit of ["min-width", "max-width"]) {
       cells.forEach((cell, i) => setAll([cell], limit, widths[i]));

@@ -225,7 +225,8 @@ int LineBreaker::trailingBlanks() const {
     for (std::size_t i = parts.size(); i-- > 0;) {
         Part const& part = parts[i];
         Item const& item = itemOf(part);
-        if (isTag(item) || item.kind == Kind::lineFeed) continue;
+        bool const isEmpty = item.kind == Kind::breakable && item.mayBreakBehind;
+        if (isTag(item) || isEmpty || item.kind == Kind::lineFeed) continue;
         Style const& style = styleOf(item);
         if (style.whiteSpace == WhiteSpace::pre) break;
         bool const isTab = item.kind == Kind::tab;

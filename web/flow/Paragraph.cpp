@@ -153,9 +153,19 @@ void Paragraph::addLineFeed() {
 void Paragraph::addBreakable() { add(Item::Kind::breakable).mayBreakBehind = true; }
 
 void Paragraph::addBlank() {
-    if (std::exchange(isBehindBlank, true)) return;
+    if (std::exchange(isBehindBlank, true)) return keepOpportunity();
     Item& blank = add(Item::Kind::blank);
     blank.width = 1;
+}
+
+/// White space that is none behind a blank in an element whose lines do not break lets a line
+/// break.
+void Paragraph::keepOpportunity() {
+    if (!wraps(style())) return;
+    auto const last = std::find_if_not(all.rbegin(), all.rend(), isTag);
+    bool const isUnbroken = last != all.rend() && last->kind == Item::Kind::blank &&
+                            !wraps(*elements[last->element].style);
+    if (isUnbroken) addBreakable();
 }
 
 }  // namespace galley::web

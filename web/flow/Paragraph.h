@@ -140,6 +140,7 @@ private:
     void addBehind(Segment const& segment);
     void addBlank();
     void dropBlank();
+    void keepOpportunity();
     Item& add(Item::Kind kind);
     Style const& style() const { return *elements[current].style; }
 

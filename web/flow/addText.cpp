@@ -57,7 +57,7 @@ void Paragraph::addText(std::string_view decoded) {
                         ? static_cast<char32_t>(decoded.back())
                         : decodeAt(decoded, startBefore(decoded, decoded.size())).value;
     bool const isCollapsed = style().whiteSpace == WhiteSpace::normal;
-    if (isBehindBlank && isCollapsed && isBlank(decoded)) return;
+    if (isBehindBlank && isCollapsed && isBlank(decoded)) return keepOpportunity();
     if (style().textTransform != TextTransform::none) {
         std::string transformed;
         transformText(transformed, decoded, style().textTransform, before);
