@@ -57,8 +57,8 @@ RuleIndex::Rules& RuleIndex::rulesLike(CompoundSelector const& subject) {
     return ofAll;
 }
 
-/// The shortest list for one of the classes, so that a class that many rules ask for does not gather
-/// them all; null without classes.
+/// The shortest list for one of the classes, so that a class that many rules ask for does not
+/// gather them all; null without classes.
 RuleIndex::Rules* RuleIndex::fewestOfClasses(CompoundSelector const& subject) {
     Rules* fewest = nullptr;
     for (SimpleSelector const& part : subject.parts) {
