@@ -66,8 +66,8 @@ void Flow::addLateMarker() {
         addBlanks(1);
         pending = margin;
     }
-    auto const heldRows = static_cast<int>(held.size());
-    Row& beside = held[static_cast<std::size_t>(*block.firstRow - rowCount + heldRows)];
+    auto const rowsBehind = static_cast<std::size_t>(rowCount - *block.firstRow);
+    Row& beside = held[held.size() - rowsBehind];
     bool const isAmbiguousWide = block.style->cells.isAmbiguousWide;
     row.clear();
     row.addPart(beside.view(), 0, block.left - block.marker.columns, isAmbiguousWide);
