@@ -184,16 +184,16 @@ void transformText(std::string& out, std::string_view text, TextTransform transf
         std::string_view const bytes = text.substr(at, decoded.length);
         at += decoded.length;
         auto const c = static_cast<std::int32_t>(decoded.value);
-        if (!decoded.isWellFormed) {
+        bool const isCapitalized =
+            transform == TextTransform::capitalize && decoded.isWellFormed && words.take(c);
+        if (isCapitalized) {
+            appendTitlecase(out, c);
+        } else if (!decoded.isWellFormed || transform == TextTransform::capitalize) {
             out += bytes;
         } else if (transform == TextTransform::uppercase) {
             appendUppercase(out, c);
-        } else if (transform == TextTransform::lowercase) {
-            lowercase.add(c, text.substr(at));
-        } else if (words.take(c)) {
-            appendTitlecase(out, c);
         } else {
-            out += bytes;
+            lowercase.add(c, text.substr(at));
         }
     }
 }
