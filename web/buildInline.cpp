@@ -66,6 +66,10 @@ PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& s
 
 PageBuilder::Role PageBuilder::openLink(std::string_view address, Style const& style) {
     Link const* link = nullptr;
+    if (!isVisible(style)) {
+        frame().paragraph.open(style, nullptr);
+        return Role::inlined;
+    }
     if (media.links == Media::Links::followed) {
         link = &links.emplace_back(Link{std::string(address), ++linkCount});
     }

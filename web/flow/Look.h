@@ -55,8 +55,12 @@ inline Colour backgroundOf(Style const& style, Colour around) {
 /// Whether a background is more than the terminal's own.
 inline bool isDrawn(Colour background) { return background.kind != Colour::Kind::terminal; }
 
-/// How text of an element looks on a background.
+/// How blanks look on a background.
+inline Look blankOn(Colour background) { return {.text = {}, .background = background}; }
+
+/// How text of an element looks on a background. Of one that is hidden nothing is seen but that.
 inline Look lookOf(Style const& style, Colour background, Link const* link = nullptr) {
+    if (!isVisible(style)) return blankOn(background);
     return {.text = style.colour,
             .background = background,
             .isBold = style.fontWeight.isBold(),
@@ -66,8 +70,5 @@ inline Look lookOf(Style const& style, Colour background, Link const* link = nul
             .isStruckThrough = style.drawn.isStruckThrough,
             .link = link};
 }
-
-/// How blanks look on a background.
-inline Look blankOn(Colour background) { return {.text = {}, .background = background}; }
 
 }  // namespace galley::web

@@ -52,24 +52,25 @@ bool isTextOrTag(Item const& item) {
 
 void Paragraph::addText(std::string_view decoded) {
     if (decoded.empty()) return;
-    char32_t const before = lastCharacter;
-    lastCharacter = isAscii(decoded.back())
-                        ? static_cast<char32_t>(decoded.back())
-                        : decodeAt(decoded, startBefore(decoded, decoded.size())).value;
     bool const isCollapsed = style().whiteSpace == WhiteSpace::normal;
-    if (isBehindBlank && isCollapsed && isBlank(decoded)) return keepOpportunity();
-    if (style().textTransform != TextTransform::none) {
+    if (isBehindBlank && isCollapsed && isBlank(decoded)) {
+        keepOpportunity();
+    } else if (style().textTransform != TextTransform::none) {
         std::string transformed;
-        transformText(transformed, decoded, style().textTransform, before);
+        transformText(transformed, decoded, style().textTransform, lastCharacter);
         addGenerated(transformed);
     } else {
         addGenerated(decoded);
     }
+    lastCharacter = isAscii(decoded.back())
+                        ? static_cast<char32_t>(decoded.back())
+                        : decodeAt(decoded, startBefore(decoded, decoded.size())).value;
 }
 
 void Paragraph::addGenerated(std::string_view decoded) {
     joinTo(decoded);
-    TextOptions const options = optionsFor(style());
+    TextOptions options = optionsFor(style());
+    options.before = lastCharacter;
     bool const isWrapped = style().whiteSpace == WhiteSpace::normal;
     SegmentReader reader(decoded, options);
     Segment segment;
@@ -195,10 +196,10 @@ void Paragraph::addBehind(Segment const& segment) {
             addLineFeed();
             break;
         case Segment::Behind::opportunity:
-        case Segment::Behind::softHyphen:
             // Without a word before it, as at the beginning of a text.
             if (segment.begin == segment.end) add(Item::Kind::breakable);
             break;
+        case Segment::Behind::softHyphen:
         case Segment::Behind::end:
             break;
     }

@@ -97,8 +97,9 @@ bool SegmentReader::readAscii(Segment& segment) const {
     std::size_t i = scanPlain(text, at);
     // Around this character a line may break.
     for (; isWord(i); i = scanPlain(text, i + 1)) {
-        bool const breaksBefore = i > at && breaksInAscii(text, i, false);
-        if (!breaksBefore && !(isWord(i + 1) && breaksInAscii(text, i + 1, false))) continue;
+        bool const breaksBefore = i > at && breaksInAscii(text, i, false, options.before);
+        if (!breaksBefore && !(isWord(i + 1) && breaksInAscii(text, i + 1, false, options.before)))
+            continue;
         segment.end = segment.next = breaksBefore ? i : i + 1;
         segment.width = segment.end - at;
         segment.behind = Behind::opportunity;
@@ -154,9 +155,9 @@ Cluster SegmentReader::startWord() {
 bool SegmentReader::mayBreakBetween(Cluster const& before, Cluster const& behind) const {
     std::size_t const place = behind.begin;
     if (isPrintableAscii(text[place - 1]) && isPrintableAscii(text[place])) {
-        return breaksInAscii(text, place, options.wordBreak == WordBreak::breakAll);
+        return breaksInAscii(text, place, options.wordBreak == WordBreak::breakAll, options.before);
     }
-    if (text[place - 1] == '-' && hyphensBeginWord(text, place)) return false;
+    if (text[place - 1] == '-' && hyphensBeginWord(text, place, options.before)) return false;
     if (options.wordBreak == WordBreak::keepAll && isLetterOrNumber(before.first) &&
         isLetterOrNumber(behind.first)) {
         return false;

@@ -20,6 +20,8 @@ struct TextOptions {
 
     WhiteSpace whiteSpace = WhiteSpace::collapsed;
     WordBreak wordBreak = WordBreak::normal;
+    /// What stands before the text: hyphens at its start may begin a word.
+    char32_t before = ' ';
     /// East Asian ambiguous characters have two cells.
     bool isAmbiguousWide = false;
 };

@@ -54,40 +54,39 @@ constexpr bool areAllNamed() {
 }
 static_assert(areAllNamed());
 
-bool isAlphanumeric(char c) {
+bool isAlphanumeric(char32_t c) {
     return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
-/// What ends at byte `at` opens something, or parts words.
-bool opensAt(std::string_view text, std::size_t at) {
-    if (at == 0) return true;
-    constexpr std::string_view characters = " \t\r\n(,/<=[`{|";
-    if (isAscii(text[at - 1])) return characters.find(text[at - 1]) != std::string_view::npos;
+/// Opens something, or parts words.
+bool opens(char32_t c) {
+    constexpr std::u32string_view characters = U" \t\r\n(,/<=[`{|";
+    if (c < 0x80) return characters.find(c) != std::u32string_view::npos;
     constexpr LineClass classes[] = {LineClass::BA, LineClass::BK, LineClass::GL,
                                      LineClass::OP, LineClass::PI, LineClass::ZW};
-    char32_t const before = decodeAt(text, startBefore(text, at)).value;
-    return std::ranges::find(classes, propertiesOf(before).lineClass) != std::end(classes);
+    return std::ranges::find(classes, propertiesOf(c).lineClass) != std::end(classes);
 }
 
 }  // namespace
 
-bool hyphensBeginWord(std::string_view text, std::size_t at) {
+bool hyphensBeginWord(std::string_view text, std::size_t at, char32_t before) {
     std::size_t const last = at - 1;
     bool const areTwo = last > 0 && text[last - 1] == '-';
     std::size_t const first = areTwo ? last - 1 : last;
     bool const isQuoted = first > 0 && (text[first - 1] == '"' || text[first - 1] == '\'');
-    return opensAt(text, isQuoted ? first - 1 : first);
+    std::size_t const begin = isQuoted ? first - 1 : first;
+    return opens(begin > 0 ? decodeAt(text, startBefore(text, begin)).value : before);
 }
 
-bool breaksInAscii(std::string_view text, std::size_t at, bool isBreakAll) {
-    char const before = text[at - 1];
-    char const behind = text[at];
-    if (!has(isBreakAll ? s_breakAll : s_normal, before, behind)) return false;
-    if (before != '-') return true;
+bool breaksInAscii(std::string_view text, std::size_t at, bool isBreakAll, char32_t before) {
+    char const last = text[at - 1];
+    char const next = text[at];
+    if (!has(isBreakAll ? s_breakAll : s_normal, last, next)) return false;
+    if (last != '-') return true;
+    char32_t const beforeDash = at > 1 ? static_cast<unsigned char>(text[at - 2]) : before;
     // Else it is the sign of a number.
-    bool const isDash =
-        isBreakAll || behind < '0' || behind > '9' || (at > 1 && isAlphanumeric(text[at - 2]));
-    return isDash && !hyphensBeginWord(text, at);
+    bool const isDash = isBreakAll || next < '0' || next > '9' || isAlphanumeric(beforeDash);
+    return isDash && !hyphensBeginWord(text, at, before);
 }
 
 }  // namespace galley::web
