@@ -86,18 +86,21 @@ function ownOf(table, display) {
 }
 
 // Lets words in cells of a table break anywhere, and in tables within. Its captions stay as they are.
+// Returns what takes that back.
 function partWords(table) {
   const captions = ownOf(table, "table-caption");
   const wrapping = captions.map(caption => styleOf(caption).overflowWrap);
-  for (const display of ["table", "table-cell"]) {
-    setAll([table, ...withDisplay(table, display)], "overflow-wrap", "anywhere");
-  }
+  const parted = [table, ...["table", "table-cell"].flatMap(kind => withDisplay(table, kind))];
+  const before = [...parted, ...captions].map(element => [element, element.style.cssText]);
+  setAll(parted, "overflow-wrap", "anywhere");
   captions.forEach((caption, i) => setAll([caption], "overflow-wrap", wrapping[i]));
+  return () => before.forEach(([element, css]) => { element.style.cssText = css; });
 }
 
 // A table whose least width exceeds its container is laid out as if words in its cells could break
-// anywhere, also in those that have no element, but for what there is room for. Words in the tables
-// within can, too, but that makes no cell around them wider.
+// anywhere, also in those that have no element, but for what there is room for, and not at all where
+// it would not fit for all that. Words in the tables within can, too, but that makes no cell around
+// them wider.
 function fitTables(page) {
   const tables = withDisplay(page, "table");
   const isTooWide = table => leastWidth(table) > available(table) + 0.5;
@@ -107,13 +110,20 @@ function fitTables(page) {
   for (const table of tables) {
     const isWithin = fitted.some(outer => outer.contains(table));
     if (!isWithin && !isTooWide(table)) continue;
-    fitted.push(table);
     const cells = ownOf(table, "table-cell");
     const captions = ownOf(table, "table-caption");
     const within = withDisplay(table, "table");
-    if (!isWithin) partWords(table);
-    if (hasFixedColumns(table)) continue;
+    const takeBack = isWithin ? null : partWords(table);
+    if (hasFixedColumns(table)) {
+      fitted.push(table);
+      continue;
+    }
     setAll(captions, "display", "none");
+    if (!isWithin && isTooWide(table)) {
+      takeBack();
+      continue;
+    }
+    fitted.push(table);
     keepWords(table, cells, cells.map(cell => whole.get(cell)));
     captions.forEach(caption => caption.style.removeProperty("display"));
     // Such padding would change with what is set here.

@@ -116,10 +116,13 @@ void Table::layOut(int columns, Wrapping around, TableSink& rows, PageBudget& bu
         across(ownStyle.margin.left, columns) + across(ownStyle.margin.right, columns);
     int const caption = captionWidth(around);
     bool const isTooWide = innerWidths(around, caption, columns).least + margins > columns;
-    Wrapping const wrapping = isTooWide ? Wrapping::anywhere : around;
-    // Where its words do not fit, cells part them, but no more of them than they must.
+    Wrapping wrapping = isTooWide ? Wrapping::anywhere : around;
+    // Where its words do not fit, cells part them, but no more of them than they must, and none
+    // where it would not fit for all that.
     if (wrapping == Wrapping::anywhere && !isFixed()) {
-        needsAnywhere = fittingNeeds(grid, *frame, frame->partsFor(columns - margins, columns));
+        int const parts = frame->partsFor(columns - margins, columns);
+        needsAnywhere = fittingNeeds(grid, *frame, parts);
+        if (sumOf(*needsAnywhere).least > parts) wrapping = around;
     }
     Widths content = innerWidths(wrapping, caption, columns);
     // Percentages widen a table only as far as there is room, so not what is around it.

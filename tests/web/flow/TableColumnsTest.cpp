@@ -133,17 +133,29 @@ TEST(TableColumns, PartWordsOnlyWhereTheTableDoesNotFit) {
 
         {"<table><tr><td>abc <b style='overflow-wrap: normal'>defgh</b></td><td>ijkl</td></tr>"
          "</table>",
-         8, R"(
+         10, R"(
  abc    i
  defgh  j
         k
         l
 )"},
 
-        {"<table><tr><td style='white-space: nowrap'>abc def</td><td>ghi</td></tr></table>", 8, R"(
+        {"<table><tr><td style='white-space: nowrap'>abc def</td><td>ghi</td></tr></table>", 12, R"(
  abc def  g
           h
           i
+)"},
+
+        // One that would not fit for all that.
+        {"<table><tr><td style='white-space: nowrap'>abc def</td><td>ghi</td></tr></table>", 11, R"(
+ abc def  ghi
+)"},
+
+        {"<table><tr><td style='white-space: nowrap'>a "
+         "bc</td><td><table><tr><td>gh</td><td>ijkl</td>"
+         "</tr></table></td></tr></table>",
+         11, R"(
+ a bc   gh  ijkl
 )"},
 
     });
