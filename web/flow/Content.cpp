@@ -67,6 +67,7 @@ void Content::close() {
 }
 
 void Content::add(PlainText const& text) {
+    takeIndent(*text.block);
     take(measure(text, Wrapping::asStyled));
     KeptText kept = {text.block, text.background, std::string(text.text)};
     if (others == nullptr && first.block == nullptr) {
@@ -77,6 +78,7 @@ void Content::add(PlainText const& text) {
 }
 
 void Content::add(Paragraph const& paragraph) {
+    takeIndent(paragraph.block());
     take(measure(paragraph, Wrapping::asStyled));
     parts().entries.emplace_back(PackedParagraph(paragraph));
 }
@@ -85,6 +87,10 @@ void Content::add(std::unique_ptr<Table> table) {
     takeBlock();
     take(table->outerWidths(Wrapping::asStyled));
     parts().entries.emplace_back(std::move(table));
+}
+
+void Content::takeIndent(Style const& block) {
+    mostOutdent = std::max(mostOutdent, -across(block.textIndent, 0));
 }
 
 void Content::take(Widths const& child) {

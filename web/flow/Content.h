@@ -38,6 +38,8 @@ public:
     void add(Paragraph const& paragraph) override;
     void add(std::unique_ptr<Table> table) override;
 
+    /// Columns that lines in it may begin before what is around them, by an indent below 0.
+    int outdent() const { return mostOutdent; }
     /// If there is no more than one plain text, that. As long as the content stays.
     std::optional<PlainText> plainText() const;
 
@@ -84,12 +86,14 @@ private:
     Parts& parts();
     void take(Widths const& child);
     void takeBlock();
+    void takeIndent(Style const& block);
 
     /// Comes first, if it has a block. In most cells there is nothing else.
     KeptText first;
     /// Null for none.
     std::unique_ptr<Parts> others;
     Widths measured;
+    int mostOutdent = 0;
 };
 
 /// How wide the lines of a text and of a paragraph are.

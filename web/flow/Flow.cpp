@@ -159,8 +159,9 @@ void Flow::finish() {
     pending = 0;
 }
 
-void Flow::restart(int columns, Colour newGround, Wrapping wrapped) {
+void Flow::restart(int columns, Colour newGround, Wrapping wrapped, int left) {
     width = columns;
+    ownLeft = left;
     ground = newGround;
     wrapping = wrapped;
     hasRows = hasOwnContent = false;

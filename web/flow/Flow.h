@@ -36,9 +36,9 @@ public:
     void addTableRow(RowView const& tableRow, int left);
     /// The row that the first line is in, or the first row of a table that is not blank.
     std::optional<int> baseline() const { return firstLine; }
-    /// Begins another container, which hands its rows to the same sink. To be called behind
-    /// `finish`.
-    void restart(int columns, Colour newGround, Wrapping wrapped);
+    /// Begins another container, which hands its rows to the same sink and stands so many columns
+    /// to the right in them. To be called behind `finish`.
+    void restart(int columns, Colour newGround, Wrapping wrapped, int left);
     /// To be called behind all content.
     void finish();
 
@@ -64,7 +64,7 @@ private:
     };
 
     int columns() const { return blocks.empty() ? width : blocks.back().contentWidth; }
-    int contentLeft() const { return blocks.empty() ? 0 : blocks.back().contentLeft; }
+    int contentLeft() const { return blocks.empty() ? ownLeft : blocks.back().contentLeft; }
     Colour background() const { return blocks.empty() ? ground : blocks.back().background; }
     int beginParagraph(Style const& style);
     int beginLine(Style const& style, int indent, int lineWidth);
@@ -84,6 +84,7 @@ private:
     RowSink& sink;
     PageBudget& budget;
     int width;
+    int ownLeft = 0;
     Colour ground;
     bool dropsMargins;
     Wrapping wrapping;

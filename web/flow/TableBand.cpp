@@ -88,12 +88,14 @@ void TableBand::layOutText(LaidCell& placed, PlainText const& text, Wrapping wra
     bool const partsWords = LineBreaker::mayPart(style, Purpose::layingOut, wrapping);
     Look const look = lookOf(style, text.background);
     placed.isPlain = true;
+    placed.isOutdented = placed.cell->content.outdent() > 0;
+    int const leftmost = placed.left - placed.contentLeft;
     placed.firstLine = lines.size();
     breakLines(text, columns, partsWords, acrossRoundedUp(style.textIndent, columns),
                [&](std::string_view line, int indent) {
                    auto const width = static_cast<int>(line.size());
                    int const column = columnOfLine(style, columns, indent, width);
-                   lines.push_back({line, {0, line.size(), look}, std::max(0, column)});
+                   lines.push_back({line, {0, line.size(), look}, std::max(leftmost, column)});
                    budget.take(line.size() + 1);
                });
     placed.endLine = lines.size();
@@ -101,7 +103,10 @@ void TableBand::layOutText(LaidCell& placed, PlainText const& text, Wrapping wra
 
 void TableBand::layOutContent(LaidCell& placed, Wrapping wrapping) {
     TableCell& cell = *placed.cell;
-    flow.restart(std::max(0, placed.contentWidth), cell.background, wrapping);
+    int const outdent = std::min(cell.content.outdent(), placed.contentLeft - placed.left);
+    placed.isOutdented = outdent > 0;
+    placed.contentLeft -= outdent;
+    flow.restart(std::max(0, placed.contentWidth), cell.background, wrapping, outdent);
     placed.firstLine = content.size();
     cell.content.moveTo(flow, scratch);
     flow.finish();

@@ -44,6 +44,8 @@ struct LaidCell {
     /// Where its content begins, and how wide that can be.
     int contentLeft = 0;
     int contentWidth = 0;
+    /// Lines of its content may begin left of the others, over its padding and border.
+    bool isOutdented = false;
     /// Nothing of it shows but its content.
     bool isBare = false;
     /// Rows of the cell above the content; and those that it takes in all.

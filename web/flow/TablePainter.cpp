@@ -222,7 +222,8 @@ void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int 
     Colour const background = cell.cell->background;
     int const indent = band.indentOf(cell, line);
     int const column = cell.contentLeft + indent;
-    if (!overlays.empty() || indent + content.width > cell.contentWidth || left != cell.left) {
+    bool const sticksOut = cell.isOutdented || indent + content.width > cell.contentWidth;
+    if (!overlays.empty() || sticksOut || left != cell.left) {
         overlays.push_back({column, content, background});
         return;
     }

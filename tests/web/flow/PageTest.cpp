@@ -73,6 +73,11 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         {"ab&#173;cd", 3, "|ab-|cd"},
         {"ab&#173;cd", 4, "|abcd"},
         {"abc&#173;def", 3, "|ab|c-|def"},
+        // What stands before a text says what its first characters are.
+        {"<b>abc</b>&#173;def", 4, "|abc-|def"},
+        {"<b>well</b>-known", 6, "|well-|known"},
+        {"2020<b></b>-2021", 8, "|2020-|2021"},
+        {"of <b></b>--output-dir", 9, "|of|--output-|dir"},
         {"a-b ab-cd", 5, "|a-b|ab-cd"},
         {"漢字漢字", 5, "|漢字|漢字"},
         {"<b>漢</b><i>字</i>", 3, "|漢|字"},
@@ -201,6 +206,45 @@ TEST(Pages, HideWhatIsNotVisibleAndKeepItsRoom) {
     expectPages({{"a<b style='visibility: hidden'>bc</b>d", 9, "|a  d"},
                  {"a<hr style='visibility: hidden'/>b", 3, "|a||b"},
                  {"a<b style='display: none'>b</b>c", 9, "|ac"}});
+}
+
+TEST(Pages, ShowNothingOfTheLooksOfHiddenText) {
+    class Looks final : public RowSink {
+    public:
+        bool areAllBlank = true;
+        void take(Row const& row) override {
+            for (RowSpan const& span : row.spans()) areAllBlank &= span.look == Look();
+        }
+    };
+    for (std::string const text : {"ab", "a b", "<b>a</b>b", "<a href='http://x.y'>a b</a>"}) {
+        for (char const* const block : {"p", "ul><li", "table><tr><td"}) {
+            std::string const markup = std::string("<").append(block) +
+                                       " style='visibility: hidden; text-decoration: underline'>" +
+                                       text;
+            Looks looks;
+            std::vector<Problem> problems;
+            std::string const ends = block[0] == 'p'   ? "</p>"
+                                     : block[0] == 'u' ? "</li></ul>"
+                                                       : "</td></tr></table>";
+            EXPECT_TRUE(renderPage(markup + ends, {}, Media(), looks, problems)) << markup;
+            EXPECT_TRUE(looks.areAllBlank) << markup;
+        }
+    }
+}
+
+TEST(Pages, LetIndentsReachOverThePaddingOfCells) {
+    expectPages({
+        {"<table><tr><td style='padding-left: 4ch; text-indent: -4ch; border: solid'>aaa bbb ccc "
+         "ddd"
+         "</td></tr></table>",
+         14, "|┌────────────┐|│aaa bbb ccc │|│    ddd     │|└────────────┘"},
+        {"<table><tr><td style='padding-left: 3ch; text-indent: -3ch'>key <b>b</b> c</td><td>d"
+         "</td></tr></table>",
+         9, "|key b  d|   c"},
+        {"<table><tr><td style='padding-left: 3ch'><div style='text-indent: -3ch'>a bb <b>c</b>"
+         "</div></td></tr></table>",
+         8, "|a bb c"},
+    });
 }
 
 TEST(Pages, LayTablesOutAsChromiumDoes) {
