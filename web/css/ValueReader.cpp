@@ -41,6 +41,11 @@ void ValueReader::warnAbout(Token const& token) const {
          quoted(token.source) + " has no effect as a value of " + quoted(property));
 }
 
+void ValueReader::warnOfNoStyle() const {
+    warn(*problems, peek().offset,
+         quoted(property) + " has no style such as 'solid', and does not show");
+}
+
 void ValueReader::drop(std::size_t count) {
     tokens = tokens.subspan(std::min(count, tokens.size()));
     skipWhitespace();

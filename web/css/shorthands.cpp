@@ -130,6 +130,7 @@ bool readBorder(ValueReader& reader, Border& border) {
     bool hasLine = false;
     bool hasThickness = false;
     bool hasColour = false;
+    ValueReader const start = reader;
     while (!reader.atEnd()) {
         if (!readOnce(reader, readLine, hasLine, border.line) &&
             !readOnce(reader, readThickness, hasThickness, border.thickness) &&
@@ -137,6 +138,8 @@ bool readBorder(ValueReader& reader, Border& border) {
             return false;
         }
     }
+    bool const isMeant = hasThickness ? border.thickness != Thickness::none : hasColour;
+    if (isMeant && !hasLine) start.warnOfNoStyle();
     return true;
 }
 
