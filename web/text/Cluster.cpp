@@ -20,17 +20,18 @@ utf8proc_property_t const& unicode(char32_t codePoint) {
 
 bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
 
-bool isSeparator(char32_t c) { return c == 0x2028 || c == 0x2029; }
+/// Is printed as a blank: a separator of lines, or a space that lets none break.
+bool isBlank(char32_t c) {
+    return c == 0x2028 || c == 0x2029 || c == 0xA0 || c == 0x2007 || c == 0x202F;
+}
 
 /// What stands for a character where clusters begin and end: what is printed for it, so that these
 /// are as wide on the page. The end of a line stays, since both its characters are one.
 char32_t standIn(char32_t c) {
     if (c == '\r' || c == '\n') return c;
     if (isControl(c)) return s_replacementCharacter;
-    return isSeparator(c) ? U' ' : c;
+    return isBlank(c) ? U' ' : c;
 }
-
-bool isBlank(char32_t c) { return isSeparator(c) || c == 0xA0 || c == 0x2007 || c == 0x202F; }
 
 bool isMark(utf8proc_property_t const& properties) {
     return properties.category >= UTF8PROC_CATEGORY_MN &&
@@ -73,10 +74,11 @@ struct Character {
     auto kind() const { return properties.get().boundclass; }
 };
 
-/// Whether a cluster ends between two code points of it, the state being 0 at its beginning.
+/// Whether a cluster ends between two code points of it, the state being 0 at its beginning. A
+/// blank is one of its own, behind a prefix, too: lines break there, and terminals show it so.
 bool isBoundary(Character const& before, Character const& behind, std::int32_t& state) {
-    bool const isApart =
-        behind.kind() == UTF8PROC_BOUNDCLASS_OTHER && before.kind() != UTF8PROC_BOUNDCLASS_PREPEND;
+    bool const isApart = behind.value == U' ' || (behind.kind() == UTF8PROC_BOUNDCLASS_OTHER &&
+                                                  before.kind() != UTF8PROC_BOUNDCLASS_PREPEND);
     return isApart ||
            utf8proc_grapheme_break_stateful(static_cast<std::int32_t>(before.value),
                                             static_cast<std::int32_t>(behind.value), &state);
