@@ -56,7 +56,7 @@ PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& s
     }
     if (element.name == "a") {
         std::string const address = addressOf(element);
-        if (mayFollow(address)) return openLink(address, style);
+        if (isVisible(style) && mayFollow(address)) return openLink(address, style);
     }
     paragraph.open(style, nullptr);
     if (element.name != "q") return Role::inlined;
@@ -66,10 +66,6 @@ PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& s
 
 PageBuilder::Role PageBuilder::openLink(std::string_view address, Style const& style) {
     Link const* link = nullptr;
-    if (!isVisible(style)) {
-        frame().paragraph.open(style, nullptr);
-        return Role::inlined;
-    }
     if (media.links == Media::Links::followed) {
         link = &links.emplace_back(Link{std::string(address), ++linkCount});
     }
