@@ -37,7 +37,7 @@ struct Inline {
 struct Item {
     enum class Kind : std::uint8_t {
         words,       ///< Plain ASCII, each word with one blank behind it, where a line may break.
-        ideographs,  ///< Three bytes and two cells each, a line may break behind each.
+        ideographs,  ///< And marks among them; a line may break behind the last.
         word,        ///< No line breaks in it unless it has to.
         blank,       ///< Of collapsed white space, which nothing shows of at either end of a line.
         blanks,      ///< That count.

@@ -81,7 +81,15 @@ private:
     bool takeIdeographs(std::string_view text) {
         std::size_t const count = text.size() / s_ideographBytes;
         auto const fit = static_cast<std::size_t>(std::max(0, room - used) / s_ideographCells);
-        std::size_t const taken = overflows ? 1 : std::min(count, fit);
+        std::size_t taken = overflows ? 1 : std::min(count, fit);
+        if (parting != Parting::anywhere) {
+            auto const breaks = [text, count](std::size_t place) {
+                std::size_t const byte = place * s_ideographBytes;
+                return place == count || breaksBetween(ideographAt(text, byte - s_ideographBytes),
+                                                       ideographAt(text, byte));
+            };
+            while (taken > 0 && !breaks(taken)) taken = overflows ? taken + 1 : taken - 1;
+        }
         if (taken == 0) return overflow();
         used += static_cast<int>(taken) * s_ideographCells;
         at = paragraph.behind(at, taken * s_ideographBytes);

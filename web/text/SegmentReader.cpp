@@ -74,12 +74,23 @@ std::string_view SegmentReader::takeWords() {
 
 std::string_view SegmentReader::takeIdeographs() {
     if (options.wordBreak == WordBreak::keepAll) return {};
+    // What is behind the last one may belong to it, or stay with it, so that the run ends before.
     std::size_t end = at;
-    while (isIdeographAt(text, end)) end += s_ideographBytes;
-    // What is behind the last one may belong to it, or stay with it.
-    std::size_t const length = end > at ? end - at - s_ideographBytes : 0;
-    at += length;
-    return text.substr(at - length, length);
+    std::size_t lastBreak = at;
+    Ideograph last = Ideograph::none;
+    for (;; end += s_ideographBytes) {
+        Ideograph const kind = ideographAt(text, end);
+        if (kind == Ideograph::none) break;
+        if (breaksBetween(last, kind)) lastBreak = end;
+        last = kind;
+    }
+    // But for these, which leave it alone.
+    bool const isApart =
+        end > at && end < text.size() && last != Ideograph::opening &&
+        (isWhiteSpace(text[end]) || isAlphanumeric(static_cast<unsigned char>(text[end])));
+    if (isApart) lastBreak = end;
+    std::size_t const begin = std::exchange(at, lastBreak);
+    return text.substr(begin, lastBreak - begin);
 }
 
 std::string_view SegmentReader::takeUnbroken() {

@@ -78,9 +78,9 @@ public:
     /// behind.
     std::string_view takeWords();
 
-    /// Takes what comes next as far as it is ideographs, kana and syllables of Hangul, each of
-    /// three bytes and two cells, with an opportunity behind each. Empty where none comes, and
-    /// where `word-break` keeps them together.
+    /// Takes what comes next as far as it is ideographs and the marks among them, each of three
+    /// bytes and two cells, with an opportunity behind the last. Empty where none comes, and where
+    /// `word-break` keeps them together.
     std::string_view takeIdeographs();
 
     /// Takes what comes next as far as it is blanks and printable ASCII, which makes up most of a

@@ -54,10 +54,6 @@ constexpr bool areAllNamed() {
 }
 static_assert(areAllNamed());
 
-bool isAlphanumeric(char32_t c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
 /// Opens something, or parts words.
 bool opens(char32_t c) {
     constexpr std::u32string_view characters = U" \t\r\n(,/<=[`{|";

@@ -7,6 +7,11 @@ namespace galley::web {
 
 inline bool isPrintableAscii(char byte) { return byte > ' ' && byte <= '~'; }
 
+/// Whether it is a letter or a digit of ASCII.
+constexpr bool isAlphanumeric(char32_t c) {
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
 /// Printable ASCII: where a line may break, one of these is before the place or behind it, unless
 /// `word-break` is `break-all`.
 inline constexpr std::string_view s_breaking = "(-<?[{";

@@ -89,7 +89,9 @@ std::size_t startBefore(std::string_view text, std::size_t at) {
 
 std::size_t findIllFormed(std::string_view text, std::size_t from) {
     for (from = skipAscii(text, from); from < text.size();) {
-        CodePoint const found = decodeAt(text, from);
+        while (isCommonAt(text, from)) from += 3;
+        if (from == text.size()) break;
+        CodePoint const found = decodeAnyAt(text, from);
         if (!found.isWellFormed) return from;
         from += found.length;
         if (found.length == 1) from = skipAscii(text, from);

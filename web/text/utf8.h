@@ -19,17 +19,28 @@ struct CodePoint {
 /// What `decodeAt` reads, whatever it is.
 CodePoint decodeAnyAt(std::string_view text, std::size_t at);
 
-/// Reads what begins at byte `at` of a text that is longer. An ill-formed part is a maximal one:
-/// what could begin a character and does not go on as one, at least one byte.
-inline CodePoint decodeAt(std::string_view text, std::size_t at) {
+/// Whether a well-formed character of three bytes begins at a byte of the text, or at its end: but
+/// for those with the two first bytes behind which not all is well-formed.
+inline bool isCommonAt(std::string_view text, std::size_t at) {
+    if (text.size() - at < 3) return false;
+    auto const byte = [&](std::size_t i) { return static_cast<unsigned char>(text[at + i]); };
+    return byte(0) > 0xE0 && byte(0) <= 0xEF && byte(0) != 0xED && (byte(1) & 0xC0) == 0x80 &&
+           (byte(2) & 0xC0) == 0x80;
+}
+
+/// The character there.
+inline char32_t decodeCommonAt(std::string_view text, std::size_t at) {
     auto const byte = [&](std::size_t i) {
         return static_cast<char32_t>(static_cast<unsigned char>(text[at + i]));
     };
-    // Of three bytes, and without the two first bytes behind which not all is well-formed.
-    bool const isUsual = text.size() - at >= 3 && byte(0) > 0xE0 && byte(0) <= 0xEF &&
-                         byte(0) != 0xED && (byte(1) & 0xC0) == 0x80 && (byte(2) & 0xC0) == 0x80;
-    if (!isUsual) return decodeAnyAt(text, at);
-    return {(byte(0) & 0xF) << 12 | (byte(1) & 0x3F) << 6 | (byte(2) & 0x3F), 3, true};
+    return (byte(0) & 0xF) << 12 | (byte(1) & 0x3F) << 6 | (byte(2) & 0x3F);
+}
+
+/// Reads what begins at byte `at` of a text that is longer. An ill-formed part is a maximal one:
+/// what could begin a character and does not go on as one, at least one byte.
+inline CodePoint decodeAt(std::string_view text, std::size_t at) {
+    if (isCommonAt(text, at)) return {decodeCommonAt(text, at), 3, true};
+    return decodeAnyAt(text, at);
 }
 
 /// Where the code point begins that ends before byte `at`, which is not 0. Of an ill-formed part

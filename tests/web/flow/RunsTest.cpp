@@ -1,6 +1,9 @@
 // Runs of ideographs, and of blanks and words that are preserved, are laid out as their characters
 // are one by one.
 
+#include <map>
+#include <set>
+
 #include "tests/web/flow/Pictures.h"
 #include "web/text/LineBreaks.h"
 #include "web/text/ideographs.h"
@@ -14,6 +17,12 @@ TEST(Runs, OfIdeographsBreakAnywhere) {
         {"漢字かな、交じり", 8, "\n漢字か\nな、交じ\nり\n"},
         {"a漢字（かな）", 6, "\na漢字\n（か\nな）\n"},
         {"漢字漢字", 1, "\n漢\n字\n漢\n字\n"},
+        {"漢、、字「「漢」」字", 4, "\n漢、\n、字\n「「\n漢」\n」字\n"},
+        {"<p style='overflow-wrap: normal'>漢、、字「「漢」」字</p>", 4,
+         "\n漢、、\n字\n「「漢」」\n字\n"},
+        {"漢字。abc「かな", 8, "\n漢字。\nabc「か\nな\n"},
+        {"<p style='white-space: pre-wrap'>漢「字  な、</p>", 6, "\n漢「字\nな、\n"},
+        {"<p style='word-break: break-all'>漢字a、b「c</p>", 5, "\n漢字\na、b\n「c\n"},
         {"한글한글 한글", 7, "\n한글한\n글 한글\n"},
         {"カードを", 5, "\nカー\nドを\n"},
         {"<b>漢字</b>漢<i>字漢字</i>", 4, "\n漢字\n漢字\n漢字\n"},
@@ -39,15 +48,20 @@ TEST(Runs, OfIdeographsEndBeforeWhatJoinsTheirLast) {
 
 // As the tables of Unicode say.
 TEST(Runs, OfIdeographsAreOfTheseOnly) {
+    using enum LineClass;
+    std::map<Ideograph, std::set<LineClass>> const expected = {{Ideograph::letter, {ID, H2, H3}},
+                                                               {Ideograph::opening, {OP}},
+                                                               {Ideograph::closing, {CL, EX, NS}}};
+    std::map<Ideograph, std::set<LineClass>> found;
     for (char32_t c = 0x800; c < 0x10000; ++c) {
-        if (!isIdeograph(c)) continue;
+        Ideograph const kind = ideographOf(c);
+        if (kind == Ideograph::none) continue;
         Properties const properties = propertiesOf(c);
         EXPECT_EQ(properties.width, EastAsianWidth::wide) << std::hex << unsigned(c);
-        bool const breaks = properties.lineClass == LineClass::ID ||
-                            properties.lineClass == LineClass::H2 ||
-                            properties.lineClass == LineClass::H3;
-        EXPECT_TRUE(breaks && !properties.takesEmojiStyle) << std::hex << unsigned(c);
+        EXPECT_FALSE(properties.takesEmojiStyle) << std::hex << unsigned(c);
+        found[kind].insert(properties.lineClass);
     }
+    EXPECT_EQ(found, expected);
 }
 
 TEST(Runs, ThatArePreservedAreOneWord) {
