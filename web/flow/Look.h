@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <type_traits>
@@ -39,7 +40,16 @@ struct Look {
         // Whatever is before the link is of single bytes, without gaps.
         constexpr std::size_t s_size = offsetof(Look, isHidden) + sizeof(isHidden);
         static_assert(s_size == 2 * sizeof(Colour) + 8);
-        return link == other.link && std::memcmp(this, &other, s_size) == 0;
+        auto const isSame = [&](std::size_t from) { return eightAt(from) == other.eightAt(from); };
+        return link == other.link && isSame(0) && isSame(8) && isSame(s_size - 8);
+    }
+
+private:
+    /// Eight bytes.
+    std::uint64_t eightAt(std::size_t from) const {
+        std::uint64_t bytes = 0;
+        std::memcpy(&bytes, reinterpret_cast<char const*>(this) + from, sizeof(bytes));
+        return bytes;
     }
 };
 static_assert(std::has_unique_object_representations_v<Colour>);

@@ -42,6 +42,15 @@ public:
         ++at;
         return true;
     }
+    /// Of a document, up to the next tag.
+    struct Text {
+        std::string_view bytes;
+        bool isAscii = true;
+        bool hasAmpersand = false;
+    };
+
+    /// Takes what is before the next `<`, or all.
+    Text takeText();
     /// Takes the bytes before the next one that is `end`, or all.
     std::string_view takeUntil(char end);
     /// Steps behind the next `end`, if there is one.

@@ -31,6 +31,12 @@ struct Piece {
     /// Whether a start tag is the end tag, too.
     bool isClosed = false;
     std::string_view text;
+    /// Of a text: whether it is known to be of nothing else, and whether some of it may stand for
+    /// something else.
+    ///@{
+    bool isAscii = false;
+    bool hasReferences = false;
+    ///@}
 };
 
 }  // namespace galley::web

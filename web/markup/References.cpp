@@ -99,8 +99,6 @@ bool References::readReference() {
     return true;
 }
 
-bool hasReferences(std::string_view text) { return text.find('&') != std::string_view::npos; }
-
 void decodeReferences(std::string_view text, std::size_t offset, std::string& decoded,
                       std::vector<Problem>& problems) {
     References references(text, offset, problems);

@@ -42,9 +42,6 @@ private:
     std::string decoded;
 };
 
-/// Whether the text has an ampersand: otherwise it stands for itself.
-bool hasReferences(std::string_view text);
-
 /// Appends the text with its references replaced, which is not longer.
 void decodeReferences(std::string_view text, std::size_t offset, std::string& decoded,
                       std::vector<Problem>& problems);

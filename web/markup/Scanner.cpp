@@ -29,7 +29,10 @@ bool Scanner::next(Piece& piece) {
         piece.offset = cursor.position();
         if (cursor.peek() != '<') {
             piece.kind = Piece::Kind::text;
-            piece.text = cursor.takeUntil('<');
+            Cursor::Text const text = cursor.takeText();
+            piece.text = text.bytes;
+            piece.isAscii = text.isAscii;
+            piece.hasReferences = text.hasAmpersand;
             return true;
         }
         char const second = cursor.peek(1);
@@ -46,6 +49,7 @@ bool Scanner::next(Piece& piece) {
 bool Scanner::readSection(Piece& piece) {
     if (!skipThrough(s_sectionStart, s_sectionEnd)) return false;
     piece.kind = Piece::Kind::literalText;
+    piece.isAscii = piece.hasReferences = false;
     std::size_t const start = piece.offset + s_sectionStart.size();
     piece.text = cursor.between(start, cursor.position() - s_sectionEnd.size());
     piece.offset = start;

@@ -7,14 +7,13 @@
 namespace galley::web {
 
 void TextRun::add(Piece const& piece) {
-    utf8.check(piece.text, piece.offset);
-    bool const isPlain = piece.kind == Piece::Kind::literalText || !hasReferences(piece.text);
-    if (isPlain && text.empty()) {
+    if (!piece.isAscii) utf8.check(piece.text, piece.offset);
+    if (!piece.hasReferences && text.empty()) {
         text = piece.text;
         return;
     }
     if (text.data() != joined.data()) joined = text;
-    if (isPlain) {
+    if (!piece.hasReferences) {
         joined += piece.text;
     } else {
         decodeReferences(piece.text, piece.offset, joined, problems);
