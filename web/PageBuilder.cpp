@@ -61,12 +61,13 @@ bool PageBuilder::asksForLastChild() {
 
 /// A fragment, which begins with another element or with text, stands in `html` and `body`.
 void PageBuilder::openRoot(std::string_view name) {
+    if (open.size() > 1) return;
     if (depth == 0) push(page, initial, {});
     if (open.empty()) {
         if (name == "html") return;
         openImplied(html, "html");
     }
-    bool const isInHtml = html.style != nullptr && open.size() == 1;
+    bool const isInHtml = html.style != nullptr;
     if (!isInHtml || name == "body") return;
     body.parent = &html;
     openImplied(body, "body");
@@ -125,7 +126,12 @@ void PageBuilder::text(std::string_view decoded) {
         if (isOfBlanks) return;
         openAnonymousCell();
     }
-    frame().paragraph.addText(decoded);
+    Frame& current = frame();
+    bool const isFirst = current.plain.empty() && !current.hasParagraph;
+    if (isFirst && isOfBlanks && current.style->whiteSpace == WhiteSpace::normal) return;
+    if (isFirst && readPlainText(current.plain, decoded, *current.style)) return;
+    if (isFirst) current.plain.clear();
+    paragraph().addText(decoded);
 }
 
 void PageBuilder::endElement(Element& element) {
@@ -149,15 +155,15 @@ void PageBuilder::endRole(Role role) {
     switch (role) {
         case Role::quote:
             // As in Chromium, it ends no word.
-            frame().paragraph.addGenerated(--quoteDepth == 0 ? "”" : "’");
-            frame().paragraph.close();
+            paragraph().addGenerated(--quoteDepth == 0 ? "”" : "’");
+            paragraph().close();
             break;
         case Role::inlined:
-            frame().paragraph.close();
+            paragraph().close();
             break;
         case Role::numberedLink:
-            frame().paragraph.close();
-            frame().paragraph.addGenerated("\u00A0[" + std::to_string(linkNumbers.back()) + "]");
+            paragraph().close();
+            paragraph().addGenerated("\u00A0[" + std::to_string(linkNumbers.back()) + "]");
             linkNumbers.pop_back();
             break;
         case Role::block:
@@ -206,7 +212,8 @@ void PageBuilder::finish() {
 
 /// Where nothing of the document waits any more but what is open, drops the rest.
 void PageBuilder::letGo() {
-    if (!tables.empty() || frame().paragraph.hasOpen()) return;
+    bool const hasOpenInline = frame().hasParagraph && frame().paragraph.hasOpen();
+    if (!tables.empty() || hasOpenInline) return;
     if (!links.empty()) links.clear();
     if (!anonymousStyles.empty()) anonymousStyles.clear();
     if (!cascade->isFull()) return;

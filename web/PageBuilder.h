@@ -70,8 +70,13 @@ private:
         BlockSink* sink = nullptr;
         Colour background;
         Style const* style = nullptr;
-        /// What has been read since the last block in it.
+        /// What has been read since the last block in it: a text that came alone, while it is
+        /// plain, or a paragraph, if it has begun.
+        ///@{
+        std::string plain;
         Paragraph paragraph;
+        bool hasParagraph = false;
+        ///@}
     };
 
     void openRoot(std::string_view name);
@@ -102,6 +107,7 @@ private:
     void letGo();
 
     Frame& frame() { return frames[depth - 1]; }
+    Paragraph& paragraph();
 
     Sheet const& defaultSheet;
     std::vector<Sheet const*> sheets;

@@ -36,7 +36,7 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
     BlockSink& sink = *frame().sink;
     sink.open(style, *marker);
     push(sink, style, backgroundOf(style, frame().background));
-    if (!inside.empty()) frame().paragraph.addGenerated(inside);
+    if (!inside.empty()) paragraph().addGenerated(inside);
 }
 
 /// Those of a list without numbers are all alike.
@@ -71,27 +71,39 @@ void PageBuilder::push(BlockSink& sink, Style const& style, Colour background) {
     opened.sink = &sink;
     opened.style = &style;
     opened.background = background;
-    opened.paragraph.begin(style, opened.background);
+    opened.hasParagraph = false;
 }
 
 void PageBuilder::pop() { --depth; }
 
+/// The paragraph that is read, or that begins now. A text that came alone is no more alone.
+Paragraph& PageBuilder::paragraph() {
+    Frame& current = frame();
+    if (!std::exchange(current.hasParagraph, true)) {
+        current.paragraph.begin(*current.style, current.background);
+        current.paragraph.addText(current.plain);
+        current.plain.clear();
+    }
+    return current.paragraph;
+}
+
 /// Hands on what has been read since the last block. Inline elements that are open go on behind it.
 void PageBuilder::endParagraph() {
     Frame& current = frame();
+    if (!current.plain.empty()) {
+        if (current.plain.back() == ' ') current.plain.pop_back();
+        current.sink->add(PlainText{current.style, current.background, current.plain});
+        return current.plain.clear();
+    }
+    if (!current.hasParagraph) return;
     if (current.paragraph.hasOpen()) {
         current.paragraph.partInto(done);
         if (!done.isEmpty()) current.sink->add(done);
         return;
     }
-    if (current.paragraph.items().empty()) return;
+    current.hasParagraph = false;
     current.paragraph.finish();
-    if (auto const plain = current.paragraph.plainText()) {
-        current.sink->add(*plain);
-    } else if (!current.paragraph.isEmpty()) {
-        current.sink->add(current.paragraph);
-    }
-    current.paragraph.clear();
+    if (!current.paragraph.isEmpty()) current.sink->add(current.paragraph);
 }
 
 }  // namespace galley::web

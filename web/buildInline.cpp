@@ -45,22 +45,22 @@ bool mayFollow(std::string_view address) {
 
 PageBuilder::Role PageBuilder::openInline(Element const& element, Style const& style) {
     if (isInTable()) openAnonymousCell();
-    Paragraph& paragraph = frame().paragraph;
+    Paragraph& content = paragraph();
     if (element.name == "br") {
-        paragraph.addLineFeed();
+        content.addLineFeed();
         return Role::point;
     }
     if (element.name == "wbr") {
-        paragraph.addBreakable();
+        content.addBreakable();
         return Role::point;
     }
     if (element.name == "a") {
         std::string const address = addressOf(element);
         if (isVisible(style) && mayFollow(address)) return openLink(address, style);
     }
-    paragraph.open(style, nullptr);
+    content.open(style, nullptr);
     if (element.name != "q") return Role::inlined;
-    paragraph.addText(quoteDepth++ == 0 ? "“" : "‘");
+    content.addText(quoteDepth++ == 0 ? "“" : "‘");
     return Role::quote;
 }
 
@@ -69,7 +69,7 @@ PageBuilder::Role PageBuilder::openLink(std::string_view address, Style const& s
     if (media.links == Media::Links::followed) {
         link = &links.emplace_back(Link{std::string(address), ++linkCount});
     }
-    frame().paragraph.open(style, link);
+    paragraph().open(style, link);
     if (media.links != Media::Links::listed) return Role::inlined;
     linkNumbers.push_back(linkList.numberOf(address));
     return Role::numberedLink;

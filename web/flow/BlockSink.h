@@ -4,6 +4,7 @@
 #include <string>
 
 #include "web/flow/Paragraph.h"
+#include "web/flow/PlainText.h"
 
 namespace galley::web {
 

@@ -30,13 +30,24 @@ void widen(Widths& widths, Widths const& child) {
     widths.most = std::max(widths.most, child.most);
 }
 
-/// In the widest line of a text where lines are so long.
-int widestLine(PlainText const& text, int cells, bool partsWords) {
+/// Cells of the longest word.
+int longestWord(std::string_view text) {
+    std::size_t longest = 0;
+    while (text.size() > longest) {
+        std::size_t const length = std::min(text.find(' '), text.size());
+        longest = std::max(longest, length);
+        text.remove_prefix(std::min(length + 1, text.size()));
+    }
+    return static_cast<int>(longest);
+}
+
+/// In the widest line of a text where all lines break that may.
+int widestLine(PlainText const& text, bool partsWords, int indentation) {
+    if (indentation == 0) return partsWords ? 1 : longestWord(text.text);
     int widest = 0;
-    breakLines(text, cells, partsWords, across(text.block->textIndent, 0),
-               [&widest](std::string_view line, int indent) {
-                   widest = std::max(widest, indent + static_cast<int>(line.size()));
-               });
+    breakLines(text, 0, partsWords, indentation, [&widest](std::string_view line, int indent) {
+        widest = std::max(widest, indent + static_cast<int>(line.size()));
+    });
     return widest;
 }
 
@@ -163,8 +174,7 @@ Widths measure(PlainText const& text, Wrapping wrapping) {
         LineBreaker::mayPart(*text.block, LineBreaker::Purpose::measuring, wrapping);
     int const indent = across(text.block->textIndent, 0);
     int const most = std::max(0, static_cast<int>(text.text.size()) + indent);
-    if (partsWords && indent == 0) return {1, most};
-    return {widestLine(text, 0, partsWords), most};
+    return {widestLine(text, partsWords, indent), most};
 }
 
 Widths measure(Paragraph const& paragraph, Wrapping wrapping) {

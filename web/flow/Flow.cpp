@@ -17,7 +17,7 @@ public:
     explicit RowsOfTable(Flow& around) : flow(around) {}
 
     void begin(int tableLeft) override { left = tableLeft; }
-    void take(Row const& row) override { flow.addTableRow(row.view(), left); }
+    void take(Row const& row) override { flow.addTableRow(row, left); }
 
 private:
     Flow& flow;
@@ -145,12 +145,16 @@ void Flow::add(std::unique_ptr<Table> table) {
     pending = std::max(pending, down(style.margin.bottom, container));
 }
 
-void Flow::addTableRow(RowView const& tableRow, int left) {
-    bool const isBlank = tableRow.text.find_first_not_of(' ') == std::string_view::npos;
+void Flow::addTableRow(Row const& tableRow, int left) {
+    bool const isBlank = tableRow.text().find_first_not_of(' ') == std::string_view::npos;
     if (!firstLine && !isBlank) firstLine = rowCount;
+    int const column = contentLeft() + left;
+    bool const hasEdges = std::any_of(blocks.begin(), blocks.end(),
+                                      [](Block const& block) { return block.hasShownEdges; });
+    if (column <= 0 && waitingMarkers == 0 && !hasEdges) return handOn(tableRow);
     beginRow();
-    row.fill(contentLeft() + left, blankOn(background()));
-    row.add(tableRow);
+    row.fill(column, blankOn(background()));
+    row.add(tableRow.view());
     endRow();
 }
 

@@ -33,7 +33,7 @@ public:
     void add(Paragraph const& paragraph) override;
     void add(std::unique_ptr<Table> table) override;
     /// Adds a row of a table that stands so many columns right of the innermost block's left edge.
-    void addTableRow(RowView const& tableRow, int left);
+    void addTableRow(Row const& tableRow, int left);
     /// The row that the first line is in, or the first row of a table that is not blank.
     std::optional<int> baseline() const { return firstLine; }
     /// Begins another container, which hands its rows to the same sink and stands so many columns
@@ -72,7 +72,7 @@ private:
     void addBlanks(int rows);
     void beginRow();
     void endRow();
-    void handOn();
+    void handOn(Row const& made);
     void addLeftEdges(std::size_t count, bool isContent);
     void addMarker(Block& block);
     void addLateMarker();

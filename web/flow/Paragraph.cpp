@@ -27,18 +27,9 @@ int Inline::rightEdge(int columns) const {
 }
 
 void Paragraph::begin(Style const& block, Colour background) {
-    elements.resize(1);
-    Inline& own = elements.front();
-    own.style = &block;
-    own.look = lookOf(block, background);
-    own.around = background;
-    clear();
-}
-
-void Paragraph::clear() {
     text.clear();
     all.clear();
-    elements.resize(1);
+    elements.assign(1, {.style = &block, .look = lookOf(block, background), .around = background});
     current = 0;
     isBehindBlank = true;
     lastCharacter = ' ';
@@ -97,22 +88,6 @@ void Paragraph::finish() {
     while (last > 0 && all[last - 1].kind == Item::Kind::close) --last;
     if (last == 0 || all[last - 1].kind == Item::Kind::lineFeed) return;
     while (contentEnd < all.size() && isTag(all[contentEnd])) ++contentEnd;
-}
-
-std::optional<PlainText> Paragraph::plainText() const {
-    bool const isOfWords = contentEnd > 0 && contentEnd == all.size() && elements.size() == 1;
-    Style const& style = block();
-    // Those are broken by other rules, and these are spread.
-    if (!isOfWords || style.whiteSpace != WhiteSpace::normal) return std::nullopt;
-    if (style.textAlign == TextAlign::justify) return std::nullopt;
-    bool const isPlain = std::all_of(all.begin(), all.end(), [](Item const& item) {
-        bool const isText = item.kind == Item::Kind::words || item.kind == Item::Kind::word;
-        return isText && item.isPlain && !item.mayBreakBehind;
-    });
-    if (!isPlain) return std::nullopt;
-    std::string_view const plain = text;
-    return PlainText{&style, elements.front().around,
-                     plain.substr(all.front().begin, all.back().end - all.front().begin)};
 }
 
 /// White space at the end of a line is none, whatever elements end behind it.

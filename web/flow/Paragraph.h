@@ -2,13 +2,11 @@
 
 #include <compare>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "web/flow/Look.h"
-#include "web/flow/PlainText.h"
 #include "web/text/SegmentReader.h"
 
 namespace galley::web {
@@ -88,8 +86,6 @@ class Paragraph {
 public:
     /// Begins the paragraph of a block, with no element in it.
     void begin(Style const& block, Colour background);
-    /// Begins another one in the same block. No element is open.
-    void clear();
     void open(Style const& style, Link const* link);
     void close();
     /// Adds text of the innermost element.
@@ -103,8 +99,6 @@ public:
 
     /// To be called when all has been added.
     void finish();
-    /// The same as plain text, if it is such a one. Until it is changed.
-    std::optional<PlainText> plainText() const;
     /// Parts the open elements: what has been added becomes `done`, and this one goes on with them.
     void partInto(Paragraph& done);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "web/Colour.h"
@@ -8,15 +9,20 @@
 
 namespace galley::web {
 
-/// A paragraph of nothing but printable ASCII, a cell a byte, with one blank between two words,
-/// where alone a line may break unless words are parted. Most paragraphs are such; their lines are
-/// those that `LineBreaker` comes to by its rules for all, found by a search for blanks.
+/// A paragraph of a single text, of nothing but printable ASCII, a cell a byte, with one blank
+/// between two words, where alone a line may break unless words are parted. Most paragraphs are
+/// such; their lines are those that `LineBreaker` comes to by its rules for all, found by a search
+/// for blanks.
 struct PlainText {
     Style const* block = nullptr;
     Colour background;
     /// Begins and ends with a word.
     std::string_view text;
 };
+
+/// Reads the first text of a paragraph, in the block itself, as plain text, with a blank behind it
+/// if there is white space. False, and nothing of use in `plain`, where it is not.
+bool readPlainText(std::string& plain, std::string_view decoded, Style const& block);
 
 /// The first line of a text.
 struct PlainLine {

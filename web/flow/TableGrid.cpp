@@ -91,8 +91,7 @@ TableCell& TableGrid::addCell(Style const& style, int columnSpan, int rowSpan) {
         background = onTop(range->column.style, onTop(range->column.group, background));
     }
     background = onTop(allRows.back().style, onTop(allRows.back().group, background));
-    return allCells.emplace_back(
-        TableCell{&style, backgroundOf(style, background), column, span, rows, span, {}});
+    return allCells.emplace_back(style, backgroundOf(style, background), column, span, rows);
 }
 
 Colour TableGrid::background(TableRow const& row) const {

@@ -11,6 +11,14 @@ namespace galley::web {
 
 /// A cell of a table: the slots from its column on, in its row and those below that it spans.
 struct TableCell {
+    TableCell(Style const& cellStyle, Colour shown, int firstColumn, int columns, int rows)
+        : style(&cellStyle),
+          background(shown),
+          column(firstColumn),
+          columnSpan(columns),
+          rowSpan(rows),
+          documentSpan(columns) {}
+
     Style const* style;
     Colour background;
     int column;

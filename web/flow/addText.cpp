@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "web/flow/Paragraph.h"
+#include "web/flow/textOptions.h"
 #include "web/flow/transformText.h"
 #include "web/text/utf8.h"
 #include "web/text/whiteSpace.h"
@@ -12,36 +13,6 @@
 namespace galley::web {
 
 namespace {
-
-TextOptions optionsFor(Style const& style) {
-    TextOptions options;
-    options.isAmbiguousWide = style.cells.isAmbiguousWide;
-    switch (style.whiteSpace) {
-        case WhiteSpace::normal:
-        case WhiteSpace::nowrap:
-            options.whiteSpace = TextOptions::WhiteSpace::collapsed;
-            break;
-        case WhiteSpace::preLine:
-            options.whiteSpace = TextOptions::WhiteSpace::lines;
-            break;
-        case WhiteSpace::pre:
-        case WhiteSpace::preWrap:
-            options.whiteSpace = TextOptions::WhiteSpace::preserved;
-            break;
-    }
-    switch (style.wordBreak) {
-        case WordBreak::normal:
-            options.wordBreak = TextOptions::WordBreak::normal;
-            break;
-        case WordBreak::keepAll:
-            options.wordBreak = TextOptions::WordBreak::keepAll;
-            break;
-        case WordBreak::breakAll:
-            options.wordBreak = TextOptions::WordBreak::breakAll;
-            break;
-    }
-    return options;
-}
 
 /// Whether nothing is between what stands before it and behind.
 bool isTextOrTag(Item const& item) {
@@ -69,7 +40,7 @@ void Paragraph::addText(std::string_view decoded) {
 
 void Paragraph::addGenerated(std::string_view decoded) {
     joinTo(decoded);
-    TextOptions options = optionsFor(style());
+    TextOptions options = textOptions(style());
     options.before = lastCharacter;
     bool const isWrapped = style().whiteSpace == WhiteSpace::normal;
     SegmentReader reader(decoded, options);
@@ -125,7 +96,7 @@ void Paragraph::joinTo(std::string_view decoded) {
     std::string joint(known.substr(from));
     joint += decoded.substr(0, s_context);
     std::size_t const place = known.size() - from;
-    SegmentReader reader(joint, optionsFor(style()));
+    SegmentReader reader(joint, textOptions(style()));
     Segment segment;
     while (reader.next(segment) && segment.next <= place) {
         bool const isOpportunity = segment.behind == Segment::Behind::opportunity;

@@ -38,6 +38,7 @@ Widths contentOf(TableCell const& cell, Wrapping wrapping, Paragraph& scratch) {
 /// Of each cell.
 std::vector<Widths> contentsOf(TableGrid const& grid, Wrapping wrapping) {
     std::vector<Widths> contents;
+    contents.reserve(grid.cells().size());
     Paragraph scratch;
     for (TableCell const& cell : grid.cells()) {
         contents.push_back(contentOf(cell, wrapping, scratch));
@@ -128,6 +129,8 @@ std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& 
 
 std::vector<ColumnNeed> fittingNeeds(TableGrid const& grid, TableFrame const& frame, int parts) {
     std::vector<Widths> const parted = contentsOf(grid, Wrapping::anywhere);
+    std::vector<ColumnNeed> least = needsFor(parted, grid, frame);
+    if (sumOf(least).least > parts) return least;
     std::vector<Widths> const whole = contentsOf(grid, Wrapping::asStyled);
     auto const needsAt = [&](int cells) {
         std::vector<Widths> contents = parted;

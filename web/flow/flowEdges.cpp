@@ -83,16 +83,16 @@ void Flow::handOnHeld() {
 
 void Flow::endRow() {
     addRightEdges(blocks.size());
-    handOn();
+    handOn(row);
 }
 
-void Flow::handOn() {
-    budget.take(static_cast<std::size_t>(row.width()) + blocks.size() + 1);
+void Flow::handOn(Row const& made) {
+    budget.take(static_cast<std::size_t>(made.width()) + blocks.size() + 1);
     if (waitingMarkers > 0) {
-        held.push_back(row);
+        held.push_back(made);
     } else {
         handOnHeld();
-        sink.take(row);
+        sink.take(made);
     }
     hasRows = true;
     ++rowCount;
@@ -138,7 +138,7 @@ void Flow::addBorder(bool isTop) {
     row.fill(block.left, blankOn(block.around));
     addHorizontal(row, *block.style, isTop, block.right - block.left, block.background);
     addRightEdges(blocks.size() - 1);
-    handOn();
+    handOn(row);
 }
 
 }  // namespace galley::web

@@ -13,12 +13,13 @@ OpenElement& OpenElements::push(Piece& startTag) {
     opened.isHidden = parent != nullptr && parent->isHidden;
     opened.isInLink = parent != nullptr && (parent->isInLink || parent->element.name == "a");
     opened.children = 0;
-    opened.element = {parent != nullptr ? &parent->element : nullptr,
-                      startTag.name,
-                      opened.attributes,
-                      ++siblings,
-                      false,
-                      nullptr};
+    opened.element.parent = parent != nullptr ? &parent->element : nullptr;
+    opened.element.name = startTag.name;
+    opened.element.attributes = opened.attributes;
+    opened.element.index = ++siblings;
+    opened.element.isLast = false;
+    opened.element.style = nullptr;
+    opened.element.classes.reset();
     return opened;
 }
 

@@ -94,8 +94,7 @@ std::string_view SegmentReader::takeIdeographs() {
 }
 
 std::string_view SegmentReader::takeUnbroken() {
-    std::size_t end = at;
-    while (end < text.size() && (isPrintableAscii(text[end]) || text[end] == ' ')) ++end;
+    std::size_t end = scanPrintable(text, at);
     bool const mayBeJoined = end < text.size() && !isWhiteSpace(text[end]);
     if (mayBeJoined && end > at) --end;
     std::size_t const begin = std::exchange(at, end);

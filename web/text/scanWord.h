@@ -40,6 +40,18 @@ inline std::size_t scanPlain(std::string_view text, std::size_t from) {
     return from;
 }
 
+/// The first byte at `from` or behind it that is neither printable ASCII nor a blank. The text's
+/// size without one.
+inline std::size_t scanPrintable(std::string_view text, std::size_t from) {
+    for (; text.size() - from >= 16; from += 16) {
+        Bytes const bytes = bytesAt(text.data() + from);
+        unsigned const count = firstOf(bytes - static_cast<unsigned char>(' ') > '~' - ' ');
+        if (count < 16) return from + count;
+    }
+    while (from < text.size() && (isPrintableAscii(text[from]) || text[from] == ' ')) ++from;
+    return from;
+}
+
 /// The first byte at `from` or behind it that is neither plain nor a blank, or that is a blank and
 /// has another one behind it. The text's size without one.
 inline std::size_t scanWords(std::string_view text, std::size_t from) {
