@@ -41,6 +41,11 @@ void ValueReader::warnAbout(Token const& token) const {
          quoted(token.source) + " has no effect as a value of " + quoted(property));
 }
 
+void ValueReader::warnOfOpacity(Token const& token) const {
+    warn(*problems, token.offset,
+         "colour in " + quoted(property) + " is shown opaque, as all colours are");
+}
+
 void ValueReader::warnOfNoStyle() const {
     warn(*problems, peek().offset,
          quoted(property) + " has no style such as 'solid', and does not show");

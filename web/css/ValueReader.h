@@ -40,6 +40,8 @@ public:
     void ignore();
     /// Warns that a token has no effect as a value of the property, though it may be one.
     void warnAbout(Token const& token) const;
+    /// Warns that a colour, which begins with a token, is opaque though it says otherwise.
+    void warnOfOpacity(Token const& token) const;
     /// Warns that a border, which the value is, has no style and so does not show.
     void warnOfNoStyle() const;
 

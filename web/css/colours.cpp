@@ -14,7 +14,16 @@ using Kind = Token::Kind;
 
 constexpr Colour s_transparent = {Colour::Kind::transparent};
 
-bool readHash(std::string_view digits, Colour& colour) {
+/// A colour of which nothing shows, or else all.
+Colour withOpacity(Colour colour, double opacity, Token const& first, ValueReader const& reader) {
+    if (opacity == 0) return s_transparent;
+    if (opacity < 1) reader.warnOfOpacity(first);
+    return colour;
+}
+
+bool readHash(ValueReader& reader, Colour& colour) {
+    Token const& token = reader.take();
+    std::string_view const digits = token.text;
     bool const isShort = digits.length() == 3 || digits.length() == 4;
     if (!isShort && digits.length() != 6 && digits.length() != 8) return false;
     if (!std::all_of(digits.begin(), digits.end(), [](char c) { return hexDigit(c) >= 0; })) {
@@ -25,9 +34,8 @@ bool readHash(std::string_view digits, Colour& colour) {
         std::size_t const second = isShort ? i : first + 1;
         return static_cast<std::uint8_t>(hexDigit(digits[first]) * 16 + hexDigit(digits[second]));
     };
-    bool const hasOpacity = digits.length() % 4 == 0;
-    colour = hasOpacity && channel(3) == 0 ? s_transparent
-                                           : Colour::rgb(channel(0), channel(1), channel(2));
+    double const opacity = digits.length() % 4 == 0 ? channel(3) / 255.0 : 1;
+    colour = withOpacity(Colour::rgb(channel(0), channel(1), channel(2)), opacity, token, reader);
     return true;
 }
 
@@ -43,7 +51,7 @@ bool readAmount(ValueReader& reader, double whole, Kind& kind, double& amount) {
 }
 
 /// Between the parentheses: `r, g, b`, `r, g, b, a`, `r g b` or `r g b / a`.
-bool readChannels(ValueReader& reader, Colour& colour) {
+bool readChannels(ValueReader& reader, Token const& function, Colour& colour) {
     std::uint8_t channels[3] = {};
     Kind firstKind = Kind::number;
     bool hasCommas = false;
@@ -61,18 +69,21 @@ bool readChannels(ValueReader& reader, Colour& colour) {
     Kind kind = Kind::number;
     bool const hasOpacity = hasCommas ? reader.take(Kind::comma) : reader.takeDelimiter('/');
     if (hasOpacity && !readAmount(reader, 1, kind, opacity)) return false;
-    colour = opacity == 0 ? s_transparent : Colour::rgb(channels[0], channels[1], channels[2]);
-    return reader.atEnd() || reader.take(Kind::closeParenthesis);
+    if (!reader.atEnd() && !reader.take(Kind::closeParenthesis)) return false;
+    colour =
+        withOpacity(Colour::rgb(channels[0], channels[1], channels[2]), opacity, function, reader);
+    return true;
 }
 
 }  // namespace
 
 bool readColour(ValueReader& reader, Colour& colour) {
     if (readKeyword<s_colourNames>(reader, colour)) return true;
-    if (reader.isNext(Kind::hash)) return readHash(reader.take().text, colour);
+    if (reader.isNext(Kind::hash)) return readHash(reader, colour);
     if (!reader.isNext(Kind::function)) return false;
-    std::string_view const name = reader.take().text;
-    return (isSameWord(name, "rgb") || isSameWord(name, "rgba")) && readChannels(reader, colour);
+    Token const& function = reader.take();
+    bool const isRgb = isSameWord(function.text, "rgb") || isSameWord(function.text, "rgba");
+    return isRgb && readChannels(reader, function, colour);
 }
 
 }  // namespace galley::web

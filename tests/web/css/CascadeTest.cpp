@@ -109,6 +109,7 @@ TEST(Cascade, TakesAttributesForDeclarations) {
              {"<td id=\"x\" width=\"20\" color=\"red\"/>", "colour=palette 1;width=20;", ""},
              {"<p id=\"x\" margin=\"1 0\" margin-left=\"2\"/>",
               "margin-left=2;margin-top=1;margin-bottom=1;", ""},
+             {"<p id=\"x\" hidden=\"\"/>", "display=0;", ""},
              {"<p id=\"x\" color=\"rad\"/>", "",
               "17 'rad' is no value of 'color'; did you mean 'red'?\n"},
              {"<p id=\"x\" color=\"\"/>", "", "17 '' is no value of 'color'\n"},
