@@ -63,6 +63,8 @@ TEST(Suggest, SaysWhatWasMeantInADocument) {
         {"<nonsense/>", "unknown element 'nonsense'"},
         {"<p clas='a'/>", "unknown attribute 'clas'; did you mean 'class'?"},
         {"<p colour='red'/>", "unknown attribute 'colour'; did you mean 'color'?"},
+        {"<p sytle='a'/>", "unknown attribute 'sytle'; did you mean 'style'?"},
+        {"<p hiden='a'/>", "unknown attribute 'hiden'; did you mean 'hidden'?"},
         {"<p onclick='a'/>", "unknown attribute 'onclick'"},
         {"<p style='colour: red'/>", "unknown property 'colour'; did you mean 'color'?"},
         {"<p style='color: gren'/>", "'gren' is no value of 'color'; did you mean 'green'?"},

@@ -11,8 +11,8 @@ namespace galley::web {
 namespace {
 
 constexpr std::string_view s_allowed[] = {
-    "class", "id",  "href",  "colspan", "rowspan", "start", "value",
-    "type",  "dir", "title", "lang",    "role",    "xmlns", "xml:lang",
+    "class", "id",   "style", "hidden", "href", "colspan", "rowspan", "span",     "start",
+    "value", "type", "dir",   "title",  "lang", "role",    "xmlns",   "xml:lang",
 };
 
 constexpr std::string_view s_allowedStarts[] = {"aria-", "data-"};

@@ -125,6 +125,7 @@ TEST(Cascade, TakesAttributesForDeclarations) {
              {"<p id=\"x\" style=\"color:a\"><b style=\"color:a\"/></p>", "",
               "23 'a' is no value of 'color'\n42 'a' is no value of 'color'\n"},
              {"<img id=\"x\" alt=\"a\" src=\"b\"/>", "", ""},
+             {"<col id=\"x\" span=\"2\"/>", "", ""},
              {"<p id=\"x\" alt=\"a\"/>", "", "10 unknown attribute 'alt'\n"},
              {"<p id=\"x\" aria-label=\"a\" data-x=\"b\" xml:lang=\"en\" href=\"c\"/>", "", ""},
              {"<ol id=\"x\" type=\"I\" start=\"3\"/>", "marker=9;", ""},
