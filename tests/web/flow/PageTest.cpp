@@ -150,6 +150,9 @@ TEST(Pages, NumberListsAndPutMarkersBeside) {
         {"<ol><li value='7'>a</li><li>b</li></ol>", 9, "| 7. a| 8. b"},
         {"<ul><li><p>a</p></li><li><ul><li>b</li></ul></li></ul>", 40, "|  • a||  •   ◦ b"},
         {"<ol style='list-style: inside upper-roman'><li>a</li></ol>", 40, "|    I. a"},
+        {"<div style='padding-left: 3ch; list-style-type: decimal'><li>a</li>"
+         "<section><li>b</li><li>c</li></section><li>d</li></div>",
+         40, "|1. a|1. b|2. c|2. d"},
         // A string is all of the marker, but for what is never printed.
         {"<ul style='list-style-type: \"–\\202e\"'><li>a</li></ul>", 40, "|   –a"},
         {"<ol style='list-style-type: decimal-leading-zero'><li value='-5'>a</li><li "
