@@ -113,6 +113,8 @@ TEST(Pages, LetWhiteSpaceThatCountsHang) {
          std::vector<std::pair<char const*, char const*>>{{"abc   de</pre>", "|  abc|   de"},
                                                           {"ab \nc</pre>", "|  ab|    c"},
                                                           {"abc   \nd</pre>", "|abc|    d"},
+                                                          {"ab\t</pre>", "|ab"},
+                                                          {"ab \t</pre>", "|ab"},
                                                           {"\tx</pre>", "||    x"}}) {
         EXPECT_EQ(textOf(markup + text, 5, "|", ""), page) << text;
     }
