@@ -127,6 +127,7 @@ TEST(Pages, AlignAndIndentText) {
         {"<p style='text-align: justify'>a b c dddd</p>", 8, "|a   b  c|dddd"},
         {"<p style='text-align: justify'>日本 dddddd</p>", 8, "|日    本|dddddd"},
         {"<p style='text-align: justify'>a&#160;b c dddd</p>", 8, "|a   b  c|dddd"},
+        {"<p style='text-align: justify'>✅b c dddddd</p>", 9, "|✅  b   c|dddddd"},
         {"<p style='text-align: justify; white-space: pre-wrap'>a\tb dddd</p>", 12,
          "|a          b|dddd"},
         {"<p style='text-indent: 2ch'>aa bb</p>", 5, "|  aa|bb"},
