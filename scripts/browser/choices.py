@@ -4,13 +4,14 @@ import random
 SHARES = "10% 20% 25% 50%".split()
 COLOURS = "#ffe0c0 #c0ffc0 #e0e0ff #ffff80".split()
 CLASSES = "one two three".split()
-LINES = "solid solid double dashed dotted none hidden".split()
-BLOCK_KINDS = ("margin margin margin padding padding sides border border border width width limits auto "
-               "percentage background").split()
+LINES = "solid double dashed dotted none hidden".split()
+BLOCK_KINDS = ("margin margin margin padding padding sides border border border border width width "
+               "limits auto percentage background").split()
 TEXT_KINDS = ("align align align text-indent text-indent white-space white-space white-space "
               "overflow-wrap overflow-wrap word-break word-break text-transform text-transform "
               "visibility display").split()
-INLINE_TEXT_KINDS = "white-space white-space overflow-wrap word-break text-transform visibility".split()
+INLINE_TEXT_KINDS = ("white-space white-space overflow-wrap word-break text-transform "
+                     "visibility").split()
 
 
 class Choices:
@@ -81,7 +82,8 @@ class Choices:
             side = self.pick(["width", "margin-left", "padding-right", "padding-top",
                               "margin-bottom"])
             # Of most widths a tenth is no whole number of rows, of the most common ones it is.
-            return f"{side}: {'10%' if side in ('padding-top', 'margin-bottom') else self.pick(SHARES)}"
+            share = "10%" if side in ("padding-top", "margin-bottom") else self.pick(SHARES)
+            return f"{side}: {share}"
         return self.background()
 
     def background(self):
@@ -93,7 +95,8 @@ class Choices:
             return self.use("border-style", f"border-style: {lines}")
         line = self.pick(LINES)
         self.use(f"border: {line}")
-        return f"border{side}: {self.pick(['', '1px ', 'thin ', 'thick '])}{line}{self.pick(['', ' #f0f'])}"
+        thickness, colour = self.pick(["", "1px ", "thin ", "thick "]), self.pick(["", " #f0f"])
+        return f"border{side}: {thickness}{line}{colour}"
 
     def text_declaration(self, kinds=TEXT_KINDS):
         kind = self.pick(kinds)

@@ -48,8 +48,8 @@ def avoid(source):
     # White space that hangs has no background.
     if "pre-wrap" in source:
         source = re.sub(r"(</?)mark\b", r"\1samp", source)
-        source = re.sub(rf"(<({'|'.join(INLINE)}) [^>]*)background-color", r"\1word-spacing", source)
-        head, body = source.split("<body>")
+        inline = rf"(<({'|'.join(INLINE)}) [^>]*)background-color"
+        head, body = re.sub(inline, r"\1word-spacing", source).split("<body>")
         source = f"{head.replace('background-color', 'word-spacing')}<body>{body}"
     if "break-all" in source:
         source = re.sub("[\u0300-\u036f]", "", unicodedata.normalize("NFC", source))
@@ -83,7 +83,8 @@ class Blocks:
             style.append(chosen.block_declaration())
         if chosen.chance(share * 0.7):
             style.append(chosen.text_declaration())
-        text = f' class="{chosen.pick([*CLASSES, "one two", "three  one"])}"' if chosen.chance(0.4) else ""
+        classes = chosen.pick([*CLASSES, "one two", "three  one"])
+        text = f' class="{classes}"' if chosen.chance(0.4) else ""
         text += f' id="{chosen.pick(CLASSES)}"' if chosen.chance(0.1) else ""
         return text + (f' style="{"; ".join(style)}"' if style else "")
 
@@ -101,8 +102,9 @@ class Blocks:
         chosen, words = self._chosen, self._words
         style = chosen.pick(["text-align: center", "text-align: justify", "text-align: justify",
                              "overflow-wrap: normal", "word-break: break-all",
-                             "word-break: keep-all", "text-indent: -4ch", "text-indent: -2ch"])
-        chosen.use(style)
+                             "word-break: keep-all", "text-indent: -4ch", "text-indent: -2ch",
+                             "text-indent: -3ch"])
+        chosen.use("text-indent below 0" if style.startswith("text-indent") else style)
         texts = {"text-align: center": "<br/>".join(words.even_word() for _ in range(2)),
                  "text-align: justify": " ".join(words.even_word() for _ in range(5))}
         text = texts.get(style) or words.text(4) + words.long_word()

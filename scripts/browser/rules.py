@@ -42,7 +42,7 @@ def make_query(chosen, width):
 def make_declarations(chosen, element):
     """For one rule, or for several that contend about one property, also with the element."""
     if chosen.chance(0.5):
-        block = element.tag not in INLINE
+        block = element.tag not in [*INLINE, "img"]
         kind = chosen.block_declaration if block else chosen.edge_declaration
         return [chosen.pick([chosen.text_declaration, kind])()]
     chosen.use("cascade")

@@ -26,9 +26,11 @@ def shrink(source, stays_true):
 
 GROUPS = ["thead", "tbody", "tfoot"]
 PARENTS = {"li": ["ol", "ul"], "td": ["tr"], "th": ["tr"], "tr": ["table", *GROUPS],
-           "col": ["colgroup", "table"], **{part: ["table"] for part in ["caption", "colgroup", *GROUPS]}}
+           "col": ["colgroup", "table"],
+           **{part: ["table"] for part in ["caption", "colgroup", *GROUPS]}}
 CHILDREN = {"ol": ["li"], "ul": ["li"], "tr": ["td", "th"], "colgroup": ["col"],
-            "table": ["tr", "caption", "col", "colgroup", *GROUPS], **{part: ["tr"] for part in GROUPS}}
+            "table": ["tr", "caption", "col", "colgroup", *GROUPS],
+            **{part: ["tr"] for part in GROUPS}}
 
 
 def is_like_generated(source):

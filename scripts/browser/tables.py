@@ -37,8 +37,8 @@ class Tables:
             if "fixed" in "".join(style):
                 cell_widths = ["auto"]
             style.append(chosen.use("border-collapse", "border-collapse: collapse"))
-            cell = chosen.pick([bordered, bordered, "", "border-bottom: solid", "border-left: solid",
-                                f"{bordered}; border-left: hidden"])
+            cell = chosen.pick([bordered, bordered, "", "border-bottom: solid",
+                                "border-left: solid", f"{bordered}; border-left: hidden"])
             style += ["border: solid"] if chosen.chance(0.3) else []
         else:
             cell = chosen.pick([bordered, bordered, "", "", "padding: 0", "padding: 1lh 2ch"])
@@ -48,7 +48,7 @@ class Tables:
         spans = cell in (bordered, "") and chosen.chance(0.7)
         cells = Cells(depth, cell, cell_widths)
         body = self._rows(cells, columns, rows, spans, collapses)
-        body = self._columns(columns, collapses and not spans, collapses) + body
+        body = self._columns(columns, spans, collapses) + body
         caption = self._caption() if chosen.chance(0.25) else ""
         chosen.use("table")
         return f'<table style="{"; ".join(style)}">{caption}{body}</table>'
@@ -72,8 +72,9 @@ class Tables:
             style.append(chosen.use("table edge", edge))
         return style
 
-    def _columns(self, columns, has_lines, collapses):
-        """Elements for columns, if any, with what they may say: lines where these are whole ones."""
+    def _columns(self, columns, spans, collapses):
+        """Elements for columns, if any, with what they may say: lines where these are whole ones.
+        Where cells span columns, all of these have such elements, or none."""
         chosen = self._choices
         if not chosen.chance(0.25):
             return ""
@@ -81,11 +82,11 @@ class Tables:
             choices = [chosen.background(), ""]
             if not collapses:
                 choices += [f"width: {chosen.number(2, 12)}ch"] * 2
-            if has_lines:
+            if collapses and not spans:
                 choices += [f"border-{chosen.pick(['left', 'right'])}: solid"] * 2
             chosen.use(kind)
             return f' style="{chosen.pick(choices)}"'
-        count = chosen.number(1, columns)
+        count = columns if spans else chosen.number(1, columns)
         if chosen.chance(0.3):
             return f'<colgroup span="{count}"{styled("colgroup")}/>'
         if chosen.chance(0.3):
@@ -148,7 +149,8 @@ class Tables:
             style.append(chosen.use("row background", chosen.background()))
         if has_lines and chosen.chance(0.2):
             line = chosen.pick(["solid", "solid", "hidden"])
-            style.append(chosen.use("row border", f"border-{chosen.pick(['top', 'bottom'])}: {line}"))
+            side = chosen.pick(["top", "bottom"])
+            style.append(chosen.use("row border", f"border-{side}: {line}"))
         return f' style="{"; ".join(style)}"' if style else ""
 
     def _grouped(self, rows, has_lines):

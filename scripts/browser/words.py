@@ -3,12 +3,14 @@ import picture
 
 INLINE = ("a abbr b strong i em cite var dfn u ins s del code kbd samp mark small q span sub "
           "sup").split()
-WORDS = "long long emoji hyphen marked shy zwsp nbsp capitals reference punctuation punctuation".split()
+WORDS = ("long long emoji hyphen marked shy zwsp nbsp capitals reference punctuation "
+         "punctuation").split()
 PUNCTUATION = ("1, 1. (1) 1/2 1! 1:2 “1” 1's 1;2 1.2 1=2 1% 1?2 1+2 1&amp;2 1(2) 1-\u20602 1–2 1…2 1—2 "
                "漢“1”").split()
 REFERENCES = ("&eacute; &uuml; &ntilde; &lt; &quot; &shy; &nbsp; &#233; &#xE9; &#65; &#x7a; &#xAD; "
               "&#160;").split()
-RUNS = "inline inline inline joined nested edge edge styled empty quote image unseen br br wbr".split()
+RUNS = ("inline inline inline joined nested edge edge styled empty quote image unseen br br "
+        "wbr").split()
 
 
 class Words:
@@ -88,7 +90,8 @@ class Words:
         return half + half[::-1]
 
     def _wide(self, most):
-        return "".join(self._choices.pick(picture.WIDE) for _ in range(self._choices.number(1, most)))
+        count = self._choices.number(1, most)
+        return "".join(self._choices.pick(picture.WIDE) for _ in range(count))
 
     def _letters(self, most):
         return "".join(self._choices.pick("abcdefghijklmnopqrstuvwxyz")
