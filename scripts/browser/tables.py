@@ -10,11 +10,12 @@ RIGHT_EDGE = re.compile(rf"(<(?:{'|'.join(INLINE)}) [^>]*?)-right")
 
 @dataclasses.dataclass
 class Cells:
-    """What the cells of a table have in common: how deep it stands, a declaration, and widths that
-    some of them have."""
+    """What the cells of a table have in common: how deep it stands, a declaration, widths that some
+    of them have, and how many."""
     depth: int
     style: str
     widths: list
+    share: float
 
 
 class Tables:
@@ -46,7 +47,8 @@ class Tables:
         if cell.startswith(bordered):
             chosen.use(bordered)
         spans = cell in (bordered, "") and chosen.chance(0.7)
-        cells = Cells(depth, cell, cell_widths)
+        share = 0.5 if "fixed" in "".join(style) else 0.15
+        cells = Cells(depth, cell, cell_widths, share)
         body = self._rows(cells, columns, rows, spans, collapses)
         body = self._columns(columns, spans, collapses) + body
         caption = self._caption() if chosen.chance(0.25) else ""
@@ -63,7 +65,7 @@ class Tables:
     def _edges(self):
         """Of a table whose borders are separate."""
         chosen, style = self._choices, []
-        if chosen.chance(0.3):
+        if chosen.chance(0.5):
             spacing = f"border-spacing: {chosen.cells(2)} {chosen.rows(1)}"
             style.append(chosen.use("border-spacing", spacing))
         if chosen.chance(0.2):
@@ -76,7 +78,7 @@ class Tables:
         """Elements for columns, if any, with what they may say: lines where these are whole ones.
         Where cells span columns, all of these have such elements, or none."""
         chosen = self._choices
-        if not chosen.chance(0.25):
+        if not chosen.chance(0.3):
             return ""
         def styled(kind):
             choices = [chosen.background(), ""]
@@ -175,10 +177,10 @@ class Tables:
         style = [kind.style] if kind.style else []
         spans = chosen.use("colspan", f' colspan="{across}"') if across > 1 else ""
         spans += chosen.use("rowspan", f' rowspan="{down}"') if down > 1 else ""
-        if chosen.chance(0.04):
+        if chosen.chance(0.07):
             limit = f"{chosen.pick(['min', 'max'])}-width: {chosen.number(2, 12)}ch"
             style.append(chosen.use("cell limits", limit))
-        if chosen.chance(0.1):
+        if chosen.chance(kind.share):
             style.append(chosen.use("cell width", f"width: {chosen.pick(kind.widths)}"))
         if chosen.chance(0.2):
             side = chosen.pick(["top", "bottom", "bottom", "middle", "baseline", "baseline"])
@@ -194,7 +196,7 @@ class Tables:
 
     def _content(self, depth, across, down):
         chosen = self._choices
-        text = self._words.words(chosen.number(0, 3) * across)
+        text = self._words.words(chosen.number(0, 3) * (2 * across - 1))
         # What makes a spanning cell higher than its rows is shared among them in another way.
         if down == 1 and chosen.chance(0.15):
             return chosen.use("broken cell", f"{text}<br/>{self._words.words(2)}")
