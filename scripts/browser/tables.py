@@ -11,11 +11,12 @@ RIGHT_EDGE = re.compile(rf"(<(?:{'|'.join(INLINE)}) [^>]*?)-right")
 @dataclasses.dataclass
 class Cells:
     """What the cells of a table have in common: how deep it stands, a declaration, widths that some
-    of them have, and how many."""
+    of them have, and how many; whether their first lines are in one row."""
     depth: int
     style: str
     widths: list
     share: float
+    baselines: bool
 
 
 class Tables:
@@ -48,7 +49,7 @@ class Tables:
             chosen.use(bordered)
         spans = cell in (bordered, "") and chosen.chance(0.7)
         share = 0.5 if "fixed" in "".join(style) else 0.15
-        cells = Cells(depth, cell, cell_widths, share)
+        cells = Cells(depth, cell, cell_widths, share, chosen.chance(0.1))
         body = self._rows(cells, columns, rows, spans, collapses)
         body = self._columns(columns, spans, collapses) + body
         caption = self._caption() if chosen.chance(0.25) else ""
@@ -182,11 +183,14 @@ class Tables:
             style.append(chosen.use("cell limits", limit))
         if chosen.chance(kind.share):
             style.append(chosen.use("cell width", f"width: {chosen.pick(kind.widths)}"))
-        if chosen.chance(0.2):
-            side = chosen.pick(["top", "bottom", "bottom", "middle", "baseline", "baseline"])
+        if kind.baselines and "padding" not in kind.style:
+            above = f"vertical-align: baseline; padding-top: {chosen.number(0, 2)}lh"
+            style.append(chosen.use("baseline", above))
+        elif chosen.chance(0.2):
+            side = chosen.pick(["top", "bottom", "bottom", "middle", "baseline"])
             style.append(chosen.use("vertical-align", f"vertical-align: {side}"))
-            if side == "baseline" and "padding" not in kind.style:
-                style.append(chosen.use("baseline", f"padding-top: {chosen.number(0, 2)}lh"))
+        if chosen.chance(0.05):
+            style.append(chosen.use("cell background", chosen.background()))
         if chosen.chance(0.1):
             style.append(chosen.text_declaration())
         attribute = f' style="{"; ".join(style)}"' if style else ""
