@@ -139,8 +139,6 @@ private:
     /// Of the numbered links that are open, innermost last.
     std::vector<unsigned> linkNumbers;
     unsigned quoteDepth = 0;
-    /// Of the next item in no list.
-    int looseNumber = 1;
     Paragraph done;
     /// What an item's marker was made of, and became, last.
     ///@{

@@ -55,11 +55,14 @@ int PageBuilder::firstNumberOf(Element const& list) {
     return integerAttribute(list, "start", s_numbers, problems).value_or(1);
 }
 
-/// The number of a list item: its own, or the next one of the list around it.
+/// The number of a list item: its own, or the next one of the list around it, or without a list of
+/// its parent.
 int PageBuilder::numberOf(Element const& element) {
-    auto const list = std::find_if(open.rbegin(), open.rend(),
-                                   [](OpenElement const& each) { return each.isList; });
-    int& next = list == open.rend() ? looseNumber : list->nextNumber;
+    auto list = std::find_if(open.rbegin(), open.rend(),
+                             [](OpenElement const& each) { return each.isList; });
+    if (list == open.rend()) list = open.rbegin();
+    int ofRoot = 1;
+    int& next = list == open.rend() ? ofRoot : list->nextNumber;
     int const number = integerAttribute(element, "value", s_numbers, problems).value_or(next);
     next = number + 1;
     return number;

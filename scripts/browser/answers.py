@@ -6,7 +6,7 @@ import re
 
 import picture
 from chromium import Chromium
-from page import Answer
+from page import Answer, resolved
 
 HERE = pathlib.Path(__file__).parent
 DEFAULT_SHEET = HERE.parent.parent / "web" / "default.css"
@@ -84,10 +84,15 @@ def put(rows, row, column, cluster):
 def for_browser(source):
     """The page with our sheet before its own, weaker whatever its selectors, and that of the check
     behind them. A browser draws the symbols of lists as it likes; it is given the characters
-    instead."""
+    instead. Borders of all styles are solid, and an `img` is its `alt`."""
     default = escape(DEFAULT_SHEET.read_text())
     default = f"<style>@layer check, default; @layer default {{ {default} }}</style>"
     check = f"<style>{escape((HERE / 'check.css').read_text())}</style>"
+    source = re.sub(r'<img alt="(.*?)" */>', r"<alt>\1</alt>", resolved(source))
+    source = re.sub(r"border[\w-]*: [^;}\"]*",
+                    lambda found: re.sub("double|dashed|dotted", "solid", found[0]), source)
+    head, body = source.split("<body", 1)
+    source = re.sub(r"\bimg(?=[ .:])", "alt", head) + "<body" + body
     source = source.replace("<html>", '<html xmlns="http://www.w3.org/1999/xhtml">', 1)
     source = re.sub(r"<head */>", "<head></head>", source, 1)
     source = source.replace("<head>", "<head>" + default, 1)

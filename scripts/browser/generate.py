@@ -5,19 +5,20 @@ differ from browsers. Where Chromium is not right, by the list in docs/web.md, p
 """
 import re
 import unicodedata
-import xml.etree.ElementTree as tree
 
 from choices import CLASSES, Choices
-from page import Page
+from page import Page, resolved
+from rules import make_rules
 from tables import Tables
 from words import INLINE, Words
 
-BLOCKS = ("p p p p div div section header footer main nav article aside address figure blockquote "
-          "h1 h2 h3 h4 h5 h6").split()
-MARKERS = ("disc circle square decimal lower-alpha upper-alpha lower-latin upper-latin lower-roman "
-           "upper-roman none").split()
+BLOCKS = ("p p p p div div section header footer main nav article aside address figure figcaption "
+          "blockquote blockquote h1 h2 h3 h4 h5 h6").split()
+MARKERS = ("disc circle square decimal decimal-leading-zero lower-alpha upper-alpha lower-latin "
+           "upper-latin lower-roman upper-roman lower-greek '+' none").split()
 AVOIDED = ["overflow-wrap: normal"]
-SELECTORS = "type class id list descendant child first last nth both".split()
+# Where the inner element says no more than a word, what it has from its parent, or has not.
+KEYWORDS = "margin-left padding-left text-align text-indent white-space".split()
 
 
 def make_page(seed):
@@ -26,12 +27,13 @@ def make_page(seed):
     width = chosen.pick([20, 40, 60, 80, 100]) if chosen.chance(0.4) else narrow
     blocks = Blocks(chosen)
     body = f"<body>{blocks.blocks(0, chosen.number(1, 4))}</body>"
-    rules = make_rules(chosen, width, body) if chosen.chance(0.5) else ""
+    rules = make_rules(chosen, width, resolved(body)) if chosen.chance(0.5) else ""
     if "blocks in a cell" in chosen.features:
         rules = rules.replace("-right", "-left")
     if {"table-layout: fixed", "border-collapse"} <= chosen.features:
         rules = re.sub(r"(?<!-)width: [^;} ]*", "visibility: hidden", rules)
-    head = f"<head><style>{rules}</style></head>" if rules else "<head/>"
+    title = chosen.use("title", "<title>t</title>") if chosen.chance(0.1) else ""
+    head = f"<head>{title}<style>{rules}</style></head>" if rules else "<head/>"
     page = avoid(f"<html>{head}{body}</html>")
     absent = {feature for feature in chosen.features if feature in AVOIDED and feature not in page}
     return Page(seed, width, page, sorted(chosen.features - absent))
@@ -46,53 +48,12 @@ def avoid(source):
     # White space that hangs has no background.
     if "pre-wrap" in source:
         source = re.sub(r"(</?)mark\b", r"\1samp", source)
+        inline = rf"(<({'|'.join(INLINE)}) [^>]*)background-color"
+        head, body = re.sub(inline, r"\1word-spacing", source).split("<body>")
+        source = f"{head.replace('background-color', 'word-spacing')}<body>{body}"
     if "break-all" in source:
         source = re.sub("[\u0300-\u036f]", "", unicodedata.normalize("NFC", source))
     return source
-
-
-def make_rules(chosen, width, body):
-    """Rules whose selectors are taken from elements of the page."""
-    root = tree.fromstring(body)
-    parents = {child: parent for parent in root.iter() for child in parent}
-    rules = ""
-    for _ in range(chosen.number(1, 4)):
-        element = chosen.pick(list(parents))
-        for declaration in make_declarations(chosen, element):
-            rule = f"{make_selector(chosen, element, parents)} {{ {declaration} }}"
-            if chosen.chance(0.2):
-                bound = chosen.use("@media by width", chosen.pick(["min-width", "max-width"]))
-                near = 8 * max(1, width + chosen.number(-2, 2))
-                rule = f"@media ({bound}: {near}px) {{ {rule} }}"
-            rules += rule + "\n"
-    return rules
-
-
-def make_declarations(chosen, element):
-    """For one rule, or for several that contend about one property, also with the element."""
-    if chosen.chance(0.5):
-        block = element.tag not in INLINE
-        kind = chosen.block_declaration if block else chosen.edge_declaration
-        return [chosen.pick([chosen.text_declaration, kind])()]
-    chosen.use("cascade")
-    styled = re.findall(r"(?:margin|padding)[\w-]*(?=:)", element.get("style", ""))
-    name = chosen.pick(styled or ["margin-left", "padding-left"])
-    return [f"{name}: {16 * chosen.number(0, 3)}px"
-            + (chosen.use("!important", " !important") if chosen.chance(0.4) else "")
-            for _ in range(chosen.number(1, 3))]
-
-
-def make_selector(chosen, element, parents):
-    kind, tag, parent = chosen.pick(SELECTORS), element.tag, parents[element]
-    one = "." + element.get("class", chosen.pick(CLASSES))
-    nth = chosen.pick([str(list(parent).index(element) + 1), "odd", "even", "3n+1", "-n+2", "n+2"])
-    chosen.use(f"selector: {kind}")
-    above = parents.get(parent, parent).tag
-    near = chosen.pick([parent.tag, above])
-    return {"type": tag, "class": one, "id": f"#{element.get('id', 'one')}", "list": f"hr, {one}",
-            "descendant": f"{above} {tag}", "child": f"{near} > {tag}",
-            "first": f"{tag}:first-child", "last": f"{tag}:last-child",
-            "nth": f"{tag}:nth-child({nth})", "both": tag + one}[kind]
 
 
 class Blocks:
@@ -109,9 +70,9 @@ class Blocks:
 
     def _block(self, depth):
         makers = [self._paragraph] * 5 + [self._narrow, self._empty, self._line, self._pre]
-        makers.append(self._terms)
+        makers += [self._terms, self._keywords, self._keywords, self._loose_items]
         if depth < 3:
-            makers += [self._nest] * 3 + [self._list] * 4 + [self._tables.table] * 4
+            makers += [self._nest] * 3 + [self._list] * 5 + [self._tables.table] * 4
             makers.append(self._tables.boxes)
         return self._chosen.pick(makers)(depth)
 
@@ -122,15 +83,17 @@ class Blocks:
             style.append(chosen.block_declaration())
         if chosen.chance(share * 0.7):
             style.append(chosen.text_declaration())
-        text = f' class="{chosen.pick(CLASSES)}"' if chosen.chance(0.4) else ""
+        classes = chosen.pick([*CLASSES, "one two", "three  one"])
+        text = f' class="{classes}"' if chosen.chance(0.4) else ""
         text += f' id="{chosen.pick(CLASSES)}"' if chosen.chance(0.1) else ""
         return text + (f' style="{"; ".join(style)}"' if style else "")
 
     def _paragraph(self, _):
         chosen, tag = self._chosen, self._chosen.pick(BLOCKS)
-        if chosen.chance(0.05):
+        if chosen.chance(0.08):
             own = [chosen.use("display: inline", "display: inline")]
-            return f"<{tag}{self._attributes(own)}>{self._words.text()} {self._words.word()}</{tag}>"
+            text = self._words.text().replace("<br/></", "</")
+            return f"<{tag}{self._attributes(own)}>{text} {self._words.word()}</{tag}>"
         return f"<{tag}{self._attributes()}>{self._words.text()}</{tag}>"
 
     def _narrow(self, _):
@@ -139,22 +102,47 @@ class Blocks:
         chosen, words = self._chosen, self._words
         style = chosen.pick(["text-align: center", "text-align: justify", "text-align: justify",
                              "overflow-wrap: normal", "word-break: break-all",
-                             "word-break: keep-all"])
-        chosen.use(style)
+                             "word-break: keep-all", "text-indent: -4ch", "text-indent: -2ch",
+                             "text-indent: -3ch"])
+        chosen.use("text-indent below 0" if style.startswith("text-indent") else style)
         texts = {"text-align: center": "<br/>".join(words.even_word() for _ in range(2)),
                  "text-align: justify": " ".join(words.even_word() for _ in range(5))}
         text = texts.get(style) or words.text(4) + words.long_word()
+        if style.startswith("text-indent"):
+            # What reaches farther to the left is not shown over edges.
+            style += "; padding-left: 4ch !important"
         return f'<p style="width: {2 * chosen.number(4, 8)}ch; {style}">{text}</p>'
 
     def _nest(self, depth):
         chosen, words = self._chosen, self._words
         if chosen.chance(0.2):
             block = f"<p{self._attributes()}>{words.words(2)}</p>"
-            return chosen.use("block in inline", f"<div>{words.words(2)}<b>{words.words(1)}"
+            edges = chosen.pick(["", ' style="padding-right: 2ch"', ' style="border-left: solid"'])
+            return chosen.use("block in inline",
+                              f"<div{self._attributes()}>{words.words(2)}<b{edges}>{words.words(1)}"
                               f"{block}{words.text(2)}</b></div>")
         loose = chosen.use("text beside blocks", words.text(3)) if chosen.chance(0.3) else ""
         inner = self.blocks(depth + 1, chosen.number(1, 3))
-        return f"<div{self._attributes()}>{loose}{inner}</div>"
+        return f"<div{self._attributes()}>{loose}{inner}{chosen.pick(['', loose])}</div>"
+
+    def _keywords(self, _):
+        """A block that has of the one around it what a word says."""
+        chosen, words = self._chosen, self._words
+        word = chosen.pick(["inherit", "initial", "unset", "unset"])
+        values = [f"{chosen.number(1, 4)}ch" for _ in range(2)]
+        chosen.use(f"keyword: {word}")
+        name = chosen.pick(KEYWORDS)
+        around, own = {"text-align": ["right", "left"],
+                       "white-space": ["pre", "nowrap"]}.get(name, values)
+        inner = f'<div style="{name}: {own}; {name}: {word}">{words.text(4)}</div>'
+        return f'<div style="{name}: {around}">{inner}</div>'
+
+    def _loose_items(self, _):
+        chosen = self._chosen
+        style = f"display: list-item; list-style-type: {chosen.pick(['decimal', 'circle', 'disc'])}"
+        items = "".join(f'<div style="{style}">{self._words.text(3)}</div>'
+                        for _ in range(chosen.number(1, 3)))
+        return chosen.use("display: list-item", f'<div style="padding-left: 7ch !important">{items}</div>')
 
     def _empty(self, _):
         inner = self._chosen.pick(["", " ", "<p></p>", '<div style="margin: 2lh 0"></div>'])
@@ -170,6 +158,9 @@ class Blocks:
         if chosen.chance(0.4):
             kind = chosen.pick(["pre-wrap", "pre-wrap", "pre-line"])
             style.append(chosen.use(f"white-space: {kind}", f"white-space: {kind}"))
+            if chosen.chance(0.5):
+                side = chosen.pick(["right", "center", "justify"])
+                style.append(f"width: {2 * chosen.number(3, 10)}ch; text-align: {side}")
         spaces = [" ", "   ", "\t", "\t", "\t", "\n", "\n\n", " \n "]
         text = "".join(self._words.word() + chosen.pick(spaces) for _ in range(chosen.number(1, 8)))
         end = chosen.pick(["x", "", ""])
@@ -204,6 +195,8 @@ class Blocks:
         inner = self._words.text(6)
         if chosen.chance(0.2):
             inner = f"<p>{inner}</p>"
+        if chosen.chance(0.1):
+            inner += self._terms(depth)
         if chosen.chance(0.2) and depth < 2:
             inner += self._list(depth + 1)
         return f"<li{value}{self._attributes(share=0.1)}>{inner}</li>"

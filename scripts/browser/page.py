@@ -1,5 +1,7 @@
 """A page and what Chromium shows of it."""
 import dataclasses
+import html.entities
+import re
 
 
 @dataclasses.dataclass
@@ -20,3 +22,13 @@ class Answer:
     between: bool = False
     fits: bool = True
     paint: list = dataclasses.field(default_factory=list)
+
+
+def resolved(source):
+    """A page without references by name, of which XML alone knows five."""
+    return re.sub(r"&(\w+);", resolved_reference, source)
+
+
+def resolved_reference(reference):
+    code = html.entities.name2codepoint.get(reference[1], 0)
+    return chr(code) if code > 127 else reference[0]

@@ -3,16 +3,18 @@ BORDER = "#"
 UNKNOWN = "\ufffd"
 SYMBOLS = {"disc": "\u2022", "circle": "\u25e6", "square": "\u25aa"}
 WIDE = "日本語中文字幅漢水火木金土月山川田石花空雨海、。「」！かなカナ"
+EMOJI = "⭐✅"
 MARKED = [base + mark for base in "aeounxz" for mark in ("\u0301", "\u0308")]
 ASCII = [chr(code) for code in range(0x21, 0x7f) if chr(code) != BORDER]
-CLUSTERS = [*ASCII, "\u201c", "\u201d", "\u2018", "\u2019", *SYMBOLS.values(), *MARKED,
-            *(cluster.upper() for cluster in MARKED), *WIDE]
+GREEK = "αβγδεζηθικλμνξ"
+CLUSTERS = [*ASCII, "\u201c", "\u201d", "\u2018", "\u2019", "\u2013", "\u2014", "\u2026", *SYMBOLS.values(),
+            *MARKED, *(cluster.upper() for cluster in MARKED), "\u00f1", "\u00d1", *GREEK, *WIDE, *EMOJI]
 WHITE = "#ffffff"
 
 
 def cells_of(cluster):
     """The cells that one of the clusters above takes."""
-    return 2 if cluster in WIDE else 1
+    return 2 if cluster in WIDE + EMOJI else 1
 
 
 class Mask:

@@ -4,9 +4,12 @@ import copy
 import re
 import xml.etree.ElementTree as tree
 
+from page import resolved
+
 
 def shrink(source, stays_true):
     """The smallest page found; `stays_true` takes a list of sources and says of each."""
+    source = resolved(source)
     smaller = True
     while smaller:
         smaller = False
@@ -21,10 +24,13 @@ def shrink(source, stays_true):
     return source
 
 
-PARENTS = {"li": ["ol", "ul"], "td": ["tr"], "th": ["tr"], "tr": ["table", "thead", "tfoot"],
-           "caption": ["table"], "thead": ["table"], "tfoot": ["table"]}
-CHILDREN = {"ol": ["li"], "ul": ["li"], "tr": ["td", "th"],
-            "table": ["tr", "caption", "thead", "tfoot"], "thead": ["tr"], "tfoot": ["tr"]}
+GROUPS = ["thead", "tbody", "tfoot"]
+PARENTS = {"li": ["ol", "ul"], "td": ["tr"], "th": ["tr"], "tr": ["table", *GROUPS],
+           "col": ["colgroup", "table"],
+           **{part: ["table"] for part in ["caption", "colgroup", *GROUPS]}}
+CHILDREN = {"ol": ["li"], "ul": ["li"], "tr": ["td", "th"], "colgroup": ["col"],
+            "table": ["tr", "caption", "col", "colgroup", *GROUPS],
+            **{part: ["tr"] for part in GROUPS}}
 
 
 def is_like_generated(source):
@@ -39,6 +45,8 @@ def fits(parent, element):
             and not (parent.tag in CHILDREN and (element.tail or "").strip())
             and not (element.tag in CHILDREN and (element.text or "").strip())
             and (element.tag not in ("ol", "ul") or "padding-left: 7ch" in style)
+            and ("display: list-item" not in style or "padding-left: 7ch" in around)
+            and (element.tag != "img" or "alt" in element.attrib)
             and ("display: table-" not in style or "display: table" in around))
 
 

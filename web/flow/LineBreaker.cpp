@@ -185,8 +185,9 @@ void LineBreaker::takeTrailingBlanks() {
     Place const begin = at;
     bool const isBlank = wraps(style) && texts.isBlank(at);
     if (isBlank) {
-        int cells = item.kind == Kind::tab ? cellsToTabStop(style) : 0;
+        int cells = 0;
         Place const behind = texts.behindBlank(at, cells);
+        if (item.kind == Kind::tab) cells = cellsToTabStop(style);
         if (preserves(style)) {
             add(behind, cells).mayEndLine = !texts.isBlank(behind);
         } else {

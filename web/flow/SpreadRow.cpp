@@ -11,7 +11,12 @@ namespace {
 
 /// Whether a justified line may be spread on both sides of a character: in scripts without blanks
 /// between words, and around emoji, as far as Chromium does so.
-bool isSpreadAround(char32_t c) {
+bool isSpreadAround(Cluster const& cluster) {
+    char32_t const c = cluster.first;
+    // What is wide among symbols is an emoji, but for two brackets.
+    bool const isSymbol = c > 0x232A && c < 0x2C00;
+    bool const isEmoji = isSymbol || c == 0x231A || c == 0x231B;
+    if (isEmoji && cluster.properties.width == EastAsianWidth::wide) return true;
     struct Range {
         char32_t first;
         char32_t last;
@@ -54,7 +59,7 @@ void SpreadRow::addClusters(std::string_view text, Inline const& element) {
     constexpr char32_t noBreakSpace = 0xA0;
     for (std::size_t i = 0; i < text.size();) {
         Cluster const cluster = clusterAt(text, i, element.style->cells.isAmbiguousWide);
-        bool const isSpreadHere = isSpreadAround(cluster.first);
+        bool const isSpreadHere = isSpreadAround(cluster);
         if (isSpreadHere && !isBehindGap) addGap(element.look);
         isBehindGap = false;
         addText(text.substr(i, cluster.end - i), static_cast<int>(cluster.width), false, element);

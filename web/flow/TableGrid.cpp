@@ -10,8 +10,10 @@ namespace {
 
 constexpr int s_widestSpan = 1000;
 
+/// The background of what a cell is in, which shows with the cell, whether that is visible or not.
 Colour onTop(Style const* style, Colour around) {
-    return style == nullptr ? around : backgroundOf(*style, around);
+    bool const isThere = style != nullptr && style->background.kind != Colour::Kind::transparent;
+    return isThere ? style->background : around;
 }
 
 }  // namespace
@@ -91,7 +93,8 @@ TableCell& TableGrid::addCell(Style const& style, int columnSpan, int rowSpan) {
         background = onTop(range->column.style, onTop(range->column.group, background));
     }
     background = onTop(allRows.back().style, onTop(allRows.back().group, background));
-    return allCells.emplace_back(style, backgroundOf(style, background), column, span, rows);
+    background = isVisible(style) ? backgroundOf(style, background) : ground;
+    return allCells.emplace_back(style, background, column, span, rows);
 }
 
 Colour TableGrid::background(TableRow const& row) const {

@@ -149,9 +149,8 @@ void TablePainter::paintLines(int end, bool isGap, Colour const* alike) {
         if (border != nullptr) {
             row.fill(places.left[column], blankOn(grid.background()));
             addLine(row, *border, places.right[column] - places.left[column], ground);
-        } else if (isDrawn(ground)) {
-            row.fill(places.left[column], blankOn(grid.background()));
-            row.fill(places.right[column], blankOn(ground));
+        } else if (isDrawn(grid.background())) {
+            row.fill(places.right[column], blankOn(grid.background()));
         }
     }
 }

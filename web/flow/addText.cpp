@@ -77,8 +77,8 @@ void Paragraph::addGenerated(std::string_view decoded) {
     }
 }
 
-/// Lets a line break between the last word and a text, if it may where both are one text. What
-/// stands before that word has a say, too.
+/// Lets a line break between the last word and a text, if it may where both are one text in the
+/// style of that word, as in Chromium. What stands before the word has a say, too.
 void Paragraph::joinTo(std::string_view decoded) {
     constexpr std::size_t s_context = 16;
     auto last = all.rbegin();
@@ -96,7 +96,7 @@ void Paragraph::joinTo(std::string_view decoded) {
     std::string joint(known.substr(from));
     joint += decoded.substr(0, s_context);
     std::size_t const place = known.size() - from;
-    SegmentReader reader(joint, textOptions(style()));
+    SegmentReader reader(joint, textOptions(*elements[last->element].style));
     Segment segment;
     while (reader.next(segment) && segment.next <= place) {
         bool const isOpportunity = segment.behind == Segment::Behind::opportunity;

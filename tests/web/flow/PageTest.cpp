@@ -113,6 +113,8 @@ TEST(Pages, LetWhiteSpaceThatCountsHang) {
          std::vector<std::pair<char const*, char const*>>{{"abc   de</pre>", "|  abc|   de"},
                                                           {"ab \nc</pre>", "|  ab|    c"},
                                                           {"abc   \nd</pre>", "|abc|    d"},
+                                                          {"ab\t</pre>", "|ab"},
+                                                          {"ab \t</pre>", "|ab"},
                                                           {"\tx</pre>", "||    x"}}) {
         EXPECT_EQ(textOf(markup + text, 5, "|", ""), page) << text;
     }
@@ -125,6 +127,7 @@ TEST(Pages, AlignAndIndentText) {
         {"<p style='text-align: justify'>a b c dddd</p>", 8, "|a   b  c|dddd"},
         {"<p style='text-align: justify'>日本 dddddd</p>", 8, "|日    本|dddddd"},
         {"<p style='text-align: justify'>a&#160;b c dddd</p>", 8, "|a   b  c|dddd"},
+        {"<p style='text-align: justify'>✅b c dddddd</p>", 9, "|✅  b   c|dddddd"},
         {"<p style='text-align: justify; white-space: pre-wrap'>a\tb dddd</p>", 12,
          "|a          b|dddd"},
         {"<p style='text-indent: 2ch'>aa bb</p>", 5, "|  aa|bb"},
@@ -150,6 +153,9 @@ TEST(Pages, NumberListsAndPutMarkersBeside) {
         {"<ol><li value='7'>a</li><li>b</li></ol>", 9, "| 7. a| 8. b"},
         {"<ul><li><p>a</p></li><li><ul><li>b</li></ul></li></ul>", 40, "|  • a||  •   ◦ b"},
         {"<ol style='list-style: inside upper-roman'><li>a</li></ol>", 40, "|    I. a"},
+        {"<div style='padding-left: 3ch; list-style-type: decimal'><li>a</li>"
+         "<section><li>b</li><li>c</li></section><li>d</li></div>",
+         40, "|1. a|1. b|2. c|2. d"},
         // A string is all of the marker, but for what is never printed.
         {"<ul style='list-style-type: \"–\\202e\"'><li>a</li></ul>", 40, "|   –a"},
         {"<ol style='list-style-type: decimal-leading-zero'><li value='-5'>a</li><li "

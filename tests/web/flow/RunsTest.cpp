@@ -46,6 +46,17 @@ TEST(Runs, OfIdeographsEndBeforeWhatJoinsTheirLast) {
     });
 }
 
+TEST(Runs, ThatAnElementPartsBreakAsTheFirstOneSays) {
+    expectPictures({
+        {"<b style='word-break: break-all'>iiq</b>elozwrp", 9, "\niiq\nelozwrp\n"},
+        {"<p style='word-break: break-all'>elozwrp<b style='word-break: normal'>iiq</b>rp</p>", 9,
+         "\nelozwrp\niiqrp\n"},
+        {"日本語<b style='word-break: keep-all'>中文字</b>土水火", 9, "\n日本語\n中文字土\n水火\n"},
+        {"<p style='word-break: keep-all'>日本語<b style='word-break: normal'>中文字</b>土水火</p>",
+         9, "\n日本語中\n文字\n土水火\n"},
+    });
+}
+
 // As the tables of Unicode say.
 TEST(Runs, OfIdeographsAreOfTheseOnly) {
     using enum LineClass;

@@ -167,5 +167,48 @@ abcdefxy
     });
 }
 
+/// Rows of ASCII with `#` for each cell that has a background and `.` for others.
+class BackgroundsOfRows final : public RowSink {
+public:
+    std::string text;
+
+    void take(Row const& row) override {
+        for (RowSpan const& span : row.view().spans) {
+            text.append(row.view().textOf(span).size(), isDrawn(span.look.background) ? '#' : '.');
+        }
+        text += '\n';
+    }
+};
+
+// As in Chromium.
+TEST(TableBackgrounds, OfRowsAndColumnsShowInTheirVisibleCellsOnly) {
+    struct Case {
+        char const* markup;
+        char const* page;
+    };
+    constexpr Case cases[] = {
+        {"<table><tr style='background: red'><td>a</td><td style='visibility: hidden'>b</td>"
+         "<td>c</td></tr></table>",
+         "###...###\n"},
+        {"<table><col style='background: red'/><tr><td style='visibility: hidden'>a</td>"
+         "<td style='background: red'>b</td></tr></table>",
+         "...###\n"},
+        {"<table><tr style='background: red; visibility: hidden'><td>a</td>"
+         "<td style='visibility: visible'>b</td></tr></table>",
+         "...###\n"},
+        {"<table><tr style='background: red'><td>a</td><td>b</td></tr>"
+         "<tr style='background: red'><td>c</td></tr></table>",
+         "######\n###\n"},
+    };
+    for (Case const& each : cases) {
+        BackgroundsOfRows rows;
+        std::vector<Problem> problems;
+        Media media;
+        media.width = 20;
+        EXPECT_TRUE(renderPage(each.markup, {}, media, rows, problems));
+        EXPECT_EQ(rows.text, each.page) << each.markup;
+    }
+}
+
 }  // namespace
 }  // namespace galley::web
