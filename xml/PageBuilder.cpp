@@ -19,7 +19,7 @@ PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& c
       look(style.look),
       handedDown(attributes),
       content(look.handDown(attributes)),
-      box(style.box),
+      box(style),
       stack(box) {
     EdgeSizes const edges = box.edges();
     box.content.width = saturate(std::int64_t{containing.content.width} - edges.left - edges.right);
@@ -125,27 +125,23 @@ void PageBuilder::releaseRows(std::int32_t height) {
 /// Lays out and paints what has been read since the last block.
 void PageBuilder::endItems() {
     if (items.count() == 0) return;
-    bool const areTable = items.areTable();
-    if (areTable ? items.holdsBlock() : !items.breaksByWidths()) {
+    if (items.holdsBlock() || !items.breaksByWidths()) {
         addBoxes();
-    } else if (areTable) {
+    } else if (items.areTable()) {
         addTable();
-    } else if (items.holdsBlock()) {
-        addParagraph(ItemsOfBlocks(items).items());
     } else {
-        addParagraph(items);
+        addParagraph();
     }
     items.clear();
     styles.clear();
 }
 
-void PageBuilder::addParagraph(Items const& paragraph) {
+void PageBuilder::addParagraph() {
     OpenBlock& block = blocks.back();
-    Position const end = {paragraph.count(), 0};
-    LineBreaker breaker(paragraph, block.box.content.width);
-    LinePainter painter(paragraph, LinePainter::Line, &grid);
+    Position const end = {items.count(), 0};
+    LineBreaker breaker(items, block.box.content.width);
+    LinePainter painter(items, LinePainter::Line, grid);
     for (Position from; from < end;) {
-        if (paragraph.holdsBlock()) Walk::run(breaker.layOutBlocks(from));
         Position const lineEnd = breaker.next(from);
         Dimensions line;
         block.stack.place(line);
@@ -161,8 +157,8 @@ void PageBuilder::addParagraph(Items const& paragraph) {
 
 void PageBuilder::addTable() {
     OpenBlock& block = blocks.back();
-    ElementStyle const& style = *items[0].style;
-    Dimensions box = style.box;
+    ElementStyle const& style = items.style(0);
+    Dimensions box = style;
     block.stack.place(box);
     TablePainter painter(items, box, grid);
     grid.enter(box.content.x, box.content.y);
@@ -178,8 +174,8 @@ void PageBuilder::addBoxes() {
     OpenBlock& block = blocks.back();
     BoxesOfItems laidOut(items);
     // For each line of such a paragraph all of its rest may be laid out.
-    std::int64_t const steps = items.areTable() ? 0 : laidOut.words() * laidOut.words();
-    if (!budget.mayHold(steps)) return;
+    bool const isLiteral = !items.areTable() && !items.breaksByWidths();
+    if (isLiteral && !budget.mayHold(laidOut.words() * laidOut.words())) return;
     laidOut.layOut(block.box);
     for (ZRLWPtr<Box> const& box : laidOut.boxes()) {
         block.stack.place(box->dimensions);

@@ -45,7 +45,7 @@ bool BrokenLine::add(Box& box) {
     }
     if (box.type != Box::Inline) return false;
     if (asElement(box.node) != nullptr) {
-        items.open(box);
+        items.open(box.dimensions);
         return true;
     }
     items.addWord(box);

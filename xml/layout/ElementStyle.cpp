@@ -8,10 +8,10 @@ ElementStyle::ElementStyle(ZRLWPtr<DomElement> styled) : element(std::move(style
     DomElement const* const node = element.object;
     flag = flagOfElement(node);
     if (!hasStyle(node)) return;
-    readEdges(node, box);
+    readEdges(node, *this);
     look = Look(node);
-    hasBeneath = box.hasBorder() || look.hasBackground();
-    isStyled = box.hasEdges() || look.hasBackground();
+    hasBeneath = hasBorder() || look.hasBackground();
+    isStyled = hasEdges() || look.hasBackground();
 }
 
 ElementStyle const& ElementStyles::of(ZRLWPtr<DomElement> const& element) {

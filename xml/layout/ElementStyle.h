@@ -11,11 +11,10 @@
 
 namespace CLI::XML {
 
-/// An element with all of its style that a conversion asks for more than once.
-struct ElementStyle {
+/// An element with all of its style that a conversion asks for more than once: the geometry of its
+/// box without content, and what it looks like.
+struct ElementStyle : Dimensions {
     ZRLWPtr<DomElement> element;
-    /// The edges; no content.
-    Dimensions box;
     Look look;
     /// What its name adds to the flags of an inline element.
     std::uint8_t flag = 0;
