@@ -12,7 +12,7 @@
 #include "fuzz/check.h"
 #include "xml/dom/DomText.h"
 #include "xml/dom/buildDomTree.h"
-#include "xml/layout/BlockBox.h"
+#include "xml/layout/boxes.h"
 #include "xml/xml.h"
 
 namespace CLI::XML {

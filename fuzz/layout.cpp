@@ -11,7 +11,7 @@
 #include "xml/dom/DomElement.h"
 #include "xml/dom/DomText.h"
 #include "xml/dom/createDomElement.h"
-#include "xml/layout/BlockBox.h"
+#include "xml/layout/boxes.h"
 
 namespace CLI::XML {
 namespace {

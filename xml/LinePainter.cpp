@@ -32,7 +32,7 @@ void LinePainter::beginLine() {
     levels.assign(1, {});
     kept = open.size();
     for (std::size_t const index : styledBefore) {
-        Dimensions box = *open[index].style;
+        Dimensions box = open[index].style->box();
         place(box);
         beginLevel(index, box, true);
     }
@@ -58,7 +58,7 @@ void LinePainter::place(Dimensions& box) const {
 void LinePainter::openElement(std::uint32_t item, Position end) {
     ElementStyle const& style = items.style(item);
     bool const isEmpty = item + 1 < end.item && items[item + 1].kind == Item::Close;
-    Dimensions box = style;
+    Dimensions box = style.box();
     place(box);
     Canvas::Attributes const handedDown = style.flagged(attributes());
     open.push_back({&style, handedDown, style.look.handDown(handedDown)});

@@ -19,7 +19,7 @@ PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& c
       look(style.look),
       handedDown(attributes),
       content(look.handDown(attributes)),
-      box(style),
+      box(style.box()),
       stack(box) {
     EdgeSizes const edges = box.edges();
     box.content.width = saturate(std::int64_t{containing.content.width} - edges.left - edges.right);
@@ -158,7 +158,7 @@ void PageBuilder::addParagraph() {
 void PageBuilder::addTable() {
     OpenBlock& block = blocks.back();
     ElementStyle const& style = items.style(0);
-    Dimensions box = style;
+    Dimensions box = style.box();
     block.stack.place(box);
     TablePainter painter(items, box, grid);
     grid.enter(box.content.x, box.content.y);

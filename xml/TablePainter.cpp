@@ -1,7 +1,6 @@
 #include "xml/TablePainter.h"
 
 #include "xml/beneath.h"
-#include "xml/layout/columns.h"
 
 namespace CLI::XML {
 
@@ -26,7 +25,7 @@ void TablePainter::measureRow(std::uint32_t row, WidthSums const& sums) {
     RightwardRow cells;
     unsigned index = 0;
     visitChildren(items, row, [&](std::uint32_t opened) {
-        Dimensions cell = items.style(opened);
+        Dimensions cell = items.style(opened).box();
         cells.place(content, cell, UncoveredMargin());
         cell.content.width = saturate(sums.between({opened + 1, 0}, {items[opened].other, 0}));
         cells.add(content, cell);
@@ -40,7 +39,7 @@ bool TablePainter::paintRow(Canvas::Attributes const& attributes) {
         return false;
     }
     ElementStyle const& style = items.style(next);
-    Dimensions box = style;
+    Dimensions box = style.box();
     stack.place(box);
     grid.enter(box.content.x, box.content.y);
     paintCells(next, box, style.look.handDown(attributes));
@@ -55,7 +54,7 @@ void TablePainter::paintCells(std::uint32_t row, Dimensions& box,
     RightwardRow cells;
     unsigned index = 0;
     visitChildren(items, row, [&](std::uint32_t opened) {
-        Dimensions cell = items.style(opened);
+        Dimensions cell = items.style(opened).box();
         Dimensions const& column = columns[index++];
         RightwardRow::placeAt(cell, column.content.x);
         cell.content.width = column.content.width;

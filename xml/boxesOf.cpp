@@ -6,8 +6,7 @@
 #include "xml/beneath.h"
 #include "xml/dom/DomText.h"
 #include "xml/dom/readDocument.h"
-#include "xml/layout/BlockBox.h"
-#include "xml/layout/InlineBox.h"
+#include "xml/layout/boxes.h"
 
 namespace CLI::XML {
 

@@ -2,7 +2,7 @@
 
 #include "tests/support/document.h"
 #include "xml/dom/DomText.h"
-#include "xml/layout/TableBox.h"
+#include "xml/layout/boxes.h"
 
 namespace CLI::XML {
 

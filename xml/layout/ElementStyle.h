@@ -11,6 +11,10 @@
 
 namespace CLI::XML {
 
+/// Reads padding, border and margin from the style of a node: of each side its own property, else
+/// the one for all sides, else 0.
+void readEdges(DomNode const* node, Dimensions& box);
+
 /// An element with all of its style that a conversion asks for more than once: the geometry of its
 /// box without content, and what it looks like.
 struct ElementStyle : Dimensions {
@@ -25,6 +29,7 @@ struct ElementStyle : Dimensions {
 
     explicit ElementStyle(ZRLWPtr<DomElement> styled);
 
+    Dimensions const& box() const { return *this; }
     DomNode::Display display() const { return element->display; }
     /// The attributes with what the name of an inline element adds.
     Canvas::Attributes flagged(Canvas::Attributes attributes) const {

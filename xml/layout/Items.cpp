@@ -12,7 +12,7 @@ void Items::open(ElementStyle const& style) {
     DomNode::Display const display = style.display();
     hasBlock = hasBlock || display == DomNode::Block;
     hasTable = hasTable || (display == DomNode::Table && list.count > 0);
-    open(static_cast<Dimensions const&>(style));
+    open(style.box());
 }
 
 void Items::open(Dimensions const& edges) {

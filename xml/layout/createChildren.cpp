@@ -4,7 +4,7 @@
 
 #include "base/Walk.h"
 #include "xml/dom/DomElement.h"
-#include "xml/layout/TableBox.h"
+#include "xml/layout/boxes.h"
 #include "xml/layout/makeChild.h"
 
 namespace CLI::XML {

@@ -1,5 +1,6 @@
 // How a line, or an inline element on it, is split where it exceeds a width.
 
+#include <utility>
 #include <vector>
 
 #include "base/saturate.h"
@@ -39,20 +40,14 @@ std::vector<Level> findBreak(Box& outermost, std::int64_t room) {
     return path;
 }
 
-/// Moves what stands behind the break into a clone of the box of `level`, behind `part`, which was
-/// split off the child that does not fit. Where that was not split, it moves itself, unless it is
-/// the first: it stays although it does not fit, so that every break moves something on and
-/// breaking ends.
+/// Splits the box of `level` off behind `part`, which was split off the child that does not fit.
+/// Where that was not split, it moves itself, unless it is the first: it stays although it does not
+/// fit, so that every break moves something on and breaking ends.
 ZRLWPtr<Box> splitAt(Level const& level, ZRLWPtr<Box> part) {
-    Box& box = *level.box;
     bool const staysInPart = part || level.unfitting == 0;
     unsigned const firstMoved = staysInPart ? level.unfitting + 1 : level.unfitting;
-    if (!part && firstMoved >= box.children.count) return {};
-    ZRLWPtr<Box> rest = box.clone();
-    if (part) rest->children.add(std::move(part));
-    box.children.moveTailTo(firstMoved, rest->children);
-    box.isSettled = false;
-    return rest;
+    if (!part && firstMoved >= level.box->children.count) return {};
+    return splitOff(*level.box, firstMoved, std::move(part));
 }
 
 ZRLWPtr<Box> splitBox(Box& box, int width) {
@@ -68,6 +63,15 @@ ZRLWPtr<Box> splitBox(Box& box, int width) {
 
 }  // namespace
 
+ZRLWPtr<Box> splitOff(Box& box, unsigned first, ZRLWPtr<Box> part) {
+    ZRLWPtr<Box> rest = box.clone();
+    if (part) rest->children.add(std::move(part));
+    box.children.moveTailTo(first, rest->children);
+    box.isSettled = false;
+    return rest;
+}
+
+ZRLWPtr<Box> Box::split(int) { return {}; }
 ZRLWPtr<Box> LineBox::split(int width) { return splitBox(*this, width); }
 ZRLWPtr<Box> InlineBox::split(int width) { return splitBox(*this, width); }
 
