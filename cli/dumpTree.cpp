@@ -6,7 +6,6 @@
 #include "galley/webPage.h"
 #include "xml/dom/buildDomTree.h"
 #include "xml/layout/boxes.h"
-#include "xml/pageOfWidth.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include "fuzz/check.h"
 #include "xml/dom/DomElement.h"
 #include "xml/dom/DomText.h"
-#include "xml/dom/createDomElement.h"
+#include "xml/dom/vocabulary.h"
 #include "xml/layout/boxes.h"
 
 namespace CLI::XML {

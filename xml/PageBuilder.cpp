@@ -8,8 +8,7 @@
 #include "xml/beneath.h"
 #include "xml/boxesOf.h"
 #include "xml/layout/LineBreaker.h"
-#include "xml/layout/makeChild.h"
-#include "xml/pageOfWidth.h"
+#include "xml/layout/checkChild.h"
 
 namespace CLI::XML {
 

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "xml/border.h"
+#include "xml/beneath.h"
 #include "xml/dom/DomText.h"
 #include "xml/layout/layOut.h"
 #include "xml/render/Look.h"

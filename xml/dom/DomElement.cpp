@@ -2,7 +2,7 @@
 
 #include "base/releaseTree.h"
 #include "xml/css/properties.h"
-#include "xml/dom/displayKeywords.h"
+#include "xml/dom/vocabulary.h"
 
 namespace CLI::XML {
 

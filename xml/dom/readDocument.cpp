@@ -11,8 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "xml/dom/createDomElement.h"
-#include "xml/dom/replaceEntities.h"
+#include "xml/dom/vocabulary.h"
 
 namespace CLI::XML {
 

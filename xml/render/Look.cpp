@@ -6,7 +6,7 @@
 
 #include "xml/css/getNodeStyle.h"
 #include "xml/dom/DomElement.h"
-#include "xml/render/fontStyles.h"
+#include "xml/render/keywords.h"
 
 namespace CLI::XML {
 
