@@ -10,8 +10,8 @@
 
 #include "fuzz/canvases.h"
 #include "fuzz/check.h"
-#include "xml/dom/DomText.h"
 #include "xml/dom/buildDomTree.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/boxes.h"
 #include "xml/xml.h"
 

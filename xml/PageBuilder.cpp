@@ -1,6 +1,5 @@
 #include "xml/PageBuilder.h"
 
-#include <new>
 #include <utility>
 
 #include "base/saturate.h"
@@ -83,7 +82,7 @@ void PageBuilder::addWord(std::string_view word) {
 XCode PageBuilder::finish(String& out) {
     if (!refusal) return refusal;
     endItems();
-    if (!grid.moveRowsTo(text) || !isTextComplete) throw std::bad_alloc();
+    grid.moveRowsTo(text);
     out = std::move(text);
     return refusal;
 }
@@ -117,8 +116,7 @@ void PageBuilder::take(Dimensions const& box) {
 
 /// Nothing more is painted above row `height` of the innermost frame.
 void PageBuilder::releaseRows(std::int32_t height) {
-    if (!mayRelease) return;
-    isTextComplete = grid.moveRowsTo(text, grid.originRow() + height) && isTextComplete;
+    if (mayRelease) grid.moveRowsTo(text, grid.originRow() + height);
 }
 
 /// Lays out and paints what has been read since the last block.

@@ -4,7 +4,7 @@
 
 #include "base/Walk.h"
 #include "xml/beneath.h"
-#include "xml/dom/DomText.h"
+#include "xml/dom/nodes.h"
 #include "xml/dom/readDocument.h"
 #include "xml/layout/boxes.h"
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "xml/beneath.h"
-#include "xml/dom/DomText.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/layOut.h"
 #include "xml/render/Look.h"
 

@@ -6,8 +6,7 @@
 #include <string>
 
 #include "base/append.h"
-#include "xml/dom/DomElement.h"
-#include "xml/dom/DomText.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/layOut.h"
 
 namespace CLI::XML {

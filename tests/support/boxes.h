@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/support/document.h"
-#include "xml/dom/DomText.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/boxes.h"
 
 namespace CLI::XML {

@@ -4,8 +4,7 @@
 
 #include "base/XCode.h"
 #include "xml/css/StyleNode.h"
-#include "xml/dom/DomElement.h"
-#include "xml/dom/DomText.h"
+#include "xml/dom/nodes.h"
 #include "xml/parser/PullParser.h"
 
 namespace CLI::XML {

@@ -5,7 +5,7 @@
 #include "../../base/String.h"
 #include "../../base/export.h"
 #include "../parser/references.h"
-#include "DomElement.h"
+#include "nodes.h"
 
 /// The words of the language, compared exactly.
 namespace CLI::XML {

@@ -4,7 +4,7 @@
 
 #include "base/releaseTree.h"
 #include "xml/css/getNodeStyle.h"
-#include "xml/dom/DomElement.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/ElementStyle.h"
 #include "xml/layout/boxes.h"
 

@@ -34,11 +34,10 @@ ElementStyle::ElementStyle(ZRLWPtr<DomElement> styled) : element(std::move(style
 
 ElementStyle const& ElementStyles::of(ZRLWPtr<DomElement> const& element) {
     if (element->attributes.count > 0) return single.emplace_back(element);
-    for (auto const& [node, style] : known) {
-        if (node == element.object) return *style;
+    for (ElementStyle const& style : shared) {
+        if (style.element.object == element.object) return style;
     }
-    known.emplace_back(element.object, &shared.emplace_back(element));
-    return *known.back().second;
+    return shared.emplace_back(element);
 }
 
 }  // namespace CLI::XML

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <deque>
-#include <utility>
-#include <vector>
 
 #include "base/ZRLWPtr.h"
-#include "xml/dom/DomElement.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/Dimensions.h"
 #include "xml/render/Look.h"
 
@@ -47,7 +45,6 @@ public:
     void clear() { single.clear(); }
 
 private:
-    std::vector<std::pair<DomElement const*, ElementStyle const*>> known;
     std::deque<ElementStyle> shared;
     std::deque<ElementStyle> single;
 };

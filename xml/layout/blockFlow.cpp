@@ -3,7 +3,7 @@
 #include <utility>
 #include <vector>
 
-#include "xml/dom/DomElement.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/LineBreaker.h"
 #include "xml/layout/layOut.h"
 #include "xml/layout/placement.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/XCode.h"
-#include "xml/dom/DomElement.h"
+#include "xml/dom/nodes.h"
 
 namespace CLI::XML {
 

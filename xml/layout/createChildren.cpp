@@ -3,7 +3,7 @@
 #include <iterator>
 
 #include "base/Walk.h"
-#include "xml/dom/DomElement.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/boxes.h"
 #include "xml/layout/checkChild.h"
 

@@ -6,7 +6,7 @@
 #include <iterator>
 #include <typeinfo>
 
-#include "xml/dom/DomText.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/placement.h"
 
 namespace CLI::XML {

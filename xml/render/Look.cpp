@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "xml/css/getNodeStyle.h"
-#include "xml/dom/DomElement.h"
+#include "xml/dom/nodes.h"
 #include "xml/render/keywords.h"
 
 namespace CLI::XML {
