@@ -7,6 +7,7 @@
 #include "xml/beneath.h"
 #include "xml/boxesOf.h"
 #include "xml/layout/LineBreaker.h"
+#include "xml/layout/boxes.h"
 #include "xml/layout/checkChild.h"
 
 namespace CLI::XML {
@@ -169,12 +170,16 @@ void PageBuilder::addTable() {
 
 void PageBuilder::addBoxes() {
     OpenBlock& block = blocks.back();
-    BoxesOfItems laidOut(items);
+    std::int64_t words = 0;
+    ZRLWPtr<DomElement> const root = treeOf(items, words);
     // For each line of such a paragraph all of its rest may be laid out.
     bool const isLiteral = !items.areTable() && !items.breaksByWidths();
-    if (isLiteral && !budget.mayHold(laidOut.words() * laidOut.words())) return;
-    laidOut.layOut(block.box);
-    for (ZRLWPtr<Box> const& box : laidOut.boxes()) {
+    if (isLiteral && !budget.mayHold(words * words)) return;
+    BlockBox around(root.object);
+    // What a parent would refuse has no items.
+    around.createChildren();
+    around.layout(block.box);
+    for (ZRLWPtr<Box> const& box : around.children) {
         block.stack.place(box->dimensions);
         paintBox(grid, *box, block.content);
         take(box->dimensions);

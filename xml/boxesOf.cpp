@@ -46,14 +46,8 @@ Walk paintTree(Grid& grid, Box const& box, Canvas::Attributes attributes) {
 
 }  // namespace
 
-BoxesOfItems::BoxesOfItems(Items const& items)
-    : root(createRootElement()), block(ZR::MovePtr<Box>(new BlockBox(root.object))) {
-    addElements(items);
-    // What a parent refuses has no items.
-    block->createChildren();
-}
-
-void BoxesOfItems::addElements(Items const& items) {
+ZRLWPtr<DomElement> treeOf(Items const& items, std::int64_t& words) {
+    ZRLWPtr<DomElement> root = createRootElement();
     std::vector<DomElement*> open = {root.object};
     for (std::uint32_t i = 0; i < items.count(); ++i) {
         Item const& item = items[i];
@@ -65,16 +59,17 @@ void BoxesOfItems::addElements(Items const& items) {
             open.push_back(element.object);
         } else {
             std::string_view text = items.text(item);
-            // Of an empty word there is a box, too.
+            // Of an empty word there is a text, too.
             do {
                 std::string_view const word =
                     item.kind == Item::Words ? Items::firstWord(text) : text;
                 open.back()->children.add(makeText(word));
                 text.remove_prefix(word.length());
-                ++wordCount;
+                ++words;
             } while (!text.empty());
         }
     }
+    return root;
 }
 
 void paintBox(Grid& grid, Box& box, Canvas::Attributes const& attributes) {

@@ -44,21 +44,13 @@ Position LineBreaker::next(Position from) {
     for (;;) {
         Position const limit = limits.back();
         Position const end = breakIn(from, limit);
-        if (end == limit && limits.size() > 1) limits.pop_back();
-        if (end == limit || !holdsOpen(from, end)) {
+        if (end == limit) {
+            if (limits.size() > 1) limits.pop_back();
             accept(from, end);
             return end;
         }
         limits.push_back(end);
     }
-}
-
-/// Whether an element opens in a part: only then there may be another break in it.
-bool LineBreaker::holdsOpen(Position from, Position end) const {
-    for (std::uint32_t i = from.item; i < end.item; ++i) {
-        if (items[i].kind == Item::Open) return true;
-    }
-    return false;
 }
 
 void LineBreaker::accept(Position from, Position end) {

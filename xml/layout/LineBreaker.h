@@ -59,7 +59,6 @@ private:
     Position cut(Unfitting part, Position limit);
     void accept(Position from, Position end);
     bool hasLevel(Item const& goingOn) const;
-    bool holdsOpen(Position from, Position end) const;
     void take(std::int64_t columns);
     bool opensHere() const { return levels.back().open != s_goesOn; }
 
