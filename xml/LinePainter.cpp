@@ -1,6 +1,7 @@
 #include "xml/LinePainter.h"
 
 #include "xml/beneath.h"
+#include "xml/dom/readDocument.h"
 
 namespace CLI::XML {
 
@@ -97,7 +98,7 @@ void LinePainter::closeElement() {
 /// Only the first word keeps the margin before it, which the width does not count.
 void LinePainter::addWords(std::string_view words) {
     if (levels.back().row.previousMargin != 0) {
-        std::string_view const first = Items::firstWord(words);
+        std::string_view const first = firstWord(words);
         addWord(first);
         words.remove_prefix(first.length());
     }

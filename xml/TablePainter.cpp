@@ -17,19 +17,17 @@ void visitChildren(Items const& items, std::uint32_t around, Visit const& visit)
 TablePainter::TablePainter(Items const& table, Dimensions& box, Grid& page)
     : items(table), grid(page), painter(table, LinePainter::Inline, page), stack(box) {
     WidthSums const sums(items);
-    visitChildren(items, 0, [&](std::uint32_t row) { measureRow(row, sums); });
-}
-
-void TablePainter::measureRow(std::uint32_t row, WidthSums const& sums) {
-    Rect content;
-    RightwardRow cells;
-    unsigned index = 0;
-    visitChildren(items, row, [&](std::uint32_t opened) {
-        Dimensions cell = items.style(opened).box();
-        cells.place(content, cell, UncoveredMargin());
-        cell.content.width = saturate(sums.between({opened + 1, 0}, {items[opened].other, 0}));
-        cells.add(content, cell);
-        raiseColumn(columns, index++, cell);
+    visitChildren(items, 0, [&](std::uint32_t row) {
+        Rect content;
+        RightwardRow cells;
+        unsigned index = 0;
+        visitChildren(items, row, [&](std::uint32_t opened) {
+            Dimensions cell = items.style(opened).box();
+            cells.place(content, cell, UncoveredMargin());
+            cell.content.width = saturate(sums.between({opened + 1, 0}, {items[opened].other, 0}));
+            cells.add(content, cell);
+            raiseColumn(columns, index++, cell);
+        });
     });
 }
 

@@ -21,7 +21,6 @@ public:
     bool paintRow(Canvas::Attributes const& attributes);
 
 private:
-    void measureRow(std::uint32_t row, WidthSums const& sums);
     void paintCells(std::uint32_t row, Dimensions& box, Canvas::Attributes const& attributes);
     void paintCell(std::uint32_t opened, Dimensions& box, Canvas::Attributes attributes);
 

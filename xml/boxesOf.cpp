@@ -61,8 +61,7 @@ ZRLWPtr<DomElement> treeOf(Items const& items, std::int64_t& words) {
             std::string_view text = items.text(item);
             // Of an empty word there is a text, too.
             do {
-                std::string_view const word =
-                    item.kind == Item::Words ? Items::firstWord(text) : text;
+                std::string_view const word = item.kind == Item::Words ? firstWord(text) : text;
                 open.back()->children.add(makeText(word));
                 text.remove_prefix(word.length());
                 ++words;

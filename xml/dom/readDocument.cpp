@@ -8,7 +8,6 @@
 #include <cstring>
 #include <map>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "xml/dom/vocabulary.h"

@@ -4,7 +4,6 @@
 
 #include "base/append.h"
 #include "xml/layout/layOut.h"
-#include "xml/layout/placement.h"
 
 namespace CLI::XML {
 
@@ -44,15 +43,7 @@ void Items::addWords(std::string_view words) {
     }
 }
 
-void Items::addWord(std::string_view word) {
-    // No line is broken behind a space within a word.
-    bool const isPlain = !word.empty() && word.find(' ') >= word.length() - 1;
-    if (isPlain) {
-        addWords(word);
-    } else {
-        addText(word, Item::Word);
-    }
-}
+void Items::addWord(std::string_view word) { addText(word, Item::Word); }
 
 void Items::addText(std::string_view added, Item::Kind kind) {
     Item item = {};
@@ -87,7 +78,9 @@ void Items::clear() {
 
 bool Items::breaksByWidths() const {
     if (hasBlock) return !hasNegativeSide && !hasTable;
-    return !hasNegativeSide || isModerate(reach());
+    // Far from the limits, where sums end.
+    constexpr std::int64_t s_moderate = 1 << 30;
+    return !hasNegativeSide || reach() < s_moderate;
 }
 
 /// Of all words and edges, whatever their signs, in columns.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <compare>
 #include <cstdint>
 #include <string_view>
@@ -78,10 +77,6 @@ public:
     /// Of an element that opens or closes, as it was read.
     ElementStyle const& style(std::uint32_t i) const {
         return static_cast<ElementStyle const&>(*list.data[i].edges);
-    }
-    /// The first of words, at least one, with its space.
-    static std::string_view firstWord(std::string_view words) {
-        return words.substr(0, std::min(words.find(' '), words.length() - 1) + 1);
     }
     /// How many elements are open.
     std::size_t depth() const { return openItems.size(); }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "xml/dom/readDocument.h"
 #include "xml/layout/layOut.h"
 
 namespace CLI::XML {
@@ -89,7 +90,7 @@ Position LineBreaker::breakIn(Position from, Position limit) {
             if (limit.item == at.item) words = words.substr(0, limit.offset);
             at = takeFittingWords(at, words);
             words.remove_prefix(at.offset);
-            std::size_t const length = Items::firstWord(words).length();
+            std::size_t const length = firstWord(words).length();
             if (length < words.length()) {
                 behind = {at.item, at.offset + static_cast<std::uint32_t>(length)};
             }

@@ -8,12 +8,6 @@
 
 namespace CLI::XML {
 
-/// Whether a width is far from the limits, where sums end.
-inline bool isModerate(std::int64_t width) {
-    constexpr std::int64_t s_moderate = 1 << 30;
-    return width > -s_moderate && width < s_moderate;
-}
-
 /// The gap before a child: as much of its margin as the margin before it does not cover.
 struct UncoveredMargin {
     std::int64_t operator()(std::int32_t before, std::int32_t margin) const {
