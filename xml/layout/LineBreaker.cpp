@@ -66,7 +66,7 @@ void LineBreaker::accept(Position from, Position end) {
     }
 }
 
-/// Whether an element that goes on may have a level. Without edges, and where no edge takes
+/// Whether an element may have a level where it goes on. Without edges, and where no edge takes
 /// anything off, what is in it fits if it does: it need not be known to be too wide before.
 bool LineBreaker::hasLevel(Item const& item) const {
     return items.mayShrink() || item.edges->hasEdges();

@@ -58,7 +58,7 @@ private:
     Position cutAtLevel(Position end, Position limit);
     Position cut(Unfitting part, Position limit);
     void accept(Position from, Position end);
-    bool hasLevel(Item const& goingOn) const;
+    bool hasLevel(Item const& item) const;
     void take(std::int64_t columns);
     bool opensHere() const { return levels.back().open != s_goesOn; }
 
