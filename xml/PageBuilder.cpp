@@ -1,6 +1,5 @@
 #include "xml/PageBuilder.h"
 
-#include <new>
 #include <utility>
 
 #include "base/saturate.h"
@@ -8,8 +7,8 @@
 #include "xml/beneath.h"
 #include "xml/boxesOf.h"
 #include "xml/layout/LineBreaker.h"
-#include "xml/layout/makeChild.h"
-#include "xml/pageOfWidth.h"
+#include "xml/layout/boxes.h"
+#include "xml/layout/checkChild.h"
 
 namespace CLI::XML {
 
@@ -19,7 +18,7 @@ PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& c
       look(style.look),
       handedDown(attributes),
       content(look.handDown(attributes)),
-      box(style.box),
+      box(style.box()),
       stack(box) {
     EdgeSizes const edges = box.edges();
     box.content.width = saturate(std::int64_t{containing.content.width} - edges.left - edges.right);
@@ -84,7 +83,7 @@ void PageBuilder::addWord(std::string_view word) {
 XCode PageBuilder::finish(String& out) {
     if (!refusal) return refusal;
     endItems();
-    if (!grid.moveRowsTo(text) || !isTextComplete) throw std::bad_alloc();
+    grid.moveRowsTo(text);
     out = std::move(text);
     return refusal;
 }
@@ -118,34 +117,29 @@ void PageBuilder::take(Dimensions const& box) {
 
 /// Nothing more is painted above row `height` of the innermost frame.
 void PageBuilder::releaseRows(std::int32_t height) {
-    if (!mayRelease) return;
-    isTextComplete = grid.moveRowsTo(text, grid.originRow() + height) && isTextComplete;
+    if (mayRelease) grid.moveRowsTo(text, grid.originRow() + height);
 }
 
 /// Lays out and paints what has been read since the last block.
 void PageBuilder::endItems() {
     if (items.count() == 0) return;
-    bool const areTable = items.areTable();
-    if (areTable ? items.holdsBlock() : !items.breaksByWidths()) {
+    if (items.holdsBlock() || !items.breaksByWidths()) {
         addBoxes();
-    } else if (areTable) {
+    } else if (items.areTable()) {
         addTable();
-    } else if (items.holdsBlock()) {
-        addParagraph(ItemsOfBlocks(items).items());
     } else {
-        addParagraph(items);
+        addParagraph();
     }
     items.clear();
     styles.clear();
 }
 
-void PageBuilder::addParagraph(Items const& paragraph) {
+void PageBuilder::addParagraph() {
     OpenBlock& block = blocks.back();
-    Position const end = {paragraph.count(), 0};
-    LineBreaker breaker(paragraph, block.box.content.width);
-    LinePainter painter(paragraph, LinePainter::Line, &grid);
+    Position const end = {items.count(), 0};
+    LineBreaker breaker(items, block.box.content.width);
+    LinePainter painter(items, LinePainter::Line, grid);
     for (Position from; from < end;) {
-        if (paragraph.holdsBlock()) Walk::run(breaker.layOutBlocks(from));
         Position const lineEnd = breaker.next(from);
         Dimensions line;
         block.stack.place(line);
@@ -161,8 +155,8 @@ void PageBuilder::addParagraph(Items const& paragraph) {
 
 void PageBuilder::addTable() {
     OpenBlock& block = blocks.back();
-    ElementStyle const& style = *items[0].style;
-    Dimensions box = style.box;
+    ElementStyle const& style = items.style(0);
+    Dimensions box = style.box();
     block.stack.place(box);
     TablePainter painter(items, box, grid);
     grid.enter(box.content.x, box.content.y);
@@ -176,12 +170,16 @@ void PageBuilder::addTable() {
 
 void PageBuilder::addBoxes() {
     OpenBlock& block = blocks.back();
-    BoxesOfItems laidOut(items);
+    std::int64_t words = 0;
+    ZRLWPtr<DomElement> const root = treeOf(items, words);
     // For each line of such a paragraph all of its rest may be laid out.
-    std::int64_t const steps = items.areTable() ? 0 : laidOut.words() * laidOut.words();
-    if (!budget.mayHold(steps)) return;
-    laidOut.layOut(block.box);
-    for (ZRLWPtr<Box> const& box : laidOut.boxes()) {
+    bool const isLiteral = !items.areTable() && !items.breaksByWidths();
+    if (isLiteral && !budget.mayHold(words * words)) return;
+    BlockBox around(root.object);
+    // What a parent would refuse has no items.
+    around.createChildren();
+    around.layout(block.box);
+    for (ZRLWPtr<Box> const& box : around.children) {
         block.stack.place(box->dimensions);
         paintBox(grid, *box, block.content);
         take(box->dimensions);

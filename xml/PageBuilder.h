@@ -53,7 +53,7 @@ private:
     void openBlock(ZRLWPtr<DomElement> const& element);
     void closeBlock();
     void endItems();
-    void addParagraph(Items const& paragraph);
+    void addParagraph();
     void addTable();
     void addBoxes();
     void take(Dimensions const& box);
@@ -63,8 +63,6 @@ private:
     Grid grid;
     /// Rows of the page that nothing can change any more.
     String text;
-    /// There was memory for all of it.
-    bool isTextComplete = true;
     bool mayRelease;
     /// Innermost last.
     std::deque<OpenBlock> blocks;
