@@ -105,7 +105,8 @@ PageBuilder::Role PageBuilder::openElement(Element const& element, Style const& 
             return openInline(element, style);
         case Display::table:
             if (isInTable()) openAnonymousCell();
-            openTable(style);
+            openTable(style, element.name == "table" ? Table::Sizing::borderBox
+                                                     : Table::Sizing::contentBox);
             return Role::table;
         case Display::block:
         case Display::listItem:

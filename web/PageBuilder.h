@@ -93,7 +93,7 @@ private:
     bool isBetweenParts() const;
     void closeElement();
     void endRole(Role role);
-    void openTable(Style const& style);
+    void openTable(Style const& style, Table::Sizing sizing);
     void closeTable();
     void openImpliedTable();
     void closeImpliedTable();

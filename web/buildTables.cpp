@@ -82,15 +82,15 @@ void PageBuilder::closeAnonymousCell() {
     hasAnonymousCell.back() = false;
 }
 
-void PageBuilder::openTable(Style const& style) {
+void PageBuilder::openTable(Style const& style, Table::Sizing sizing) {
     endParagraph();
-    tables.push_back(std::make_unique<Table>(style, frame().background));
+    tables.push_back(std::make_unique<Table>(style, frame().background, sizing));
     hasAnonymousCell.push_back(false);
 }
 
 void PageBuilder::openImpliedTable() {
     Style const& style = anonymousStyles.emplace_back(computeStyle(*open.back().style, {}));
-    openTable(style);
+    openTable(style, Table::Sizing::contentBox);
     open.push_back({Role::impliedTable, &style});
 }
 

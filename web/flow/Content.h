@@ -38,6 +38,8 @@ public:
     void add(Paragraph const& paragraph) override;
     void add(std::unique_ptr<Table> table) override;
 
+    /// Whether nothing has been added, not even an empty block.
+    bool isEmpty() const { return first.block == nullptr && others == nullptr; }
     /// Columns that lines in it may begin before what is around them, by an indent below 0.
     int outdent() const { return mostOutdent; }
     /// If there is no more than one plain text, that. As long as the content stays.

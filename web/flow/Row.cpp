@@ -65,8 +65,9 @@ void Row::add(RowView const& other) {
     cells += other.width;
 }
 
-void Row::draw(int column, RowView const& other, Colour ground, bool isAmbiguousWide) {
-    if (column >= cells) {
+void Row::draw(int column, RowView const& other, Colour ground, Colour beyond,
+               bool isAmbiguousWide) {
+    if (column >= cells && ground == beyond) {
         if (other.width == 0) return;
         fill(column, blankOn(ground));
         add(other);
@@ -76,7 +77,7 @@ void Row::draw(int column, RowView const& other, Colour ground, bool isAmbiguous
     int at = column;
     for (Cell cell : cellsOf(other, isAmbiguousWide)) {
         drawn.resize(std::max(drawn.size(), static_cast<std::size_t>(at) + 1),
-                     Cell{" ", blankOn(ground)});
+                     Cell{" ", blankOn(beyond)});
         Cell& below = drawn[static_cast<std::size_t>(at++)];
         bool const isThrough = cell.look.background == ground;
         if (isThrough && !covers(cell.text, below.text)) continue;

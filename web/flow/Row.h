@@ -55,9 +55,10 @@ public:
     void add(RowView const& other);
     /// Puts another row over what is there, from a column on, as far as it is not blank, and
     /// borders not over text: what stands on `ground` has no background of its own. A wide
-    /// character of which half is covered becomes a blank. Cells on the way to that column are
-    /// blanks on the ground.
-    void draw(int column, RowView const& other, Colour ground, bool isAmbiguousWide = false);
+    /// character of which half is covered becomes a blank. Behind what is there are blanks on
+    /// `beyond`.
+    void draw(int column, RowView const& other, Colour ground, Colour beyond,
+              bool isAmbiguousWide = false);
     /// Adds what stands from a column of another row to one. Halves of wide characters are blanks.
     void addPart(RowView const& other, int begin, int end, bool isAmbiguousWide = false);
     void clear();

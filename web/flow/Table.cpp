@@ -10,9 +10,10 @@
 
 namespace galley::web {
 
-Table::Table(Style const& tableStyle, Colour around)
+Table::Table(Style const& tableStyle, Colour around, Sizing sized)
     : ownStyle(tableStyle),
       ground(around),
+      sizing(sized),
       grid(tableStyle.visibility == Visibility::visible ? backgroundOf(tableStyle, around)
                                                         : around) {}
 
@@ -95,19 +96,25 @@ int Table::captionWidth(Wrapping wrapping) {
 Widths Table::outerWidths(Wrapping wrapping) {
     complete();
     Widths const content = innerWidths(wrapping, captionWidth(wrapping), 0);
-    Widths widths = withLimits(content, ownStyle);
+    int const edges = sizedEdges(0);
+    Widths const widths = withLimits({content.least - edges, content.most - edges}, ownStyle);
     int const margins = across(ownStyle.margin.left, 0) + across(ownStyle.margin.right, 0);
-    return {std::max(widths.least, content.least) + margins,
-            std::max(widths.most, content.least) + margins};
+    return {std::max(widths.least + edges, content.least) + margins,
+            std::max(widths.most + edges, content.least) + margins};
 }
 
-/// The width that the style asks for is that of the border box.
+/// Columns that come to those that the style asks for.
+int Table::sizedEdges(int container) const {
+    return sizing == Sizing::borderBox ? 0 : frame->ownEdges(container);
+}
+
 int Table::usedWidth(Widths const& content, int container) const {
+    int const edges = sizedEdges(container);
     int const margins =
         across(ownStyle.margin.left, container) + across(ownStyle.margin.right, container);
     int const wanted = isAutomatic(ownStyle.width) ? std::min(content.most, container - margins)
-                                                   : across(ownStyle.width, container);
-    return std::max(limitWidth(wanted, ownStyle, container), content.least);
+                                                   : across(ownStyle.width, container) + edges;
+    return std::max(limitWidth(wanted - edges, ownStyle, container) + edges, content.least);
 }
 
 void Table::layOut(int columns, Wrapping around, TableSink& rows, PageBudget& budget) {
@@ -134,7 +141,8 @@ void Table::layOut(int columns, Wrapping around, TableSink& rows, PageBudget& bu
     std::vector<int> const shared =
         frame->toCells(shareWidth(needs(wrapping), frame->partsFor(width, columns)));
     layOutCaptions(CaptionSide::top, width, around, rows, budget);
-    TablePainter(grid, *frame, ownStyle, rows, budget).paint(width, shared, columns, wrapping);
+    TablePainter(grid, *frame, ownStyle, ground, rows, budget)
+        .paint(width, shared, columns, wrapping);
     layOutCaptions(CaptionSide::bottom, width, around, rows, budget);
 }
 

@@ -24,8 +24,11 @@ public:
 /// A table with all that is in it, which is measured while it is put together. Styles outlive it.
 class Table {
 public:
+    /// What the widths are of that its style sets: of a `table`, and of what is only displayed so.
+    enum class Sizing { borderBox, contentBox };
+
     /// On the background of what is around it.
-    Table(Style const& tableStyle, Colour around);
+    Table(Style const& tableStyle, Colour around, Sizing sized);
 
     Style const& style() const { return ownStyle; }
 
@@ -71,12 +74,14 @@ private:
     std::vector<ColumnNeed>& needs(Wrapping wrapping);
     Widths innerWidths(Wrapping wrapping, int captionWidth, int container);
     int captionWidth(Wrapping wrapping);
+    int sizedEdges(int container) const;
     int usedWidth(Widths const& content, int container) const;
     void layOutCaptions(CaptionSide side, int width, Wrapping wrapping, RowSink& rows,
                         PageBudget& budget);
 
     Style const& ownStyle;
     Colour ground;
+    Sizing sizing;
     TableGrid grid;
     std::deque<Caption> captions;
     std::optional<OpenColumnGroup> columnGroup;

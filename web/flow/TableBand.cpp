@@ -68,6 +68,7 @@ void TableBand::layOutCell(TableCell& cell, int row, Wrapping wrapping) {
     placed.isBare = cell.background.kind == Colour::Kind::terminal &&
                     !frame.hasBorder(style.border.left) && !frame.hasBorder(style.border.right) &&
                     !frame.hasBorder(style.border.top) && !frame.hasBorder(style.border.bottom);
+    placed.isOnBaseline = style.verticalAlign == VerticalAlign::baseline && !cell.content.isEmpty();
     std::optional<PlainText> const text = cell.content.plainText();
     if (text && isVisible(*text->block)) {
         layOutText(placed, *text, wrapping);
@@ -117,16 +118,13 @@ void TableBand::layOutContent(LaidCell& placed, Wrapping wrapping) {
 /// Moves content down so that first texts are in one row.
 void TableBand::alignBaselines(std::size_t firstOfRow) {
     int lowest = -1;
-    auto const isAligned = [](LaidCell const& cell) {
-        return cell.cell->style->verticalAlign == VerticalAlign::baseline;
-    };
     for (std::size_t i = firstOfRow; i < laid.size(); ++i) {
-        if (!isAligned(laid[i])) continue;
+        if (!laid[i].isOnBaseline) continue;
         lowest = std::max(lowest, laid[i].above + laid[i].baseline);
     }
     for (std::size_t i = firstOfRow; i < laid.size(); ++i) {
         LaidCell& cell = laid[i];
-        if (!isAligned(cell)) continue;
+        if (!cell.isOnBaseline) continue;
         int const shift = lowest - cell.above - cell.baseline;
         cell.above += shift;
         cell.needed += shift;

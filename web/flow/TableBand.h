@@ -53,8 +53,9 @@ struct LaidCell {
     int above = 0;
     int needed = 0;
     ///@}
-    /// The row of the content that lies on the baseline.
+    /// The row of the content that lies on the baseline, if it is aligned so.
     int baseline = 0;
+    bool isOnBaseline = false;
 
     int contentHeight() const { return static_cast<int>(endLine - firstLine); }
 };

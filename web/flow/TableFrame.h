@@ -17,6 +17,15 @@ public:
     /// Of a grid that is complete. All outlive the frame.
     TableFrame(TableGrid const& framed, Style const& tableStyle) : grid(framed), table(tableStyle) {
         if (table.collapsesBorders) collapsed.emplace(grid, table);
+        auto const asksForWidth = [](Style const* style) {
+            return style != nullptr && !isAutomatic(style->width);
+        };
+        hasColumns =
+            !grid.cells().empty() || std::any_of(grid.columns().begin(), grid.columns().end(),
+                                                 [&](TableColumn const& column) {
+                                                     return asksForWidth(column.style) ||
+                                                            asksForWidth(column.group);
+                                                 });
     }
 
     /// Null where each cell has its own.
@@ -26,11 +35,11 @@ public:
 
     int columnGap(int line) const {
         if (collapsed) return collapsed->hasVertical(line) ? 1 : 0;
-        return grid.columns().empty() ? 0 : table.borderSpacing.across;
+        return hasColumns ? table.borderSpacing.across : 0;
     }
     int rowGap(int line) const {
         if (collapsed) return collapsed->hasHorizontal(line) ? 1 : 0;
-        return grid.columns().empty() ? 0 : table.borderSpacing.down;
+        return hasColumns && !grid.rows().empty() ? table.borderSpacing.down : 0;
     }
     /// Widths of columns are counted in parts of a cell, so many: a line of borders that collapse
     /// counts with the columns on both sides, half of it with each.
@@ -75,6 +84,11 @@ public:
         }
         return parts;
     }
+    /// Columns of the table's own border and padding, or of the outer halves of its lines.
+    int ownEdges(int container) const {
+        if (collapsed) return (linesAround(0, static_cast<int>(grid.columns().size())) + 1) / 2;
+        return innerEdges(table, container);
+    }
     int leftEdge(int container) const {
         if (collapsed) return 0;
         return (table.border.left.isThere() ? 1 : 0) + across(table.padding.left, container);
@@ -89,16 +103,18 @@ public:
     }
 
 private:
-    /// Parts of a table that do not count with columns. Without columns there are two lines.
+    /// Parts of a table that do not count with columns.
     int edges(int container) const {
         auto const count = static_cast<int>(grid.columns().size());
         if (collapsed) return linesAround(0, count);
-        return std::max(2, count + 1) * table.borderSpacing.across + innerEdges(table, container);
+        return (count + 1) * columnGap(0) + innerEdges(table, container);
     }
 
     TableGrid const& grid;
     Style const& table;
     std::optional<CollapsedBorders> collapsed;
+    /// That are as wide as cells, or columns, ask for.
+    bool hasColumns = false;
 };
 
 }  // namespace galley::web

@@ -8,10 +8,11 @@
 namespace galley::web {
 
 TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
-                           RowSink& output, PageBudget& cells)
+                           Colour around, RowSink& output, PageBudget& cells)
     : grid(painted),
       frame(tableFrame),
       table(tableStyle),
+      ground(around),
       rows(output),
       budget(cells),
       isVisible(table.visibility == Visibility::visible),
@@ -134,12 +135,16 @@ void TablePainter::paintCells(int y, bool isGap) {
 /// `alike` is the background of the cells on both sides of the only one.
 void TablePainter::paintLines(int end, bool isGap, Colour const* alike) {
     if (!frame.collapses() && (isGap || nextLine == end)) return;
-    Colour const ground = isGap
-                              ? grid.background()
-                              : grid.background(grid.rows()[static_cast<std::size_t>(currentRow)]);
+    // That of a row shows in its visible cells.
+    bool const isSeen = !isGap && std::any_of(active.begin(), active.end(), [](auto const* cell) {
+        return cell->cell->isVisible();
+    });
+    Colour const behind = isSeen
+                              ? grid.background(grid.rows()[static_cast<std::size_t>(currentRow)])
+                              : grid.background();
     for (; nextLine <= end; ++nextLine) {
         if (frame.columnGap(nextLine) > 0 && frame.collapses()) {
-            paintVertical(nextLine, isGap, alike == nullptr ? ground : *alike);
+            paintVertical(nextLine, isGap, alike == nullptr ? behind : *alike);
         }
         if (nextLine == end) return;
         auto const column = static_cast<std::size_t>(nextLine);
@@ -148,7 +153,7 @@ void TablePainter::paintLines(int end, bool isGap, Colour const* alike) {
                                          : nullptr;
         if (border != nullptr) {
             row.fill(places.left[column], blankOn(grid.background()));
-            addLine(row, *border, places.right[column] - places.left[column], ground);
+            addLine(row, *border, places.right[column] - places.left[column], behind);
         } else if (isDrawn(grid.background())) {
             row.fill(places.right[column], blankOn(grid.background()));
         }
@@ -184,7 +189,8 @@ void TablePainter::paintCell(LaidCell const& cell, int y) {
     }
     Row piece;
     paintPiece(piece, cell, 0, y);
-    row.draw(cell.left, piece.view(), grid.background(), table.cells.isAmbiguousWide);
+    row.draw(cell.left, piece.view(), grid.background(), grid.background(),
+             table.cells.isAmbiguousWide);
 }
 
 /// Adds what a cell has in a row of text, from column `left` on.
@@ -232,7 +238,8 @@ void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int 
 
 void TablePainter::paintOverlays() {
     for (Overlay const& overlay : overlays) {
-        row.draw(overlay.column, overlay.content, overlay.background, table.cells.isAmbiguousWide);
+        row.draw(overlay.column, overlay.content, overlay.background, ground,
+                 table.cells.isAmbiguousWide);
     }
 }
 

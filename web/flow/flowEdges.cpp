@@ -126,7 +126,7 @@ void Flow::addRightEdgeBelow(Block const& block, int column) {
     below.addPart(row.view(), 0, column, isAmbiguousWide);
     addVertical(below, block.style->border.right, block.background, isVisible(*block.style));
     below.fill(row.width(), blankOn(block.around));
-    below.draw(0, row.view(), block.background, isAmbiguousWide);
+    below.draw(0, row.view(), block.background, block.around, isAmbiguousWide);
     std::swap(row, below);
 }
 

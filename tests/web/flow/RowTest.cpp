@@ -39,7 +39,7 @@ TEST(Rows, AreDrawnOver) {
     };
     for (Case const& each : cases) {
         Row row = each.below;
-        row.draw(each.column, each.above.view(), {});
+        row.draw(each.column, each.above.view(), {}, {});
         EXPECT_EQ(row.text(), each.text);
         EXPECT_EQ(row.width(), each.width) << each.text;
     }
@@ -48,7 +48,7 @@ TEST(Rows, AreDrawnOver) {
 TEST(Rows, KeepTheirLooksUnderOthers) {
     Row row = rowOf("ab", 2);
     row.add(rowOf("cd", 2, true).view());
-    row.draw(1, rowOf("X", 1, true).view(), {});
+    row.draw(1, rowOf("X", 1, true).view(), {}, {});
     ASSERT_EQ(row.spans().size(), 2U);
     EXPECT_EQ(row.textOf(row.spans()[0]), "a");
     EXPECT_EQ(row.textOf(row.spans()[1]), "Xcd");

@@ -180,6 +180,55 @@ public:
     }
 };
 
+// As in Chromium: without cells there is no spacing, and only a `table` has its edges in its width.
+TEST(Tables, AreAsWideAsTheySay) {
+    expectPictures({
+        {"<table style='border: solid; border-spacing: 2ch 1lh'><col/><tr></tr></table>", 20, R"(
+┌┐
+└┘
+)"},
+        {"<table style='border: solid; border-spacing: 2ch 1lh'><col style='width: 2ch'/></table>",
+         20, R"(
+┌──────┐
+└──────┘
+)"},
+        {"<div style='display: table; width: 4ch; padding: 0 1ch; border: solid'>a</div>", 20, R"(
+┌──────┐
+│ a    │
+└──────┘
+)"},
+        {"<div style='display: table; max-width: 3ch; border: solid'>aa bb</div>", 20, R"(
+┌───┐
+│aa │
+│bb │
+└───┘
+)"},
+        {"<table style='width: 6ch; border: solid'><tr><td>a</td></tr></table>", 20, R"(
+┌────┐
+│ a  │
+└────┘
+)"},
+    });
+}
+
+// As in Chromium: nothing is on no baseline.
+TEST(TableRows, AlignNoEmptyCells) {
+    expectPictures({
+        {"<table style='vertical-align: baseline'><tr style='vertical-align: baseline'>"
+         "<td style='padding-top: 2lh'></td><td>a</td></tr></table>",
+         20, R"(
+   a
+
+)"},
+        {"<table><tr style='vertical-align: baseline'><td style='padding-top: 2lh'><div></div></td>"
+         "<td>a</td></tr></table>",
+         20, R"(
+
+   a
+)"},
+    });
+}
+
 // As in Chromium.
 TEST(TableBackgrounds, OfRowsAndColumnsShowInTheirVisibleCellsOnly) {
     struct Case {
@@ -199,6 +248,14 @@ TEST(TableBackgrounds, OfRowsAndColumnsShowInTheirVisibleCellsOnly) {
         {"<table><tr style='background: red'><td>a</td><td>b</td></tr>"
          "<tr style='background: red'><td>c</td></tr></table>",
          "######\n###\n"},
+        // Beside a hidden cell no line has it, and what sticks out of the table stands on what is
+        // around that.
+        {"<table style='visibility: hidden; border-collapse: collapse'>"
+         "<tr style='background: red'><td style='border: solid'>a</td></tr></table>",
+         "\n...\n\n"},
+        {"<table style='table-layout: fixed; width: 4ch'><tr><td style='background: red; "
+         "padding: 0; white-space: nowrap'>abcdef</td></tr></table>",
+         "####..\n"},
     };
     for (Case const& each : cases) {
         BackgroundsOfRows rows;
