@@ -1,6 +1,7 @@
 #include "xml/LinePainter.h"
 
 #include "xml/beneath.h"
+#include "xml/boxesOf.h"
 #include "xml/dom/readDocument.h"
 
 namespace CLI::XML {
@@ -14,6 +15,8 @@ Rect LinePainter::paint(Position from, Position end, Canvas::Attributes const& a
             openElement(at.item, end);
         } else if (item.kind == Item::Close) {
             closeElement();
+        } else if (item.kind == Item::Block) {
+            addBlock(*item.block);
         } else {
             std::string_view text = items.text(item);
             if (end.item == at.item) text = text.substr(0, end.offset);
@@ -103,6 +106,13 @@ void LinePainter::addWords(std::string_view words) {
         words.remove_prefix(first.length());
     }
     if (!words.empty()) addWord(words);
+}
+
+void LinePainter::addBlock(Box& block) {
+    place(block.dimensions);
+    paintBox(grid, block, attributes());
+    Level& level = levels.back();
+    level.row.add(level.box.content, block.dimensions);
 }
 
 void LinePainter::addWord(std::string_view word) {

@@ -55,6 +55,7 @@ private:
     void endLevel();
     void addWords(std::string_view words);
     void addWord(std::string_view word);
+    void addBlock(Box& block);
     Canvas::Attributes const& attributes() const {
         return open.empty() ? outer : open.back().content;
     }

@@ -123,23 +123,27 @@ void PageBuilder::releaseRows(std::int32_t height) {
 /// Lays out and paints what has been read since the last block.
 void PageBuilder::endItems() {
     if (items.count() == 0) return;
-    if (items.holdsBlock() || !items.breaksByWidths()) {
+    bool const areTable = items.areTable();
+    if (areTable ? items.holdsBlock() : !items.breaksByWidths()) {
         addBoxes();
-    } else if (items.areTable()) {
+    } else if (areTable) {
         addTable();
+    } else if (items.holdsBlock()) {
+        addParagraph(ItemsOfBlocks(items).items());
     } else {
-        addParagraph();
+        addParagraph(items);
     }
     items.clear();
     styles.clear();
 }
 
-void PageBuilder::addParagraph() {
+void PageBuilder::addParagraph(Items const& paragraph) {
     OpenBlock& block = blocks.back();
-    Position const end = {items.count(), 0};
-    LineBreaker breaker(items, block.box.content.width);
-    LinePainter painter(items, LinePainter::Line, grid);
+    Position const end = {paragraph.count(), 0};
+    LineBreaker breaker(paragraph, block.box.content.width);
+    LinePainter painter(paragraph, LinePainter::Line, grid);
     for (Position from; from < end;) {
+        if (paragraph.holdsBlock()) Walk::run(breaker.layOutBlocks(from));
         Position const lineEnd = breaker.next(from);
         Dimensions line;
         block.stack.place(line);
@@ -171,7 +175,7 @@ void PageBuilder::addTable() {
 void PageBuilder::addBoxes() {
     OpenBlock& block = blocks.back();
     std::int64_t words = 0;
-    ZRLWPtr<DomElement> const root = treeOf(items, words);
+    ZRLWPtr<DomElement> const root = treeOf(items, 0, items.count(), words);
     // For each line of such a paragraph all of its rest may be laid out.
     bool const isLiteral = !items.areTable() && !items.breaksByWidths();
     if (isLiteral && !budget.mayHold(words * words)) return;

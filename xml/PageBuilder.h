@@ -53,7 +53,7 @@ private:
     void openBlock(ZRLWPtr<DomElement> const& element);
     void closeBlock();
     void endItems();
-    void addParagraph();
+    void addParagraph(Items const& paragraph);
     void addTable();
     void addBoxes();
     void take(Dimensions const& box);

@@ -1,7 +1,5 @@
 #include "xml/boxesOf.h"
 
-#include <vector>
-
 #include "base/Walk.h"
 #include "xml/beneath.h"
 #include "xml/dom/nodes.h"
@@ -46,10 +44,11 @@ Walk paintTree(Grid& grid, Box const& box, Canvas::Attributes attributes) {
 
 }  // namespace
 
-ZRLWPtr<DomElement> treeOf(Items const& items, std::int64_t& words) {
+ZRLWPtr<DomElement> treeOf(Items const& items, std::uint32_t begin, std::uint32_t end,
+                           std::int64_t& words) {
     ZRLWPtr<DomElement> root = createRootElement();
     std::vector<DomElement*> open = {root.object};
-    for (std::uint32_t i = 0; i < items.count(); ++i) {
+    for (std::uint32_t i = begin; i < end; ++i) {
         Item const& item = items[i];
         if (item.kind == Item::Close) {
             open.pop_back();
@@ -69,6 +68,30 @@ ZRLWPtr<DomElement> treeOf(Items const& items, std::int64_t& words) {
         }
     }
     return root;
+}
+
+ItemsOfBlocks::ItemsOfBlocks(Items const& paragraph) {
+    for (std::uint32_t i = 0; i < paragraph.count(); ++i) {
+        Item const& item = paragraph[i];
+        if (item.kind == Item::Close) {
+            all.close();
+        } else if (item.kind == Item::Words) {
+            all.addWords(paragraph.text(item));
+        } else if (item.kind == Item::Word) {
+            all.addWord(paragraph.text(item));
+        } else if (paragraph.style(i).display() == DomNode::Block) {
+            std::int64_t words = 0;
+            roots.push_back(treeOf(paragraph, i, item.other, words));
+            DomNode* const element = roots.back()->children[0].object;
+            blocks.push_back(ZR::MovePtr<Box>(new BlockBox(element)));
+            // What a parent would refuse has no items.
+            blocks.back()->createChildren();
+            all.addBlock(*blocks.back());
+            i = item.other;
+        } else {
+            all.open(paragraph.style(i));
+        }
+    }
 }
 
 void paintBox(Grid& grid, Box& box, Canvas::Attributes const& attributes) {
