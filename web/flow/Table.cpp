@@ -134,7 +134,8 @@ void Table::layOut(int columns, Wrapping around, TableSink& rows, PageBudget& bu
     std::vector<int> const shared =
         frame->toCells(shareWidth(needs(wrapping), frame->partsFor(width, columns)));
     layOutCaptions(CaptionSide::top, width, around, rows, budget);
-    TablePainter(grid, *frame, ownStyle, rows, budget).paint(width, shared, columns, wrapping);
+    TablePainter(grid, *frame, ownStyle, ground, rows, budget)
+        .paint(width, shared, columns, wrapping);
     layOutCaptions(CaptionSide::bottom, width, around, rows, budget);
 }
 

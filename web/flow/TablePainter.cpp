@@ -8,10 +8,11 @@
 namespace galley::web {
 
 TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
-                           RowSink& output, PageBudget& cells)
+                           Colour around, RowSink& output, PageBudget& cells)
     : grid(painted),
       frame(tableFrame),
       table(tableStyle),
+      outerGround(around),
       rows(output),
       budget(cells),
       isVisible(table.visibility == Visibility::visible),
@@ -232,6 +233,10 @@ void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int 
 
 void TablePainter::paintOverlays() {
     for (Overlay const& overlay : overlays) {
+        // What sticks out of its cell does not take the cell's background along.
+        int const end = overlay.column + overlay.content.width;
+        row.fill(std::min(end, places.width), blankOn(grid.background()));
+        row.fill(end, blankOn(outerGround));
         row.draw(overlay.column, overlay.content, overlay.background, table.cells.isAmbiguousWide);
     }
 }

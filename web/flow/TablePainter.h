@@ -15,8 +15,9 @@ namespace galley::web {
 /// rows are first made without content.
 class TablePainter {
 public:
-    /// Takes the content of cells from the grid.
-    TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
+    /// Takes the content of cells from the grid. `around` is the background of what is around the
+    /// table.
+    TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle, Colour around,
                  RowSink& output, PageBudget& cells);
 
     /// The table is that wide, with columns of those widths; per cent count of `container`. Once
@@ -49,6 +50,7 @@ private:
     TableGrid& grid;
     TableFrame& frame;
     Style const& table;
+    Colour outerGround;
     RowSink& rows;
     PageBudget& budget;
     bool isVisible;

@@ -181,7 +181,7 @@ public:
 };
 
 // As in Chromium.
-TEST(TableBackgrounds, OfRowsAndColumnsShowInTheirVisibleCellsOnly) {
+TEST(TableBackgrounds, ShowInTheirVisibleCellsOnly) {
     struct Case {
         char const* markup;
         char const* page;
@@ -199,6 +199,10 @@ TEST(TableBackgrounds, OfRowsAndColumnsShowInTheirVisibleCellsOnly) {
         {"<table><tr style='background: red'><td>a</td><td>b</td></tr>"
          "<tr style='background: red'><td>c</td></tr></table>",
          "######\n###\n"},
+        // What sticks out of a cell stands on what is there.
+        {"<table style='table-layout: fixed; width: 4ch'><tr><td style='background: red; padding: "
+         "0; white-space: nowrap'>abcdef</td></tr></table>",
+         "####..\n"},
     };
     for (Case const& each : cases) {
         BackgroundsOfRows rows;
