@@ -9,6 +9,7 @@ import unicodedata
 from choices import CLASSES, Choices
 from page import Page, resolved
 from rules import make_rules
+from spans import spanning_table
 from tables import Tables
 from words import INLINE, Words
 
@@ -73,7 +74,7 @@ class Blocks:
         makers += [self._terms, self._keywords, self._keywords, self._loose_items]
         if depth < 3:
             makers += [self._nest] * 3 + [self._list] * 5 + [self._tables.table] * 4
-            makers.append(self._tables.boxes)
+            makers += [self._tables.boxes, self._spanning_table]
         return self._chosen.pick(makers)(depth)
 
     def _attributes(self, declarations=(), share=0.35):
@@ -143,6 +144,9 @@ class Blocks:
         items = "".join(f'<div style="{style}">{self._words.text(3)}</div>'
                         for _ in range(chosen.number(1, 3)))
         return chosen.use("display: list-item", f'<div style="padding-left: 7ch !important">{items}</div>')
+
+    def _spanning_table(self, _):
+        return spanning_table(self._chosen, self._words)
 
     def _empty(self, _):
         inner = self._chosen.pick(["", " ", "<p></p>", '<div style="margin: 2lh 0"></div>'])

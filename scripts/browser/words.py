@@ -6,7 +6,7 @@ INLINE = ("a abbr b strong i em cite var dfn u ins s del code kbd samp mark smal
 WORDS = ("long long emoji hyphen marked shy zwsp nbsp capitals reference punctuation "
          "punctuation").split()
 PUNCTUATION = ("1, 1. (1) 1/2 1! 1:2 “1” 1's 1;2 1.2 1=2 1% 1?2 1+2 1&amp;2 1(2) 1-\u20602 1–2 1…2 1—2 "
-               "漢“1”").split()
+               "漢“1” 漢“漢”漢 1?(2) 1-(2)").split()
 REFERENCES = ("&eacute; &uuml; &ntilde; &lt; &quot; &shy; &nbsp; &#233; &#xE9; &#65; &#x7a; &#xAD; "
               "&#160;").split()
 RUNS = ("inline inline inline joined nested edge edge styled empty quote image unseen br br "
@@ -65,7 +65,7 @@ class Words:
         if kind == "long":
             return self.long_word()
         if kind == "capitals":
-            return one.upper() + chosen.pick(["", two, "-" + two])
+            return one.upper() + chosen.pick(["", two, "-" + two, "É" + two])
         between = {"hyphen": "-", "emoji": chosen.pick(picture.EMOJI),
                    "marked": chosen.pick(picture.MARKED), "shy": "\u00ad",
                    "zwsp": "\u200b", "nbsp": chosen.pick("\u00a0\u00a0\u202f\u2007"),
