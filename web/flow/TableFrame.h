@@ -17,15 +17,10 @@ public:
     /// Of a grid that is complete. All outlive the frame.
     TableFrame(TableGrid const& framed, Style const& tableStyle) : grid(framed), table(tableStyle) {
         if (table.collapsesBorders) collapsed.emplace(grid, table);
-        auto const asksForWidth = [](Style const* style) {
-            return style != nullptr && !isAutomatic(style->width);
-        };
         hasColumns =
-            !grid.cells().empty() || std::any_of(grid.columns().begin(), grid.columns().end(),
-                                                 [&](TableColumn const& column) {
-                                                     return asksForWidth(column.style) ||
-                                                            asksForWidth(column.group);
-                                                 });
+            !grid.cells().empty() ||
+            std::any_of(grid.columns().begin(), grid.columns().end(),
+                        [](TableColumn const& column) { return !isAutomatic(column.width()); });
     }
 
     /// Null where each cell has its own.

@@ -104,7 +104,10 @@ Colour TableGrid::background(TableRow const& row) const {
 void TableGrid::complete(Rules rules) {
     endGroup();
     if (rules.dropsEmptyRows) dropEmptyRows();
-    if (!rules.joinsColumns) isStart.assign(isStart.size(), true);
+    if (!rules.joinsColumns) {
+        auto const elements = static_cast<std::size_t>(ranges.empty() ? 0 : ranges.back().end);
+        isStart.assign(std::max(isStart.size(), elements), true);
+    }
     if (!ranges.empty()) ranges.back().column.endsGroup = true;
     orderGroups();
     joinColumns();
@@ -173,10 +176,10 @@ void TableGrid::moveCells(std::vector<int> const& starts) {
 
 void TableGrid::joinColumns() {
     for (ColumnRange const& range : ranges) {
+        if (isAutomatic(range.column.width())) continue;
         auto const end = static_cast<std::size_t>(range.end);
         if (isStart.size() < end) isStart.resize(end);
         isStart[static_cast<std::size_t>(range.begin)] = true;
-        if (end < isStart.size()) isStart[end] = true;
     }
     std::vector<int> starts;
     for (std::size_t i = 0; i < isStart.size(); ++i) {

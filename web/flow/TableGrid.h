@@ -6,6 +6,7 @@
 
 #include "web/flow/Content.h"
 #include "web/flow/Look.h"
+#include "web/flow/lengths.h"
 
 namespace galley::web {
 
@@ -52,6 +53,12 @@ struct TableColumn {
     bool endsGroup = false;
     /// Of the document.
     int count = 1;
+
+    /// That of its own element, or else of its group.
+    Length width() const {
+        if (style != nullptr && !isAutomatic(style->width)) return style->width;
+        return group == nullptr ? Length::automatic() : group->width;
+    }
 };
 
 /// The grid of slots that the rows and columns of a table make, and the cells in it.
@@ -81,7 +88,8 @@ public:
     struct Rules {
         /// In which no cell begins and into which none reaches.
         bool dropsEmptyRows = false;
-        /// Columns in which nothing begins go with the one before them.
+        /// Columns in which no cell begins go with the one before them, unless their element has a
+        /// width.
         bool joinsColumns = true;
     };
 

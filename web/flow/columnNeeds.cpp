@@ -55,15 +55,10 @@ ColumnNeed needOf(TableCell const& cell, TableFrame const& frame, Widths const& 
     return need;
 }
 
-Length widthOf(TableColumn const& column) {
-    if (column.style != nullptr && !isAutomatic(column.style->width)) return column.style->width;
-    return column.group == nullptr ? Length::automatic() : column.group->width;
-}
-
 std::vector<ColumnNeed> needsOfElements(TableGrid const& grid, TableFrame const& frame) {
     std::vector<ColumnNeed> needs;
     for (TableColumn const& column : grid.columns()) {
-        ColumnNeed& need = needs.emplace_back(needOf(widthOf(column), 0, frame.partsOfCell()));
+        ColumnNeed& need = needs.emplace_back(needOf(column.width(), 0, frame.partsOfCell()));
         need.count = column.count;
     }
     return needs;
@@ -155,7 +150,12 @@ std::vector<ColumnNeed> fittingNeeds(TableGrid const& grid, TableFrame const& fr
 
 std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& frame) {
     std::vector<ColumnNeed> needs = needsOfElements(grid, frame);
-    for (ColumnNeed& need : needs) need.least = need.most;
+    for (std::size_t i = 0; i < needs.size(); ++i) {
+        // As in Chromium, that of a group counts for columns without an element.
+        Style const* const own = grid.columns()[i].style;
+        if (own != nullptr && isAutomatic(own->width)) needs[i] = {.count = needs[i].count};
+        needs[i].least = needs[i].most;
+    }
     if (!grid.rows().empty()) {
         TableRow const& first = grid.rows().front();
         for (std::size_t i = first.firstCell; i < first.endCell; ++i) {

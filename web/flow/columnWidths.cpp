@@ -175,6 +175,10 @@ void widen(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
         columns[i].least = std::max(columns[i].least, least[i]);
         columns[i].most = std::max(columns[i].most, columns[i].least);
     }
+    // Fixed widths stand for all that it would like.
+    bool const areFixed = std::all_of(columns.begin(), columns.end(),
+                                      [](ColumnNeed const& column) { return column.isFixed; });
+    if (areFixed) return;
     std::vector<int> const most = shareWidth(columns, cell.most);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         columns[i].most = std::max(columns[i].most, most[i]);

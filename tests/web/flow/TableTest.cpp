@@ -211,6 +211,37 @@ TEST(Tables, AreAsWideAsTheySay) {
     });
 }
 
+// As in Chromium: one in which no cell begins is there for its width alone, and what is fixed
+// stands for what a cell over it would like.
+TEST(Tables, HaveColumnsWhereCellsBeginOrWidthsAreSet) {
+    expectPictures({
+        {"<table><col style='width: 5ch'/><tr><td colspan='3'>ab cde</td></tr></table>", 20, R"(
+ ab
+ cde
+)"},
+        {"<table style='border-spacing: 1ch 0'><col style='width: 9ch'/><col/>"
+         "<tr><td colspan='3'>a</td><td>b</td></tr></table>",
+         20, R"(
+  a         b
+)"},
+        {"<table style='border-spacing: 1ch 0'><col style='width: 9ch'/><col style='width: 2ch'/>"
+         "<tr><td colspan='3'>a</td><td>b</td></tr></table>",
+         20, R"(
+  a            b
+)"},
+        {"<table style='table-layout: fixed; width: 20ch'><colgroup style='width: 9ch'><col/>"
+         "</colgroup><tr><td>a</td><td>b</td></tr></table>",
+         20, R"(
+ a         b
+)"},
+        {"<table style='table-layout: fixed; width: 20ch'><colgroup style='width: 9ch'></colgroup>"
+         "<tr><td>a</td><td>b</td></tr></table>",
+         20, R"(
+ a        b
+)"},
+    });
+}
+
 // As in Chromium: nothing is on no baseline.
 TEST(TableRows, AlignNoEmptyCells) {
     expectPictures({
