@@ -5,7 +5,8 @@
 #include "galley/dialect.h"
 #include "galley/webPage.h"
 #include "xml/dom/buildDomTree.h"
-#include "xml/layout/boxes.h"
+#include "xml/layout/BlockBox.h"
+#include "xml/pageOfWidth.h"
 
 namespace {
 

@@ -8,9 +8,10 @@
 
 #include "fuzz/canvases.h"
 #include "fuzz/check.h"
-#include "xml/dom/nodes.h"
-#include "xml/dom/vocabulary.h"
-#include "xml/layout/boxes.h"
+#include "xml/dom/DomElement.h"
+#include "xml/dom/DomText.h"
+#include "xml/dom/createDomElement.h"
+#include "xml/layout/BlockBox.h"
 
 namespace CLI::XML {
 namespace {

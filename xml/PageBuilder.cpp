@@ -1,5 +1,6 @@
 #include "xml/PageBuilder.h"
 
+#include <new>
 #include <utility>
 
 #include "base/saturate.h"
@@ -7,8 +8,8 @@
 #include "xml/beneath.h"
 #include "xml/boxesOf.h"
 #include "xml/layout/LineBreaker.h"
-#include "xml/layout/boxes.h"
-#include "xml/layout/checkChild.h"
+#include "xml/layout/makeChild.h"
+#include "xml/pageOfWidth.h"
 
 namespace CLI::XML {
 
@@ -18,7 +19,7 @@ PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& c
       look(style.look),
       handedDown(attributes),
       content(look.handDown(attributes)),
-      box(style.box()),
+      box(style.box),
       stack(box) {
     EdgeSizes const edges = box.edges();
     box.content.width = saturate(std::int64_t{containing.content.width} - edges.left - edges.right);
@@ -83,7 +84,7 @@ void PageBuilder::addWord(std::string_view word) {
 XCode PageBuilder::finish(String& out) {
     if (!refusal) return refusal;
     endItems();
-    grid.moveRowsTo(text);
+    if (!grid.moveRowsTo(text) || !isTextComplete) throw std::bad_alloc();
     out = std::move(text);
     return refusal;
 }
@@ -117,7 +118,8 @@ void PageBuilder::take(Dimensions const& box) {
 
 /// Nothing more is painted above row `height` of the innermost frame.
 void PageBuilder::releaseRows(std::int32_t height) {
-    if (mayRelease) grid.moveRowsTo(text, grid.originRow() + height);
+    if (!mayRelease) return;
+    isTextComplete = grid.moveRowsTo(text, grid.originRow() + height) && isTextComplete;
 }
 
 /// Lays out and paints what has been read since the last block.
@@ -141,7 +143,7 @@ void PageBuilder::addParagraph(Items const& paragraph) {
     OpenBlock& block = blocks.back();
     Position const end = {paragraph.count(), 0};
     LineBreaker breaker(paragraph, block.box.content.width);
-    LinePainter painter(paragraph, LinePainter::Line, grid);
+    LinePainter painter(paragraph, LinePainter::Line, &grid);
     for (Position from; from < end;) {
         if (paragraph.holdsBlock()) Walk::run(breaker.layOutBlocks(from));
         Position const lineEnd = breaker.next(from);
@@ -159,8 +161,8 @@ void PageBuilder::addParagraph(Items const& paragraph) {
 
 void PageBuilder::addTable() {
     OpenBlock& block = blocks.back();
-    ElementStyle const& style = items.style(0);
-    Dimensions box = style.box();
+    ElementStyle const& style = *items[0].style;
+    Dimensions box = style.box;
     block.stack.place(box);
     TablePainter painter(items, box, grid);
     grid.enter(box.content.x, box.content.y);
@@ -174,16 +176,12 @@ void PageBuilder::addTable() {
 
 void PageBuilder::addBoxes() {
     OpenBlock& block = blocks.back();
-    std::int64_t words = 0;
-    ZRLWPtr<DomElement> const root = treeOf(items, 0, items.count(), words);
+    BoxesOfItems laidOut(items);
     // For each line of such a paragraph all of its rest may be laid out.
-    bool const isLiteral = !items.areTable() && !items.breaksByWidths();
-    if (isLiteral && !budget.mayHold(words * words)) return;
-    BlockBox around(root.object);
-    // What a parent would refuse has no items.
-    around.createChildren();
-    around.layout(block.box);
-    for (ZRLWPtr<Box> const& box : around.children) {
+    std::int64_t const steps = items.areTable() ? 0 : laidOut.words() * laidOut.words();
+    if (!budget.mayHold(steps)) return;
+    laidOut.layOut(block.box);
+    for (ZRLWPtr<Box> const& box : laidOut.boxes()) {
         block.stack.place(box->dimensions);
         paintBox(grid, *box, block.content);
         take(box->dimensions);

@@ -63,6 +63,8 @@ private:
     Grid grid;
     /// Rows of the page that nothing can change any more.
     String text;
+    /// There was memory for all of it.
+    bool isTextComplete = true;
     bool mayRelease;
     /// Innermost last.
     std::deque<OpenBlock> blocks;

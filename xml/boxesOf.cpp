@@ -2,9 +2,10 @@
 
 #include "base/Walk.h"
 #include "xml/beneath.h"
-#include "xml/dom/nodes.h"
+#include "xml/dom/DomText.h"
 #include "xml/dom/readDocument.h"
-#include "xml/layout/boxes.h"
+#include "xml/layout/TableBox.h"
+#include "xml/layout/makeChild.h"
 
 namespace CLI::XML {
 
@@ -17,15 +18,6 @@ bool paintLeaf(Grid& grid, Box const& box, Canvas::Attributes const& attributes)
     DomText const* const word = asText(box.node);
     if (word != nullptr) grid.draw(word->text.view(), content.x, content.y, attributes);
     return true;
-}
-
-/// Elements that look alike are one and the same while they are read, and have no children.
-ZRLWPtr<DomElement> copyOf(DomElement const& element) {
-    ZRLWPtr<DomElement> copy =
-        ZR::MovePtr<DomElement>(new DomElement(element.name, element.display));
-    copy->setAttributes(element.attributes);
-    copy->styleNode = element.styleNode;
-    return copy;
 }
 
 Walk paintTree(Grid& grid, Box const& box, Canvas::Attributes attributes) {
@@ -44,30 +36,45 @@ Walk paintTree(Grid& grid, Box const& box, Canvas::Attributes attributes) {
 
 }  // namespace
 
-ZRLWPtr<DomElement> treeOf(Items const& items, std::uint32_t begin, std::uint32_t end,
-                           std::int64_t& words) {
-    ZRLWPtr<DomElement> root = createRootElement();
-    std::vector<DomElement*> open = {root.object};
+ZRLWPtr<Box> ItemBoxes::blockAt(Items const& items, std::uint32_t opened) {
+    ZRLWPtr<Box> block = ZR::MovePtr<Box>(new BlockBox(items[opened].style->element.object));
+    addTo(*block, items, opened + 1, items[opened].other);
+    return block;
+}
+
+void ItemBoxes::addTo(Box& box, Items const& items, std::uint32_t begin, std::uint32_t end) {
+    std::vector<Box*> open = {&box};
     for (std::uint32_t i = begin; i < end; ++i) {
         Item const& item = items[i];
+        Box& parent = *open.back();
         if (item.kind == Item::Close) {
             open.pop_back();
         } else if (item.kind == Item::Open) {
-            ZRLWPtr<DomElement> const element = copyOf(*items.style(i).element);
-            open.back()->children.add(element);
-            open.push_back(element.object);
+            XCode result;
+            ZRLWPtr<Box> const child = makeChild(parent, *item.style->element, result);
+            bool const isInline = item.style->display() == DomNode::Inline;
+            (isInline ? *parent.getOrCreateLineBox() : parent).children.add(child);
+            open.push_back(child.object);
         } else {
-            std::string_view text = items.text(item);
-            // Of an empty word there is a text, too.
-            do {
-                std::string_view const word = item.kind == Item::Words ? firstWord(text) : text;
-                open.back()->children.add(makeText(word));
-                text.remove_prefix(word.length());
-                ++words;
-            } while (!text.empty());
+            addTexts(parent, item.kind, items.text(item));
         }
     }
-    return root;
+}
+
+/// A box for each word; for an empty one, too.
+void ItemBoxes::addTexts(Box& parent, Item::Kind kind, std::string_view text) {
+    do {
+        std::string_view const word = kind == Item::Words ? Items::firstWord(text) : text;
+        texts.push_back(makeText(word));
+        XCode result;
+        parent.getOrCreateLineBox()->children.add(makeChild(parent, *texts.back(), result));
+        text.remove_prefix(word.length());
+    } while (!text.empty());
+}
+
+BoxesOfItems::BoxesOfItems(Items const& items)
+    : root(createRootElement()), block(ZR::MovePtr<Box>(new BlockBox(root.object))) {
+    made.addTo(*block, items, 0, items.count());
 }
 
 ItemsOfBlocks::ItemsOfBlocks(Items const& paragraph) {
@@ -79,17 +86,12 @@ ItemsOfBlocks::ItemsOfBlocks(Items const& paragraph) {
             all.addWords(paragraph.text(item));
         } else if (item.kind == Item::Word) {
             all.addWord(paragraph.text(item));
-        } else if (paragraph.style(i).display() == DomNode::Block) {
-            std::int64_t words = 0;
-            roots.push_back(treeOf(paragraph, i, item.other, words));
-            DomNode* const element = roots.back()->children[0].object;
-            blocks.push_back(ZR::MovePtr<Box>(new BlockBox(element)));
-            // What a parent would refuse has no items.
-            blocks.back()->createChildren();
+        } else if (item.style->display() == DomNode::Block) {
+            blocks.push_back(made.blockAt(paragraph, i));
             all.addBlock(*blocks.back());
             i = item.other;
         } else {
-            all.open(paragraph.style(i));
+            all.open(*item.style);
         }
     }
 }

@@ -8,23 +8,50 @@
 
 namespace CLI::XML {
 
-/// The elements and texts of items from `begin` up to `end` as a tree, below a root of its own.
-/// Adds the number of texts to `words`.
-ZRLWPtr<DomElement> treeOf(Items const& items, std::uint32_t begin, std::uint32_t end,
-                           std::int64_t& words);
+/// The boxes of items, as they would be built from the elements that these stand for.
+class ItemBoxes {
+public:
+    /// Of the items in the element that opens at `opened`: a block. Good as long as this is.
+    ZRLWPtr<Box> blockAt(Items const& items, std::uint32_t opened);
+    /// How many words there are boxes for.
+    std::int64_t words() const { return static_cast<std::int64_t>(texts.size()); }
+    /// Adds the boxes of the items from `begin` to `end` to `box`.
+    void addTo(Box& box, Items const& items, std::uint32_t begin, std::uint32_t end);
 
-/// The items of a paragraph, in which blocks in inline elements are boxes: so lines around these
-/// take no tree, in which all elements that go on would be there on each line.
+private:
+    void addTexts(Box& parent, Item::Kind kind, std::string_view text);
+
+    std::vector<ZRLWPtr<DomNode>> texts;
+};
+
+/// Items of which all are boxes: those of a table with blocks in its cells, and of a paragraph of
+/// which each layout depends on those before it, so that they are done as they are defined.
+class BoxesOfItems {
+public:
+    explicit BoxesOfItems(Items const& items);
+
+    std::int64_t words() const { return made.words(); }
+    /// Lays them out in a block of that geometry, one below the other.
+    void layOut(Dimensions const& containing) { block->layout(containing); }
+    /// The lines, or the table.
+    ZRVector<ZRLWPtr<Box>> const& boxes() const { return block->children; }
+
+private:
+    // What boxes are of outlives them.
+    ZRLWPtr<DomElement> root;
+    ItemBoxes made;
+    ZRLWPtr<Box> block;
+};
+
+/// The items of a paragraph, in which blocks in inline elements are boxes.
 class ItemsOfBlocks {
 public:
-    /// The paragraph outlives it.
     explicit ItemsOfBlocks(Items const& paragraph);
 
     Items const& items() const { return all; }
 
 private:
-    // What boxes are of outlives them.
-    std::vector<ZRLWPtr<DomElement>> roots;
+    ItemBoxes made;
     std::vector<ZRLWPtr<Box>> blocks;
     Items all;
 };

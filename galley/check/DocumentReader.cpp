@@ -6,9 +6,10 @@
 
 #include "base/append.h"
 #include "xml/css/properties.h"
+#include "xml/dom/displayKeywords.h"
 #include "xml/dom/readDocument.h"
 #include "xml/dom/vocabulary.h"
-#include "xml/layout/checkChild.h"
+#include "xml/layout/makeChild.h"
 
 namespace galley {
 

@@ -1,7 +1,7 @@
 #include "galley/check/InlineEdges.h"
 
 #include "base/MovePtr.h"
-#include "xml/layout/boxes.h"
+#include "xml/layout/InlineBox.h"
 
 namespace galley {
 

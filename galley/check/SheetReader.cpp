@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "xml/parser/scan.h"
+#include "xml/css/sheetBytes.h"
 
 namespace galley {
 

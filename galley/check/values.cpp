@@ -5,8 +5,9 @@
 
 #include "galley/check/wording.h"
 #include "web/suggest.h"
-#include "xml/dom/vocabulary.h"
-#include "xml/render/keywords.h"
+#include "xml/dom/displayKeywords.h"
+#include "xml/render/colorNames.h"
+#include "xml/render/fontStyles.h"
 
 namespace galley {
 
@@ -62,7 +63,8 @@ std::string aboutText(std::string_view value) {
 
 }  // namespace
 
-std::string warningAbout(Value kind, std::string_view value) {
+std::string warningAbout(CLI::XML::Property::Value kind, std::string_view value) {
+    using CLI::XML::Property::Value;
     switch (kind) {
         case Value::Cells:
             return aboutCells(value);

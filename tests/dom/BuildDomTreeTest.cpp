@@ -1,5 +1,5 @@
 #include "tests/support/document.h"
-#include "xml/dom/vocabulary.h"
+#include "xml/dom/replaceEntities.h"
 
 namespace CLI::XML {
 namespace {

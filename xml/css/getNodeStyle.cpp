@@ -1,6 +1,6 @@
 #include "xml/css/getNodeStyle.h"
 
-#include "xml/dom/nodes.h"
+#include "xml/dom/DomElement.h"
 
 namespace CLI::XML {
 

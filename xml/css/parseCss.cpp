@@ -1,6 +1,6 @@
 #include "xml/css/parseCss.h"
 
-#include "xml/parser/scan.h"
+#include "xml/css/sheetBytes.h"
 
 namespace CLI::XML {
 

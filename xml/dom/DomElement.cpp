@@ -1,7 +1,8 @@
+#include "xml/dom/DomElement.h"
+
 #include "base/releaseTree.h"
 #include "xml/css/properties.h"
-#include "xml/dom/nodes.h"
-#include "xml/dom/vocabulary.h"
+#include "xml/dom/displayKeywords.h"
 
 namespace CLI::XML {
 

@@ -4,7 +4,7 @@
 #include "../../base/export.h"
 #include "../css/StyleNode.h"
 #include "../parser/PullParser.h"
-#include "nodes.h"
+#include "DomElement.h"
 
 namespace CLI::XML {
 

@@ -8,9 +8,11 @@
 #include <cstring>
 #include <map>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "xml/dom/vocabulary.h"
+#include "xml/dom/createDomElement.h"
+#include "xml/dom/replaceEntities.h"
 
 namespace CLI::XML {
 

@@ -4,6 +4,7 @@
 
 #include "base/append.h"
 #include "xml/layout/layOut.h"
+#include "xml/layout/placement.h"
 
 namespace CLI::XML {
 
@@ -11,14 +12,21 @@ void Items::open(ElementStyle const& style) {
     DomNode::Display const display = style.display();
     hasBlock = hasBlock || display == DomNode::Block;
     hasTable = hasTable || (display == DomNode::Table && list.count > 0);
-    open(style.box());
+    Item item = {};
+    item.style = &style;
+    addOpen(item);
 }
 
-void Items::open(Dimensions const& edges) {
-    hasNegativeSide = hasNegativeSide || edges.hasNegativeSide();
-    openItems.push_back(list.count);
+void Items::open(Box& box) {
+    areBoxes = true;
     Item item = {};
-    item.edges = &edges;
+    item.box = &box;
+    addOpen(item);
+}
+
+void Items::addOpen(Item item) {
+    hasNegativeSide = hasNegativeSide || edges(item).hasNegativeSide();
+    openItems.push_back(list.count);
     item.kind = Item::Open;
     list.add(item);
 }
@@ -43,7 +51,15 @@ void Items::addWords(std::string_view words) {
     }
 }
 
-void Items::addWord(std::string_view word) { addText(word, Item::Word); }
+void Items::addWord(std::string_view word) {
+    // No line is broken behind a space within a word.
+    bool const isPlain = !word.empty() && word.find(' ') >= word.length() - 1;
+    if (isPlain) {
+        addWords(word);
+    } else {
+        addText(word, Item::Word);
+    }
+}
 
 void Items::addText(std::string_view added, Item::Kind kind) {
     Item item = {};
@@ -65,7 +81,7 @@ void Items::addBlock(Box& block) {
     hasBlock = true;
     hasNegativeSide = hasNegativeSide || mayTakeOff(block);
     Item item = {};
-    item.block = &block;
+    item.box = &block;
     item.kind = Item::Block;
     list.add(item);
 }
@@ -73,14 +89,18 @@ void Items::addBlock(Box& block) {
 void Items::clear() {
     list.count = 0;
     allText.clear();
-    hasBlock = hasNegativeSide = hasTable = false;
+    areBoxes = hasBlock = hasNegativeSide = hasTable = false;
+}
+
+std::int32_t Items::outerWidth(Item const& item, std::int32_t content) const {
+    Dimensions box = edges(item);
+    box.content.width = content;
+    return box.marginBox().width;
 }
 
 bool Items::breaksByWidths() const {
     if (hasBlock) return !hasNegativeSide && !hasTable;
-    // Far from the limits, where sums end.
-    constexpr std::int64_t s_moderate = 1 << 30;
-    return !hasNegativeSide || reach() < s_moderate;
+    return !hasNegativeSide || isModerate(reach());
 }
 
 /// Of all words and edges, whatever their signs, in columns.
@@ -88,8 +108,8 @@ std::int64_t Items::reach() const {
     std::int64_t sum = 0;
     for (Item const& item : list) {
         if (item.kind == Item::Open) {
-            Dimensions const& edges = *item.edges;
-            for (EdgeSizes const& sizes : {edges.padding, edges.border, edges.margin}) {
+            Dimensions const& box = edges(item);
+            for (EdgeSizes const& sizes : {box.padding, box.border, box.margin}) {
                 sum += std::abs(std::int64_t{sizes.left}) + std::abs(std::int64_t{sizes.right});
             }
         } else if (item.kind == Item::Words || item.kind == Item::Word) {
@@ -97,27 +117,6 @@ std::int64_t Items::reach() const {
         }
     }
     return sum;
-}
-
-WidthSums::WidthSums(Items const& summed) : items(summed), rests(summed.count() + 1) {
-    update(0, items.count());
-}
-
-void WidthSums::update(std::uint32_t begin, std::uint32_t end) {
-    for (std::uint32_t i = end; i-- > begin;) {
-        Item const& item = items[i];
-        std::int64_t width = 0;
-        if (item.kind == Item::Open) {
-            Dimensions edges = *item.edges;
-            edges.content.width = 0;
-            width = edges.marginBox().width;
-        } else if (item.kind == Item::Block) {
-            width = item.block->dimensions.marginBox().width;
-        } else if (item.kind != Item::Close) {
-            width = item.bytes.length;
-        }
-        rests[i] = rests[i + 1] + width;
-    }
 }
 
 }  // namespace CLI::XML

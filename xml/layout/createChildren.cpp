@@ -3,9 +3,9 @@
 #include <iterator>
 
 #include "base/Walk.h"
-#include "xml/dom/nodes.h"
-#include "xml/layout/boxes.h"
-#include "xml/layout/checkChild.h"
+#include "xml/dom/DomElement.h"
+#include "xml/layout/TableBox.h"
+#include "xml/layout/makeChild.h"
 
 namespace CLI::XML {
 
@@ -32,6 +32,9 @@ constexpr ChildRules s_childRules[] = {
     {make<BlockBox>, make<InlineBox>, nullptr, nullptr, nullptr},
 };
 
+/// What stands for a text in a message.
+constexpr char const* s_text = "text";
+
 /// The type of the box for an element, by its display kind.
 constexpr Box::Type s_types[DomNode::None] = {Box::Block, Box::Inline, Box::Table, Box::Row,
                                               Box::Cell};
@@ -45,7 +48,7 @@ MakeBox ruleFor(Box::Type parent, DomNode::Display childDisplay) {
 
 XCode refuse(DomElement const* child, DomElement const& parent) {
     return testExpression(false).setStringF("Cannot layout '%s' within '%s'",
-                                            child != nullptr ? child->name.c_str() : "text",
+                                            child != nullptr ? child->name.c_str() : s_text,
                                             parent.name.c_str());
 }
 
@@ -55,12 +58,8 @@ Walk createBoxes(Box& box, XCode& result) {
     if (element == nullptr) co_return;
     for (ZRLWPtr<DomNode> const& child : element->children) {
         if (child->display == DomNode::None) continue;
-        MakeBox const make = ruleFor(box.type, child->display);
-        if (make == nullptr) {
-            result = refuse(asElement(child.object), *element);
-            co_return;
-        }
-        ZRLWPtr<Box> const made = make(child.object);
+        ZRLWPtr<Box> const made = makeChild(box, *child, result);
+        if (!made) co_return;
         if (child->display == DomNode::Inline) {
             box.getOrCreateLineBox()->children.add(made);
         } else {
@@ -78,6 +77,13 @@ XCode createAllBoxes(Box& box) {
 }
 
 }  // namespace
+
+ZRLWPtr<Box> makeChild(Box const& parent, DomNode& child, XCode& result) {
+    MakeBox const make = ruleFor(parent.type, child.display);
+    if (make != nullptr) return make(&child);
+    result = refuse(asElement(&child), *asElement(parent.node));
+    return {};
+}
 
 XCode checkChild(DomElement const& parent, DomElement const* child) {
     DomNode::Display const display = child != nullptr ? child->display : DomNode::Inline;

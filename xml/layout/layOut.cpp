@@ -1,79 +1,26 @@
-// Which layout a box has, and how boxes stand side by side: on a line, in an inline element, a row
-// or a cell.
-
 #include "xml/layout/layOut.h"
 
-#include <iterator>
 #include <typeinfo>
-
-#include "xml/dom/nodes.h"
-#include "xml/layout/placement.h"
 
 namespace CLI::XML {
 
-namespace {
-
-/// A word takes a column a byte and one row, any other box without children nothing.
-void layOutLeaf(Box& box) {
-    Rect& content = box.dimensions.content;
-    DomText const* const word = asText(box.node);
-    content.width = word != nullptr ? word->text.length() : 0;
-    content.height = content.width > 0 ? 1 : 0;
-    beginLayout(box);
-}
-
-template <class Gap>
-Walk layOutChildren(Box& box, LayoutPass pass) {
-    RightwardRow row(box.dimensions.content);
-    beginLayout(box);
-    for (unsigned i = 0; i < box.children.count; ++i) {
-        Box& child = *box.children[i];
-        row.place(box.dimensions.content, child.dimensions, Gap());
-        co_await layOut(child, box.dimensions, pass);
-        row.add(box.dimensions.content, child.dimensions);
-        addLayout(box, child);
-    }
-}
-
-template <class Gap>
-Walk layOutRightwards(Box& box, LayoutPass pass) {
-    if (pass == LayoutPass::Again && box.isSettled) return {};
-    if (box.children.count > 0) return layOutChildren<Gap>(box, pass);
-    layOutLeaf(box);
-    return {};
-}
-
-Walk layOutRow(RowBox& box, LayoutPass pass) {
-    Rect& content = box.dimensions.content;
-    RightwardRow row(content);
-    beginLayout(box);
-    for (unsigned i = 0; i < box.children.count; ++i) {
-        CellBox& cell = box[i];
-        if (cell.isConstrained()) {
-            // A column's position already is that of the content.
-            RightwardRow::placeAt(cell.dimensions, cell.columnDimensions.content.x);
-        } else {
-            row.place(content, cell.dimensions, UncoveredMargin());
-        }
-        std::int32_t& width = cell.dimensions.content.width;
-        if (pass == LayoutPass::First || !cell.isSettled) {
-            co_await layOut(cell, box.dimensions, pass);
-            cell.naturalWidth = width;
-        }
-        width = cell.isConstrained() ? cell.columnDimensions.content.width : cell.naturalWidth;
-        row.add(content, cell.dimensions);
-        addLayout(box, cell);
-    }
-}
-
-}  // namespace
-
 bool isForeign(Box const& box) {
-    // By `Box::Type`.
-    static std::type_info const* const s_classes[] = {&typeid(BlockBox),  &typeid(LineBox),
-                                                      &typeid(InlineBox), &typeid(TableBox),
-                                                      &typeid(RowBox),    &typeid(CellBox)};
-    return box.type >= std::size(s_classes) || typeid(box) != *s_classes[box.type];
+    std::type_info const& actual = typeid(box);
+    switch (box.type) {
+        case Box::Block:
+            return actual != typeid(BlockBox);
+        case Box::Line:
+            return actual != typeid(LineBox);
+        case Box::Inline:
+            return actual != typeid(InlineBox);
+        case Box::Table:
+            return actual != typeid(TableBox);
+        case Box::Row:
+            return actual != typeid(RowBox);
+        case Box::Cell:
+            return actual != typeid(CellBox);
+    }
+    return true;
 }
 
 Walk layOut(Box& child, Dimensions const& containing, LayoutPass pass) {
@@ -85,27 +32,25 @@ Walk layOut(Box& child, Dimensions const& containing, LayoutPass pass) {
     switch (child.type) {
         case Box::Block:
             return layOutBlock(static_cast<BlockBox&>(child), containing, pass);
+        case Box::Line:
+            return layOutLine(child, pass);
         case Box::Table:
             return layOutTable(static_cast<TableBox&>(child), pass);
         case Box::Row:
             return layOutRow(static_cast<RowBox&>(child), pass);
-        case Box::Line:
-            return layOutRightwards<LargerMargin>(child, pass);
-        default:
-            return layOutRightwards<UncoveredMargin>(child, pass);
+        case Box::Inline:
+        case Box::Cell:
+            return layOutInline(child, pass);
     }
+    return {};
 }
 
 void BlockBox::layout(Dimensions const& containing) {
     Walk::run(layOutBlock(*this, containing, LayoutPass::First));
 }
+void LineBox::layout(Dimensions const&) { Walk::run(layOutLine(*this, LayoutPass::First)); }
+void InlineBox::layout(Dimensions const&) { Walk::run(layOutInline(*this, LayoutPass::First)); }
 void TableBox::layout(Dimensions const&) { Walk::run(layOutTable(*this, LayoutPass::First)); }
 void RowBox::layout(Dimensions const&) { Walk::run(layOutRow(*this, LayoutPass::First)); }
-void LineBox::layout(Dimensions const&) {
-    Walk::run(layOutRightwards<LargerMargin>(*this, LayoutPass::First));
-}
-void InlineBox::layout(Dimensions const&) {
-    Walk::run(layOutRightwards<UncoveredMargin>(*this, LayoutPass::First));
-}
 
 }  // namespace CLI::XML

@@ -52,11 +52,11 @@ public:
     /// The page's row that is row 0 of the innermost frame.
     std::int64_t originRow() const { return frames.back().y; }
     /// Appends all rows to `text`, with escape sequences between cells that look different, and
-    /// forgets them. Throws where there is no memory for the text.
-    void moveRowsTo(String& text);
+    /// forgets them. False where there is no memory for the text.
+    bool moveRowsTo(String& text);
     /// The same for the rows above row `end` of the page, where nothing will be drawn any more, if
     /// there are some. Rows that are not in use in the innermost frame stay.
-    void moveRowsTo(String& text, std::int64_t end);
+    bool moveRowsTo(String& text, std::int64_t end);
 
 private:
     /// A row, as long as it has been drawn. Small, since there may be millions.
@@ -113,6 +113,7 @@ private:
     std::int64_t endOfRows() const { return firstRow + rows.count - movedAway; }
     Row& row(std::int64_t y) const { return rows.data[movedAway + (y - firstRow)]; }
     void bringIntoUse(std::int64_t y);
+    bool pay(std::int64_t cells);
     std::int64_t extent(std::size_t extents, std::int64_t y) const;
     void raise(std::size_t extents, std::int64_t y, std::int64_t end);
     void touch(std::int64_t y) {
@@ -121,14 +122,15 @@ private:
     void touchNewRow(std::int64_t y);
     void fillRows(std::size_t frame, std::int64_t begin, std::int64_t end);
     void fill(std::size_t extents, std::int64_t y, std::int64_t end);
+    bool mayDraw(std::int64_t columns, std::int64_t first, std::int64_t end);
     void drawInRow(std::string_view pattern, Span where, std::int64_t y,
                    Attributes const& attributes);
     void set(std::string_view pattern, std::int64_t start, Span where, std::int64_t y,
              Attributes const& attributes);
     static void setLooks(Row& target, std::size_t begin, std::size_t end,
                          Attributes const& attributes);
-    void moveRows(String& text, std::int64_t end);
-    void writeRow(Row const& shown, String& text);
+    bool moveRows(String& text, std::int64_t end);
+    bool writeRow(Row const& shown, String& text);
 
     CellBudget& budget;
     /// Those of the page from `movedAway` on; those before it and behind the last one are to be

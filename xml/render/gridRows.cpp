@@ -1,7 +1,6 @@
 // The rows of a page: their cells, and their text.
 
 #include <algorithm>
-#include <new>
 #include <utility>
 
 #include "base/hugePages.h"
@@ -45,7 +44,7 @@ void Grid::Row::clear() {
 /// Sees to it that row `y` of the page exists, with all rows above it.
 void Grid::bringIntoUse(std::int64_t y) {
     std::int64_t const added = y + 1 - endOfRows();
-    if (added <= 0 || !budget.mayHold((y + 1) * s_cellsForRow) || !budget.pay(added)) return;
+    if (added <= 0 || !budget.mayHold((y + 1) * s_cellsForRow) || !pay(added)) return;
     if (movedAway > rows.count / 2 && rows.count + added > rows.capacity) {
         std::rotate(rows.data, rows.data + movedAway, rows.data + rows.count);
         rows.count -= std::exchange(movedAway, 0);
@@ -87,49 +86,58 @@ void Grid::setLooks(Row& target, std::size_t begin, std::size_t end, Attributes 
     looks.insert(looks.end(), end - known, attributes);
 }
 
-void Grid::moveRowsTo(String& text) {
+bool Grid::moveRowsTo(String& text) {
     // Where they are many, the text is not copied again and again while they are added to it.
     std::int64_t length = text.length();
     for (std::int64_t y = firstRow; y < endOfRows(); ++y) length += row(y).length + 1;
     text.reserve(saturate(length));
-    moveRows(text, endOfRows());
+    return moveRows(text, endOfRows());
 }
 
-void Grid::moveRowsTo(String& text, std::int64_t end) {
+bool Grid::moveRowsTo(String& text, std::int64_t end) {
     // Rows that are not in use in a frame get fillers there once something is drawn below.
     if (frames.size() > 1) end = std::min(end, frames.back().end);
     end = std::min(end, endOfRows());
-    if (end - firstRow >= s_rowsAtOnce) moveRows(text, end);
+    return end - firstRow < s_rowsAtOnce || moveRows(text, end);
 }
 
-void Grid::moveRows(String& text, std::int64_t end) {
+bool Grid::moveRows(String& text, std::int64_t end) {
+    bool isComplete = true;
     for (; firstRow < end; ++firstRow, ++movedAway) {
         Row& shown = rows.data[movedAway];
-        writeRow(shown, text);
+        isComplete = writeRow(shown, text) && isComplete;
         shown.clear();
     }
+    return isComplete;
 }
 
-void Grid::writeRow(Row const& shown, String& text) {
-    auto const write = [&text](std::string_view piece) {
-        if (!text.appendGrowing(piece)) throw std::bad_alloc();
+bool Grid::writeRow(Row const& shown, String& text) {
+    bool isComplete = true;
+    auto const writeEscapes = [&](std::string_view sequences) {
+        if (pay(static_cast<std::int64_t>(sequences.length()))) {
+            isComplete = text.appendGrowing(sequences) && isComplete;
+        }
     };
     std::string_view const bytes(shown.bytes.get(), shown.length);
     std::size_t const lookCount = std::min(shown.lookCount(), bytes.length());
     Attributes current;
     std::size_t begin = 0;
-    // Behind the looks is one by default.
-    for (std::size_t i = 0; i <= lookCount; ++i) {
-        Attributes const look = i < lookCount ? (*shown.looks)[i] : Attributes();
+    for (std::size_t i = 0; i < lookCount; ++i) {
+        Attributes const& look = (*shown.looks)[i];
         if (look == current) continue;
-        write(bytes.substr(begin, i - begin));
+        isComplete = text.appendGrowing(bytes.substr(begin, i - begin)) && isComplete;
         begin = i;
-        String const escapes = look.generateFormattingFrom(current);
-        if (budget.pay(escapes.length())) write(escapes.view());
+        writeEscapes(look.generateFormattingFrom(current).view());
         current = look;
     }
-    write(bytes.substr(begin));
-    write("\n");
+    Attributes const last;
+    if (!(current == last)) {
+        isComplete = text.appendGrowing(bytes.substr(begin, lookCount - begin)) && isComplete;
+        begin = lookCount;
+        writeEscapes("\x1b[0m");
+    }
+    isComplete = text.appendGrowing(bytes.substr(begin)) && isComplete;
+    return text.appendGrowing("\n") && isComplete;
 }
 
 }  // namespace CLI::XML
