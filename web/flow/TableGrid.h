@@ -45,7 +45,7 @@ struct TableRow {
     bool endsGroup;
 };
 
-/// A column in which a cell begins, with those behind it in which none does.
+/// A column in which a cell begins or which has a width, with those behind it that are no such.
 struct TableColumn {
     Style const* style = nullptr;
     Style const* group = nullptr;
@@ -66,7 +66,7 @@ struct TableColumn {
 /// 1. Cells are in the order of the document; those of a row are neighbours.
 /// 2. Until it is complete, columns are those of the document and rows are in its order.
 /// 3. Then a cell spans no row of another group, and in each column a cell begins, or an element of
-///    columns, if columns are joined.
+///    columns that has a width, if columns are joined.
 class TableGrid {
 public:
     /// Of a table with that background.
