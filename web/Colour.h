@@ -24,6 +24,7 @@ struct Colour {
     bool isCurrent = false;
 
     static constexpr Colour ofPalette(std::uint8_t number) { return {Kind::palette, number}; }
+    static constexpr Colour transparent() { return {Kind::transparent}; }
     static constexpr Colour current() { return {Kind::terminal, 0, 0, 0, true}; }
     static constexpr Colour rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
         return {Kind::rgb, red, green, blue};

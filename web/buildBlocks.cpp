@@ -95,7 +95,7 @@ void PageBuilder::endParagraph() {
     Frame& current = frame();
     if (!current.plain.empty()) {
         if (current.plain.back() == ' ') current.plain.pop_back();
-        current.sink->add(PlainText{current.style, current.background, current.plain});
+        current.sink->add(PlainText{current.style, current.plain});
         return current.plain.clear();
     }
     if (!current.hasParagraph) return;

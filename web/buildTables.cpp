@@ -34,8 +34,7 @@ PageBuilder::Role PageBuilder::openTablePart(Element const& element, Style const
     Table& table = *tables.back();
     switch (style.display) {
         case Display::caption:
-            push(table.addCaption(style), style, backgroundOf(style, frame().background));
-            return Role::cell;
+            return openCaption(style);
         case Display::columnGroup:
             table.beginColumnGroup(style, spanOf(element, "span", s_columnSpans));
             return Role::columnGroup;
@@ -58,11 +57,17 @@ int PageBuilder::spanOf(Element const& element, std::string_view attributeName, 
     return integerAttribute(element, attributeName, limits, problems).value_or(1);
 }
 
+PageBuilder::Role PageBuilder::openCaption(Style const& style) {
+    Colour const background = backgroundOf(style, frame().background);
+    push(tables.back()->addCaption(style, background), style, background);
+    return Role::cell;
+}
+
 PageBuilder::Role PageBuilder::openCell(Element const& element, Style const& style) {
     Table& table = *tables.back();
     int const columns = spanOf(element, "colspan", s_columnSpans);
-    Content& content = table.addCell(style, columns, spanOf(element, "rowspan", s_rowSpans));
-    push(content, style, table.cellBackground());
+    BlockSink& content = table.addCell(style, columns, spanOf(element, "rowspan", s_rowSpans));
+    push(content, style, Colour::transparent());
     return Role::cell;
 }
 
@@ -70,8 +75,8 @@ PageBuilder::Role PageBuilder::openCell(Element const& element, Style const& sty
 void PageBuilder::openAnonymousCell() {
     Table& table = *tables.back();
     Style const& style = anonymousStyles.emplace_back(computeStyle(*open.back().style, {}));
-    Content& content = table.addCell(style, 1, 1);
-    push(content, style, table.cellBackground());
+    BlockSink& content = table.addCell(style, 1, 1);
+    push(content, style, Colour::transparent());
     hasAnonymousCell.back() = true;
 }
 

@@ -49,7 +49,6 @@ class Browser:
             if math.ceil(left / 8) + picture.cells_of(cluster) > width:
                 put(rows, int(top // 16), int(left // 8), cluster)
                 fits = False
-                between = between or "capitalize" in source
         covers = overlap(laid["clusters"])
         if between or covers or any(picture.UNKNOWN in cells for cells in rows):
             letters = "".join(cluster for cluster, _, _ in laid["clusters"])

@@ -17,7 +17,7 @@ BLOCKS = ("p p p p div div section header footer main nav article aside address 
           "blockquote blockquote h1 h2 h3 h4 h5 h6").split()
 MARKERS = ("disc circle square decimal decimal-leading-zero lower-alpha upper-alpha lower-latin "
            "upper-latin lower-roman upper-roman lower-greek '+' none").split()
-AVOIDED = ["overflow-wrap: normal", "text-transform: capitalize"]
+AVOIDED = ["overflow-wrap: normal"]
 # Where the inner element says no more than a word, what it has from its parent, or has not.
 KEYWORDS = "margin-left padding-left text-align text-indent white-space".split()
 
@@ -33,10 +33,6 @@ def make_page(seed):
         rules = rules.replace("-right", "-left")
     if {"table-layout: fixed", "border-collapse"} <= chosen.features:
         rules = re.sub(r"(?<!-)width: [^;} ]*", "visibility: hidden", rules)
-    # What a page turns on when its width is set leaves letters small that it has shown before.
-    rules = re.sub(r"(@media [^}]*)capitalize", r"\1uppercase", rules)
-    if "block in inline" in chosen.features:
-        body, rules = (part.replace("capitalize", "uppercase") for part in (body, rules))
     title = chosen.use("title", "<title>t</title>") if chosen.chance(0.1) else ""
     head = f"<head>{title}<style>{rules}</style></head>" if rules else "<head/>"
     page = avoid(f"<html>{head}{body}</html>")

@@ -52,7 +52,7 @@ constexpr auto s_right = &Edges<Border>::right;
 constexpr auto s_top = &Edges<Border>::top;
 constexpr auto s_bottom = &Edges<Border>::bottom;
 
-Style const* styleOf(TableCell const* cell) { return cell == nullptr ? nullptr : cell->style; }
+Style const* styleOf(TableCell const* cell) { return cell == nullptr ? nullptr : &cell->style(); }
 
 }  // namespace
 

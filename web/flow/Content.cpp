@@ -25,11 +25,6 @@ bool isOfSingleCells(Paragraph const& paragraph) {
     });
 }
 
-void widen(Widths& widths, Widths const& child) {
-    widths.least = std::max(widths.least, child.least);
-    widths.most = std::max(widths.most, child.most);
-}
-
 /// Cells of the longest word.
 int longestWord(std::string_view text) {
     std::size_t longest = 0;
@@ -53,80 +48,80 @@ int widestLine(PlainText const& text, bool partsWords, int indentation) {
 
 }  // namespace
 
-Content::Content() = default;
+Content::Content(Style const& cell, Colour shown) : ownStyle(&cell), ground(shown) {}
 Content::Content(Content&& other) noexcept = default;
 Content::~Content() = default;
 
-Content::Parts& Content::parts() {
-    if (others == nullptr) others = std::make_unique<Parts>();
-    return *others;
+std::vector<Content::Entry>& ContentSink::entries() {
+    if (filled->others == nullptr) filled->others = std::make_unique<std::vector<Content::Entry>>();
+    return *filled->others;
 }
 
-void Content::open(Style const& block, OutsideMarker const& marker) {
+void ContentSink::open(Style const& block, OutsideMarker const& marker) {
     bool const hasMarker = !marker.text.empty();
     takeBlock();
-    parts().entries.emplace_back(
-        Open{&block, hasMarker ? std::make_unique<OutsideMarker>(marker) : nullptr});
-    parts().openBlocks.push_back({&block, {}, marker.columns});
+    entries().emplace_back(
+        Content::Open{&block, hasMarker ? std::make_unique<OutsideMarker>(marker) : nullptr});
+    openBlocks.push_back({&block, {}, marker.columns});
 }
 
-void Content::close() {
-    parts().entries.emplace_back(Close{});
-    Measured const block = parts().openBlocks.back();
-    parts().openBlocks.pop_back();
+void ContentSink::close() {
+    entries().emplace_back(Content::Close{});
+    OpenWidths const block = openBlocks.back();
+    openBlocks.pop_back();
     take(withEdges(block.content, *block.style));
 }
 
-void Content::add(PlainText const& text) {
+void ContentSink::add(PlainText const& text) {
     takeIndent(*text.block);
     take(measure(text, Wrapping::asStyled));
-    KeptText kept = {text.block, text.background, std::string(text.text)};
-    if (others == nullptr && first.block == nullptr) {
-        first = std::move(kept);
-    } else {
-        parts().entries.emplace_back(std::move(kept));
+    if (!filled->isEmpty()) {
+        entries().emplace_back(Content::KeptText{text.block, std::string(text.text)});
+        return;
     }
+    auto* const copy = static_cast<char*>(texts.allocate(text.text.size(), 1));
+    text.text.copy(copy, text.text.size());
+    filled->text = copy;
+    filled->textSize = static_cast<std::uint32_t>(text.text.size());
 }
 
-void Content::add(Paragraph const& paragraph) {
+void ContentSink::add(Paragraph const& paragraph) {
     takeIndent(paragraph.block());
     take(measure(paragraph, Wrapping::asStyled));
-    parts().entries.emplace_back(PackedParagraph(paragraph));
+    entries().emplace_back(PackedParagraph(paragraph));
 }
 
-void Content::add(std::unique_ptr<Table> table) {
+void ContentSink::add(std::unique_ptr<Table> table) {
     takeBlock();
     take(table->outerWidths(Wrapping::asStyled));
-    parts().entries.emplace_back(std::move(table));
+    entries().emplace_back(std::move(table));
 }
 
-void Content::takeIndent(Style const& block) {
-    mostOutdent = std::max(mostOutdent, -across(block.textIndent, 0));
+void ContentSink::takeIndent(Style const& block) {
+    filled->mostOutdent = std::max(filled->mostOutdent, -across(block.textIndent, 0));
 }
 
-void Content::take(Widths const& child) {
-    bool const isInBlock = others != nullptr && !others->openBlocks.empty();
-    widen(isInBlock ? others->openBlocks.back().content : measured, child);
+void ContentSink::take(Widths const& child) {
+    (openBlocks.empty() ? filled->measured : openBlocks.back().content).widen(child);
 }
 
-void Content::takeBlock() {
-    if (others != nullptr && !others->openBlocks.empty()) others->openBlocks.back().takeBlock();
+void ContentSink::takeBlock() {
+    if (!openBlocks.empty()) openBlocks.back().takeBlock();
 }
-
-void Content::Measured::takeBlock() { widen(content, {marker, marker}); }
 
 Widths Content::partedWidths(Paragraph& scratch) const {
-    std::vector<Measured> blocks(1);
-    auto const take = [&blocks](Widths const& child) { widen(blocks.back().content, child); };
-    if (first.block != nullptr) take(measure(first.view(), Wrapping::anywhere));
-    if (others == nullptr) return blocks.front().content;
-    for (auto const& entry : others->entries) {
+    if (isEmpty()) return {};
+    Widths const ofText = textSize > 0 ? measure(first(), Wrapping::anywhere) : Widths();
+    if (others == nullptr) return ofText;
+    std::vector<OpenWidths> blocks = {{nullptr, ofText, 0}};
+    auto const take = [&blocks](Widths const& child) { blocks.back().content.widen(child); };
+    for (auto const& entry : *others) {
         if (auto const* const opened = std::get_if<Open>(&entry)) {
             blocks.back().takeBlock();
             bool const hasMarker = opened->marker != nullptr;
             blocks.push_back({opened->style, {}, hasMarker ? opened->marker->columns : 0});
-        } else if (auto const* const text = std::get_if<KeptText>(&entry)) {
-            take(measure(text->view(), Wrapping::anywhere));
+        } else if (auto const* const kept = std::get_if<KeptText>(&entry)) {
+            take(measure(kept->view(), Wrapping::anywhere));
         } else if (auto const* const paragraph = std::get_if<PackedParagraph>(&entry)) {
             paragraph->unpackTo(scratch);
             take(measure(scratch, Wrapping::anywhere));
@@ -134,7 +129,7 @@ Widths Content::partedWidths(Paragraph& scratch) const {
             blocks.back().takeBlock();
             take((*table)->outerWidths(Wrapping::anywhere));
         } else {
-            Measured const block = blocks.back();
+            OpenWidths const block = blocks.back();
             blocks.pop_back();
             take(withEdges(block.content, *block.style));
         }
@@ -143,22 +138,21 @@ Widths Content::partedWidths(Paragraph& scratch) const {
 }
 
 std::optional<PlainText> Content::plainText() const {
-    if (first.block == nullptr || others != nullptr) return std::nullopt;
-    return first.view();
+    if (textSize == 0 || others != nullptr) return std::nullopt;
+    return first();
 }
 
 void Content::moveTo(BlockSink& sink, Paragraph& scratch) {
-    if (first.block != nullptr) sink.add(first.view());
-    first = {};
+    if (textSize > 0) sink.add(first());
     if (others == nullptr) return;
-    for (auto& entry : others->entries) {
+    for (auto& entry : *others) {
         if (auto* const opened = std::get_if<Open>(&entry)) {
             sink.open(*opened->style,
                       opened->marker != nullptr ? *opened->marker : OutsideMarker());
         } else if (std::holds_alternative<Close>(entry)) {
             sink.close();
-        } else if (auto const* const text = std::get_if<KeptText>(&entry)) {
-            sink.add(text->view());
+        } else if (auto const* const kept = std::get_if<KeptText>(&entry)) {
+            sink.add(kept->view());
         } else if (auto const* const paragraph = std::get_if<PackedParagraph>(&entry)) {
             paragraph->unpackTo(scratch);
             sink.add(scratch);

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
+#include <memory_resource>
 #include <optional>
 #include <string>
 #include <variant>
@@ -20,29 +23,43 @@ struct Widths {
     int most = 0;
 
     bool operator==(Widths const&) const = default;
+
+    void widen(Widths const& other) {
+        least = std::max(least, other.least);
+        most = std::max(most, other.most);
+    }
+};
+
+/// A block that is open, and how wide what is in it is so far.
+struct OpenWidths {
+    Style const* style = nullptr;
+    Widths content;
+    /// Columns of its marker and the blank behind that.
+    int marker = 0;
+
+    /// A marker that no line of the item's own stands beside is as wide as a block in it.
+    void takeBlock() { content.widen({marker, marker}); }
 };
 
 /// What is in a table's cell or caption, kept until the table is complete, and measured meanwhile.
-class Content final : public BlockSink {
+class Content {
 public:
-    Content();
+    /// Of a cell or a caption with that background, which outlives it.
+    Content(Style const& cell, Colour shown);
     Content(Content&& other) noexcept;
     Content(Content const&) = delete;
     Content& operator=(Content&&) = delete;
     Content& operator=(Content const&) = delete;
-    ~Content() override;
+    ~Content();
 
-    void open(Style const& block, OutsideMarker const& marker) override;
-    void close() override;
-    void add(PlainText const& text) override;
-    void add(Paragraph const& paragraph) override;
-    void add(std::unique_ptr<Table> table) override;
-
+    Style const& style() const { return *ownStyle; }
+    /// On which all in it stands that has none of its own, which is transparent meanwhile.
+    Colour const& background() const { return ground; }
     /// Whether nothing has been added, not even an empty block.
-    bool isEmpty() const { return first.block == nullptr && others == nullptr; }
+    bool isEmpty() const { return textSize == 0 && others == nullptr; }
     /// Columns that lines in it may begin before what is around them, by an indent below 0.
     int outdent() const { return mostOutdent; }
-    /// If there is no more than one plain text, that. As long as the content stays.
+    /// If there is no more than one plain text, that. As long as its sink stays.
     std::optional<PlainText> plainText() const;
 
     /// Hands all of it on, paragraphs in `scratch`. Its tables have been moved away then: once
@@ -54,6 +71,8 @@ public:
     Widths partedWidths(Paragraph& scratch) const;
 
 private:
+    friend class ContentSink;
+
     struct Open {
         Style const* style = nullptr;
         /// Null for none.
@@ -62,40 +81,46 @@ private:
     struct Close {};
     struct KeptText {
         Style const* block = nullptr;
-        Colour background;
         std::string text;
 
-        PlainText view() const { return {block, background, text}; }
+        PlainText view() const { return {block, text}; }
     };
     using Entry = std::variant<Open, Close, KeptText, PackedParagraph, std::unique_ptr<Table>>;
 
-    /// A block that is open, and how wide what is in it is so far.
-    struct Measured {
-        Style const* style = nullptr;
-        Widths content;
-        /// Columns of its marker and the blank behind that.
-        int marker = 0;
+    PlainText first() const { return {ownStyle, {text, textSize}}; }
 
-        /// A marker that no line of the item's own stands beside is as wide as a block in it.
-        void takeBlock();
-    };
+    Style const* ownStyle;
+    /// A text that comes first, of the cell's own. In most cells there is nothing else.
+    char const* text = nullptr;
+    /// Null for none.
+    std::unique_ptr<std::vector<Entry>> others;
+    std::uint32_t textSize = 0;
+    int mostOutdent = 0;
+    Widths measured;
+    Colour ground;
+};
 
-    struct Parts {
-        std::vector<Entry> entries;
-        std::vector<Measured> openBlocks;
-    };
+/// Takes the content of one cell or caption after the other, and has the texts that come first.
+class ContentSink final : public BlockSink {
+public:
+    /// What comes now is of that one, which stays where it is until the next.
+    void begin(Content& content) { filled = &content; }
 
-    Parts& parts();
+    void open(Style const& block, OutsideMarker const& marker) override;
+    void close() override;
+    void add(PlainText const& text) override;
+    void add(Paragraph const& paragraph) override;
+    void add(std::unique_ptr<Table> table) override;
+
+private:
+    std::vector<Content::Entry>& entries();
     void take(Widths const& child);
     void takeBlock();
     void takeIndent(Style const& block);
 
-    /// Comes first, if it has a block. In most cells there is nothing else.
-    KeptText first;
-    /// Null for none.
-    std::unique_ptr<Parts> others;
-    Widths measured;
-    int mostOutdent = 0;
+    Content* filled = nullptr;
+    std::vector<OpenWidths> openBlocks;
+    std::pmr::monotonic_buffer_resource texts;
 };
 
 /// How wide the lines of a text and of a paragraph are.

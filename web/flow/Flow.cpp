@@ -84,7 +84,7 @@ void Flow::add(PlainText const& text) {
     Style const& style = *text.block;
     using Purpose = LineBreaker::Purpose;
     bool const partsWords = LineBreaker::mayPart(style, Purpose::layingOut, wrapping);
-    Look const look = lookOf(style, text.background);
+    Look const look = lookOf(style, background());
     int const firstIndent = beginParagraph(style);
     auto const addLine = [&](std::string_view line, int indent) {
         auto const length = static_cast<int>(line.size());
@@ -94,7 +94,7 @@ void Flow::add(PlainText const& text) {
         } else {
             row.fill(row.width() + length, look);
         }
-        endRow();
+        endLine(style);
     };
     breakLines(text, columns(), partsWords, firstIndent, addLine);
 }
@@ -110,7 +110,7 @@ void Flow::add(Paragraph const& paragraph) {
         int const spare = isSpread ? std::max(0, container - indent - line.width) : 0;
         int const start = beginLine(style, indent, line.width) - indent;
         paintLine(row, paragraph, line, container, start, spare);
-        endRow();
+        endLine(style);
         at = line.end;
     }
 }
@@ -128,8 +128,23 @@ int Flow::beginParagraph(Style const& style) {
 int Flow::beginLine(Style const& style, int indent, int lineWidth) {
     int const column = contentLeft() + columnOfLine(style, columns(), indent, lineWidth);
     beginRow();
+    if (column < std::min(contentLeft(), row.width())) {
+        std::swap(row, edges);
+        row.clear();
+    }
     row.fill(column, blankOn(background()));
     return column;
+}
+
+/// A line that is indented by less than 0 lies over the left edges of its blocks.
+void Flow::endLine(Style const& style) {
+    if (edges.width() > 0) {
+        budget.take(s_costOfCell * static_cast<std::size_t>(row.width()));
+        edges.draw(0, row.view(), background(), background(), style.cells.isAmbiguousWide);
+        std::swap(row, edges);
+        edges.clear();
+    }
+    endRow();
 }
 
 void Flow::add(std::unique_ptr<Table> table) {
@@ -163,10 +178,9 @@ void Flow::finish() {
     pending = 0;
 }
 
-void Flow::restart(int columns, Colour newGround, Wrapping wrapped, int left) {
+void Flow::restart(int columns, Wrapping wrapped, int left) {
     width = columns;
     ownLeft = left;
-    ground = newGround;
     wrapping = wrapped;
     hasRows = hasOwnContent = false;
     rowCount = 0;

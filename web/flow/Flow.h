@@ -38,7 +38,7 @@ public:
     std::optional<int> baseline() const { return firstLine; }
     /// Begins another container, which hands its rows to the same sink and stands so many columns
     /// to the right in them. To be called behind `finish`.
-    void restart(int columns, Colour newGround, Wrapping wrapped, int left);
+    void restart(int columns, Wrapping wrapped, int left);
     /// To be called behind all content.
     void finish();
 
@@ -63,11 +63,15 @@ private:
         bool hasContent = false;
     };
 
+    /// Where a row is made anew, cell by cell.
+    static constexpr std::size_t s_costOfCell = 8;
+
     int columns() const { return blocks.empty() ? width : blocks.back().contentWidth; }
     int contentLeft() const { return blocks.empty() ? ownLeft : blocks.back().contentLeft; }
     Colour background() const { return blocks.empty() ? ground : blocks.back().background; }
     int beginParagraph(Style const& style);
     int beginLine(Style const& style, int indent, int lineWidth);
+    void endLine(Style const& style);
     void start();
     void addBlanks(int rows);
     void beginRow();
@@ -99,6 +103,8 @@ private:
     int waitingMarkers = 0;
     std::vector<Row> held;
     Row row;
+    /// Of the row, while it has a line that lies over them.
+    Row edges;
 };
 
 }  // namespace galley::web

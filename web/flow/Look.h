@@ -62,8 +62,8 @@ inline Colour backgroundOf(Style const& style, Colour around) {
     return isSeen ? style.background : around;
 }
 
-/// Whether a background is more than the terminal's own.
-inline bool isDrawn(Colour background) { return background.kind != Colour::Kind::terminal; }
+/// Whether a background is more than the terminal's own, or than what is around it.
+inline bool isDrawn(Colour background) { return background.kind > Colour::Kind::transparent; }
 
 /// How blanks look on a background.
 inline Look blankOn(Colour background) { return {.text = {}, .background = background}; }

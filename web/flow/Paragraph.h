@@ -127,6 +127,7 @@ private:
     friend class PackedParagraph;
 
     void joinTo(std::string_view decoded);
+    void partBefore(std::size_t index, std::size_t bytes);
     void addWord(std::string_view bytes, Segment const& segment);
     void addWords(std::string_view words);
     void addIdeographs(std::string_view ideographs);

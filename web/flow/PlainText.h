@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "web/Colour.h"
 #include "web/Style.h"
 
 namespace galley::web {
@@ -15,7 +14,6 @@ namespace galley::web {
 /// for blanks.
 struct PlainText {
     Style const* block = nullptr;
-    Colour background;
     /// Begins and ends with a word.
     std::string_view text;
 };

@@ -36,10 +36,12 @@ std::vector<Cell> cellsOf(RowView const& row, bool isAmbiguousWide) {
 /// Of a border: a character of the block Box Drawing.
 bool isLine(std::string_view cluster) { return cluster >= "\u2500" && cluster <= "\u257F"; }
 
-/// What shows of one cell on another: no blank, and no border on text (CSS 2.2, E.2).
-bool covers(std::string_view cluster, std::string_view below) {
+/// Whether one cell shows on another: no border on text, and only on borders a blank with a
+/// background of its own (CSS 2.2, E.2).
+bool covers(std::string_view cluster, std::string_view below, bool hasBackground) {
     if (below == " ") return true;
-    return cluster != " " && (!isLine(cluster) || isLine(below));
+    if (cluster == " ") return hasBackground && isLine(below);
+    return !isLine(cluster) || isLine(below);
 }
 
 }  // namespace
@@ -58,20 +60,23 @@ void Row::fill(int column, Look const& look) {
     close(look, bytes.size());
 }
 
-void Row::add(RowView const& other) {
+void Row::add(RowView const& other, Colour ground, Colour shown) {
     std::size_t const begin = bytes.size();
     bytes.append(other.text);
-    for (Span const& span : other.spans) close(span.look, begin + span.end);
+    for (Span const& span : other.spans) {
+        Look look = span.look;
+        if (look.background == ground) look.background = shown;
+        close(look, begin + span.end);
+    }
     cells += other.width;
 }
 
 void Row::draw(int column, RowView const& other, Colour ground, Colour beyond,
                bool isAmbiguousWide) {
-    if (column >= cells && ground == beyond) {
+    if (column >= cells) {
         if (other.width == 0) return;
-        fill(column, blankOn(ground));
-        add(other);
-        return;
+        fill(column, blankOn(beyond));
+        return add(other, ground, beyond);
     }
     std::vector<Cell> drawn = cellsOf(view(), isAmbiguousWide);
     int at = column;
@@ -79,10 +84,13 @@ void Row::draw(int column, RowView const& other, Colour ground, Colour beyond,
         drawn.resize(std::max(drawn.size(), static_cast<std::size_t>(at) + 1),
                      Cell{" ", blankOn(beyond)});
         Cell& below = drawn[static_cast<std::size_t>(at++)];
-        bool const isThrough = cell.look.background == ground;
-        if (isThrough && !covers(cell.text, below.text)) continue;
-        if (isThrough) cell.look.background = below.look.background;
-        below = cell;
+        bool const hasBackground = cell.look.background != ground;
+        if (!hasBackground) cell.look.background = below.look.background;
+        if (covers(cell.text, below.text, hasBackground)) {
+            below = cell;
+        } else if (!isLine(cell.text)) {
+            below.look.background = cell.look.background;
+        }
     }
     Row result;
     for (std::size_t i = 0; i < drawn.size(); ++i) {

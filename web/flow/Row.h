@@ -51,12 +51,15 @@ public:
     /// Adds blanks up to a column, where that is not reached yet. Throws `PageTooLarge` where it is
     /// further right than any page is wide.
     void fill(int column, Look const& look);
-    /// Adds another row behind what is there.
-    void add(RowView const& other);
-    /// Puts another row over what is there, from a column on, as far as it is not blank, and
-    /// borders not over text: what stands on `ground` has no background of its own. A wide
-    /// character of which half is covered becomes a blank. Behind what is there are blanks on
-    /// `beyond`.
+    /// Adds another row behind what is there: what stands on `ground` in that stands on `shown`
+    /// now.
+    ///@{
+    void add(RowView const& other, Colour ground, Colour shown);
+    void add(RowView const& other) { add(other, {}, {}); }
+    ///@}
+    /// Puts another row over what is there, from a column on: text and borders, but no borders over
+    /// text, and backgrounds: what stands on `ground` has none of its own. A wide character of
+    /// which half is covered becomes a blank. Behind what is there are blanks on `beyond`.
     void draw(int column, RowView const& other, Colour ground, Colour beyond,
               bool isAmbiguousWide = false);
     /// Adds what stands from a column of another row to one. Halves of wide characters are blanks.

@@ -17,8 +17,9 @@ Table::Table(Style const& tableStyle, Colour around, Sizing sized)
       grid(tableStyle.visibility == Visibility::visible ? backgroundOf(tableStyle, around)
                                                         : around) {}
 
-Content& Table::addCaption(Style const& caption) {
-    return captions.emplace_back(Caption{&caption, {}}).content;
+BlockSink& Table::addCaption(Style const& caption, Colour background) {
+    contents.begin(captions.emplace_back(caption, background));
+    return contents;
 }
 
 void Table::beginColumnGroup(Style const& group, int span) {
@@ -49,10 +50,11 @@ void Table::beginRow(Style const& row) {
     grid.beginRow(&row);
 }
 
-Content& Table::addCell(Style const& cell, int columnSpan, int rowSpan) {
+BlockSink& Table::addCell(Style const& cell, int columnSpan, int rowSpan) {
     if (!grid.hasOpenGroup()) grid.beginGroup(nullptr, Display::rowGroup);
     if (!grid.hasOpenRow()) grid.beginRow(nullptr);
-    return grid.addCell(cell, columnSpan, rowSpan).content;
+    contents.begin(grid.addCell(cell, columnSpan, rowSpan).content);
+    return contents;
 }
 
 void Table::complete() {
@@ -84,11 +86,10 @@ int Table::captionWidth(Wrapping wrapping) {
     if (known) return *known;
     known = 0;
     Paragraph scratch;
-    for (Caption const& caption : captions) {
-        Widths const content = wrapping == Wrapping::anywhere
-                                   ? caption.content.partedWidths(scratch)
-                                   : caption.content.widths();
-        known = std::max(*known, withEdges(content, *caption.style).least);
+    for (Content const& caption : captions) {
+        Widths const content =
+            wrapping == Wrapping::anywhere ? caption.partedWidths(scratch) : caption.widths();
+        known = std::max(*known, withEdges(content, caption.style()).least);
     }
     return *known;
 }
@@ -148,12 +149,12 @@ void Table::layOut(int columns, Wrapping around, TableSink& rows, PageBudget& bu
 
 void Table::layOutCaptions(CaptionSide side, int width, Wrapping wrapping, RowSink& rows,
                            PageBudget& budget) {
-    for (Caption& caption : captions) {
-        if (caption.style->captionSide != side) continue;
+    for (Content& caption : captions) {
+        if (caption.style().captionSide != side) continue;
         Flow flow(rows, budget, width, ground, Flow::OuterMargins::shown, wrapping);
-        flow.open(*caption.style, {});
+        flow.open(caption.style(), {});
         Paragraph scratch;
-        caption.content.moveTo(flow, scratch);
+        caption.moveTo(flow, scratch);
         flow.close();
         flow.finish();
     }

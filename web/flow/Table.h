@@ -34,9 +34,10 @@ public:
 
     /// Parts are added in the order of the document, captions and columns anywhere among them. What
     /// comes without its parent gets one: a cell a row, a row a group. Each part ends what is open
-    /// of its kind, and all parts within that.
+    /// of its kind, and all parts within that. The sink is for the content of the last cell or
+    /// caption.
     ///@{
-    Content& addCaption(Style const& caption);
+    BlockSink& addCaption(Style const& caption, Colour background);
     /// Of so many columns, if none are added to it.
     void beginColumnGroup(Style const& group, int span);
     void addColumn(Style const& column, int span);
@@ -46,12 +47,9 @@ public:
     void endGroup() { grid.endGroup(); }
     void beginRow(Style const& row);
     void endRow() { grid.endRow(); }
-    /// Spans are cut to what they can be; 0 rows are all that follow in the group. The content
-    /// stays where it is.
-    Content& addCell(Style const& cell, int columnSpan, int rowSpan);
+    /// Spans are cut to what they can be; 0 rows are all that follow in the group.
+    BlockSink& addCell(Style const& cell, int columnSpan, int rowSpan);
     ///@}
-    /// Of the cell that was added last.
-    Colour cellBackground() const { return grid.cells().back().background; }
 
     /// With its margins. To be called when all parts have been added.
     Widths outerWidths(Wrapping wrapping);
@@ -59,10 +57,6 @@ public:
     void layOut(int columns, Wrapping around, TableSink& rows, PageBudget& budget);
 
 private:
-    struct Caption {
-        Style const* style;
-        Content content;
-    };
     struct OpenColumnGroup {
         Style const* style;
         int span;
@@ -83,7 +77,8 @@ private:
     Colour ground;
     Sizing sizing;
     TableGrid grid;
-    std::deque<Caption> captions;
+    std::deque<Content> captions;
+    ContentSink contents;
     std::optional<OpenColumnGroup> columnGroup;
     /// There once all parts have been added, and what has been asked for.
     ///@{

@@ -27,7 +27,7 @@ TableBand::TableBand(TableGrid& banded, TableFrame const& tableFrame,
       frame(tableFrame),
       places(columnPlaces),
       budget(cells),
-      flow(content, cells, 0, {}, Flow::OuterMargins::shown) {}
+      flow(content, cells, 0, Colour::transparent(), Flow::OuterMargins::shown) {}
 
 void TableBand::layOut(int firstRow, Wrapping wrapping) {
     first = firstRow;
@@ -56,7 +56,7 @@ int TableBand::layOutRow(int row, Wrapping wrapping) {
 }
 
 void TableBand::layOutCell(TableCell& cell, int row, Wrapping wrapping) {
-    Style const& style = *cell.style;
+    Style const& style = cell.style();
     LaidCell& placed =
         laid.emplace_back(LaidCell{.cell = &cell, .firstRow = row, .endRow = row + cell.rowSpan});
     placed.left = places.left[static_cast<std::size_t>(cell.column)];
@@ -65,9 +65,9 @@ void TableBand::layOutCell(TableCell& cell, int row, Wrapping wrapping) {
     placed.contentLeft = placed.left + (frame.hasBorder(style.border.left) ? 1 : 0) +
                          across(style.padding.left, places.width);
     placed.contentWidth = placed.right - placed.left - edges;
-    placed.isBare = cell.background.kind == Colour::Kind::terminal &&
-                    !frame.hasBorder(style.border.left) && !frame.hasBorder(style.border.right) &&
-                    !frame.hasBorder(style.border.top) && !frame.hasBorder(style.border.bottom);
+    placed.isBare = !isDrawn(cell.content.background()) && !frame.hasBorder(style.border.left) &&
+                    !frame.hasBorder(style.border.right) && !frame.hasBorder(style.border.top) &&
+                    !frame.hasBorder(style.border.bottom);
     placed.isOnBaseline = style.verticalAlign == VerticalAlign::baseline && !cell.content.isEmpty();
     std::optional<PlainText> const text = cell.content.plainText();
     if (text && isVisible(*text->block)) {
@@ -87,7 +87,7 @@ void TableBand::layOutText(LaidCell& placed, PlainText const& text, Wrapping wra
     int const columns = std::max(0, placed.contentWidth);
     using Purpose = LineBreaker::Purpose;
     bool const partsWords = LineBreaker::mayPart(style, Purpose::layingOut, wrapping);
-    Look const look = lookOf(style, text.background);
+    Look const look = lookOf(style, Colour::transparent());
     placed.isPlain = true;
     placed.isOutdented = placed.cell->content.outdent() > 0;
     int const leftmost = placed.left - placed.contentLeft;
@@ -107,7 +107,7 @@ void TableBand::layOutContent(LaidCell& placed, Wrapping wrapping) {
     int const outdent = std::min(cell.content.outdent(), placed.contentLeft - placed.left);
     placed.isOutdented = outdent > 0;
     placed.contentLeft -= outdent;
-    flow.restart(std::max(0, placed.contentWidth), cell.background, wrapping, outdent);
+    flow.restart(std::max(0, placed.contentWidth), wrapping, outdent);
     placed.firstLine = content.size();
     cell.content.moveTo(flow, scratch);
     flow.finish();
@@ -158,7 +158,7 @@ void TableBand::placeRows() {
 /// Moves content down where the cell is higher than it needs.
 void TableBand::placeContent(LaidCell& cell) const {
     int const spare = cell.height - cell.needed;
-    VerticalAlign const align = cell.cell->style->verticalAlign;
+    VerticalAlign const align = cell.cell->style().verticalAlign;
     if (align == VerticalAlign::bottom) cell.above += spare;
     if (align == VerticalAlign::middle) cell.above += spare / 2;
 }

@@ -45,7 +45,7 @@ public:
     /// Parts of a cell that are not its content, as far as they count with its columns.
     int columnEdges(TableCell const& cell) const {
         int const lines = linesAround(cell.column, cell.endColumn());
-        return partsOfCell() * cellEdges(*cell.style, 0) + lines;
+        return partsOfCell() * cellEdges(cell.style(), 0) + lines;
     }
     /// Of the gaps that a cell spans those that do not count with columns.
     int gapsWithin(TableCell const& cell) const {

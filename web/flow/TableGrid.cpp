@@ -170,7 +170,7 @@ void TableGrid::moveCells(std::vector<int> const& starts) {
     for (TableCell& cell : allCells) {
         int const last = indexOf(cell.endColumn() - 1);
         cell.column = indexOf(cell.column);
-        cell.columnSpan = last - cell.column + 1;
+        cell.columnSpan = static_cast<std::uint16_t>(last - cell.column + 1);
     }
 }
 

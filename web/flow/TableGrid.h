@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <memory>
 #include <vector>
@@ -12,26 +13,24 @@ namespace galley::web {
 
 /// A cell of a table: the slots from its column on, in its row and those below that it spans.
 struct TableCell {
-    TableCell(Style const& cellStyle, Colour shown, int firstColumn, int columns, int rows)
-        : style(&cellStyle),
-          background(shown),
+    TableCell(Style const& style, Colour background, int firstColumn, int columns, int rows)
+        : content(style, background),
           column(firstColumn),
-          columnSpan(columns),
           rowSpan(rows),
-          documentSpan(columns) {}
+          columnSpan(static_cast<std::uint16_t>(columns)),
+          documentSpan(columnSpan) {}
 
-    Style const* style;
-    Colour background;
-    int column;
-    int columnSpan;
-    int rowSpan;
-    /// Columns of the document.
-    int documentSpan;
     Content content;
+    int column;
+    int rowSpan;
+    std::uint16_t columnSpan;
+    /// Columns of the document.
+    std::uint16_t documentSpan;
 
+    Style const& style() const { return content.style(); }
     int endColumn() const { return column + columnSpan; }
     bool isWide() const { return documentSpan > 1; }
-    bool isVisible() const { return style->visibility == Visibility::visible; }
+    bool isVisible() const { return style().visibility == Visibility::visible; }
 };
 
 /// Styles are null where a part of a table stands without its parent.

@@ -118,7 +118,7 @@ void TablePainter::paintCells(int y, bool isGap) {
     bool const hasLines = frame.collapses();
     Colour const* before = nullptr;
     for (LaidCell const* const cell : active) {
-        Colour const& background = cell->cell->background;
+        Colour const& background = cell->cell->content.background();
         bool const isAlike =
             before != nullptr && nextLine == cell->cell->column && *before == background;
         if (hasLines || nextLine < cell->cell->column) {
@@ -195,9 +195,9 @@ void TablePainter::paintCell(LaidCell const& cell, int y) {
 
 /// Adds what a cell has in a row of text, from column `left` on.
 void TablePainter::paintPiece(Row& piece, LaidCell const& cell, int left, int y) {
-    Style const& style = *cell.cell->style;
+    Style const& style = cell.cell->style();
     Edges<Border> const& border = style.border;
-    Colour const background = cell.cell->background;
+    Colour const background = cell.cell->content.background();
     int const right = left + cell.right - cell.left;
     int const line = y - cell.top;
     bool const isShown = cell.cell->isVisible() && right > left;
@@ -224,21 +224,21 @@ void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int 
     if (line < 0 || line >= cell.contentHeight()) return;
     RowView const content = band.rowOf(cell, line);
     if (content.width == 0) return;
-    Colour const background = cell.cell->background;
+    Colour const background = cell.cell->content.background();
     int const indent = band.indentOf(cell, line);
     int const column = cell.contentLeft + indent;
     bool const sticksOut = cell.isOutdented || indent + content.width > cell.contentWidth;
     if (!overlays.empty() || sticksOut || left != cell.left) {
-        overlays.push_back({column, content, background});
+        overlays.push_back({column, content});
         return;
     }
     piece.fill(column, blankOn(background));
-    piece.add(content);
+    piece.add(content, Colour::transparent(), background);
 }
 
 void TablePainter::paintOverlays() {
     for (Overlay const& overlay : overlays) {
-        row.draw(overlay.column, overlay.content, overlay.background, ground,
+        row.draw(overlay.column, overlay.content, Colour::transparent(), ground,
                  table.cells.isAmbiguousWide);
     }
 }

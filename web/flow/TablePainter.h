@@ -28,7 +28,6 @@ private:
     struct Overlay {
         int column = 0;
         RowView content;
-        Colour background;
     };
 
     void paintEdge(bool isTop, int padding);

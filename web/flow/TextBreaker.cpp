@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "web/flow/scanText.h"
+#include "web/text/LineBreaks.h"
 
 namespace galley::web {
 
@@ -25,6 +26,15 @@ bool TextBreaker::goesOn(Place begin, Place place) const {
     Item const& first = paragraph.items()[begin.item];
     Item const& item = paragraph.items()[place.item];
     return isText(first) && isText(item) && item.element == first.element;
+}
+
+bool TextBreaker::mayBreakBehindRest(Place begin, Place end) {
+    if (begin.offset == 0 || end.item != begin.item + 1 || end.offset > 0) return true;
+    std::size_t const next = textAt(end);
+    if (next >= paragraph.end()) return true;
+    auto const& items = paragraph.items();
+    std::string_view const rest = paragraph.textOf(items[begin.item]).substr(begin.offset);
+    return mayBreakBehindFirst(rest, paragraph.textOf(items[next]));
 }
 
 bool TextBreaker::isBlank(Place place) const {
@@ -66,7 +76,8 @@ TextPart TextBreaker::take(Place begin, int room, int roomWithHyphen, Parting pa
     bool const hasEnd = part.end > begin;
     part.fits = hasEnd && part.width <= roomWithHyphen;
     if (hasEnd && !goesOn(begin, part.end)) {
-        part.mayEndLine = parting == Parting::anywhere || isOpportunity(part.end);
+        part.mayEndLine = parting == Parting::anywhere ||
+                          (isOpportunity(part.end) && mayBreakBehindRest(begin, part.end));
     }
     return part;
 }

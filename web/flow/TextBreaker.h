@@ -58,6 +58,9 @@ public:
     bool isBeforeBlank(Place place);
     bool isBehindBlank(Place place);
     bool isOpportunity(Place place);
+    /// Whether the line may begin within a word where a part of a text does and end with that word,
+    /// if it may end there at all.
+    bool mayBreakBehindRest(Place begin, Place end);
     ///@}
 
 private:

@@ -96,12 +96,36 @@ void Paragraph::joinTo(std::string_view decoded) {
     std::string joint(known.substr(from));
     joint += decoded.substr(0, s_context);
     std::size_t const place = known.size() - from;
+    std::size_t const ofLast = place - startBefore(joint, place);
     SegmentReader reader(joint, textOptions(*elements[last->element].style));
+    bool isBeforeLast = false;
     Segment segment;
     while (reader.next(segment) && segment.next <= place) {
-        bool const isOpportunity = segment.behind == Segment::Behind::opportunity;
-        if (segment.next == place && isOpportunity) last->mayBreakBehind = true;
+        if (segment.behind != Segment::Behind::opportunity) continue;
+        if (segment.next == place) last->mayBreakBehind = true;
+        isBeforeLast = isBeforeLast || segment.next + ofLast == place;
     }
+    // An opening quotation mark has waited for what is behind it.
+    if (isBeforeLast) partBefore(static_cast<std::size_t>(all.rend() - last) - 1, ofLast);
+}
+
+/// Lets a line break before the last bytes of a word.
+void Paragraph::partBefore(std::size_t index, std::size_t bytes) {
+    Item& word = all[index];
+    if (word.end - word.begin > bytes) {
+        Item rest = word;
+        rest.begin = word.end - static_cast<std::uint32_t>(bytes);
+        Cluster const cluster = clusterAt(textOf(rest), 0, isAmbiguousWide());
+        rest.width = static_cast<std::uint32_t>(cluster.width);
+        word.end = rest.begin;
+        word.width -= rest.width;
+        word.mayBreakBehind = true;
+        all.insert(all.begin() + static_cast<std::ptrdiff_t>(index) + 1, rest);
+        ++contentEnd;
+        return;
+    }
+    while (index > 0 && isTag(all[index - 1])) --index;
+    if (index > 0 && all[index - 1].kind == Item::Kind::word) all[index - 1].mayBreakBehind = true;
 }
 
 /// Adds words with a blank behind each, or one whose blank is added next.
@@ -150,8 +174,10 @@ void Paragraph::addBehind(Segment const& segment) {
     switch (segment.behind) {
         case Segment::Behind::space:
             if (isPreserved) {
-                Item& blanks = add(Item::Kind::blanks);
-                blanks.width = static_cast<std::uint32_t>(segment.next - segment.end);
+                bool const goesOn = !all.empty() && all.back().kind == Item::Kind::blanks &&
+                                    all.back().element == current;
+                Item& blanks = goesOn ? all.back() : add(Item::Kind::blanks);
+                blanks.width += static_cast<std::uint32_t>(segment.next - segment.end);
                 contentEnd = all.size();
                 isBehindBlank = false;
             } else {

@@ -23,7 +23,7 @@ ColumnNeed needOf(Length width, int edges, int parts) {
 
 /// Of what is in a cell, within the limits that its style sets.
 Widths contentOf(TableCell const& cell, Wrapping wrapping, Paragraph& scratch) {
-    Style const& style = *cell.style;
+    Style const& style = cell.style();
     Widths content =
         wrapping == Wrapping::anywhere ? cell.content.partedWidths(scratch) : cell.content.widths();
     if (isCells(style.width)) content.most = style.width.value;
@@ -49,7 +49,7 @@ std::vector<Widths> contentsOf(TableGrid const& grid, Wrapping wrapping) {
 ColumnNeed needOf(TableCell const& cell, TableFrame const& frame, Widths const& content) {
     int const edges = frame.columnEdges(cell);
     int const parts = frame.partsOfCell();
-    ColumnNeed need = needOf(cell.style->width, edges, parts);
+    ColumnNeed need = needOf(cell.style().width, edges, parts);
     need.least = content.least * parts + edges;
     need.most = std::max(content.least, content.most) * parts + edges;
     return need;
@@ -70,7 +70,7 @@ std::span<ColumnNeed> columnsOf(std::vector<ColumnNeed>& needs, TableCell const&
 }
 
 /// Shares the width of a cell of the first row among its columns, for which nothing is said. They
-/// would like to be as wide as one another.
+/// grow alike, whatever part of a cell one has less.
 void setFixed(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
     std::vector<ColumnNeed> equal;
     for (ColumnNeed const& column : columns) equal.push_back({.count = column.count});
@@ -79,7 +79,8 @@ void setFixed(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
     for (std::size_t i = 0; i < columns.size(); ++i) {
         if (columns[i].isFixed || columns[i].isPercent) continue;
         columns[i].least = widths[i];
-        columns[i].most = widths.front();
+        columns[i].most = widths[i];
+        columns[i].weight = widths.front();
         columns[i].percent = percentages[i];
         columns[i].isPercent = cell.isPercent;
         if (i == 0) columns[i].percentEdges = cell.percentEdges;
@@ -161,7 +162,10 @@ std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& fram
         for (std::size_t i = first.firstCell; i < first.endCell; ++i) {
             TableCell const& cell = grid.cells()[i];
             int const edges = frame.columnEdges(cell);
-            ColumnNeed need = needOf(cell.style->width, edges, frame.partsOfCell());
+            Length width = cell.style().width;
+            Length const limit = cell.style().maxWidth;
+            if (isCells(width) && isCells(limit)) width.value = std::min(width.value, limit.value);
+            ColumnNeed need = needOf(width, edges, frame.partsOfCell());
             if (!cell.isWide()) need.percentEdges = edges;
             need.most = std::max(0, need.most - frame.gapsWithin(cell));
             setFixed(columnsOf(needs, cell), need);

@@ -222,6 +222,9 @@ int widthOfPercentages(std::span<ColumnNeed const> columns) {
 
 std::vector<int> shareWidth(std::span<ColumnNeed const> columns, int width) {
     auto const most = [](ColumnNeed const& column) { return column.most; };
+    auto const weight = [](ColumnNeed const& column) {
+        return column.weight > 0 ? column.weight : column.most;
+    };
     auto const percent = [](ColumnNeed const& column) { return column.percent; };
     auto const share = [=](ColumnNeed const& column) {
         return partOf(width, column.percent) + column.percentEdges;
@@ -235,7 +238,7 @@ std::vector<int> shareWidth(std::span<ColumnNeed const> columns, int width) {
     shares.grow(isFixed, most);
     shares.grow(isAutomatic, most);
     shares.spend(isAutomatic, most, Parts::ofWhole);
-    shares.spend(isFixed, most, Parts::ofWhole);
+    shares.spend(isFixed, weight, Parts::ofWhole);
     shares.spend(isPercent, percent, areShares ? Parts::ofWhole : Parts::ofRest);
     return shares.take();
 }

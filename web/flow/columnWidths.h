@@ -20,6 +20,8 @@ struct ColumnNeed {
     /// Cells that come to its percentage.
     int percentEdges = 0;
     bool isFixed = false;
+    /// In proportion to which fixed columns grow, if not to `most`; 0 if to that.
+    int weight = 0;
     /// How many columns of the document it stands for.
     int count = 1;
 

@@ -118,8 +118,7 @@ void Flow::addRightEdges(std::size_t count) {
 /// Where content sticks out of its block, the block's right edge is below it, and behind that what
 /// is around the block.
 void Flow::addRightEdgeBelow(Block const& block, int column) {
-    // The row is made anew, cell by cell, for each such block.
-    constexpr std::size_t s_costOfCell = 8;
+    // For each such block.
     budget.take(s_costOfCell * static_cast<std::size_t>(row.width()));
     Row below;
     bool const isAmbiguousWide = block.style->cells.isAmbiguousWide;

@@ -4,6 +4,7 @@
 #include <limits>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "web/text/Cluster.h"
 #include "web/text/ideographs.h"
@@ -20,7 +21,7 @@ constexpr char32_t s_softHyphen = 0xAD;
 /// Goes through a text up to where there is no more room.
 class Scan {
 public:
-    Scan(Paragraph const& scanned, TextBreaker const& breaker, Place from, int cells, Parting how)
+    Scan(Paragraph const& scanned, TextBreaker& breaker, Place from, int cells, Parting how)
         : paragraph(scanned), texts(breaker), begin(from), at(from), room(cells), parting(how) {}
 
     TextPart run() {
@@ -74,8 +75,8 @@ private:
                                   : widthFrom(paragraph, at, overflows ? s_unlimited : left);
         if (!overflows && width > left) return overflow();
         used += width;
-        at = {at.item + 1, 0};
-        return item.mayBreakBehind && offer(item.hyphenates);
+        Place const from = std::exchange(at, {at.item + 1, 0});
+        return item.mayBreakBehind && texts.mayBreakBehindRest(from, at) && offer(item.hyphenates);
     }
 
     bool takeIdeographs(std::string_view text) {
@@ -156,7 +157,7 @@ private:
     }
 
     Paragraph const& paragraph;
-    TextBreaker const& texts;
+    TextBreaker& texts;
     Place begin;
     Place at;
     int room;
@@ -183,7 +184,7 @@ int widthFrom(Paragraph const& paragraph, Place place, int most) {
     return width;
 }
 
-TextPart scanText(Paragraph const& paragraph, TextBreaker const& texts, Place begin, int room,
+TextPart scanText(Paragraph const& paragraph, TextBreaker& texts, Place begin, int room,
                   Parting parting) {
     return Scan(paragraph, texts, begin, room, parting).run();
 }

@@ -129,4 +129,14 @@ void LineBreaks::take(Properties next) {
     }
 }
 
+bool mayBreakBehindFirst(std::string_view text, std::string_view behind) {
+    if (text.empty() || behind.empty()) return true;
+    CodePoint const c = decodeAt(text, 0);
+    Properties const next = firstOf(behind);
+    // As in Chromium, a letter stays with one that is not ASCII only.
+    if (text == "-") return next.lineClass != NU;
+    Properties const first = propertiesOf(c.value);
+    return c.length < text.size() || first.lineClass != HH || !isIn(next.lineClass, s_letters);
+}
+
 }  // namespace galley::web

@@ -32,4 +32,8 @@ private:
     bool isBehindJoiner = false;
 };
 
+/// Whether a line that begins with that text, at whose end a line may break, still may before what
+/// is behind it. A hyphen alone begins a word there, or a number.
+bool mayBreakBehindFirst(std::string_view text, std::string_view behind);
+
 }  // namespace galley::web

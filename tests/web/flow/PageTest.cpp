@@ -109,13 +109,14 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
 TEST(Pages, LetWhiteSpaceThatCountsHang) {
     constexpr char const* preWrap = "<pre style='white-space: pre-wrap; text-align: right'>";
     std::string const markup(preWrap);
-    for (auto const& [text, page] :
-         std::vector<std::pair<char const*, char const*>>{{"abc   de</pre>", "|  abc|   de"},
-                                                          {"ab \nc</pre>", "|  ab|    c"},
-                                                          {"abc   \nd</pre>", "|abc|    d"},
-                                                          {"ab\t</pre>", "|ab"},
-                                                          {"ab \t</pre>", "|ab"},
-                                                          {"\tx</pre>", "||    x"}}) {
+    for (auto const& [text, page] : std::vector<std::pair<char const*, char const*>>{
+             {"abc   de</pre>", "|  abc|   de"},
+             {"ab \nc</pre>", "|  ab|    c"},
+             {"abc   \nd</pre>", "|abc|    d"},
+             {"abcde <!-- --> f</pre>", "|abcde|    f"},
+             {"ab\t</pre>", "|ab"},
+             {"ab \t</pre>", "|ab"},
+             {"\tx</pre>", "||    x"}}) {
         EXPECT_EQ(textOf(markup + text, 5, "|", ""), page) << text;
     }
 }
@@ -238,8 +239,13 @@ TEST(Pages, ShowNothingOfTheLooksOfHiddenText) {
     }
 }
 
-TEST(Pages, LetIndentsReachOverThePaddingOfCells) {
+TEST(Pages, LetIndentsReachOverEdges) {
     expectPages({
+        {"<div style='background: red'><p style='text-indent: -2ch; padding-left: 2ch'>aaa bb</p>"
+         "</div>",
+         5, "|aaa|  bb"},
+        {"<p style='text-indent: -3ch; padding-left: 2ch; border-left: solid'>aaaa bb <b>c</b></p>",
+         6, "|aaaa|│  bb|│  c"},
         {"<table><tr><td style='padding-left: 4ch; text-indent: -4ch; border: solid'>aaa bbb ccc "
          "ddd"
          "</td></tr></table>",

@@ -63,7 +63,7 @@ TEST(PlainText, HasTheLinesOfAllOtherText) {
         ++plainOnes;
         EXPECT_EQ(read.back(), ' ');
         read.pop_back();
-        PlainText const plain = {&style, {}, read};
+        PlainText const plain = {&style, read};
         for (Wrapping const wrapping : {Wrapping::asStyled, Wrapping::anywhere}) {
             EXPECT_EQ(measure(plain, wrapping), measure(paragraph, wrapping)) << text;
             bool const partsWords =

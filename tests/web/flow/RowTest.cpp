@@ -45,6 +45,35 @@ TEST(Rows, AreDrawnOver) {
     }
 }
 
+// Text lies over borders, and backgrounds under what they come behind.
+TEST(Rows, AreDrawnOverByBackgroundsAndBorders) {
+    Colour const red = Colour::rgb(255, 0, 0);
+    Row row;
+    row.add("a│ b", 4, {});
+    Row above;
+    above.add("   ┐", 4, blankOn(red));
+    row.draw(0, above.view(), {}, {});
+    EXPECT_EQ(row.text(), "a  b");
+    ASSERT_EQ(row.spans().size(), 2U);
+    EXPECT_EQ(row.textOf(row.spans()[0]), "a  ");
+    EXPECT_EQ(row.spans()[0].look.background, red);
+}
+
+TEST(Rows, StandOnAnotherBackgroundWhereTheyHaveNone) {
+    Row above;
+    above.add("a", 1, blankOn(Colour::transparent()));
+    above.add("b", 1, blankOn(Colour::rgb(0, 0, 255)));
+    Row row;
+    row.add(above.view(), Colour::transparent(), Colour::rgb(255, 0, 0));
+    row.draw(3, above.view(), Colour::transparent(), {});
+    std::vector<Colour> backgrounds;
+    for (Row::Span const& span : row.spans()) backgrounds.push_back(span.look.background);
+    EXPECT_EQ(row.text(), "ab ab");
+    EXPECT_EQ(backgrounds,
+              (std::vector<Colour>{
+                  Colour::rgb(255, 0, 0), Colour::rgb(0, 0, 255), {}, Colour::rgb(0, 0, 255)}));
+}
+
 TEST(Rows, KeepTheirLooksUnderOthers) {
     Row row = rowOf("ab", 2);
     row.add(rowOf("cd", 2, true).view());

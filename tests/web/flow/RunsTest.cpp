@@ -57,6 +57,27 @@ TEST(Runs, ThatAnElementPartsBreakAsTheFirstOneSays) {
     });
 }
 
+// What an element parts is one text for all that.
+TEST(Runs, BreakBeforeAQuotationMarkAsWhatIsBehindItSays) {
+    expectPictures({
+        {"文<q>火</q>", 5, "\n文\n“火”\n"},
+        {"山文“<b>火</b>”", 5, "\n山文\n“火”\n"},
+        {"山文“<b>a</b>”", 5, "\n山\n文“a”\n"},
+        {"<p>a川<b>“</b><i>火</i>”</p>", 5, "\na川\n“火”\n"},
+    });
+}
+
+// As in Chromium: there one begins a word, whatever was before it.
+TEST(Runs, KeepAHyphenAtTheStartOfALineWithItsWord) {
+    expectPictures({
+        {"<p style='overflow-wrap: anywhere'>abc–yyyyy</p>", 3, "\nabc\n–yy\nyyy\n"},
+        {"<p style='overflow-wrap: anywhere'>abc–<b>yyyyy</b></p>", 3, "\nabc\n–yy\nyyy\n"},
+        {"<p style='overflow-wrap: anywhere'>abc–文yy</p>", 3, "\nabc\n–文\nyy\n"},
+        {"<p style='overflow-wrap: anywhere'>abc-1yyy</p>", 3, "\nabc\n-1y\nyy\n"},
+        {"<p style='overflow-wrap: anywhere'>abc-yyy</p>", 3, "\nabc\n-\nyyy\n"},
+    });
+}
+
 // As the tables of Unicode say.
 TEST(Runs, OfIdeographsAreOfTheseOnly) {
     using enum LineClass;

@@ -85,6 +85,20 @@ TEST(TableColumns, ShareTheWidth) {
  a          b
 )"},
 
+        // Only what grows is shared alike.
+        {"<table style='table-layout: fixed; width: 22ch'><tr><td colspan='2' style='width: 5ch'/>"
+         "<td>c</td></tr><tr><td>a</td><td>b</td></tr></table>",
+         30, R"(
+        c
+ a   b
+)"},
+
+        {"<table style='table-layout: fixed; width: 22ch'><tr><td style='width: 9ch; max-width: "
+         "3ch'>a</td><td>b</td></tr></table>",
+         30, R"(
+ a    b
+)"},
+
         {"<table style='table-layout: fixed; width: 16ch'><tr><td style='width: 2ch'>abc</td><"
          "td>d</td><td>e</td></tr></table>",
          30, R"(

@@ -287,6 +287,11 @@ TEST(TableBackgrounds, OfRowsAndColumnsShowInTheirVisibleCellsOnly) {
         {"<table style='table-layout: fixed; width: 4ch'><tr><td style='background: red; "
          "padding: 0; white-space: nowrap'>abcdef</td></tr></table>",
          "####..\n"},
+        // But it has its own, if of the same colour.
+        {"<table style='table-layout: fixed; width: 4ch; background: red'><tr><td style='padding: "
+         "0'><table style='width: 8ch; background: red'><tr><td>a</td></tr></table></td></tr>"
+         "</table>",
+         "########\n"},
     };
     for (Case const& each : cases) {
         BackgroundsOfRows rows;
