@@ -17,6 +17,7 @@ public:
     explicit RowsOfTable(Flow& around) : flow(around) {}
 
     void begin(int tableLeft) override { left = tableLeft; }
+    void takeBaseline() override { flow.takeBaseline(); }
     void take(Row const& row) override { flow.addTableRow(row, left); }
 
 private:
@@ -120,7 +121,7 @@ int Flow::beginParagraph(Style const& style) {
     bool& hasContent = blocks.empty() ? hasOwnContent : blocks.back().hasContent;
     bool const isFirst = !std::exchange(hasContent, true);
     start();
-    if (!firstLine) firstLine = rowCount;
+    takeBaseline();
     return isFirst ? acrossRoundedUp(style.textIndent, columns()) : 0;
 }
 
@@ -140,7 +141,10 @@ int Flow::beginLine(Style const& style, int indent, int lineWidth) {
 void Flow::endLine(Style const& style) {
     if (edges.width() > 0) {
         budget.take(s_costOfCell * static_cast<std::size_t>(row.width()));
-        edges.draw(0, row.view(), background(), background(), style.cells.isAmbiguousWide);
+        edges.draw(0, row.view(),
+                   {.ground = background(),
+                    .beyond = background(),
+                    .isAmbiguousWide = style.cells.isAmbiguousWide});
         std::swap(row, edges);
         edges.clear();
     }
@@ -161,8 +165,6 @@ void Flow::add(std::unique_ptr<Table> table) {
 }
 
 void Flow::addTableRow(Row const& tableRow, int left) {
-    bool const isBlank = tableRow.text().find_first_not_of(' ') == std::string_view::npos;
-    if (!firstLine && !isBlank) firstLine = rowCount;
     int const column = contentLeft() + left;
     bool const hasEdges = std::any_of(blocks.begin(), blocks.end(),
                                       [](Block const& block) { return block.hasShownEdges; });
@@ -184,7 +186,7 @@ void Flow::restart(int columns, Wrapping wrapped, int left) {
     wrapping = wrapped;
     hasRows = hasOwnContent = false;
     rowCount = 0;
-    firstLine.reset();
+    firstBaseline.reset();
 }
 
 /// Makes the rows of the margin that waits. From now on rows are those of all open blocks.

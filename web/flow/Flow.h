@@ -34,8 +34,12 @@ public:
     void add(std::unique_ptr<Table> table) override;
     /// Adds a row of a table that stands so many columns right of the innermost block's left edge.
     void addTableRow(Row const& tableRow, int left);
-    /// The row that the first line is in, or the first row of a table that is not blank.
-    std::optional<int> baseline() const { return firstLine; }
+    /// The row that comes next has a baseline.
+    void takeBaseline() {
+        if (!firstBaseline) firstBaseline = rowCount;
+    }
+    /// The first row that has a baseline: of a line, or of a table.
+    std::optional<int> baseline() const { return firstBaseline; }
     /// Begins another container, which hands its rows to the same sink and stands so many columns
     /// to the right in them. To be called behind `finish`.
     void restart(int columns, Wrapping wrapped, int left);
@@ -94,7 +98,7 @@ private:
     Wrapping wrapping;
     bool hasRows = false;
     int rowCount = 0;
-    std::optional<int> firstLine;
+    std::optional<int> firstBaseline;
     bool hasOwnContent = false;
     /// Rows of margins that wait.
     int pending = 0;

@@ -36,11 +36,11 @@ std::vector<Cell> cellsOf(RowView const& row, bool isAmbiguousWide) {
 /// Of a border: a character of the block Box Drawing.
 bool isLine(std::string_view cluster) { return cluster >= "\u2500" && cluster <= "\u257F"; }
 
-/// Whether one cell shows on another: no border on text, and only on borders a blank with a
-/// background of its own (CSS 2.2, E.2).
-bool covers(std::string_view cluster, std::string_view below, bool hasBackground) {
+/// Whether one cell shows on another (CSS 2.2, E.2): no border on text, and a blank, which then has
+/// a background of its own, only on borders.
+bool covers(std::string_view cluster, std::string_view below, bool hidesBorders) {
     if (below == " ") return true;
-    if (cluster == " ") return hasBackground && isLine(below);
+    if (cluster == " ") return hidesBorders && isLine(below);
     return !isLine(cluster) || isLine(below);
 }
 
@@ -71,22 +71,22 @@ void Row::add(RowView const& other, Colour ground, Colour shown) {
     cells += other.width;
 }
 
-void Row::draw(int column, RowView const& other, Colour ground, Colour beyond,
-               bool isAmbiguousWide) {
+void Row::draw(int column, RowView const& other, Manner const& manner) {
+    bool const isAmbiguousWide = manner.isAmbiguousWide;
     if (column >= cells) {
         if (other.width == 0) return;
-        fill(column, blankOn(beyond));
-        return add(other, ground, beyond);
+        fill(column, blankOn(manner.beyond));
+        return add(other, manner.ground, manner.beyond);
     }
     std::vector<Cell> drawn = cellsOf(view(), isAmbiguousWide);
     int at = column;
     for (Cell cell : cellsOf(other, isAmbiguousWide)) {
         drawn.resize(std::max(drawn.size(), static_cast<std::size_t>(at) + 1),
-                     Cell{" ", blankOn(beyond)});
+                     Cell{" ", blankOn(manner.beyond)});
         Cell& below = drawn[static_cast<std::size_t>(at++)];
-        bool const hasBackground = cell.look.background != ground;
+        bool const hasBackground = cell.look.background != manner.ground;
         if (!hasBackground) cell.look.background = below.look.background;
-        if (covers(cell.text, below.text, hasBackground)) {
+        if (covers(cell.text, below.text, hasBackground && !manner.keepsBorders)) {
             below = cell;
         } else if (!isLine(cell.text)) {
             below.look.background = cell.look.background;

@@ -57,11 +57,19 @@ public:
     void add(RowView const& other, Colour ground, Colour shown);
     void add(RowView const& other) { add(other, {}, {}); }
     ///@}
-    /// Puts another row over what is there, from a column on: text and borders, but no borders over
-    /// text, and backgrounds: what stands on `ground` has none of its own. A wide character of
-    /// which half is covered becomes a blank. Behind what is there are blanks on `beyond`.
-    void draw(int column, RowView const& other, Colour ground, Colour beyond,
-              bool isAmbiguousWide = false);
+    /// How another row is drawn over one.
+    struct Manner {
+        /// What stands on this one in it has no background of its own.
+        Colour ground;
+        /// On which there are blanks behind the row.
+        Colour beyond;
+        /// Borders in the row stay where there is no more over them than a background.
+        bool keepsBorders = false;
+        bool isAmbiguousWide = false;
+    };
+    /// Puts another row over what is there, from a column on: backgrounds, text, and borders, but
+    /// these not over text. A wide character of which half is covered becomes a blank.
+    void draw(int column, RowView const& other, Manner const& manner);
     /// Adds what stands from a column of another row to one. Halves of wide characters are blanks.
     void addPart(RowView const& other, int begin, int end, bool isAmbiguousWide = false);
     void clear();

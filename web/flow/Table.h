@@ -7,19 +7,12 @@
 
 #include "web/flow/Content.h"
 #include "web/flow/PageBudget.h"
-#include "web/flow/Row.h"
 #include "web/flow/TableFrame.h"
 #include "web/flow/TableGrid.h"
+#include "web/flow/TableSink.h"
 #include "web/flow/columnWidths.h"
 
 namespace galley::web {
-
-/// Takes the rows of a table and its captions.
-class TableSink : public RowSink {
-public:
-    /// Comes first: columns from the left of the table's container to the first cells of the rows.
-    virtual void begin(int left) = 0;
-};
 
 /// A table with all that is in it, which is measured while it is put together. Styles outlive it.
 class Table {

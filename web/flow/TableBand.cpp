@@ -155,6 +155,21 @@ void TableBand::placeRows() {
         cell.height = top(cell.endRow - 1) + height(cell.endRow - 1) - cell.top;
 }
 
+/// Without a cell on one it is where the content of the cell ends that comes farthest down.
+int TableBand::baseline() const {
+    int bottom = 0;
+    for (LaidCell const& cell : laid) {
+        if (cell.firstRow != first) break;
+        if (cell.isOnBaseline) return cell.above + cell.baseline;
+        if (cell.endRow > first + 1) continue;
+        Style const& style = cell.cell->style();
+        int const below = down(style.padding.bottom, places.width) +
+                          (frame.hasBorder(style.border.bottom) ? 1 : 0);
+        bottom = std::max(bottom, height(first) - 1 - below);
+    }
+    return bottom;
+}
+
 /// Moves content down where the cell is higher than it needs.
 void TableBand::placeContent(LaidCell& cell) const {
     int const spare = cell.height - cell.needed;

@@ -77,6 +77,8 @@ public:
 
     int firstRow() const { return first; }
     int endRow() const { return first + static_cast<int>(heights.size()); }
+    /// The row of text that its first row has its baseline in, counted from the top.
+    int baseline() const;
     int height(int row) const { return heights[index(row)]; }
     int top(int row) const { return tops[index(row)]; }
     /// In the order of their rows and columns.

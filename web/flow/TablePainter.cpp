@@ -8,7 +8,7 @@
 namespace galley::web {
 
 TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
-                           Colour around, RowSink& output, PageBudget& cells)
+                           Colour around, TableSink& output, PageBudget& cells)
     : grid(painted),
       frame(tableFrame),
       table(tableStyle),
@@ -78,6 +78,7 @@ void TablePainter::paintBand() {
 void TablePainter::paintRow(int gridRow) {
     currentRow = gridRow;
     for (int i = 0; i < band.height(gridRow); ++i) {
+        if (gridRow == 0 && i == band.baseline()) rows.takeBaseline();
         beginRow();
         paintCells(band.top(gridRow) + i, false);
         endRow();
@@ -189,8 +190,10 @@ void TablePainter::paintCell(LaidCell const& cell, int y) {
     }
     Row piece;
     paintPiece(piece, cell, 0, y);
-    row.draw(cell.left, piece.view(), grid.background(), grid.background(),
-             table.cells.isAmbiguousWide);
+    row.draw(cell.left, piece.view(),
+             {.ground = grid.background(),
+              .beyond = grid.background(),
+              .isAmbiguousWide = table.cells.isAmbiguousWide});
 }
 
 /// Adds what a cell has in a row of text, from column `left` on.
@@ -238,8 +241,11 @@ void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int 
 
 void TablePainter::paintOverlays() {
     for (Overlay const& overlay : overlays) {
-        row.draw(overlay.column, overlay.content, Colour::transparent(), ground,
-                 table.cells.isAmbiguousWide);
+        row.draw(overlay.column, overlay.content,
+                 {.ground = Colour::transparent(),
+                  .beyond = ground,
+                  .keepsBorders = frame.collapses(),
+                  .isAmbiguousWide = table.cells.isAmbiguousWide});
     }
 }
 

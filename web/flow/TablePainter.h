@@ -6,6 +6,7 @@
 #include "web/flow/TableBand.h"
 #include "web/flow/TableFrame.h"
 #include "web/flow/TableGrid.h"
+#include "web/flow/TableSink.h"
 
 namespace galley::web {
 
@@ -17,7 +18,7 @@ class TablePainter {
 public:
     /// Takes the content of cells from the grid. `around` is what the table stands on.
     TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle, Colour around,
-                 RowSink& output, PageBudget& cells);
+                 TableSink& output, PageBudget& cells);
 
     /// The table is that wide, with columns of those widths; per cent count of `container`. Once
     /// only.
@@ -49,7 +50,7 @@ private:
     TableFrame& frame;
     Style const& table;
     Colour ground;
-    RowSink& rows;
+    TableSink& rows;
     PageBudget& budget;
     bool isVisible;
     ColumnPlaces places;

@@ -125,7 +125,9 @@ void Flow::addRightEdgeBelow(Block const& block, int column) {
     below.addPart(row.view(), 0, column, isAmbiguousWide);
     addVertical(below, block.style->border.right, block.background, isVisible(*block.style));
     below.fill(row.width(), blankOn(block.around));
-    below.draw(0, row.view(), block.background, block.around, isAmbiguousWide);
+    below.draw(
+        0, row.view(),
+        {.ground = block.background, .beyond = block.around, .isAmbiguousWide = isAmbiguousWide});
     std::swap(row, below);
 }
 

@@ -39,7 +39,7 @@ TEST(Rows, AreDrawnOver) {
     };
     for (Case const& each : cases) {
         Row row = each.below;
-        row.draw(each.column, each.above.view(), {}, {});
+        row.draw(each.column, each.above.view(), {});
         EXPECT_EQ(row.text(), each.text);
         EXPECT_EQ(row.width(), each.width) << each.text;
     }
@@ -52,11 +52,15 @@ TEST(Rows, AreDrawnOverByBackgroundsAndBorders) {
     row.add("a│ b", 4, {});
     Row above;
     above.add("   ┐", 4, blankOn(red));
-    row.draw(0, above.view(), {}, {});
+    Row kept = row;
+    row.draw(0, above.view(), {});
     EXPECT_EQ(row.text(), "a  b");
     ASSERT_EQ(row.spans().size(), 2U);
     EXPECT_EQ(row.textOf(row.spans()[0]), "a  ");
     EXPECT_EQ(row.spans()[0].look.background, red);
+    kept.draw(0, above.view(), {.ground = {}, .beyond = {}, .keepsBorders = true});
+    EXPECT_EQ(kept.text(), "a│ b");
+    EXPECT_EQ(kept.spans()[0].look.background, red);
 }
 
 TEST(Rows, StandOnAnotherBackgroundWhereTheyHaveNone) {
@@ -65,7 +69,7 @@ TEST(Rows, StandOnAnotherBackgroundWhereTheyHaveNone) {
     above.add("b", 1, blankOn(Colour::rgb(0, 0, 255)));
     Row row;
     row.add(above.view(), Colour::transparent(), Colour::rgb(255, 0, 0));
-    row.draw(3, above.view(), Colour::transparent(), {});
+    row.draw(3, above.view(), {.ground = Colour::transparent(), .beyond = {}});
     std::vector<Colour> backgrounds;
     for (Row::Span const& span : row.spans()) backgrounds.push_back(span.look.background);
     EXPECT_EQ(row.text(), "ab ab");
@@ -77,7 +81,7 @@ TEST(Rows, StandOnAnotherBackgroundWhereTheyHaveNone) {
 TEST(Rows, KeepTheirLooksUnderOthers) {
     Row row = rowOf("ab", 2);
     row.add(rowOf("cd", 2, true).view());
-    row.draw(1, rowOf("X", 1, true).view(), {}, {});
+    row.draw(1, rowOf("X", 1, true).view(), {});
     ASSERT_EQ(row.spans().size(), 2U);
     EXPECT_EQ(row.textOf(row.spans()[0]), "a");
     EXPECT_EQ(row.textOf(row.spans()[1]), "Xcd");

@@ -242,6 +242,25 @@ TEST(Tables, HaveColumnsWhereCellsBeginOrWidthsAreSet) {
     });
 }
 
+// As in Chromium: that of a table is its first row's, which no border and no caption is on.
+TEST(TableRows, AlignTablesByTheirFirstRow) {
+    std::string const begin =
+        "<table><tbody style='vertical-align: baseline'><tr><td style='padding: 4lh 0 0'>a</td>"
+        "<td style='padding: 0'>";
+    std::string const end = "</td></tr></tbody></table>";
+    for (auto const& [table, page] : std::vector<std::pair<char const*, char const*>>{
+             {"<table><caption>c</caption><tbody style='vertical-align: baseline'><tr>"
+              "<td style='border: solid'>b</td></tr></tbody></table>",
+              "|||   c| ┌───┐|a│ b │| └───┘"},
+             {"<table style='border-collapse: collapse'><tbody style='vertical-align: baseline'>"
+              "<tr><td style='border: solid; padding-top: 1lh'>b</td></tr></tbody></table>",
+              "||| ┌───┐| │   │|a│ b │| └───┘"},
+             {"<table><tr><td style='padding-bottom: 1lh'>b<br/>d</td></tr></table>",
+              "||||  b|a d|"}}) {
+        EXPECT_EQ(textOf(begin + table + end, 20, "|", ""), page) << table;
+    }
+}
+
 // As in Chromium: nothing is on no baseline.
 TEST(TableRows, AlignNoEmptyCells) {
     expectPictures({
