@@ -17,7 +17,7 @@ BLOCKS = ("p p p p div div section header footer main nav article aside address 
           "blockquote blockquote h1 h2 h3 h4 h5 h6").split()
 MARKERS = ("disc circle square decimal decimal-leading-zero lower-alpha upper-alpha lower-latin "
            "upper-latin lower-roman upper-roman lower-greek '+' none").split()
-AVOIDED = ["overflow-wrap: normal"]
+AVOIDED = ["overflow-wrap: normal", "list-style-position: inside"]
 # Where the inner element says no more than a word, what it has from its parent, or has not.
 KEYWORDS = "margin-left padding-left text-align text-indent white-space".split()
 
@@ -35,17 +35,20 @@ def make_page(seed):
         rules = re.sub(r"(?<!-)width: [^;} ]*", "visibility: hidden", rules)
     title = chosen.use("title", "<title>t</title>") if chosen.chance(0.1) else ""
     head = f"<head>{title}<style>{rules}</style></head>" if rules else "<head/>"
-    page = avoid(f"<html>{head}{body}</html>")
+    page = avoid(f"<html>{head}{body}</html>", width)
     absent = {feature for feature in chosen.features if feature in AVOIDED and feature not in page}
     return Page(seed, width, page, sorted(chosen.features - absent))
 
 
-def avoid(source):
+def avoid(source, width):
     """The page without what Chromium lays out in another way than the standards say, and without
     tables and cells that have no element, which cannot be asked whether they fit."""
     head, body = source.split("<body>")
     body = re.sub(r"(<t[dh] [^>]*)display: block", r"\1visibility: hidden", body)
     source = f"{head.replace('display: block', 'visibility: hidden')}<body>{body}"
+    # No marker is seen behind the right edge of the page.
+    if width < 24:
+        source = source.replace("list-style-position: inside", "list-style-position: outside")
     # White space that hangs has no background.
     if "pre-wrap" in source:
         source = re.sub(r"(</?)mark\b", r"\1samp", source)
@@ -181,7 +184,7 @@ class Blocks:
         if chosen.chance(0.8):
             style.append(chosen.use(f"list: {kind}", f"list-style-type: {kind}"))
         if chosen.chance(0.25):
-            style.append(chosen.use("list inside", "list-style-position: inside"))
+            style.append(chosen.use("list-style-position: inside", "list-style-position: inside"))
         if tag == "ol" and chosen.chance(0.3):
             start = chosen.use("list start", f' start="{chosen.pick([0, 1, 3, 8, 9])}"')
         # Room for "viii." and the blank behind it.

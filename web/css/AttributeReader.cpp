@@ -43,12 +43,17 @@ bool isAllowed(Element const& element, std::string_view name) {
                        [name](std::string_view start) { return name.starts_with(start); });
 }
 
-/// The attribute as one that has a property's name, if it hides the element or is about the markers
-/// of a list.
+/// The attribute as one that has a property's name, if it hides the element, makes it a link or is
+/// about the markers of a list.
 Attribute asProperty(Element const& element, Attribute attribute) {
     if (attribute.name == "hidden") {
         attribute.name = "display";
         attribute.value = "none";
+        return attribute;
+    }
+    if (element.name == "a" && attribute.name == "href") {
+        attribute.name = "text-decoration";
+        attribute.value = "underline";
         return attribute;
     }
     if (attribute.name != "type" || !contains(s_lists, element.name)) return attribute;

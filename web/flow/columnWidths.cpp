@@ -170,18 +170,15 @@ void widen(ColumnNeed& column, ColumnNeed const& cell) {
 
 void widen(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
     if (isPercent(cell)) widenPercentages(columns, cell.percent);
-    std::vector<int> const least = shareWidth(columns, cell.least);
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        columns[i].least = std::max(columns[i].least, least[i]);
-        columns[i].most = std::max(columns[i].most, columns[i].least);
-    }
     // Fixed widths stand for all that it would like.
     bool const areFixed = std::all_of(columns.begin(), columns.end(),
                                       [](ColumnNeed const& column) { return column.isFixed; });
-    if (areFixed) return;
-    std::vector<int> const most = shareWidth(columns, cell.most);
+    std::vector<int> const least = shareWidth(columns, cell.least);
+    // By what they have liked: what is least has lost parts of cells.
+    std::vector<int> const most = areFixed ? least : shareWidth(columns, cell.most);
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        columns[i].most = std::max(columns[i].most, most[i]);
+        columns[i].least = std::max(columns[i].least, least[i]);
+        columns[i].most = std::max({columns[i].most, columns[i].least, most[i]});
     }
 }
 

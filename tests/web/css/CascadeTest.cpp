@@ -131,6 +131,7 @@ TEST(Cascade, TakesAttributesForDeclarations) {
              {"<ol id=\"x\" type=\"I\" start=\"3\"/>", "marker=9;", ""},
              {"<ul id=\"x\" type=\"i\"/>", "marker=8;", ""},
              {"<ul id=\"x\" type=\"x\"/>", "", ""},
+             {"<a id=\"x\" href=\"b\"/>", "drawn=underlined;", ""},
              {"<p id=\"x\" type=\"a\"/>", "", ""},
          }) {
         std::vector<Problem> problems;
