@@ -75,7 +75,7 @@ std::vector<ColumnNeed>& Table::needs(Wrapping wrapping) {
 
 /// Of the border box, by its content alone.
 Widths Table::innerWidths(Wrapping wrapping, int captionWidth, int container) {
-    Widths const parts = sumOf(needs(wrapping));
+    ColumnSums const parts = sumOf(needs(wrapping));
     int const least = std::max(captionWidth, frame->widthFor(parts.least, container));
     return {least, std::max(least, frame->widthFor(parts.most, container))};
 }
@@ -128,7 +128,7 @@ void Table::layOut(int columns, Wrapping around, TableSink& rows, PageBudget& bu
     // Where its words do not fit, cells part them, but no more of them than they must, and none
     // where it would not fit for all that.
     if (wrapping == Wrapping::anywhere && !isFixed()) {
-        int const parts = frame->partsFor(columns - margins, columns);
+        std::int64_t const parts = frame->partsFor(columns - margins, columns);
         needsAnywhere = fittingNeeds(grid, *frame, parts);
         if (sumOf(*needsAnywhere).least > parts) wrapping = around;
     }

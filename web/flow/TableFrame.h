@@ -36,48 +36,50 @@ public:
         if (collapsed) return collapsed->hasHorizontal(line) ? 1 : 0;
         return hasColumns && !grid.rows().empty() ? table.borderSpacing.down : 0;
     }
-    /// Widths of columns are counted in parts of a cell, so many: a line of borders that collapse
-    /// counts with the columns on both sides, half of it with each.
-    int partsOfCell() const { return collapsed ? 2 : 1; }
+    /// Lines of borders that collapse at both ends of columns: half of each counts with these.
     int linesAround(int begin, int end) const {
         return collapsed ? columnGap(begin) + columnGap(end) : 0;
     }
-    /// Parts of a cell that are not its content, as far as they count with its columns.
-    int columnEdges(TableCell const& cell) const {
+    /// Parts of cells that are not its content, as far as they count with its columns.
+    std::int64_t columnEdges(TableCell const& cell) const {
         int const lines = linesAround(cell.column, cell.endColumn());
-        return partsOfCell() * cellEdges(cell.style(), 0) + lines;
+        return s_parts * cellEdges(cell.style(), 0) + s_parts / 2 * lines;
     }
-    /// Of the gaps that a cell spans those that do not count with columns.
-    int gapsWithin(TableCell const& cell) const {
-        int sum = 0;
-        for (int line = cell.column + 1; line < cell.endColumn(); ++line) sum += columnGap(line);
-        return collapsed ? 0 : sum;
+    /// Parts of cells of the gaps that a cell spans which do not count with columns.
+    std::int64_t gapsWithin(TableCell const& cell) const {
+        if (collapsed) return 0;
+        return s_parts * table.borderSpacing.across * (cell.columnSpan - 1);
     }
-    /// Cells of a table whose columns have so many parts, in a container of so many cells; and the
-    /// other way round.
+    /// Cells of a table whose columns have so many parts of cells, in a container of so many cells;
+    /// and the other way round.
     ///@{
-    int widthFor(int parts, int container) const {
-        return (parts + edges(container) + partsOfCell() - 1) / partsOfCell();
+    int widthFor(std::int64_t parts, int container) const {
+        std::int64_t const all = parts + edges(container) + s_parts - s_missing;
+        return static_cast<int>(std::min(all / s_parts, s_widest));
     }
-    int partsFor(int width, int container) const {
-        return width * partsOfCell() - edges(container);
+    std::int64_t partsFor(int width, int container) const {
+        return width * s_parts - edges(container);
     }
     ///@}
-    /// Cells of columns that have so many parts, without lines around them: halves that come to
-    /// whole cells go to the leftmost ones.
-    std::vector<int> toCells(std::vector<int> parts) const {
-        if (!collapsed) return parts;
-        int halves = 0;
-        for (int i = 0; int& part : parts) {
-            part = std::max(0, part - linesAround(i, i + 1));
-            halves += part % 2;
-            ++i;
+    /// Cells of columns that have so many parts of cells, without lines around them: parts that
+    /// come to whole cells go to the leftmost ones.
+    std::vector<int> toCells(std::vector<std::int64_t> const& parts) const {
+        std::vector<int> cells;
+        std::int64_t spare = s_missing;
+        for (std::int64_t const part : parts) {
+            auto const column = static_cast<int>(cells.size());
+            std::int64_t const own = part - s_parts / 2 * linesAround(column, column + 1);
+            cells.push_back(static_cast<int>(std::max<std::int64_t>(0, own + s_missing) / s_parts));
+            spare += std::max<std::int64_t>(0, own) - s_parts * cells.back();
         }
-        for (int& part : parts) {
-            bool const isRoundedUp = part % 2 > 0 && (halves -= 2) >= 0;
-            part = part / 2 + (isRoundedUp ? 1 : 0);
+        for (std::size_t i = 0; i < parts.size() && spare >= s_parts; ++i) {
+            auto const column = static_cast<int>(i);
+            std::int64_t const own = parts[i] - s_parts / 2 * linesAround(column, column + 1);
+            if (own < s_parts * cells[i] + s_missing) continue;
+            ++cells[i];
+            spare -= s_parts;
         }
-        return parts;
+        return cells;
     }
     /// Columns of the table's own border and padding, or of the outer halves of its lines.
     int ownEdges(int container) const {
@@ -98,11 +100,16 @@ public:
     }
 
 private:
-    /// Parts of a table that do not count with columns.
-    int edges(int container) const {
+    /// Of a cell: what is missed of rounding.
+    static constexpr std::int64_t s_missing = s_parts / 100;
+    /// In cells.
+    static constexpr std::int64_t s_widest = 1'000'000'000;
+
+    /// Parts of cells of a table that do not count with columns.
+    std::int64_t edges(int container) const {
         auto const count = static_cast<int>(grid.columns().size());
-        if (collapsed) return linesAround(0, count);
-        return (count + 1) * columnGap(0) + innerEdges(table, container);
+        if (collapsed) return s_parts / 2 * linesAround(0, count);
+        return s_parts * ((count + 1) * columnGap(0) + innerEdges(table, container));
     }
 
     TableGrid const& grid;

@@ -9,11 +9,11 @@ namespace {
 
 bool isCells(Length length) { return length.kind == Length::Kind::cells; }
 
-/// What a width asks for, with edges, in parts of cells.
-ColumnNeed needOf(Length width, int edges, int parts) {
+/// What a width asks for, with edges.
+ColumnNeed needOf(Length width, std::int64_t edges) {
     ColumnNeed need;
     need.isFixed = isCells(width);
-    if (isCells(width)) need.most = width.value * parts + edges;
+    if (isCells(width)) need.most = width.value * s_parts + edges;
     if (width.kind == Length::Kind::percent && width.value > 0) {
         need.isPercent = true;
         need.percent = 1000 * width.value;
@@ -47,18 +47,17 @@ std::vector<Widths> contentsOf(TableGrid const& grid, Wrapping wrapping) {
 }
 
 ColumnNeed needOf(TableCell const& cell, TableFrame const& frame, Widths const& content) {
-    int const edges = frame.columnEdges(cell);
-    int const parts = frame.partsOfCell();
-    ColumnNeed need = needOf(cell.style().width, edges, parts);
-    need.least = content.least * parts + edges;
-    need.most = std::max(content.least, content.most) * parts + edges;
+    std::int64_t const edges = frame.columnEdges(cell);
+    ColumnNeed need = needOf(cell.style().width, edges);
+    need.least = content.least * s_parts + edges;
+    need.most = std::max(content.least, content.most) * s_parts + edges;
     return need;
 }
 
-std::vector<ColumnNeed> needsOfElements(TableGrid const& grid, TableFrame const& frame) {
+std::vector<ColumnNeed> needsOfElements(TableGrid const& grid) {
     std::vector<ColumnNeed> needs;
     for (TableColumn const& column : grid.columns()) {
-        ColumnNeed& need = needs.emplace_back(needOf(column.width(), 0, frame.partsOfCell()));
+        ColumnNeed& need = needs.emplace_back(needOf(column.width(), 0));
         need.count = column.count;
     }
     return needs;
@@ -69,19 +68,17 @@ std::span<ColumnNeed> columnsOf(std::vector<ColumnNeed>& needs, TableCell const&
                                     static_cast<std::size_t>(cell.columnSpan));
 }
 
-/// Shares the width of a cell of the first row among its columns, for which nothing is said. They
-/// grow alike, whatever part of a cell one has less.
+/// Shares the width of a cell of the first row among its columns, for which nothing is said.
 void setFixed(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
     std::vector<ColumnNeed> equal;
     for (ColumnNeed const& column : columns) equal.push_back({.count = column.count});
-    std::vector<int> const widths = shareWidth(equal, cell.most);
-    std::vector<int> const percentages = shareWidth(equal, cell.percent);
+    std::vector<std::int64_t> const widths = shareWidth(equal, cell.most);
+    std::vector<std::int64_t> const percentages = shareWidth(equal, cell.percent);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         if (columns[i].isFixed || columns[i].isPercent) continue;
         columns[i].least = widths[i];
         columns[i].most = widths[i];
-        columns[i].weight = widths.front();
-        columns[i].percent = percentages[i];
+        columns[i].percent = static_cast<int>(percentages[i]);
         columns[i].isPercent = cell.isPercent;
         if (i == 0) columns[i].percentEdges = cell.percentEdges;
         columns[i].isFixed = cell.isFixed;
@@ -91,7 +88,7 @@ void setFixed(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
 /// Of columns whose cells have content that is so wide.
 std::vector<ColumnNeed> needsFor(std::vector<Widths> const& contents, TableGrid const& grid,
                                  TableFrame const& frame) {
-    std::vector<ColumnNeed> needs = needsOfElements(grid, frame);
+    std::vector<ColumnNeed> needs = needsOfElements(grid);
     std::vector<std::pair<TableCell const*, ColumnNeed>> spanning;
     for (std::size_t i = 0; i < contents.size(); ++i) {
         TableCell const& cell = grid.cells()[i];
@@ -107,9 +104,9 @@ std::vector<ColumnNeed> needsFor(std::vector<Widths> const& contents, TableGrid 
                std::pair(b.first->documentSpan, b.first->column);
     });
     for (auto& [cell, need] : spanning) {
-        int const gaps = frame.gapsWithin(*cell);
-        need.least = std::max(0, need.least - gaps);
-        need.most = std::max(0, need.most - gaps);
+        std::int64_t const gaps = frame.gapsWithin(*cell);
+        need.least = std::max<std::int64_t>(0, need.least - gaps);
+        need.most = std::max<std::int64_t>(0, need.most - gaps);
         widen(columnsOf(needs, *cell), need);
     }
     limitPercentages(needs);
@@ -123,7 +120,8 @@ std::vector<ColumnNeed> automaticNeeds(TableGrid const& grid, TableFrame const& 
     return needsFor(contentsOf(grid, wrapping), grid, frame);
 }
 
-std::vector<ColumnNeed> fittingNeeds(TableGrid const& grid, TableFrame const& frame, int parts) {
+std::vector<ColumnNeed> fittingNeeds(TableGrid const& grid, TableFrame const& frame,
+                                     std::int64_t parts) {
     std::vector<Widths> const parted = contentsOf(grid, Wrapping::anywhere);
     std::vector<ColumnNeed> least = needsFor(parted, grid, frame);
     if (sumOf(least).least > parts) return least;
@@ -150,7 +148,7 @@ std::vector<ColumnNeed> fittingNeeds(TableGrid const& grid, TableFrame const& fr
 }
 
 std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& frame) {
-    std::vector<ColumnNeed> needs = needsOfElements(grid, frame);
+    std::vector<ColumnNeed> needs = needsOfElements(grid);
     for (std::size_t i = 0; i < needs.size(); ++i) {
         // As in Chromium, that of a group counts for columns without an element.
         Style const* const own = grid.columns()[i].style;
@@ -161,13 +159,13 @@ std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& fram
         TableRow const& first = grid.rows().front();
         for (std::size_t i = first.firstCell; i < first.endCell; ++i) {
             TableCell const& cell = grid.cells()[i];
-            int const edges = frame.columnEdges(cell);
+            std::int64_t const edges = frame.columnEdges(cell);
             Length width = cell.style().width;
             Length const limit = cell.style().maxWidth;
             if (isCells(width) && isCells(limit)) width.value = std::min(width.value, limit.value);
-            ColumnNeed need = needOf(width, edges, frame.partsOfCell());
+            ColumnNeed need = needOf(width, edges);
             if (!cell.isWide()) need.percentEdges = edges;
-            need.most = std::max(0, need.most - frame.gapsWithin(cell));
+            need.most = std::max<std::int64_t>(0, need.most - frame.gapsWithin(cell));
             setFixed(columnsOf(needs, cell), need);
         }
     }

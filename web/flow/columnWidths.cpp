@@ -4,43 +4,41 @@
 #include <cstdint>
 #include <numeric>
 
+#include "web/flow/lengths.h"
+
 namespace galley::web {
 
 namespace {
 
-constexpr int s_whole = 100'000'000;
+constexpr std::int64_t s_whole = 100'000'000;
 /// As far as percentages widen a table.
-constexpr std::int64_t s_widest = 1'000'000;
+constexpr std::int64_t s_widest = 1'000'000 * s_parts;
 
 bool isPercent(ColumnNeed const& column) { return column.isPercent; }
 bool isFixed(ColumnNeed const& column) { return column.isFixed && !isPercent(column); }
 bool isAutomatic(ColumnNeed const& column) { return !column.isFixed && !isPercent(column); }
 
-int partOf(int width, int percent) {
-    return static_cast<int>(std::int64_t{width} * percent / s_whole);
-}
-
-/// Of which an amount is so many per cent; less than a thousandth of a cell is not missed.
-std::int64_t wholeOf(std::int64_t amount, std::int64_t percent) {
-    return (amount * s_whole + percent / 1000) / percent;
+/// Rounded down.
+std::int64_t scale(std::int64_t amount, std::int64_t by, std::int64_t of) {
+    return static_cast<std::int64_t>(static_cast<double>(amount) * static_cast<double>(by) /
+                                     static_cast<double>(of));
 }
 
 /// Whether a column is wider than its percentage of a width, if only by its edges.
 bool exceedsShare(ColumnNeed const& column, std::int64_t width) {
-    std::int64_t const least = std::int64_t{column.least} * s_whole;
-    return column.percentEdges > 0 || least > width * column.percent + s_whole / 1000;
+    return column.percentEdges > 0 ||
+           column.least > scale(width, column.percent, s_whole) + s_parts / 1000;
 }
 
 /// Shares an amount in proportion to weights, of which one is not 0.
-std::vector<int> inProportion(std::vector<std::int64_t> const& weights, int amount) {
+std::vector<std::int64_t> inProportion(std::vector<std::int64_t> const& weights,
+                                       std::int64_t amount) {
     std::int64_t const sum = std::accumulate(weights.begin(), weights.end(), std::int64_t{0});
-    std::vector<int> parts;
+    std::vector<std::int64_t> parts;
     parts.reserve(weights.size());
-    int rest = amount;
+    std::int64_t rest = amount;
     for (std::int64_t const weight : weights) {
-        // A thousandth of a cell is what percentages are rounded by.
-        std::int64_t const part = (std::int64_t{1000} * amount * weight + sum) / (1000 * sum);
-        parts.push_back(std::min(rest, static_cast<int>(part)));
+        parts.push_back(std::min(rest, scale(amount, weight, sum)));
         rest -= parts.back();
     }
     for (std::size_t i = 0; rest > 0; i = i + 1 == parts.size() ? 0 : i + 1) {
@@ -54,7 +52,7 @@ std::vector<int> inProportion(std::vector<std::int64_t> const& weights, int amou
 /// The widths of columns while they grow.
 class Shares {
 public:
-    Shares(std::span<ColumnNeed const> shared, int total) : columns(shared) {
+    Shares(std::span<ColumnNeed const> shared, std::int64_t total) : columns(shared) {
         rest = total;
         for (ColumnNeed const& column : columns) {
             widths.push_back(column.least);
@@ -71,11 +69,12 @@ public:
         std::vector<std::int64_t> missing(widths.size());
         std::int64_t sum = 0;
         for (std::size_t i = 0; i < widths.size(); ++i) {
-            if (isOfKind(columns[i])) missing[i] = std::max(0, wish(columns[i]) - widths[i]);
+            if (isOfKind(columns[i])) {
+                missing[i] = std::max<std::int64_t>(0, wish(columns[i]) - widths[i]);
+            }
             sum += missing[i];
         }
-        if (sum > 0)
-            add(inProportion(missing, static_cast<int>(std::min<std::int64_t>(sum, rest))));
+        if (sum > 0) add(inProportion(missing, std::min(sum, rest)));
     }
 
     enum class Parts {
@@ -104,15 +103,15 @@ public:
         }
     }
 
-    std::vector<int> take() { return std::move(widths); }
+    std::vector<std::int64_t> take() { return std::move(widths); }
 
 private:
     /// Spends the rest so that widths are in proportion, where none gets narrower by that: what
     /// rounding took from some before comes back.
     void addByWeight(std::vector<std::int64_t> const& weights) {
-        int sum = rest;
+        std::int64_t sum = rest;
         for (std::size_t i = 0; i < widths.size(); ++i) sum += weights[i] > 0 ? widths[i] : 0;
-        std::vector<int> parts = inProportion(weights, sum);
+        std::vector<std::int64_t> parts = inProportion(weights, sum);
         for (std::size_t i = 0; i < widths.size(); ++i) {
             parts[i] -= weights[i] > 0 ? widths[i] : 0;
             if (parts[i] < 0) return add(inProportion(weights, rest));
@@ -120,7 +119,7 @@ private:
         add(parts);
     }
 
-    void add(std::vector<int> const& parts) {
+    void add(std::vector<std::int64_t> const& parts) {
         for (std::size_t i = 0; i < widths.size(); ++i) {
             widths[i] += parts[i];
             rest -= parts[i];
@@ -128,8 +127,8 @@ private:
     }
 
     std::span<ColumnNeed const> columns;
-    std::vector<int> widths;
-    int rest;
+    std::vector<std::int64_t> widths;
+    std::int64_t rest;
 };
 
 /// Shares a cell's percentage, less what columns have of it, among those that have none.
@@ -145,9 +144,10 @@ void widenPercentages(std::span<ColumnNeed> columns, int percent) {
         return std::accumulate(all.begin(), all.end(), std::int64_t{0});
     };
     if (percent <= 0 || sum(counts) == 0) return;
-    std::vector<int> const parts = inProportion(sum(weights) > 0 ? weights : counts, percent);
+    std::vector<std::int64_t> const parts =
+        inProportion(sum(weights) > 0 ? weights : counts, percent);
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        columns[i].percent += parts[i];
+        columns[i].percent += static_cast<int>(parts[i]);
         columns[i].isPercent = true;
     }
 }
@@ -173,9 +173,8 @@ void widen(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
     // Fixed widths stand for all that it would like.
     bool const areFixed = std::all_of(columns.begin(), columns.end(),
                                       [](ColumnNeed const& column) { return column.isFixed; });
-    std::vector<int> const least = shareWidth(columns, cell.least);
-    // By what they have liked: what is least has lost parts of cells.
-    std::vector<int> const most = areFixed ? least : shareWidth(columns, cell.most);
+    std::vector<std::int64_t> const least = shareWidth(columns, cell.least);
+    std::vector<std::int64_t> const most = areFixed ? least : shareWidth(columns, cell.most);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         columns[i].least = std::max(columns[i].least, least[i]);
         columns[i].most = std::max({columns[i].most, columns[i].least, most[i]});
@@ -183,15 +182,15 @@ void widen(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
 }
 
 void limitPercentages(std::span<ColumnNeed> columns) {
-    int left = s_whole;
+    std::int64_t left = s_whole;
     for (ColumnNeed& column : columns) {
-        column.percent = std::min(column.percent, left);
+        column.percent = static_cast<int>(std::min<std::int64_t>(column.percent, left));
         left -= column.percent;
     }
 }
 
-Widths sumOf(std::span<ColumnNeed const> columns) {
-    Widths sum;
+ColumnSums sumOf(std::span<ColumnNeed const> columns) {
+    ColumnSums sum;
     for (ColumnNeed const& column : columns) {
         sum.least += column.least;
         sum.most += column.most;
@@ -199,32 +198,29 @@ Widths sumOf(std::span<ColumnNeed const> columns) {
     return sum;
 }
 
-int widthOfPercentages(std::span<ColumnNeed const> columns) {
+std::int64_t widthOfPercentages(std::span<ColumnNeed const> columns) {
     std::int64_t widest = 0;
     std::int64_t others = 0;
     std::int64_t left = s_whole;
     for (ColumnNeed const& column : columns) {
         left -= column.percent;
         if (column.percent > 0) {
-            widest = std::max(widest, wholeOf(column.most, column.percent));
+            widest = std::max(widest, scale(column.most, s_whole, column.percent));
         } else if (!isPercent(column)) {
             others += column.most;
         }
     }
     if (left < s_whole && others > 0) {
-        widest = std::max(widest, left > 0 ? wholeOf(others, left) : s_widest);
+        widest = std::max(widest, left > 0 ? scale(others, s_whole, left) : s_widest);
     }
-    return static_cast<int>(std::min(widest, s_widest));
+    return std::min(widest, s_widest);
 }
 
-std::vector<int> shareWidth(std::span<ColumnNeed const> columns, int width) {
+std::vector<std::int64_t> shareWidth(std::span<ColumnNeed const> columns, std::int64_t width) {
     auto const most = [](ColumnNeed const& column) { return column.most; };
-    auto const weight = [](ColumnNeed const& column) {
-        return column.weight > 0 ? column.weight : column.most;
-    };
-    auto const percent = [](ColumnNeed const& column) { return column.percent; };
+    auto const percent = [](ColumnNeed const& column) { return std::int64_t{column.percent}; };
     auto const share = [=](ColumnNeed const& column) {
-        return partOf(width, column.percent) + column.percentEdges;
+        return scale(width, column.percent, s_whole) + column.percentEdges;
     };
     bool const areShares = std::none_of(columns.begin(), columns.end(), [=](auto const& column) {
         return isPercent(column) && exceedsShare(column, width);
@@ -235,7 +231,7 @@ std::vector<int> shareWidth(std::span<ColumnNeed const> columns, int width) {
     shares.grow(isFixed, most);
     shares.grow(isAutomatic, most);
     shares.spend(isAutomatic, most, Parts::ofWhole);
-    shares.spend(isFixed, weight, Parts::ofWhole);
+    shares.spend(isFixed, most, Parts::ofWhole);
     shares.spend(isPercent, percent, areShares ? Parts::ofWhole : Parts::ofRest);
     return shares.take();
 }
