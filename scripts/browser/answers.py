@@ -54,6 +54,8 @@ class Browser:
             letters = "".join(cluster for cluster, _, _ in laid["clusters"])
             # Which ones are covered depends on how cells are rounded.
             shown = "" if laid["sticksOut"] or covers else letters
+            # Generated text is not among the clusters.
+            fits = fits and not laid["scrolls"]
             return Answer([shown], between=True, fits=fits)
         rows = ["".join(cells).rstrip() for cells in rows]
         return Answer(rows, fits=fits, paint=picture.backgrounds(laid["picture"]))

@@ -50,6 +50,8 @@ def avoid(source, width):
     if width < 24:
         source = source.replace("list-style-position: inside", "list-style-position: outside")
     # White space that hangs has no background.
+    if "pre-wrap" in source and "display: inline" in source:
+        source = source.replace("background-color", "word-spacing")
     if "pre-wrap" in source:
         source = re.sub(r"(</?)mark\b", r"\1samp", source)
         inline = rf"(<({'|'.join(INLINE)}) [^>]*)background-color"

@@ -177,9 +177,12 @@ void TableGrid::moveCells(std::vector<int> const& starts) {
 void TableGrid::joinColumns() {
     for (ColumnRange const& range : ranges) {
         if (isAutomatic(range.column.width())) continue;
+        auto const begin = static_cast<std::size_t>(range.begin);
         auto const end = static_cast<std::size_t>(range.end);
         if (isStart.size() < end) isStart.resize(end);
-        isStart[static_cast<std::size_t>(range.begin)] = true;
+        // Those of a percentage are one, as in Chromium.
+        bool const areSet = range.column.width().kind == Length::Kind::cells;
+        for (std::size_t i = begin; i < (areSet ? end : begin + 1); ++i) isStart[i] = true;
     }
     std::vector<int> starts;
     for (std::size_t i = 0; i < isStart.size(); ++i) {

@@ -90,14 +90,18 @@ std::vector<ColumnNeed> needsFor(std::vector<Widths> const& contents, TableGrid 
                                  TableFrame const& frame) {
     std::vector<ColumnNeed> needs = needsOfElements(grid);
     std::vector<std::pair<TableCell const*, ColumnNeed>> spanning;
-    for (std::size_t i = 0; i < contents.size(); ++i) {
-        TableCell const& cell = grid.cells()[i];
-        ColumnNeed const need = needOf(cell, frame, contents[i]);
+    auto const take = [&](std::size_t index) {
+        TableCell const& cell = grid.cells()[index];
+        ColumnNeed const need = needOf(cell, frame, contents[index]);
         if (cell.isWide()) {
             spanning.emplace_back(&cell, need);
         } else {
             widen(needs[static_cast<std::size_t>(cell.column)], need);
         }
+    };
+    // Rows that are first on the page come first, whatever their order in the document.
+    for (TableRow const& row : grid.rows()) {
+        for (std::size_t i = row.firstCell; i < row.endCell; ++i) take(i);
     }
     std::stable_sort(spanning.begin(), spanning.end(), [](auto const& a, auto const& b) {
         return std::pair(a.first->documentSpan, a.first->column) <

@@ -24,12 +24,6 @@ std::int64_t scale(std::int64_t amount, std::int64_t by, std::int64_t of) {
                                      static_cast<double>(of));
 }
 
-/// Whether a column is wider than its percentage of a width, if only by its edges.
-bool exceedsShare(ColumnNeed const& column, std::int64_t width) {
-    return column.percentEdges > 0 ||
-           column.least > scale(width, column.percent, s_whole) + s_parts / 1000;
-}
-
 /// Shares an amount in proportion to weights, of which one is not 0.
 std::vector<std::int64_t> inProportion(std::vector<std::int64_t> const& weights,
                                        std::int64_t amount) {
@@ -77,15 +71,9 @@ public:
         if (sum > 0) add(inProportion(missing, std::min(sum, rest)));
     }
 
-    enum class Parts {
-        /// What columns have already is in proportion to their weights.
-        ofWhole,
-        ofRest,
-    };
-
     /// Gives all that is left to columns of a kind, if there are any.
     template <class Weight>
-    void spend(bool (*isOfKind)(ColumnNeed const&), Weight const& weight, Parts parts) {
+    void spend(bool (*isOfKind)(ColumnNeed const&), Weight const& weight) {
         if (isDone()) return;
         std::vector<std::int64_t> weights(widths.size());
         std::vector<std::int64_t> counts(widths.size());
@@ -96,7 +84,6 @@ public:
         }
         auto const isThere = [](std::int64_t amount) { return amount > 0; };
         if (std::any_of(weights.begin(), weights.end(), isThere)) {
-            if (parts == Parts::ofWhole) return addByWeight(weights);
             add(inProportion(weights, rest));
         } else if (std::any_of(counts.begin(), counts.end(), isThere)) {
             add(inProportion(counts, rest));
@@ -106,19 +93,6 @@ public:
     std::vector<std::int64_t> take() { return std::move(widths); }
 
 private:
-    /// Spends the rest so that widths are in proportion, where none gets narrower by that: what
-    /// rounding took from some before comes back.
-    void addByWeight(std::vector<std::int64_t> const& weights) {
-        std::int64_t sum = rest;
-        for (std::size_t i = 0; i < widths.size(); ++i) sum += weights[i] > 0 ? widths[i] : 0;
-        std::vector<std::int64_t> parts = inProportion(weights, sum);
-        for (std::size_t i = 0; i < widths.size(); ++i) {
-            parts[i] -= weights[i] > 0 ? widths[i] : 0;
-            if (parts[i] < 0) return add(inProportion(weights, rest));
-        }
-        add(parts);
-    }
-
     void add(std::vector<std::int64_t> const& parts) {
         for (std::size_t i = 0; i < widths.size(); ++i) {
             widths[i] += parts[i];
@@ -170,14 +144,18 @@ void widen(ColumnNeed& column, ColumnNeed const& cell) {
 
 void widen(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
     if (isPercent(cell)) widenPercentages(columns, cell.percent);
+    std::vector<std::int64_t> const least = shareWidth(columns, cell.least);
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        columns[i].least = std::max(columns[i].least, least[i]);
+        columns[i].most = std::max(columns[i].most, columns[i].least);
+    }
     // Fixed widths stand for all that it would like.
     bool const areFixed = std::all_of(columns.begin(), columns.end(),
                                       [](ColumnNeed const& column) { return column.isFixed; });
-    std::vector<std::int64_t> const least = shareWidth(columns, cell.least);
-    std::vector<std::int64_t> const most = areFixed ? least : shareWidth(columns, cell.most);
+    if (areFixed) return;
+    std::vector<std::int64_t> const most = shareWidth(columns, cell.most);
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        columns[i].least = std::max(columns[i].least, least[i]);
-        columns[i].most = std::max({columns[i].most, columns[i].least, most[i]});
+        columns[i].most = std::max(columns[i].most, most[i]);
     }
 }
 
@@ -222,17 +200,13 @@ std::vector<std::int64_t> shareWidth(std::span<ColumnNeed const> columns, std::i
     auto const share = [=](ColumnNeed const& column) {
         return scale(width, column.percent, s_whole) + column.percentEdges;
     };
-    bool const areShares = std::none_of(columns.begin(), columns.end(), [=](auto const& column) {
-        return isPercent(column) && exceedsShare(column, width);
-    });
-    using Parts = Shares::Parts;
     Shares shares(columns, width);
     shares.grow(isPercent, share);
     shares.grow(isFixed, most);
     shares.grow(isAutomatic, most);
-    shares.spend(isAutomatic, most, Parts::ofWhole);
-    shares.spend(isFixed, most, Parts::ofWhole);
-    shares.spend(isPercent, percent, areShares ? Parts::ofWhole : Parts::ofRest);
+    shares.spend(isAutomatic, most);
+    shares.spend(isFixed, most);
+    shares.spend(isPercent, percent);
     return shares.take();
 }
 

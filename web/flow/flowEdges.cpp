@@ -56,6 +56,7 @@ void Flow::addLateMarker() {
     Block& block = blocks.back();
     if (!block.hasContent) {
         start();
+        takeBaseline();
         beginRow();
         return endRow();
     }

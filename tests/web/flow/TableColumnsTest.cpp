@@ -85,6 +85,26 @@ TEST(TableColumns, ShareTheWidth) {
  a          b
 )"},
 
+        // Parts of a cell are kept until all is shared.
+        {"<table style='width: 54ch'><tr><td style='width: 16.6667%'>123456789</td>"
+         "<td style='width: 33.3333%'>bcd</td></tr></table>",
+         60, R"(
+ 123456789           bcd
+)"},
+        // By the order of rows on the page.
+        {"<table style='width: 50%'><tfoot><tr><td colspan='2'>aaa bbb ccc ddd eee fff "
+         "ggg</td></tr>"
+         "</tfoot><tr><td>one two x</td><td>seven77</td></tr><thead><tr><td colspan='2'>"
+         "<pre>123456789012345678</pre></td></tr></thead></table>",
+         20, R"(
+
+ 123456789012345678
+
+ one two x  seven77
+ aaa bbb ccc ddd
+ eee fff ggg
+)"},
+
         // Only what grows is shared alike.
         {"<table style='table-layout: fixed; width: 22ch'><tr><td colspan='2' style='width: 5ch'/>"
          "<td>c</td></tr><tr><td>a</td><td>b</td></tr></table>",

@@ -215,6 +215,14 @@ TEST(Tables, AreAsWideAsTheySay) {
 // stands for what a cell over it would like.
 TEST(Tables, HaveColumnsWhereCellsBeginOrWidthsAreSet) {
     expectPictures({
+        {"<table style='border-spacing: 1ch'><col span='3' style='width: 2ch'/><tr>"
+         "<td colspan='3' style='border: solid'></td></tr></table>",
+         20, R"(
+
+ ┌──────┐
+ └──────┘
+
+)"},
         {"<table><col style='width: 5ch'/><tr><td colspan='3'>ab cde</td></tr></table>", 20, R"(
  ab
  cde
@@ -255,6 +263,7 @@ TEST(TableRows, AlignTablesByTheirFirstRow) {
              {"<table style='border-collapse: collapse'><tbody style='vertical-align: baseline'>"
               "<tr><td style='border: solid; padding-top: 1lh'>b</td></tr></tbody></table>",
               "||| ┌───┐| │   │|a│ b │| └───┘"},
+             {"<ol><li></li><li>b</li></ol>", "|||||a 1.|  2. b|"},
              {"<table><tr><td style='padding-bottom: 1lh'>b<br/>d</td></tr></table>",
               "||||  b|a d|"}}) {
         EXPECT_EQ(textOf(begin + table + end, 20, "|", ""), page) << table;
