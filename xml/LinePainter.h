@@ -20,8 +20,8 @@ public:
         Inline,  ///< A left margin counts as far as it exceeds the right margin before it.
     };
 
-    /// Both outlive it. Without a grid lines are only measured.
-    LinePainter(Items const& paragraph, Flow outermost, Grid* page)
+    /// Both outlive it.
+    LinePainter(Items const& paragraph, Flow outermost, Grid& page)
         : items(paragraph), flow(outermost), grid(page) {}
 
     /// Paints the line at the origin of the innermost frame, with the attributes handed down to it,
@@ -62,7 +62,7 @@ private:
 
     Items const& items;
     Flow flow;
-    Grid* grid;
+    Grid& grid;
     Canvas::Attributes outer = {};
     /// From line to line, outermost first.
     std::vector<OpenElement> open;

@@ -1,6 +1,5 @@
 #include "xml/PageBuilder.h"
 
-#include <new>
 #include <utility>
 
 #include "base/saturate.h"
@@ -8,8 +7,8 @@
 #include "xml/beneath.h"
 #include "xml/boxesOf.h"
 #include "xml/layout/LineBreaker.h"
-#include "xml/layout/makeChild.h"
-#include "xml/pageOfWidth.h"
+#include "xml/layout/boxes.h"
+#include "xml/layout/children.h"
 
 namespace CLI::XML {
 
@@ -19,7 +18,7 @@ PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& c
       look(style.look),
       handedDown(attributes),
       content(look.handDown(attributes)),
-      box(style.box),
+      box(style.box()),
       stack(box) {
     EdgeSizes const edges = box.edges();
     box.content.width = saturate(std::int64_t{containing.content.width} - edges.left - edges.right);
@@ -38,6 +37,7 @@ PageBuilder::PageBuilder(ZRLWPtr<DomElement> const& root, unsigned width, int ex
 
 /// The element that what is read stands in.
 DomElement const& PageBuilder::parent() const {
+    if (boxes.isOpen()) return boxes.innermost();
     return items.depth() > 0 ? *items.innermost().element : *blocks.back().element;
 }
 
@@ -50,15 +50,25 @@ void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
     refusal = checkChild(parent(), element.object);
     if (!refusal) return;
     bool const isWithin = items.depth() > 0;
-    if (!isWithin && element->display == DomNode::Block) return openBlock(element);
-    if (!isWithin && element->display == DomNode::Table) endItems();
-    items.open(styles.of(element));
+    bool const isBlock = element->display == DomNode::Block;
+    if (boxes.isOpen()) {
+        items.addWithinBlock(boxes.beginChild(element));
+    } else if (isBlock && isWithin) {
+        items.addBlock(boxes.begin(element));
+    } else if (isBlock) {
+        openBlock(element);
+    } else {
+        if (!isWithin && element->display == DomNode::Table) endItems();
+        items.open(styles.of(element));
+    }
 }
 
 void PageBuilder::endElement() {
     if (!refusal) return;
     if (hidden > 0) {
         --hidden;
+    } else if (boxes.isOpen()) {
+        boxes.end();
     } else if (items.depth() == 0) {
         closeBlock();
     } else {
@@ -74,17 +84,19 @@ bool PageBuilder::takesText() {
 }
 
 void PageBuilder::addWords(std::string_view read) {
-    if (takesText()) items.addWords(read);
+    if (!takesText()) return;
+    boxes.isOpen() ? boxes.addTexts(Item::Words, read) : items.addWords(read);
 }
 
 void PageBuilder::addWord(std::string_view word) {
-    if (takesText()) items.addWord(word);
+    if (!takesText()) return;
+    boxes.isOpen() ? boxes.addTexts(Item::Word, word) : items.addWord(word);
 }
 
 XCode PageBuilder::finish(String& out) {
     if (!refusal) return refusal;
     endItems();
-    if (!grid.moveRowsTo(text) || !isTextComplete) throw std::bad_alloc();
+    grid.moveRowsTo(text);
     out = std::move(text);
     return refusal;
 }
@@ -118,8 +130,7 @@ void PageBuilder::take(Dimensions const& box) {
 
 /// Nothing more is painted above row `height` of the innermost frame.
 void PageBuilder::releaseRows(std::int32_t height) {
-    if (!mayRelease) return;
-    isTextComplete = grid.moveRowsTo(text, grid.originRow() + height) && isTextComplete;
+    if (mayRelease) grid.moveRowsTo(text, grid.originRow() + height);
 }
 
 /// Lays out and paints what has been read since the last block.
@@ -130,22 +141,21 @@ void PageBuilder::endItems() {
         addBoxes();
     } else if (areTable) {
         addTable();
-    } else if (items.holdsBlock()) {
-        addParagraph(ItemsOfBlocks(items).items());
     } else {
-        addParagraph(items);
+        addParagraph();
     }
     items.clear();
+    boxes.clear();
     styles.clear();
 }
 
-void PageBuilder::addParagraph(Items const& paragraph) {
+void PageBuilder::addParagraph() {
     OpenBlock& block = blocks.back();
-    Position const end = {paragraph.count(), 0};
-    LineBreaker breaker(paragraph, block.box.content.width);
-    LinePainter painter(paragraph, LinePainter::Line, &grid);
+    Position const end = {items.count(), 0};
+    LineBreaker breaker(items, block.box.content.width);
+    LinePainter painter(items, LinePainter::Line, grid);
     for (Position from; from < end;) {
-        if (paragraph.holdsBlock()) Walk::run(breaker.layOutBlocks(from));
+        if (items.holdsBlock()) Walk::run(breaker.layOutBlocks(from));
         Position const lineEnd = breaker.next(from);
         Dimensions line;
         block.stack.place(line);
@@ -161,8 +171,8 @@ void PageBuilder::addParagraph(Items const& paragraph) {
 
 void PageBuilder::addTable() {
     OpenBlock& block = blocks.back();
-    ElementStyle const& style = *items[0].style;
-    Dimensions box = style.box;
+    ElementStyle const& style = items.style(0);
+    Dimensions box = style.box();
     block.stack.place(box);
     TablePainter painter(items, box, grid);
     grid.enter(box.content.x, box.content.y);
@@ -176,12 +186,14 @@ void PageBuilder::addTable() {
 
 void PageBuilder::addBoxes() {
     OpenBlock& block = blocks.back();
-    BoxesOfItems laidOut(items);
+    Box& around = boxes.begin(createRootElement());
+    boxes.add(items);
+    boxes.end();
     // For each line of such a paragraph all of its rest may be laid out.
-    std::int64_t const steps = items.areTable() ? 0 : laidOut.words() * laidOut.words();
-    if (!budget.mayHold(steps)) return;
-    laidOut.layOut(block.box);
-    for (ZRLWPtr<Box> const& box : laidOut.boxes()) {
+    bool const isLiteral = !items.areTable() && !items.breaksByWidths();
+    if (isLiteral && !budget.mayHold(boxes.words() * boxes.words())) return;
+    around.layout(block.box);
+    for (ZRLWPtr<Box> const& box : around.children) {
         block.stack.place(box->dimensions);
         paintBox(grid, *box, block.content);
         take(box->dimensions);

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "xml/LinePainter.h"
+#include "xml/boxesOf.h"
 #include "xml/dom/readDocument.h"
 #include "xml/layout/Items.h"
 #include "xml/layout/placement.h"
@@ -53,7 +54,7 @@ private:
     void openBlock(ZRLWPtr<DomElement> const& element);
     void closeBlock();
     void endItems();
-    void addParagraph(Items const& paragraph);
+    void addParagraph();
     void addTable();
     void addBoxes();
     void take(Dimensions const& box);
@@ -63,14 +64,14 @@ private:
     Grid grid;
     /// Rows of the page that nothing can change any more.
     String text;
-    /// There was memory for all of it.
-    bool isTextComplete = true;
     bool mayRelease;
     /// Innermost last.
     std::deque<OpenBlock> blocks;
     ElementStyles styles;
     /// What has been read since the last block.
     Items items;
+    /// Of blocks in it.
+    BoxBuilder boxes;
     /// Open elements from the outermost one on that is not displayed.
     unsigned hidden = 0;
     XCode refusal;

@@ -27,11 +27,9 @@ public:
     /// A text a word.
     void addWords(std::string_view words) override {
         while (!words.empty()) {
-            std::size_t const space = words.find(' ');
-            bool const isLast = space == std::string_view::npos;
-            std::size_t const length = isLast ? words.length() : space + 1;
-            addWord(words.substr(0, length));
-            words.remove_prefix(length);
+            std::string_view const word = firstWord(words);
+            addWord(word);
+            words.remove_prefix(word.length());
         }
     }
 

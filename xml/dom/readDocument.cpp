@@ -8,11 +8,9 @@
 #include <cstring>
 #include <map>
 #include <string_view>
-#include <utility>
 #include <vector>
 
-#include "xml/dom/createDomElement.h"
-#include "xml/dom/replaceEntities.h"
+#include "xml/dom/vocabulary.h"
 
 namespace CLI::XML {
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <string_view>
 
 #include "base/XCode.h"
 #include "xml/css/StyleNode.h"
-#include "xml/dom/DomElement.h"
-#include "xml/dom/DomText.h"
+#include "xml/dom/nodes.h"
 #include "xml/parser/PullParser.h"
 
 namespace CLI::XML {
@@ -27,6 +27,11 @@ public:
     /// The same for a single word in which references were decoded, to anything.
     virtual void addWord(std::string_view word) = 0;
 };
+
+/// The first of words, with its space; nothing of nothing.
+inline std::string_view firstWord(std::string_view words) {
+    return words.substr(0, std::min(words.find(' '), words.length() - 1) + 1);
+}
 
 /// Reads events until the end tag that closes what was open at the beginning, which is left unread,
 /// or the end of the document, which only a top-level call accepts. Running text becomes a text a

@@ -4,29 +4,17 @@
 
 #include "base/append.h"
 #include "xml/layout/layOut.h"
-#include "xml/layout/placement.h"
 
 namespace CLI::XML {
 
-void Items::open(ElementStyle const& style) {
-    DomNode::Display const display = style.display();
-    hasBlock = hasBlock || display == DomNode::Block;
-    hasTable = hasTable || (display == DomNode::Table && list.count > 0);
-    Item item = {};
-    item.style = &style;
-    addOpen(item);
-}
-
-void Items::open(Box& box) {
-    areBoxes = true;
-    Item item = {};
-    item.box = &box;
-    addOpen(item);
-}
-
-void Items::addOpen(Item item) {
-    hasNegativeSide = hasNegativeSide || edges(item).hasNegativeSide();
+void Items::open(Dimensions const& edges) {
+    hasNegativeSide = hasNegativeSide || edges.hasNegativeSide();
+    for (EdgeSizes const& sizes : {edges.padding, edges.border, edges.margin}) {
+        reach += std::abs(std::int64_t{sizes.left}) + std::abs(std::int64_t{sizes.right});
+    }
     openItems.push_back(list.count);
+    Item item = {};
+    item.edges = &edges;
     item.kind = Item::Open;
     list.add(item);
 }
@@ -51,15 +39,7 @@ void Items::addWords(std::string_view words) {
     }
 }
 
-void Items::addWord(std::string_view word) {
-    // No line is broken behind a space within a word.
-    bool const isPlain = !word.empty() && word.find(' ') >= word.length() - 1;
-    if (isPlain) {
-        addWords(word);
-    } else {
-        addText(word, Item::Word);
-    }
-}
+void Items::addWord(std::string_view word) { addText(word, Item::Word); }
 
 void Items::addText(std::string_view added, Item::Kind kind) {
     Item item = {};
@@ -73,50 +53,55 @@ void Items::addText(std::string_view added, Item::Kind kind) {
 void Items::addWord(Box const& box) {
     Item item = {};
     item.bytes.length = static_cast<std::uint32_t>(box.dimensions.content.width);
+    reach += item.bytes.length;
     item.kind = Item::Word;
     list.add(item);
 }
 
 void Items::addBlock(Box& block) {
     hasBlock = true;
-    hasNegativeSide = hasNegativeSide || mayTakeOff(block);
+    addWithinBlock(block);
     Item item = {};
-    item.box = &block;
+    item.block = &block;
     item.kind = Item::Block;
     list.add(item);
+}
+
+void Items::addWithinBlock(Box const& box) {
+    hasNegativeSide = hasNegativeSide || mayTakeOff(box);
+    hasTable = hasTable || box.type == Box::Table;
 }
 
 void Items::clear() {
     list.count = 0;
     allText.clear();
-    areBoxes = hasBlock = hasNegativeSide = hasTable = false;
-}
-
-std::int32_t Items::outerWidth(Item const& item, std::int32_t content) const {
-    Dimensions box = edges(item);
-    box.content.width = content;
-    return box.marginBox().width;
+    reach = 0;
+    hasBlock = hasNegativeSide = hasTable = false;
 }
 
 bool Items::breaksByWidths() const {
     if (hasBlock) return !hasNegativeSide && !hasTable;
-    return !hasNegativeSide || isModerate(reach());
+    // Far from the limits, where sums end.
+    constexpr std::int64_t s_moderate = 1 << 30;
+    return !hasNegativeSide || reach + std::int64_t{allText.length()} < s_moderate;
 }
 
-/// Of all words and edges, whatever their signs, in columns.
-std::int64_t Items::reach() const {
-    std::int64_t sum = 0;
-    for (Item const& item : list) {
-        if (item.kind == Item::Open) {
-            Dimensions const& box = edges(item);
-            for (EdgeSizes const& sizes : {box.padding, box.border, box.margin}) {
-                sum += std::abs(std::int64_t{sizes.left}) + std::abs(std::int64_t{sizes.right});
-            }
-        } else if (item.kind == Item::Words || item.kind == Item::Word) {
-            sum += item.bytes.length;
-        }
-    }
-    return sum;
+WidthSums::WidthSums(Items const& summed) : items(summed), rests(summed.count() + 1) {
+    update(0, items.count());
+}
+
+void WidthSums::update(std::uint32_t begin, std::uint32_t end) {
+    for (std::uint32_t i = end; i-- > begin;) rests[i] = rests[i + 1] + width(i);
+}
+
+std::int64_t WidthSums::width(std::uint32_t i) const {
+    Item const& item = items[i];
+    if (item.kind == Item::Block) return item.block->dimensions.marginBox().width;
+    if (item.kind == Item::Close) return 0;
+    if (item.kind != Item::Open) return item.bytes.length;
+    Dimensions edges = *item.edges;
+    edges.content.width = 0;
+    return edges.marginBox().width;
 }
 
 }  // namespace CLI::XML
