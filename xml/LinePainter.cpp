@@ -21,11 +21,14 @@ Rect LinePainter::paint(Position from, Position end, Canvas::Attributes const& a
             std::string_view text = items.text(item);
             if (end.item == at.item) text = text.substr(0, end.offset);
             text.remove_prefix(at.offset);
-            if (item.kind == Item::Words) {
-                addWords(text);
-            } else {
-                addWord(text);
+            // Only the first word keeps the margin before it, which the width does not count.
+            if (item.kind == Item::Words && levels.back().row.previousMargin != 0) {
+                std::string_view const first = firstWord(text);
+                addWords(first);
+                text.remove_prefix(first.length());
+                if (text.empty()) continue;
             }
+            addWords(text);
         }
     }
     endLine();
@@ -98,16 +101,6 @@ void LinePainter::closeElement() {
     open.pop_back();
 }
 
-/// Only the first word keeps the margin before it, which the width does not count.
-void LinePainter::addWords(std::string_view words) {
-    if (levels.back().row.previousMargin != 0) {
-        std::string_view const first = firstWord(words);
-        addWord(first);
-        words.remove_prefix(first.length());
-    }
-    if (!words.empty()) addWord(words);
-}
-
 void LinePainter::addBlock(Box& block) {
     place(block.dimensions);
     paintBox(grid, block, attributes());
@@ -115,12 +108,12 @@ void LinePainter::addBlock(Box& block) {
     level.row.add(level.box.content, block.dimensions);
 }
 
-void LinePainter::addWord(std::string_view word) {
+void LinePainter::addWords(std::string_view words) {
     Dimensions box;
-    box.content.width = static_cast<std::int32_t>(word.length());
-    box.content.height = word.empty() ? 0 : 1;
+    box.content.width = static_cast<std::int32_t>(words.length());
+    box.content.height = words.empty() ? 0 : 1;
     place(box);
-    grid.draw(word, box.content.x, 0, attributes());
+    grid.draw(words, box.content.x, 0, attributes());
     Level& level = levels.back();
     level.row.add(level.box.content, box);
 }

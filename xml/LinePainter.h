@@ -54,7 +54,6 @@ private:
     void beginLevel(std::size_t index, Dimensions const& box, bool isFrame);
     void endLevel();
     void addWords(std::string_view words);
-    void addWord(std::string_view word);
     void addBlock(Box& block);
     Canvas::Attributes const& attributes() const {
         return open.empty() ? outer : open.back().content;

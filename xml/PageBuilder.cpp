@@ -77,20 +77,11 @@ void PageBuilder::endElement() {
     }
 }
 
-bool PageBuilder::takesText() {
-    if (!refusal || hidden > 0) return false;
+void PageBuilder::addText(std::string_view read, bool isWord) {
+    if (!refusal || hidden > 0) return;
     refusal = checkChild(parent(), nullptr);
-    return static_cast<bool>(refusal);
-}
-
-void PageBuilder::addWords(std::string_view read) {
-    if (!takesText()) return;
-    boxes.isOpen() ? boxes.addTexts(Item::Words, read) : items.addWords(read);
-}
-
-void PageBuilder::addWord(std::string_view word) {
-    if (!takesText()) return;
-    boxes.isOpen() ? boxes.addTexts(Item::Word, word) : items.addWord(word);
+    if (!refusal) return;
+    boxes.isOpen() ? boxes.addText(read, isWord) : items.addText(read, isWord);
 }
 
 XCode PageBuilder::finish(String& out) {

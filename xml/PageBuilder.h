@@ -25,8 +25,7 @@ public:
     bool mayShareElements() const override { return true; }
     void startElement(ZRLWPtr<DomElement> const& element) override;
     void endElement() override;
-    void addWords(std::string_view read) override;
-    void addWord(std::string_view word) override;
+    void addText(std::string_view read, bool isWord) override;
 
     /// To be called at the end of the document: finishes the page and returns its text in `out`;
     /// or says why a child was refused by its parent, the first that was.
@@ -50,7 +49,6 @@ private:
     };
 
     DomElement const& parent() const;
-    bool takesText();
     void openBlock(ZRLWPtr<DomElement> const& element);
     void closeBlock();
     void endItems();

@@ -50,13 +50,11 @@ Box& BoxBuilder::beginChild(ZRLWPtr<DomElement> const& element) {
     return *open.back();
 }
 
-void BoxBuilder::addTexts(Item::Kind kind, std::string_view text) {
-    do {
-        std::string_view const word = kind == Item::Words ? firstWord(text) : text;
+void BoxBuilder::addText(std::string_view text, bool isWord) {
+    visitWords(text, isWord, [this](std::string_view word) {
         texts.push_back(makeText(word));
         addBox(*open.back(), *texts.back());
-        text.remove_prefix(word.length());
-    } while (!text.empty());
+    });
 }
 
 void BoxBuilder::add(Items const& items) {
@@ -69,7 +67,7 @@ void BoxBuilder::add(Items const& items) {
         } else if (item.kind == Item::Block) {
             open.back()->children.add(ZRLWPtr<Box>::share(item.block));
         } else {
-            addTexts(item.kind, items.text(item));
+            addText(items.text(item), item.kind == Item::Word);
         }
     }
 }

@@ -20,8 +20,8 @@ public:
     bool isOpen() const { return !open.empty(); }
     /// The element of the innermost box that is open.
     DomElement const& innermost() const { return *asElement(open.back()->node); }
-    /// Adds words to that box, or one word that holds anything.
-    void addTexts(Item::Kind kind, std::string_view text);
+    /// Adds words to that box, or one word, as they are read.
+    void addText(std::string_view text, bool isWord);
     /// Adds what was read as items to that box.
     void add(Items const& items);
     /// How many words there are boxes for.

@@ -25,15 +25,10 @@ public:
     }
 
     /// A text a word.
-    void addWords(std::string_view words) override {
-        while (!words.empty()) {
-            std::string_view const word = firstWord(words);
-            addWord(word);
-            words.remove_prefix(word.length());
-        }
+    void addText(std::string_view text, bool isWord) override {
+        visitWords(text, isWord,
+                   [this](std::string_view word) { innermost().children.add(makeText(word)); });
     }
-
-    void addWord(std::string_view word) override { innermost().children.add(makeText(word)); }
 
 private:
     DomElement& innermost() const { return open.empty() ? outermost : *open.back(); }

@@ -178,7 +178,7 @@ private:
     }
 
     void passOn(char const* first, char const* end) {
-        if (first != end) handler.addWords({first, static_cast<std::size_t>(end - first)});
+        if (first != end) handler.addText({first, static_cast<std::size_t>(end - first)}, false);
     }
 
     /// Passes on the word at `start`, which holds an ampersand. Returns where it ends.
@@ -187,7 +187,7 @@ private:
         while (bytes.isOfWord(*end)) ++end;
         String word(start, 0, static_cast<int>(end - start));
         if (*end != '\0') word += " ";
-        handler.addWord(replaceEntities(word).view());
+        handler.addText(replaceEntities(word).view(), true);
         return end;
     }
 

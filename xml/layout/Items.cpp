@@ -29,25 +29,18 @@ void Items::close() {
     list.add(item);
 }
 
-void Items::addWords(std::string_view words) {
+void Items::addText(std::string_view added, bool isWord) {
+    auto const length = static_cast<std::uint32_t>(added.length());
     Item* const last = list.count > 0 ? &list.data[list.count - 1] : nullptr;
-    if (last != nullptr && last->kind == Item::Words && text(*last).back() == ' ') {
-        append(allText, words);
-        last->bytes.length += static_cast<std::uint32_t>(words.length());
+    if (!isWord && last != nullptr && last->kind == Item::Words && text(*last).back() == ' ') {
+        last->bytes.length += length;
     } else {
-        addText(words, Item::Words);
+        Item item = {};
+        item.bytes = {static_cast<std::uint32_t>(allText.length()), length};
+        item.kind = isWord ? Item::Word : Item::Words;
+        list.add(item);
     }
-}
-
-void Items::addWord(std::string_view word) { addText(word, Item::Word); }
-
-void Items::addText(std::string_view added, Item::Kind kind) {
-    Item item = {};
-    item.bytes = {static_cast<std::uint32_t>(allText.length()),
-                  static_cast<std::uint32_t>(added.length())};
-    item.kind = kind;
-    if (!added.empty()) append(allText, added);
-    list.add(item);
+    if (length > 0) append(allText, added);
 }
 
 void Items::addWord(Box const& box) {

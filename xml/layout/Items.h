@@ -56,10 +56,8 @@ public:
     /// An element, whose style outlives the items.
     void open(Dimensions const& edges);
     void close();
-    /// Words, at least one, each with the one space behind it: only the last may be without.
-    void addWords(std::string_view words);
-    /// A word that may hold anything.
-    void addWord(std::string_view word);
+    /// Words, or one word, as they are read.
+    void addText(std::string_view added, bool isWord);
     /// A box that is a word and has been laid out.
     void addWord(Box const& box);
     /// A block, which outlives the items.
@@ -94,8 +92,6 @@ public:
     bool breaksByWidths() const;
 
 private:
-    void addText(std::string_view added, Item::Kind kind);
-
     ZRVector<Item> list;
     String allText;
     std::vector<std::uint32_t> openItems;
