@@ -144,14 +144,13 @@ void PageBuilder::addParagraph() {
     OpenBlock& block = blocks.back();
     Position const end = {items.count(), 0};
     LineBreaker breaker(items, block.box.content.width);
-    LinePainter painter(items, LinePainter::Line, grid);
     for (Position from; from < end;) {
         if (items.holdsBlock()) Walk::run(breaker.layOutBlocks(from));
         Position const lineEnd = breaker.next(from);
         Dimensions line;
         block.stack.place(line);
         grid.enter(line.content.x, line.content.y);
-        Rect const size = painter.paint(from, lineEnd, block.content);
+        Rect const size = linePainter.paint(from, lineEnd, block.content);
         grid.leave();
         line.content.width = size.width;
         line.content.height = size.height;

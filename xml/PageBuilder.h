@@ -70,6 +70,8 @@ private:
     Items items;
     /// Of blocks in it.
     BoxBuilder boxes;
+    /// Of paragraphs, kept for its memory.
+    LinePainter linePainter{items, LinePainter::Line, grid};
     /// Open elements from the outermost one on that is not displayed.
     unsigned hidden = 0;
     XCode refusal;

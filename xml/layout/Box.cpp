@@ -48,10 +48,9 @@ String Box::getStyle(String const& property, String const& defaultValue) const {
 
 String Box::getStyle2(String const& property, String const& fallbackProperty,
                       String const& defaultValue) const {
-    String value;
-    bool const found =
-        getNodeStyle(node, property, value) || getNodeStyle(node, fallbackProperty, value);
-    return found ? value : defaultValue;
+    String value = defaultValue;
+    if (!getNodeStyle(node, property, value)) getNodeStyle(node, fallbackProperty, value);
+    return value;
 }
 
 int Box::getStyleInt2(String const& property, String const& fallbackProperty,

@@ -9,13 +9,6 @@ namespace CLI::XML {
 
 namespace {
 
-void raise(std::int32_t& maximum, std::int32_t value) { maximum = std::max(maximum, value); }
-
-void raiseSides(EdgeSizes& maxima, EdgeSizes const& edges) {
-    raise(maxima.left, edges.left);
-    raise(maxima.right, edges.right);
-}
-
 /// Calls `visit` with each cell and its index in its row, row by row.
 template <class Visit>
 void visitCells(TableBox& table, Visit const& visit) {
@@ -28,9 +21,16 @@ void visitCells(TableBox& table, Visit const& visit) {
 }  // namespace
 
 bool raiseColumn(ZRVector<Dimensions>& columns, unsigned index, Dimensions const& cell) {
-    bool const isNew = index >= columns.count;
+    bool isRaised = index >= columns.count;
     Dimensions& column = columns[index];
-    Dimensions const former = column;
+    auto const raise = [&isRaised](std::int32_t& maximum, std::int32_t value) {
+        isRaised = isRaised || value > maximum;
+        maximum = std::max(maximum, value);
+    };
+    auto const raiseSides = [&raise](EdgeSizes& maxima, EdgeSizes const& edges) {
+        raise(maxima.left, edges.left);
+        raise(maxima.right, edges.right);
+    };
     raiseSides(column.margin, cell.margin);
     raiseSides(column.border, cell.border);
     raiseSides(column.padding, cell.padding);
@@ -41,7 +41,7 @@ bool raiseColumn(ZRVector<Dimensions>& columns, unsigned index, Dimensions const
         raise(column.content.x, saturate(std::int64_t{before.content.x} + before.content.width +
                                          before.edges().right + column.edges().left));
     }
-    return isNew || !(column == former);
+    return isRaised;
 }
 
 Walk layOutTable(TableBox& table, LayoutPass pass) {
