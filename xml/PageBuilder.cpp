@@ -14,12 +14,7 @@ namespace CLI::XML {
 
 PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& containing,
                                   Canvas::Attributes const& attributes)
-    : element(style.element),
-      look(style.look),
-      handedDown(attributes),
-      content(look.handDown(attributes)),
-      box(style.box()),
-      stack(box) {
+    : box(style), handedDown(attributes), content(style.look.handDown(attributes)), stack(box) {
     EdgeSizes const edges = box.edges();
     box.content.width = saturate(std::int64_t{containing.content.width} - edges.left - edges.right);
 }
@@ -38,7 +33,7 @@ PageBuilder::PageBuilder(ZRLWPtr<DomElement> const& root, unsigned width, int ex
 /// The element that what is read stands in.
 DomElement const& PageBuilder::parent() const {
     if (boxes.isOpen()) return boxes.innermost();
-    return items.depth() > 0 ? *items.innermost().element : *blocks.back().element;
+    return items.depth() > 0 ? *items.innermost().element : *blocks.back().box.element;
 }
 
 void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
@@ -106,8 +101,8 @@ void PageBuilder::closeBlock() {
     endItems();
     OpenBlock const& closed = blocks.back();
     closed.stack.finish();
-    leaveBox(grid, closed.element.object, closed.box, closed.look, closed.handedDown);
-    Dimensions const box = closed.box;
+    leaveBox(grid, closed.box, closed.box, closed.handedDown);
+    Dimensions const box = closed.box.box();
     blocks.pop_back();
     take(box);
 }

@@ -37,12 +37,10 @@ private:
         OpenBlock(ElementStyle const& style, Dimensions const& containing,
                   Canvas::Attributes const& attributes);
 
-        ZRLWPtr<DomElement> element;
-        Look look;
+        /// The content is as wide as what its children are offered until the end.
+        ElementStyle box;
         Canvas::Attributes handedDown;
         Canvas::Attributes content;
-        /// The content is as wide as what its children are offered until the end.
-        Dimensions box;
         DownwardStack stack;
         /// Nothing will be drawn beneath what is drawn in it, or around.
         bool isBare = false;

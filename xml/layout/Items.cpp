@@ -7,26 +7,31 @@
 
 namespace CLI::XML {
 
+Item& Items::add(Item::Kind kind) {
+    Item item = {};
+    item.kind = kind;
+    list.add(item);
+    return list.data[list.count - 1];
+}
+
 void Items::open(Dimensions const& edges) {
-    hasNegativeSide = hasNegativeSide || edges.hasNegativeSide();
-    for (EdgeSizes const& sizes : {edges.padding, edges.border, edges.margin}) {
-        reach += std::abs(std::int64_t{sizes.left}) + std::abs(std::int64_t{sizes.right});
+    if (edges.hasEdges()) {
+        hasNegativeSide = hasNegativeSide || edges.hasNegativeSide();
+        for (EdgeSizes const& sizes : {edges.padding, edges.border, edges.margin}) {
+            reach += std::abs(std::int64_t{sizes.left}) + std::abs(std::int64_t{sizes.right});
+        }
     }
     openItems.push_back(list.count);
-    Item item = {};
-    item.edges = &edges;
-    item.kind = Item::Open;
-    list.add(item);
+    add(Item::Open).edges = &edges;
 }
 
 void Items::close() {
     std::uint32_t const opened = openItems.back();
     openItems.pop_back();
     list.data[opened].other = list.count;
-    Item item = list.data[opened];
-    item.other = opened;
-    item.kind = Item::Close;
-    list.add(item);
+    Item& closed = add(Item::Close);
+    closed.edges = list.data[opened].edges;
+    closed.other = opened;
 }
 
 void Items::addText(std::string_view added, bool isWord) {
@@ -35,29 +40,22 @@ void Items::addText(std::string_view added, bool isWord) {
     if (!isWord && last != nullptr && last->kind == Item::Words && text(*last).back() == ' ') {
         last->bytes.length += length;
     } else {
-        Item item = {};
-        item.bytes = {static_cast<std::uint32_t>(allText.length()), length};
-        item.kind = isWord ? Item::Word : Item::Words;
-        list.add(item);
+        auto const begin = static_cast<std::uint32_t>(allText.length());
+        add(isWord ? Item::Word : Item::Words).bytes = {begin, length};
     }
     if (length > 0) append(allText, added);
 }
 
 void Items::addWord(Box const& box) {
-    Item item = {};
-    item.bytes.length = static_cast<std::uint32_t>(box.dimensions.content.width);
-    reach += item.bytes.length;
-    item.kind = Item::Word;
-    list.add(item);
+    Item& word = add(Item::Word);
+    word.bytes.length = static_cast<std::uint32_t>(box.dimensions.content.width);
+    reach += word.bytes.length;
 }
 
 void Items::addBlock(Box& block) {
     hasBlock = true;
     addWithinBlock(block);
-    Item item = {};
-    item.block = &block;
-    item.kind = Item::Block;
-    list.add(item);
+    add(Item::Block).block = &block;
 }
 
 void Items::addWithinBlock(Box const& box) {

@@ -92,6 +92,8 @@ public:
     bool breaksByWidths() const;
 
 private:
+    Item& add(Item::Kind kind);
+
     ZRVector<Item> list;
     String allText;
     std::vector<std::uint32_t> openItems;
