@@ -15,20 +15,10 @@ namespace {
 using Byte = Canvas::Byte;
 using Row = ZRVector<Byte>;
 
-/// With the flags an SGR sequence as of ECMA-48, 8.3.117.
+// SGR sequences as of ECMA-48, 8.3.117.
 constexpr char const* s_reset = "\x1b[0m";
-
-struct FlagEscape {
-    std::uint8_t flag;
-    char const* escape;
-};
-
-constexpr FlagEscape s_flagEscapes[] = {
-    {Canvas::Attributes::Bold, "\x1b[1m"},   {Canvas::Attributes::Faint, "\x1b[2m"},
-    {Canvas::Attributes::Italic, "\x1b[3m"}, {Canvas::Attributes::Underline, "\x1b[4m"},
-    {Canvas::Attributes::Blink, "\x1b[5m"},  {Canvas::Attributes::Inverse, "\x1b[7m"},
-    {Canvas::Attributes::Hidden, "\x1b[8m"},
-};
+/// By the bits of the flags.
+constexpr std::string_view s_flagParameters = "1234578";
 
 int columnOf(Canvas const& canvas, unsigned x) {
     return static_cast<int>(x == Canvas::AppendPosition ? canvas.getWidth() : x);
@@ -62,8 +52,8 @@ std::uint8_t Canvas::Attributes::color(String const& name) {
 String Canvas::Attributes::generateFormattingFrom(Attributes const& previous) const {
     if (*this == previous) return {};
     std::string escapes = s_reset;
-    for (FlagEscape const& candidate : s_flagEscapes) {
-        if ((flags & candidate.flag) != 0) escapes += candidate.escape;
+    for (unsigned bit = 0; bit < s_flagParameters.length(); ++bit) {
+        if ((flags >> bit & 1) != 0) escapes.append("\x1b[") += {s_flagParameters[bit], 'm'};
     }
     auto const addColor = [&escapes](char const* prefix, std::uint8_t color) {
         if (color != NoColor) escapes.append(prefix).append(std::to_string(color)).append("m");
