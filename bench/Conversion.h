@@ -8,7 +8,7 @@
 
 #include "bench/corpus.h"
 #include "xml/dom/buildDomTree.h"
-#include "xml/layout/BlockBox.h"
+#include "xml/layout/boxes.h"
 #include "xml/parser/PullParser.h"
 #include "xml/render/Canvas.h"
 #include "xml/xml.h"

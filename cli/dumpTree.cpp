@@ -5,8 +5,7 @@
 #include "galley/dialect.h"
 #include "galley/webPage.h"
 #include "xml/dom/buildDomTree.h"
-#include "xml/layout/BlockBox.h"
-#include "xml/pageOfWidth.h"
+#include "xml/layout/boxes.h"
 
 namespace {
 

@@ -10,9 +10,9 @@
 
 #include "fuzz/canvases.h"
 #include "fuzz/check.h"
-#include "xml/dom/DomText.h"
 #include "xml/dom/buildDomTree.h"
-#include "xml/layout/BlockBox.h"
+#include "xml/dom/nodes.h"
+#include "xml/layout/boxes.h"
 #include "xml/xml.h"
 
 namespace CLI::XML {

@@ -8,10 +8,9 @@
 
 #include "fuzz/canvases.h"
 #include "fuzz/check.h"
-#include "xml/dom/DomElement.h"
-#include "xml/dom/DomText.h"
-#include "xml/dom/createDomElement.h"
-#include "xml/layout/BlockBox.h"
+#include "xml/dom/nodes.h"
+#include "xml/dom/vocabulary.h"
+#include "xml/layout/boxes.h"
 
 namespace CLI::XML {
 namespace {

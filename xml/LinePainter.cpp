@@ -2,6 +2,7 @@
 
 #include "xml/beneath.h"
 #include "xml/boxesOf.h"
+#include "xml/dom/readDocument.h"
 
 namespace CLI::XML {
 
@@ -15,16 +16,19 @@ Rect LinePainter::paint(Position from, Position end, Canvas::Attributes const& a
         } else if (item.kind == Item::Close) {
             closeElement();
         } else if (item.kind == Item::Block) {
-            addBlock(*item.box);
+            addBlock(*item.block);
         } else {
             std::string_view text = items.text(item);
             if (end.item == at.item) text = text.substr(0, end.offset);
             text.remove_prefix(at.offset);
-            if (item.kind == Item::Words) {
-                addWords(text);
-            } else {
-                addWord(text);
+            // Only the first word keeps the margin before it, which the width does not count.
+            if (item.kind == Item::Words && levels.back().row.previousMargin != 0) {
+                std::string_view const first = firstWord(text);
+                addWords(first);
+                text.remove_prefix(first.length());
+                if (text.empty()) continue;
             }
+            addWords(text);
         }
     }
     endLine();
@@ -35,7 +39,7 @@ void LinePainter::beginLine() {
     levels.assign(1, {});
     kept = open.size();
     for (std::size_t const index : styledBefore) {
-        Dimensions box = open[index].style->box;
+        Dimensions box = open[index].style->box();
         place(box);
         beginLevel(index, box, true);
     }
@@ -59,9 +63,9 @@ void LinePainter::place(Dimensions& box) const {
 }
 
 void LinePainter::openElement(std::uint32_t item, Position end) {
-    ElementStyle const& style = *items[item].style;
+    ElementStyle const& style = items.style(item);
     bool const isEmpty = item + 1 < end.item && items[item + 1].kind == Item::Close;
-    Dimensions box = style.box;
+    Dimensions box = style.box();
     place(box);
     Canvas::Attributes const handedDown = style.flagged(attributes());
     open.push_back({&style, handedDown, style.look.handDown(handedDown)});
@@ -71,16 +75,16 @@ void LinePainter::openElement(std::uint32_t item, Position end) {
 /// Without children an element takes up its edges and paints nothing.
 void LinePainter::beginLevel(std::size_t index, Dimensions const& box, bool isFrame) {
     levels.push_back({box, {}, index, isFrame});
-    if (isFrame && grid != nullptr) grid->enter(box.content.x, box.content.y);
+    if (isFrame) grid.enter(box.content.x, box.content.y);
 }
 
 void LinePainter::endLevel() {
     Level const level = levels.back();
     levels.pop_back();
     levels.back().row.add(levels.back().box.content, level.box);
-    if (!level.isFrame || grid == nullptr) return;
+    if (!level.isFrame) return;
     OpenElement const& element = open[level.index];
-    leaveBox(*grid, *element.style, level.box, element.handedDown);
+    leaveBox(grid, *element.style, level.box, element.handedDown);
 }
 
 void LinePainter::closeElement() {
@@ -97,29 +101,19 @@ void LinePainter::closeElement() {
     open.pop_back();
 }
 
-/// Only the first word keeps the margin before it, which the width does not count.
-void LinePainter::addWords(std::string_view words) {
-    if (levels.back().row.previousMargin != 0) {
-        std::string_view const first = Items::firstWord(words);
-        addWord(first);
-        words.remove_prefix(first.length());
-    }
-    if (!words.empty()) addWord(words);
-}
-
 void LinePainter::addBlock(Box& block) {
     place(block.dimensions);
-    if (grid != nullptr) paintBox(*grid, block, attributes());
+    paintBox(grid, block, attributes());
     Level& level = levels.back();
     level.row.add(level.box.content, block.dimensions);
 }
 
-void LinePainter::addWord(std::string_view word) {
+void LinePainter::addWords(std::string_view words) {
     Dimensions box;
-    box.content.width = static_cast<std::int32_t>(word.length());
-    box.content.height = word.empty() ? 0 : 1;
+    box.content.width = static_cast<std::int32_t>(words.length());
+    box.content.height = words.empty() ? 0 : 1;
     place(box);
-    if (grid != nullptr) grid->draw(word, box.content.x, 0, attributes());
+    grid.draw(words, box.content.x, 0, attributes());
     Level& level = levels.back();
     level.row.add(level.box.content, box);
 }

@@ -20,8 +20,8 @@ public:
         Inline,  ///< A left margin counts as far as it exceeds the right margin before it.
     };
 
-    /// Both outlive it. Without a grid lines are only measured.
-    LinePainter(Items const& paragraph, Flow outermost, Grid* page)
+    /// Both outlive it.
+    LinePainter(Items const& paragraph, Flow outermost, Grid& page)
         : items(paragraph), flow(outermost), grid(page) {}
 
     /// Paints the line at the origin of the innermost frame, with the attributes handed down to it,
@@ -54,7 +54,6 @@ private:
     void beginLevel(std::size_t index, Dimensions const& box, bool isFrame);
     void endLevel();
     void addWords(std::string_view words);
-    void addWord(std::string_view word);
     void addBlock(Box& block);
     Canvas::Attributes const& attributes() const {
         return open.empty() ? outer : open.back().content;
@@ -62,7 +61,7 @@ private:
 
     Items const& items;
     Flow flow;
-    Grid* grid;
+    Grid& grid;
     Canvas::Attributes outer = {};
     /// From line to line, outermost first.
     std::vector<OpenElement> open;

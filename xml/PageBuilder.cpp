@@ -1,6 +1,5 @@
 #include "xml/PageBuilder.h"
 
-#include <new>
 #include <utility>
 
 #include "base/saturate.h"
@@ -8,19 +7,14 @@
 #include "xml/beneath.h"
 #include "xml/boxesOf.h"
 #include "xml/layout/LineBreaker.h"
-#include "xml/layout/makeChild.h"
-#include "xml/pageOfWidth.h"
+#include "xml/layout/boxes.h"
+#include "xml/layout/children.h"
 
 namespace CLI::XML {
 
 PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& containing,
                                   Canvas::Attributes const& attributes)
-    : element(style.element),
-      look(style.look),
-      handedDown(attributes),
-      content(look.handDown(attributes)),
-      box(style.box),
-      stack(box) {
+    : box(style), handedDown(attributes), content(style.look.handDown(attributes)), stack(box) {
     EdgeSizes const edges = box.edges();
     box.content.width = saturate(std::int64_t{containing.content.width} - edges.left - edges.right);
 }
@@ -38,7 +32,8 @@ PageBuilder::PageBuilder(ZRLWPtr<DomElement> const& root, unsigned width, int ex
 
 /// The element that what is read stands in.
 DomElement const& PageBuilder::parent() const {
-    return items.depth() > 0 ? *items.innermost().element : *blocks.back().element;
+    if (boxes.isOpen()) return boxes.innermost();
+    return items.depth() > 0 ? *items.innermost().element : *blocks.back().box.element;
 }
 
 void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
@@ -50,15 +45,25 @@ void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
     refusal = checkChild(parent(), element.object);
     if (!refusal) return;
     bool const isWithin = items.depth() > 0;
-    if (!isWithin && element->display == DomNode::Block) return openBlock(element);
-    if (!isWithin && element->display == DomNode::Table) endItems();
-    items.open(styles.of(element));
+    bool const isBlock = element->display == DomNode::Block;
+    if (boxes.isOpen()) {
+        items.addWithinBlock(boxes.beginChild(element));
+    } else if (isBlock && isWithin) {
+        items.addBlock(boxes.begin(element));
+    } else if (isBlock) {
+        openBlock(element);
+    } else {
+        if (!isWithin && element->display == DomNode::Table) endItems();
+        items.open(styles.of(element));
+    }
 }
 
 void PageBuilder::endElement() {
     if (!refusal) return;
     if (hidden > 0) {
         --hidden;
+    } else if (boxes.isOpen()) {
+        boxes.end();
     } else if (items.depth() == 0) {
         closeBlock();
     } else {
@@ -67,24 +72,17 @@ void PageBuilder::endElement() {
     }
 }
 
-bool PageBuilder::takesText() {
-    if (!refusal || hidden > 0) return false;
+void PageBuilder::addText(std::string_view read, bool isWord) {
+    if (!refusal || hidden > 0) return;
     refusal = checkChild(parent(), nullptr);
-    return static_cast<bool>(refusal);
-}
-
-void PageBuilder::addWords(std::string_view read) {
-    if (takesText()) items.addWords(read);
-}
-
-void PageBuilder::addWord(std::string_view word) {
-    if (takesText()) items.addWord(word);
+    if (!refusal) return;
+    boxes.isOpen() ? boxes.addText(read, isWord) : items.addText(read, isWord);
 }
 
 XCode PageBuilder::finish(String& out) {
     if (!refusal) return refusal;
     endItems();
-    if (!grid.moveRowsTo(text) || !isTextComplete) throw std::bad_alloc();
+    grid.moveRowsTo(text);
     out = std::move(text);
     return refusal;
 }
@@ -103,8 +101,8 @@ void PageBuilder::closeBlock() {
     endItems();
     OpenBlock const& closed = blocks.back();
     closed.stack.finish();
-    leaveBox(grid, closed.element.object, closed.box, closed.look, closed.handedDown);
-    Dimensions const box = closed.box;
+    leaveBox(grid, closed.box, closed.box, closed.handedDown);
+    Dimensions const box = closed.box.box();
     blocks.pop_back();
     take(box);
 }
@@ -118,8 +116,7 @@ void PageBuilder::take(Dimensions const& box) {
 
 /// Nothing more is painted above row `height` of the innermost frame.
 void PageBuilder::releaseRows(std::int32_t height) {
-    if (!mayRelease) return;
-    isTextComplete = grid.moveRowsTo(text, grid.originRow() + height) && isTextComplete;
+    if (mayRelease) grid.moveRowsTo(text, grid.originRow() + height);
 }
 
 /// Lays out and paints what has been read since the last block.
@@ -130,27 +127,25 @@ void PageBuilder::endItems() {
         addBoxes();
     } else if (areTable) {
         addTable();
-    } else if (items.holdsBlock()) {
-        addParagraph(ItemsOfBlocks(items).items());
     } else {
-        addParagraph(items);
+        addParagraph();
     }
     items.clear();
+    boxes.clear();
     styles.clear();
 }
 
-void PageBuilder::addParagraph(Items const& paragraph) {
+void PageBuilder::addParagraph() {
     OpenBlock& block = blocks.back();
-    Position const end = {paragraph.count(), 0};
-    LineBreaker breaker(paragraph, block.box.content.width);
-    LinePainter painter(paragraph, LinePainter::Line, &grid);
+    Position const end = {items.count(), 0};
+    LineBreaker breaker(items, block.box.content.width);
     for (Position from; from < end;) {
-        if (paragraph.holdsBlock()) Walk::run(breaker.layOutBlocks(from));
+        if (items.holdsBlock()) Walk::run(breaker.layOutBlocks(from));
         Position const lineEnd = breaker.next(from);
         Dimensions line;
         block.stack.place(line);
         grid.enter(line.content.x, line.content.y);
-        Rect const size = painter.paint(from, lineEnd, block.content);
+        Rect const size = linePainter.paint(from, lineEnd, block.content);
         grid.leave();
         line.content.width = size.width;
         line.content.height = size.height;
@@ -161,8 +156,8 @@ void PageBuilder::addParagraph(Items const& paragraph) {
 
 void PageBuilder::addTable() {
     OpenBlock& block = blocks.back();
-    ElementStyle const& style = *items[0].style;
-    Dimensions box = style.box;
+    ElementStyle const& style = items.style(0);
+    Dimensions box = style.box();
     block.stack.place(box);
     TablePainter painter(items, box, grid);
     grid.enter(box.content.x, box.content.y);
@@ -176,12 +171,14 @@ void PageBuilder::addTable() {
 
 void PageBuilder::addBoxes() {
     OpenBlock& block = blocks.back();
-    BoxesOfItems laidOut(items);
+    Box& around = boxes.begin(createRootElement());
+    boxes.add(items);
+    boxes.end();
     // For each line of such a paragraph all of its rest may be laid out.
-    std::int64_t const steps = items.areTable() ? 0 : laidOut.words() * laidOut.words();
-    if (!budget.mayHold(steps)) return;
-    laidOut.layOut(block.box);
-    for (ZRLWPtr<Box> const& box : laidOut.boxes()) {
+    bool const isLiteral = !items.areTable() && !items.breaksByWidths();
+    if (isLiteral && !budget.mayHold(boxes.words() * boxes.words())) return;
+    around.layout(block.box);
+    for (ZRLWPtr<Box> const& box : around.children) {
         block.stack.place(box->dimensions);
         paintBox(grid, *box, block.content);
         take(box->dimensions);

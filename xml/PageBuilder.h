@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "xml/LinePainter.h"
+#include "xml/boxesOf.h"
 #include "xml/dom/readDocument.h"
 #include "xml/layout/Items.h"
 #include "xml/layout/placement.h"
@@ -24,8 +25,7 @@ public:
     bool mayShareElements() const override { return true; }
     void startElement(ZRLWPtr<DomElement> const& element) override;
     void endElement() override;
-    void addWords(std::string_view read) override;
-    void addWord(std::string_view word) override;
+    void addText(std::string_view read, bool isWord) override;
 
     /// To be called at the end of the document: finishes the page and returns its text in `out`;
     /// or says why a child was refused by its parent, the first that was.
@@ -37,23 +37,20 @@ private:
         OpenBlock(ElementStyle const& style, Dimensions const& containing,
                   Canvas::Attributes const& attributes);
 
-        ZRLWPtr<DomElement> element;
-        Look look;
+        /// The content is as wide as what its children are offered until the end.
+        ElementStyle box;
         Canvas::Attributes handedDown;
         Canvas::Attributes content;
-        /// The content is as wide as what its children are offered until the end.
-        Dimensions box;
         DownwardStack stack;
         /// Nothing will be drawn beneath what is drawn in it, or around.
         bool isBare = false;
     };
 
     DomElement const& parent() const;
-    bool takesText();
     void openBlock(ZRLWPtr<DomElement> const& element);
     void closeBlock();
     void endItems();
-    void addParagraph(Items const& paragraph);
+    void addParagraph();
     void addTable();
     void addBoxes();
     void take(Dimensions const& box);
@@ -63,14 +60,16 @@ private:
     Grid grid;
     /// Rows of the page that nothing can change any more.
     String text;
-    /// There was memory for all of it.
-    bool isTextComplete = true;
     bool mayRelease;
     /// Innermost last.
     std::deque<OpenBlock> blocks;
     ElementStyles styles;
     /// What has been read since the last block.
     Items items;
+    /// Of blocks in it.
+    BoxBuilder boxes;
+    /// Of paragraphs, kept for its memory.
+    LinePainter linePainter{items, LinePainter::Line, grid};
     /// Open elements from the outermost one on that is not displayed.
     unsigned hidden = 0;
     XCode refusal;

@@ -1,7 +1,6 @@
 #include "xml/TablePainter.h"
 
 #include "xml/beneath.h"
-#include "xml/layout/columns.h"
 
 namespace CLI::XML {
 
@@ -16,25 +15,19 @@ void visitChildren(Items const& items, std::uint32_t around, Visit const& visit)
 }  // namespace
 
 TablePainter::TablePainter(Items const& table, Dimensions& box, Grid& page)
-    : items(table),
-      grid(page),
-      measurer(table, LinePainter::Inline, nullptr),
-      painter(table, LinePainter::Inline, &page),
-      stack(box) {
-    visitChildren(items, 0, [this](std::uint32_t row) { measureRow(row); });
-}
-
-void TablePainter::measureRow(std::uint32_t row) {
-    Rect content;
-    RightwardRow cells;
-    unsigned index = 0;
-    visitChildren(items, row, [&](std::uint32_t opened) {
-        Dimensions cell = items[opened].style->box;
-        cells.place(content, cell, UncoveredMargin());
-        Rect const size = measurer.paint({opened + 1, 0}, {items[opened].other, 0}, {});
-        cell.content.width = size.width;
-        cells.add(content, cell);
-        raiseColumn(columns, index++, cell);
+    : items(table), grid(page), painter(table, LinePainter::Inline, page), stack(box) {
+    WidthSums const sums(items);
+    visitChildren(items, 0, [&](std::uint32_t row) {
+        Rect content;
+        RightwardRow cells;
+        unsigned index = 0;
+        visitChildren(items, row, [&](std::uint32_t opened) {
+            Dimensions cell = items.style(opened).box();
+            cells.place(content, cell, UncoveredMargin());
+            cell.content.width = saturate(sums.between({opened + 1, 0}, {items[opened].other, 0}));
+            cells.add(content, cell);
+            raiseColumn(columns, index++, cell);
+        });
     });
 }
 
@@ -43,8 +36,8 @@ bool TablePainter::paintRow(Canvas::Attributes const& attributes) {
         stack.finish();
         return false;
     }
-    ElementStyle const& style = *items[next].style;
-    Dimensions box = style.box;
+    ElementStyle const& style = items.style(next);
+    Dimensions box = style.box();
     stack.place(box);
     grid.enter(box.content.x, box.content.y);
     paintCells(next, box, style.look.handDown(attributes));
@@ -59,7 +52,7 @@ void TablePainter::paintCells(std::uint32_t row, Dimensions& box,
     RightwardRow cells;
     unsigned index = 0;
     visitChildren(items, row, [&](std::uint32_t opened) {
-        Dimensions cell = items[opened].style->box;
+        Dimensions cell = items.style(opened).box();
         Dimensions const& column = columns[index++];
         RightwardRow::placeAt(cell, column.content.x);
         cell.content.width = column.content.width;
@@ -69,7 +62,7 @@ void TablePainter::paintCells(std::uint32_t row, Dimensions& box,
 }
 
 void TablePainter::paintCell(std::uint32_t opened, Dimensions& box, Canvas::Attributes attributes) {
-    ElementStyle const& style = *items[opened].style;
+    ElementStyle const& style = items.style(opened);
     attributes = style.flagged(attributes);
     grid.enter(box.content.x, box.content.y);
     Rect const size =

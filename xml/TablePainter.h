@@ -8,8 +8,9 @@
 
 namespace CLI::XML {
 
-/// Lays out and paints a table whose cells hold no blocks: the content of a cell is a line, which
-/// is measured first, for the columns, and painted when they are known.
+/// Lays out and paints a table whose cells hold no blocks, and in which widths are sums: the
+/// content of a cell is a line, which is measured first, for the columns, and painted when they are
+/// known.
 class TablePainter {
 public:
     /// The items are the table. All outlive it, and `box` has its edges.
@@ -20,13 +21,11 @@ public:
     bool paintRow(Canvas::Attributes const& attributes);
 
 private:
-    void measureRow(std::uint32_t row);
     void paintCells(std::uint32_t row, Dimensions& box, Canvas::Attributes const& attributes);
     void paintCell(std::uint32_t opened, Dimensions& box, Canvas::Attributes attributes);
 
     Items const& items;
     Grid& grid;
-    LinePainter measurer;
     LinePainter painter;
     ZRVector<Dimensions> columns;
     DownwardStack stack;

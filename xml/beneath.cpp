@@ -1,7 +1,5 @@
 #include "xml/beneath.h"
 
-#include "xml/border.h"
-
 namespace CLI::XML {
 
 void leaveBox(Grid& grid, DomNode const* node, Dimensions const& box, Look const& look,

@@ -2,10 +2,10 @@
 
 #include "base/Walk.h"
 #include "xml/beneath.h"
-#include "xml/dom/DomText.h"
+#include "xml/dom/nodes.h"
 #include "xml/dom/readDocument.h"
-#include "xml/layout/TableBox.h"
-#include "xml/layout/makeChild.h"
+#include "xml/layout/boxes.h"
+#include "xml/layout/children.h"
 
 namespace CLI::XML {
 
@@ -36,64 +36,46 @@ Walk paintTree(Grid& grid, Box const& box, Canvas::Attributes attributes) {
 
 }  // namespace
 
-ZRLWPtr<Box> ItemBoxes::blockAt(Items const& items, std::uint32_t opened) {
-    ZRLWPtr<Box> block = ZR::MovePtr<Box>(new BlockBox(items[opened].style->element.object));
-    addTo(*block, items, opened + 1, items[opened].other);
-    return block;
+Box& BoxBuilder::begin(ZRLWPtr<DomElement> const& element) {
+    elements.push_back(element);
+    blocks.push_back(ZR::MovePtr<Box>(new BlockBox(element.object)));
+    open.push_back(blocks.back().object);
+    return *open.back();
 }
 
-void ItemBoxes::addTo(Box& box, Items const& items, std::uint32_t begin, std::uint32_t end) {
-    std::vector<Box*> open = {&box};
-    for (std::uint32_t i = begin; i < end; ++i) {
-        Item const& item = items[i];
-        Box& parent = *open.back();
-        if (item.kind == Item::Close) {
-            open.pop_back();
-        } else if (item.kind == Item::Open) {
-            XCode result;
-            ZRLWPtr<Box> const child = makeChild(parent, *item.style->element, result);
-            bool const isInline = item.style->display() == DomNode::Inline;
-            (isInline ? *parent.getOrCreateLineBox() : parent).children.add(child);
-            open.push_back(child.object);
-        } else {
-            addTexts(parent, item.kind, items.text(item));
-        }
-    }
+// What a parent would refuse is not read.
+Box& BoxBuilder::beginChild(ZRLWPtr<DomElement> const& element) {
+    elements.push_back(element);
+    open.push_back(addBox(*open.back(), *element));
+    return *open.back();
 }
 
-/// A box for each word; for an empty one, too.
-void ItemBoxes::addTexts(Box& parent, Item::Kind kind, std::string_view text) {
-    do {
-        std::string_view const word = kind == Item::Words ? Items::firstWord(text) : text;
+void BoxBuilder::addText(std::string_view text, bool isWord) {
+    visitWords(text, isWord, [this](std::string_view word) {
         texts.push_back(makeText(word));
-        XCode result;
-        parent.getOrCreateLineBox()->children.add(makeChild(parent, *texts.back(), result));
-        text.remove_prefix(word.length());
-    } while (!text.empty());
+        addBox(*open.back(), *texts.back());
+    });
 }
 
-BoxesOfItems::BoxesOfItems(Items const& items)
-    : root(createRootElement()), block(ZR::MovePtr<Box>(new BlockBox(root.object))) {
-    made.addTo(*block, items, 0, items.count());
-}
-
-ItemsOfBlocks::ItemsOfBlocks(Items const& paragraph) {
-    for (std::uint32_t i = 0; i < paragraph.count(); ++i) {
-        Item const& item = paragraph[i];
-        if (item.kind == Item::Close) {
-            all.close();
-        } else if (item.kind == Item::Words) {
-            all.addWords(paragraph.text(item));
-        } else if (item.kind == Item::Word) {
-            all.addWord(paragraph.text(item));
-        } else if (item.style->display() == DomNode::Block) {
-            blocks.push_back(made.blockAt(paragraph, i));
-            all.addBlock(*blocks.back());
-            i = item.other;
+void BoxBuilder::add(Items const& items) {
+    for (std::uint32_t i = 0; i < items.count(); ++i) {
+        Item const& item = items[i];
+        if (item.kind == Item::Open) {
+            beginChild(items.style(i).element);
+        } else if (item.kind == Item::Close) {
+            end();
+        } else if (item.kind == Item::Block) {
+            open.back()->children.add(ZRLWPtr<Box>::share(item.block));
         } else {
-            all.open(*item.style);
+            addText(items.text(item), item.kind == Item::Word);
         }
     }
+}
+
+void BoxBuilder::clear() {
+    blocks.clear();
+    texts.clear();
+    elements.clear();
 }
 
 void paintBox(Grid& grid, Box& box, Canvas::Attributes const& attributes) {

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "xml/border.h"
-#include "xml/dom/DomText.h"
+#include "xml/beneath.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/layOut.h"
 #include "xml/render/Look.h"
 

@@ -3,7 +3,7 @@
 #include <cstdio>
 
 #include "xml/dom/buildDomTree.h"
-#include "xml/layout/BlockBox.h"
+#include "xml/layout/boxes.h"
 #include "xml/render/Canvas.h"
 #include "xml/xml.h"
 

@@ -6,10 +6,9 @@
 
 #include "base/append.h"
 #include "xml/css/properties.h"
-#include "xml/dom/displayKeywords.h"
 #include "xml/dom/readDocument.h"
 #include "xml/dom/vocabulary.h"
-#include "xml/layout/makeChild.h"
+#include "xml/layout/children.h"
 
 namespace galley {
 

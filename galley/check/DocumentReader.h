@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "galley/check/Finding.h"
-#include "xml/dom/DomElement.h"
+#include "xml/dom/nodes.h"
 #include "xml/parser/PullParser.h"
 
 namespace galley {

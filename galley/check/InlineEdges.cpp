@@ -1,7 +1,7 @@
 #include "galley/check/InlineEdges.h"
 
 #include "base/MovePtr.h"
-#include "xml/layout/InlineBox.h"
+#include "xml/layout/boxes.h"
 
 namespace galley {
 

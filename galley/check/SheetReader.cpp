@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "xml/css/sheetBytes.h"
+#include "xml/parser/scan.h"
 
 namespace galley {
 

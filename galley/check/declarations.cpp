@@ -12,20 +12,18 @@ namespace galley {
 
 namespace {
 
-namespace Property = CLI::XML::Property;
-
-std::string_view nameOf(Property::Entry const& entry) { return entry.property.name; }
+std::string_view nameOf(PropertyEntry const& entry) { return entry.property.name; }
 
 void checkOne(Declaration const& declaration, bool isOfRule, Findings& findings) {
     auto const [name, value, namePosition, valuePosition] = declaration;
     auto const* const entry = std::find_if(
-        std::begin(Property::s_all), std::end(Property::s_all),
-        [&declaration](Property::Entry const& e) { return nameOf(e) == declaration.name; });
-    if (entry == std::end(Property::s_all)) {
-        std::string_view const suggestion = web::suggest(name, Property::s_all, nameOf);
+        std::begin(s_properties), std::end(s_properties),
+        [&declaration](PropertyEntry const& e) { return nameOf(e) == declaration.name; });
+    if (entry == std::end(s_properties)) {
+        std::string_view const suggestion = web::suggest(name, s_properties, nameOf);
         std::string const verdict = suggestion.empty() ? " has no effect" : " is no property";
         warn(findings, namePosition, quoted(name) + verdict + didYouMean(suggestion, ""));
-    } else if (isOfRule && entry->value == Property::Value::Display) {
+    } else if (isOfRule && entry->value == Value::Display) {
         warn(findings, namePosition,
              quoted(name) + " has no effect in a sheet, only as an attribute");
     } else {

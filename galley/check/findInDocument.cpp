@@ -11,7 +11,7 @@
 #include "galley/check/find.h"
 #include "galley/check/references.h"
 #include "galley/check/wording.h"
-#include "xml/dom/replaceEntities.h"
+#include "xml/dom/vocabulary.h"
 
 namespace galley {
 

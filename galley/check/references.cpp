@@ -8,7 +8,7 @@
 
 #include "galley/check/wording.h"
 #include "web/suggest.h"
-#include "xml/dom/textEntities.h"
+#include "xml/dom/vocabulary.h"
 #include "xml/parser/PullParser.h"
 
 namespace galley {

@@ -5,9 +5,8 @@
 
 #include "galley/check/wording.h"
 #include "web/suggest.h"
-#include "xml/dom/displayKeywords.h"
-#include "xml/render/colorNames.h"
-#include "xml/render/fontStyles.h"
+#include "xml/dom/vocabulary.h"
+#include "xml/render/keywords.h"
 
 namespace galley {
 
@@ -63,8 +62,7 @@ std::string aboutText(std::string_view value) {
 
 }  // namespace
 
-std::string warningAbout(CLI::XML::Property::Value kind, std::string_view value) {
-    using CLI::XML::Property::Value;
+std::string warningAbout(Value kind, std::string_view value) {
     switch (kind) {
         case Value::Cells:
             return aboutCells(value);

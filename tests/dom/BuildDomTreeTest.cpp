@@ -1,5 +1,5 @@
 #include "tests/support/document.h"
-#include "xml/dom/replaceEntities.h"
+#include "xml/dom/vocabulary.h"
 
 namespace CLI::XML {
 namespace {

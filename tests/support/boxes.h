@@ -1,8 +1,8 @@
 #pragma once
 
 #include "tests/support/document.h"
-#include "xml/dom/DomText.h"
-#include "xml/layout/TableBox.h"
+#include "xml/dom/nodes.h"
+#include "xml/layout/boxes.h"
 
 namespace CLI::XML {
 

@@ -51,6 +51,9 @@ TEST(Streaming, MakesThePageOfTheWholeTrees) {
         "aaaa bbbb <i/>&x;<b padding-top=\"1\"/>cc",
         "<b>aaa aaaa aaaaa <p>yy yy yy yy yy yy</p></b>",
         "aa bb <b>cc <p>dd ee</p> ff</b> gg <b><p>hh ii</p></b> jj kk ll mm",
+        // A block may be less wide on the next line; the edges of what it is in count as before.
+        ("<b padding-left=\"1\"><i padding-left=\"1\">ccc ccc <p>eeeee bb</p> gg</i></b> hh"
+         "<p>a</p><b padding-left=\"1\"><i padding-left=\"1\">ccc a a <p>a a a</p></i></b> hh"),
         // A width that is cut off at the largest one is not too wide on a line of that.
         "a <b>b<i padding-right=\"2147483647\"> </i></b>",
         "a <b padding-right=\"2147483647\">b <i padding-right=\"2147483647\">c</i></b>",
@@ -89,7 +92,7 @@ TEST(Streaming, MakesThePageOfTheWholeTrees) {
         "<div display=\"none\">a<td/></div>b",
     };
     for (char const* document : s_documents) {
-        for (int const width : {0, 1, 3, 9, 10, 12, 80, 2147483647}) {
+        for (int const width : {0, 1, 3, 5, 6, 9, 10, 12, 80, 2147483647}) {
             expectSamePage(document, "", width);
         }
     }

@@ -1,6 +1,6 @@
 #include "xml/css/getNodeStyle.h"
 
-#include "xml/dom/DomElement.h"
+#include "xml/dom/nodes.h"
 
 namespace CLI::XML {
 

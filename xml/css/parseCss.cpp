@@ -1,6 +1,6 @@
 #include "xml/css/parseCss.h"
 
-#include "xml/css/sheetBytes.h"
+#include "xml/parser/scan.h"
 
 namespace CLI::XML {
 

@@ -50,38 +50,6 @@ inline constexpr StyleProperty s_fontStyle("font-style");
 inline constexpr StyleProperty s_display("display");
 ///@}
 
-/// What a value says.
-enum class Value : std::uint8_t {
-    Cells,      ///< a number
-    Color,      ///< a colour's name
-    FontStyle,  ///< which flags are set
-    Text,       ///< what is drawn
-    Display,    ///< a kind of display; of an attribute only, a rule has no effect on it
-};
-
-/// A property and what its values say.
-struct Entry {
-    StyleProperty property;      ///< Its name.
-    Value value = Value::Cells;  ///< Of each value.
-};
-
-/// All of them.
-inline constexpr Entry s_all[] = {
-    {s_margin, Value::Cells},           {s_marginLeft, Value::Cells},
-    {s_marginRight, Value::Cells},      {s_marginTop, Value::Cells},
-    {s_marginBottom, Value::Cells},     {s_borderWidth, Value::Cells},
-    {s_borderLeftWidth, Value::Cells},  {s_borderRightWidth, Value::Cells},
-    {s_borderTopWidth, Value::Cells},   {s_borderBottomWidth, Value::Cells},
-    {s_padding, Value::Cells},          {s_paddingLeft, Value::Cells},
-    {s_paddingRight, Value::Cells},     {s_paddingTop, Value::Cells},
-    {s_paddingBottom, Value::Cells},    {s_backgroundColor, Value::Color},
-    {s_borderColor, Value::Color},      {s_borderStyle, Value::Text},
-    {s_borderLeftStyle, Value::Text},   {s_borderRightStyle, Value::Text},
-    {s_borderTopStyle, Value::Text},    {s_borderBottomStyle, Value::Text},
-    {s_borderCornerStyle, Value::Text}, {s_color, Value::Color},
-    {s_fontStyle, Value::FontStyle},    {s_display, Value::Display},
-};
-
 }  // namespace Property
 
 }  // namespace CLI::XML

@@ -1,8 +1,7 @@
-#include "xml/dom/DomElement.h"
-
 #include "base/releaseTree.h"
 #include "xml/css/properties.h"
-#include "xml/dom/displayKeywords.h"
+#include "xml/dom/nodes.h"
+#include "xml/dom/vocabulary.h"
 
 namespace CLI::XML {
 

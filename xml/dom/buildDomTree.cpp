@@ -25,17 +25,10 @@ public:
     }
 
     /// A text a word.
-    void addWords(std::string_view words) override {
-        while (!words.empty()) {
-            std::size_t const space = words.find(' ');
-            bool const isLast = space == std::string_view::npos;
-            std::size_t const length = isLast ? words.length() : space + 1;
-            addWord(words.substr(0, length));
-            words.remove_prefix(length);
-        }
+    void addText(std::string_view text, bool isWord) override {
+        visitWords(text, isWord,
+                   [this](std::string_view word) { innermost().children.add(makeText(word)); });
     }
-
-    void addWord(std::string_view word) override { innermost().children.add(makeText(word)); }
 
 private:
     DomElement& innermost() const { return open.empty() ? outermost : *open.back(); }

@@ -4,7 +4,7 @@
 #include "../../base/export.h"
 #include "../css/StyleNode.h"
 #include "../parser/PullParser.h"
-#include "DomElement.h"
+#include "nodes.h"
 
 namespace CLI::XML {
 

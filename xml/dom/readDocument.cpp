@@ -8,11 +8,9 @@
 #include <cstring>
 #include <map>
 #include <string_view>
-#include <utility>
 #include <vector>
 
-#include "xml/dom/createDomElement.h"
-#include "xml/dom/replaceEntities.h"
+#include "xml/dom/vocabulary.h"
 
 namespace CLI::XML {
 
@@ -180,7 +178,7 @@ private:
     }
 
     void passOn(char const* first, char const* end) {
-        if (first != end) handler.addWords({first, static_cast<std::size_t>(end - first)});
+        if (first != end) handler.addText({first, static_cast<std::size_t>(end - first)}, false);
     }
 
     /// Passes on the word at `start`, which holds an ampersand. Returns where it ends.
@@ -189,7 +187,7 @@ private:
         while (bytes.isOfWord(*end)) ++end;
         String word(start, 0, static_cast<int>(end - start));
         if (*end != '\0') word += " ";
-        handler.addWord(replaceEntities(word).view());
+        handler.addText(replaceEntities(word).view(), true);
         return end;
     }
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <string_view>
 
 #include "base/XCode.h"
 #include "xml/css/StyleNode.h"
-#include "xml/dom/DomElement.h"
-#include "xml/dom/DomText.h"
+#include "xml/dom/nodes.h"
 #include "xml/parser/PullParser.h"
 
 namespace CLI::XML {
@@ -22,11 +22,26 @@ public:
     /// The innermost open element ends.
     virtual void endElement() = 0;
     /// Words of running text, at least one, each with the one space that followed it: only the last
-    /// may be without, and none has another space in it. The bytes are gone afterwards.
-    virtual void addWords(std::string_view words) = 0;
-    /// The same for a single word in which references were decoded, to anything.
-    virtual void addWord(std::string_view word) = 0;
+    /// may be without, and none has another space in it. Or one word in which references were
+    /// decoded, to anything. The bytes are gone afterwards.
+    virtual void addText(std::string_view text, bool isWord) = 0;
 };
+
+/// The first of words, with its space; nothing of nothing.
+inline std::string_view firstWord(std::string_view words) {
+    return words.substr(0, std::min(words.find(' '), words.length() - 1) + 1);
+}
+
+/// Calls `visit` with each word of a text, as it was read.
+template <class Visit>
+void visitWords(std::string_view text, bool isWord, Visit const& visit) {
+    // Of an empty word, too.
+    do {
+        std::string_view const word = isWord ? text : firstWord(text);
+        visit(word);
+        text.remove_prefix(word.length());
+    } while (!text.empty());
+}
 
 /// Reads events until the end tag that closes what was open at the beginning, which is left unread,
 /// or the end of the document, which only a top-level call accepts. Running text becomes a text a

@@ -6,7 +6,7 @@
 #include "../../base/ZRLWPtr.h"
 #include "../../base/ZRVector.h"
 #include "../../base/export.h"
-#include "../dom/DomNode.h"
+#include "../dom/nodes.h"
 #include "../render/Canvas.h"
 #include "Dimensions.h"
 

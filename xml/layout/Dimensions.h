@@ -97,4 +97,11 @@ private:
     }
 };
 
+/// What the root box is laid out in: `width` columns, as far as geometry holds them, no edges.
+inline Dimensions pageOfWidth(unsigned width) {
+    Dimensions page;
+    page.content.width = saturate(width);
+    return page;
+}
+
 }  // namespace CLI::XML

@@ -1,21 +1,22 @@
 #pragma once
 
 #include <deque>
-#include <utility>
-#include <vector>
 
 #include "base/ZRLWPtr.h"
-#include "xml/dom/DomElement.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/Dimensions.h"
 #include "xml/render/Look.h"
 
 namespace CLI::XML {
 
-/// An element with all of its style that a conversion asks for more than once.
-struct ElementStyle {
+/// Reads padding, border and margin from the style of a node: of each side its own property, else
+/// the one for all sides, else 0.
+void readEdges(DomNode const* node, Dimensions& box);
+
+/// An element with all of its style that a conversion asks for more than once: the geometry of its
+/// box without content, and what it looks like.
+struct ElementStyle : Dimensions {
     ZRLWPtr<DomElement> element;
-    /// The edges; no content.
-    Dimensions box;
     Look look;
     /// What its name adds to the flags of an inline element.
     std::uint8_t flag = 0;
@@ -26,6 +27,7 @@ struct ElementStyle {
 
     explicit ElementStyle(ZRLWPtr<DomElement> styled);
 
+    Dimensions const& box() const { return *this; }
     DomNode::Display display() const { return element->display; }
     /// The attributes with what the name of an inline element adds.
     Canvas::Attributes flagged(Canvas::Attributes attributes) const {
@@ -43,7 +45,6 @@ public:
     void clear() { single.clear(); }
 
 private:
-    std::vector<std::pair<DomElement const*, ElementStyle const*>> known;
     std::deque<ElementStyle> shared;
     std::deque<ElementStyle> single;
 };

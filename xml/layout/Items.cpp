@@ -4,119 +4,95 @@
 
 #include "base/append.h"
 #include "xml/layout/layOut.h"
-#include "xml/layout/placement.h"
 
 namespace CLI::XML {
 
-void Items::open(ElementStyle const& style) {
-    DomNode::Display const display = style.display();
-    hasBlock = hasBlock || display == DomNode::Block;
-    hasTable = hasTable || (display == DomNode::Table && list.count > 0);
+Item& Items::add(Item::Kind kind) {
     Item item = {};
-    item.style = &style;
-    addOpen(item);
-}
-
-void Items::open(Box& box) {
-    areBoxes = true;
-    Item item = {};
-    item.box = &box;
-    addOpen(item);
-}
-
-void Items::addOpen(Item item) {
-    hasNegativeSide = hasNegativeSide || edges(item).hasNegativeSide();
-    openItems.push_back(list.count);
-    item.kind = Item::Open;
+    item.kind = kind;
     list.add(item);
+    return list.data[list.count - 1];
+}
+
+void Items::open(Dimensions const& edges) {
+    if (edges.hasEdges()) {
+        hasNegativeSide = hasNegativeSide || edges.hasNegativeSide();
+        for (EdgeSizes const& sizes : {edges.padding, edges.border, edges.margin}) {
+            reach += std::abs(std::int64_t{sizes.left}) + std::abs(std::int64_t{sizes.right});
+        }
+    }
+    openItems.push_back(list.count);
+    add(Item::Open).edges = &edges;
 }
 
 void Items::close() {
     std::uint32_t const opened = openItems.back();
     openItems.pop_back();
     list.data[opened].other = list.count;
-    Item item = list.data[opened];
-    item.other = opened;
-    item.kind = Item::Close;
-    list.add(item);
+    Item& closed = add(Item::Close);
+    closed.edges = list.data[opened].edges;
+    closed.other = opened;
 }
 
-void Items::addWords(std::string_view words) {
+void Items::addText(std::string_view added, bool isWord) {
+    auto const length = static_cast<std::uint32_t>(added.length());
     Item* const last = list.count > 0 ? &list.data[list.count - 1] : nullptr;
-    if (last != nullptr && last->kind == Item::Words && text(*last).back() == ' ') {
-        append(allText, words);
-        last->bytes.length += static_cast<std::uint32_t>(words.length());
+    if (!isWord && last != nullptr && last->kind == Item::Words && text(*last).back() == ' ') {
+        last->bytes.length += length;
     } else {
-        addText(words, Item::Words);
+        auto const begin = static_cast<std::uint32_t>(allText.length());
+        add(isWord ? Item::Word : Item::Words).bytes = {begin, length};
     }
-}
-
-void Items::addWord(std::string_view word) {
-    // No line is broken behind a space within a word.
-    bool const isPlain = !word.empty() && word.find(' ') >= word.length() - 1;
-    if (isPlain) {
-        addWords(word);
-    } else {
-        addText(word, Item::Word);
-    }
-}
-
-void Items::addText(std::string_view added, Item::Kind kind) {
-    Item item = {};
-    item.bytes = {static_cast<std::uint32_t>(allText.length()),
-                  static_cast<std::uint32_t>(added.length())};
-    item.kind = kind;
-    if (!added.empty()) append(allText, added);
-    list.add(item);
+    if (length > 0) append(allText, added);
 }
 
 void Items::addWord(Box const& box) {
-    Item item = {};
-    item.bytes.length = static_cast<std::uint32_t>(box.dimensions.content.width);
-    item.kind = Item::Word;
-    list.add(item);
+    Item& word = add(Item::Word);
+    word.bytes.length = static_cast<std::uint32_t>(box.dimensions.content.width);
+    reach += word.bytes.length;
 }
 
 void Items::addBlock(Box& block) {
     hasBlock = true;
-    hasNegativeSide = hasNegativeSide || mayTakeOff(block);
-    Item item = {};
-    item.box = &block;
-    item.kind = Item::Block;
-    list.add(item);
+    addWithinBlock(block);
+    add(Item::Block).block = &block;
+}
+
+void Items::addWithinBlock(Box const& box) {
+    hasNegativeSide = hasNegativeSide || mayTakeOff(box);
+    hasTable = hasTable || box.type == Box::Table;
 }
 
 void Items::clear() {
     list.count = 0;
     allText.clear();
-    areBoxes = hasBlock = hasNegativeSide = hasTable = false;
-}
-
-std::int32_t Items::outerWidth(Item const& item, std::int32_t content) const {
-    Dimensions box = edges(item);
-    box.content.width = content;
-    return box.marginBox().width;
+    reach = 0;
+    hasBlock = hasNegativeSide = hasTable = false;
 }
 
 bool Items::breaksByWidths() const {
     if (hasBlock) return !hasNegativeSide && !hasTable;
-    return !hasNegativeSide || isModerate(reach());
+    // Far from the limits, where sums end.
+    constexpr std::int64_t s_moderate = 1 << 30;
+    return !hasNegativeSide || reach + std::int64_t{allText.length()} < s_moderate;
 }
 
-/// Of all words and edges, whatever their signs, in columns.
-std::int64_t Items::reach() const {
-    std::int64_t sum = 0;
-    for (Item const& item : list) {
-        if (item.kind == Item::Open) {
-            Dimensions const& box = edges(item);
-            for (EdgeSizes const& sizes : {box.padding, box.border, box.margin}) {
-                sum += std::abs(std::int64_t{sizes.left}) + std::abs(std::int64_t{sizes.right});
-            }
-        } else if (item.kind == Item::Words || item.kind == Item::Word) {
-            sum += item.bytes.length;
-        }
-    }
-    return sum;
+WidthSums::WidthSums(Items const& summed) : items(summed), rests(summed.count() + 1) {
+    update(0, items.count());
+}
+
+void WidthSums::update(std::uint32_t begin, std::uint32_t end) {
+    for (std::uint32_t i = end; i-- > begin;) rests[i] = rests[i + 1] + width(i);
+}
+
+std::int64_t WidthSums::width(std::uint32_t i) const {
+    Item const& item = items[i];
+    if (item.kind == Item::Block) return item.block->dimensions.marginBox().width;
+    if (item.kind == Item::Close) return 0;
+    if (item.kind != Item::Open) return item.bytes.length;
+    Dimensions edges = *item.edges;
+    edges.content.width = 0;
+    return edges.marginBox().width;
 }
 
 }  // namespace CLI::XML

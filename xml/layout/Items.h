@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <compare>
 #include <cstdint>
 #include <string_view>
@@ -32,9 +31,8 @@ struct Item {
     union {
         Bytes bytes;
         /// Of an element that opens or closes.
-        ElementStyle const* style;
-        /// The block; or what opens or closes, in the items of boxes.
-        CLI::XML::Box* box;
+        Dimensions const* edges;
+        CLI::XML::Box* block;
     };
     /// Of an element that opens where it closes, and the other way round.
     std::uint32_t other;
@@ -51,22 +49,21 @@ struct Position {
     auto operator<=>(Position const&) const = default;
 };
 
-/// What stands between two blocks, as it was read or as there are boxes for it: text and the inline
-/// elements in it, or a table.
+/// What stands between two blocks: text and the inline elements in it, or a table. What was read
+/// has the styles of elements, what there are boxes for has edges and lengths alone.
 class Items {
 public:
-    void open(ElementStyle const& style);
-    /// Opens the box of an element. Then the other elements are boxes, too.
-    void open(Box& box);
+    /// An element, whose style outlives the items.
+    void open(Dimensions const& edges);
     void close();
-    /// Words, at least one, each with the one space behind it: only the last may be without.
-    void addWords(std::string_view words);
-    /// A word that may hold anything.
-    void addWord(std::string_view word);
+    /// Words, or one word, as they are read.
+    void addText(std::string_view added, bool isWord);
     /// A box that is a word and has been laid out.
     void addWord(Box const& box);
     /// A block, which outlives the items.
     void addBlock(Box& block);
+    /// A box in the last block, where that is built after it was added.
+    void addWithinBlock(Box const& box);
     void clear();
 
     std::uint32_t count() const { return list.count; }
@@ -74,45 +71,58 @@ public:
     std::string_view text(Item const& item) const {
         return allText.view().substr(item.bytes.begin, item.bytes.length);
     }
-    /// The edges of an element that opens or closes.
-    Dimensions const& edges(Item const& item) const {
-        return areBoxes ? item.box->dimensions : item.style->box;
-    }
-    /// The width with edges of an element that opens or closes, and has content that wide.
-    std::int32_t outerWidth(Item const& item, std::int32_t content) const;
-    /// The first of words, at least one, with its space.
-    static std::string_view firstWord(std::string_view words) {
-        return words.substr(0, std::min(words.find(' '), words.length() - 1) + 1);
+    /// Of an element that opens or closes, as it was read.
+    ElementStyle const& style(std::uint32_t i) const {
+        return static_cast<ElementStyle const&>(*list.data[i].edges);
     }
     /// How many elements are open.
     std::size_t depth() const { return openItems.size(); }
     /// The innermost one.
-    ElementStyle const& innermost() const { return *list.data[openItems.back()].style; }
+    ElementStyle const& innermost() const { return style(openItems.back()); }
 
     /// Whether they are one table, not a paragraph.
     bool areTable() const {
-        return list.data[0].kind == Item::Open && list.data[0].style->display() == DomNode::Table;
+        return list.data[0].kind == Item::Open && style(0).display() == DomNode::Table;
     }
     bool holdsBlock() const { return hasBlock; }
     /// Whether an edge takes something off the width.
     bool mayShrink() const { return hasNegativeSide; }
-    /// Whether widths tell where the lines of a paragraph end. Otherwise each layout of a block in
-    /// it depends on those before, or sums of widths end at the limits of geometry.
+    /// Whether widths are sums, which tell where the lines of a paragraph end. Otherwise each
+    /// layout of a block in it depends on those before, or sums end at the limits of geometry.
     bool breaksByWidths() const;
 
 private:
-    void addText(std::string_view added, Item::Kind kind);
-    void addOpen(Item item);
-    std::int64_t reach() const;
+    Item& add(Item::Kind kind);
 
     ZRVector<Item> list;
     String allText;
     std::vector<std::uint32_t> openItems;
-    bool areBoxes = false;
+    /// Of all edges, whatever their signs, and of boxes that are words, in columns.
+    std::int64_t reach = 0;
     bool hasBlock = false;
     bool hasNegativeSide = false;
     /// In a block, where there is one.
     bool hasTable = false;
+};
+
+/// The width with edges of any part of items, in columns, as if all of it stood on one line, where
+/// widths are sums: an edge counts where its element opens, and a block has been laid out.
+class WidthSums {
+public:
+    explicit WidthSums(Items const& summed);
+
+    /// Blocks from item `begin` up to item `end` have been laid out anew.
+    void update(std::uint32_t begin, std::uint32_t end);
+    std::int64_t between(Position begin, Position end) const { return from(begin) - from(end); }
+    /// Of an item; where an element opens, of its edges.
+    std::int64_t width(std::uint32_t i) const;
+
+private:
+    std::int64_t from(Position position) const { return rests[position.item] - position.offset; }
+
+    Items const& items;
+    /// Of each item with all that is behind it, and of nothing.
+    std::vector<std::int64_t> rests;
 };
 
 }  // namespace CLI::XML

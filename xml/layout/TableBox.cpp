@@ -1,4 +1,7 @@
-#include "xml/layout/columns.h"
+// How the rows of a table are stacked, their cells in columns.
+
+#include <algorithm>
+
 #include "xml/layout/layOut.h"
 #include "xml/layout/placement.h"
 
@@ -15,54 +18,58 @@ void visitCells(TableBox& table, Visit const& visit) {
     }
 }
 
-/// Takes what the columns of an earlier layout imposed off the cells.
-void releaseCells(TableBox& table) {
-    Dimensions unconstrained;
-    unconstrained.content.width = CellBox::s_unconstrainedWidth;
-    visitCells(table, [&](CellBox& cell, unsigned) { cell.columnDimensions = unconstrained; });
-}
-
-/// Whether any record was added or raised. A column is pushed only by rows that have a cell in it,
-/// so a later row that widens the column before it may leave it where it is.
-bool raiseColumns(TableBox& table) {
-    bool areRaised = false;
-    visitCells(table, [&](CellBox const& cell, unsigned column) {
-        areRaised = raiseColumn(table.columns, column, cell.dimensions) || areRaised;
-    });
-    return areRaised;
-}
-
 }  // namespace
+
+bool raiseColumn(ZRVector<Dimensions>& columns, unsigned index, Dimensions const& cell) {
+    bool isRaised = index >= columns.count;
+    Dimensions& column = columns[index];
+    auto const raise = [&isRaised](std::int32_t& maximum, std::int32_t value) {
+        isRaised = isRaised || value > maximum;
+        maximum = std::max(maximum, value);
+    };
+    auto const raiseSides = [&raise](EdgeSizes& maxima, EdgeSizes const& edges) {
+        raise(maxima.left, edges.left);
+        raise(maxima.right, edges.right);
+    };
+    raiseSides(column.margin, cell.margin);
+    raiseSides(column.border, cell.border);
+    raiseSides(column.padding, cell.padding);
+    raise(column.content.x, cell.content.x);
+    raise(column.content.width, cell.content.width);
+    if (index > 0) {
+        Dimensions const& before = columns[index - 1];
+        raise(column.content.x, saturate(std::int64_t{before.content.x} + before.content.width +
+                                         before.edges().right + column.edges().left));
+    }
+    return isRaised;
+}
 
 Walk layOutTable(TableBox& table, LayoutPass pass) {
     if (pass == LayoutPass::Again && table.isSettled) co_return;
-    table.dimensions.content.height = 0;
-    releaseCells(table);
-    bool areCellsSettled = true;
-    table.mayShrink = false;
-    for (unsigned i = 0; i < table.children.count; ++i) {
-        RowBox& row = table[i];
-        row.dimensions.content.x = row.dimensions.edges().left;
-        row.dimensions.content.y = 0;
-        co_await layOut(row, table.dimensions, pass);
-        areCellsSettled = areCellsSettled && row.isSettled;
-        table.mayShrink = table.mayShrink || mayTakeOff(row);
+    beginLayout(table);
+    Dimensions unconstrained;
+    unconstrained.content.width = CellBox::s_unconstrainedWidth;
+    visitCells(table, [&](CellBox& cell, unsigned) { cell.columnDimensions = unconstrained; });
+    for (ZRLWPtr<Box> const& row : table.children) {
+        co_await layOut(*row, table.dimensions, pass);
+        addLayout(table, *row);
     }
-    bool const areColumnsSettled = !raiseColumns(table);
+    // A column is pushed only by rows that have a cell in it, so a later row that widens the column
+    // before it may leave it where it is. The records outlive a layout: only one that measured what
+    // the next one would, and raised nothing, leaves all as the next one would leave it.
+    visitCells(table, [&](CellBox const& cell, unsigned column) {
+        if (raiseColumn(table.columns, column, cell.dimensions)) table.isSettled = false;
+    });
     visitCells(table, [&](CellBox& cell, unsigned column) {
         cell.columnDimensions = table.columns[column];
     });
     DownwardStack stack(table.dimensions);
-    for (unsigned i = 0; i < table.children.count; ++i) {
-        RowBox& row = table[i];
-        stack.place(row.dimensions);
-        co_await layOut(row, table.dimensions, LayoutPass::Again);
-        stack.add(row.dimensions);
+    for (ZRLWPtr<Box> const& row : table.children) {
+        stack.place(row->dimensions);
+        co_await layOut(*row, table.dimensions, LayoutPass::Again);
+        stack.add(row->dimensions);
     }
     stack.finish();
-    // The records outlive a layout: only one that measured what the next one would, and raised
-    // nothing, leaves all as the next one would leave it.
-    table.isSettled = areCellsSettled && areColumnsSettled;
 }
 
 }  // namespace CLI::XML

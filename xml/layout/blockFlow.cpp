@@ -3,7 +3,8 @@
 #include <utility>
 #include <vector>
 
-#include "xml/layout/BrokenLine.h"
+#include "xml/dom/nodes.h"
+#include "xml/layout/LineBreaker.h"
 #include "xml/layout/layOut.h"
 #include "xml/layout/placement.h"
 
@@ -11,28 +12,141 @@ namespace CLI::XML {
 
 namespace {
 
+/// A line of boxes that has been laid out, on its way to become several: all breaks are found
+/// before the boxes are parted, from the last one on, so that each box moves once.
+class BrokenLine {
+public:
+    explicit BrokenLine(Box& whole) : line(whole) {
+        areKnown = line.type == Box::Line && !isForeign(line);
+        Walk::run(addChildren(line, 0));
+    }
+
+    /// Whether widths tell where it breaks. Otherwise `split` does, step by step.
+    bool isKnown() const { return areKnown && items.breaksByWidths(); }
+
+    /// Finds the breaks for lines of that many columns. Blocks are laid out as often as it takes.
+    Walk breakInto(std::int32_t columns) {
+        LineBreaker breaker(items, columns);
+        Position const end = {items.count(), 0};
+        for (Position at;;) {
+            if (items.holdsBlock()) co_await breaker.layOutBlocks(at);
+            at = breaker.next(at);
+            if (at == end) break;
+            breaks.push_back(at.item);
+        }
+    }
+
+    /// Parts the boxes at the breaks. The new lines, the last one first.
+    std::vector<ZRLWPtr<Box>> cut() const {
+        std::vector<ZRLWPtr<Box>> lines;
+        for (std::size_t i = breaks.size(); i-- > 0;) lines.push_back(cutAt(breaks[i]));
+        return lines;
+    }
+
+private:
+    /// Where the box of an item is; nowhere where an element closes.
+    struct Place {
+        Box* parent = nullptr;
+        unsigned index = 0;
+        /// Where the parent opens; of the line itself, its number is of no item.
+        std::uint32_t parentItem = 0;
+    };
+
+    /// Up to one that is not as the library makes them.
+    Walk addChildren(Box& parent, std::uint32_t parentItem) {
+        for (unsigned i = 0; i < parent.children.count && areKnown; ++i) {
+            Box& child = *parent.children[i];
+            std::uint32_t const item = items.count();
+            places.push_back({&parent, i, parentItem});
+            if (isForeign(child) || (child.type != Box::Block && child.type != Box::Inline)) {
+                areKnown = false;
+            } else if (child.type == Box::Block) {
+                items.addBlock(child);
+                areKnown = child.isSettled;
+            } else if (asElement(child.node) != nullptr) {
+                items.open(child.dimensions);
+                co_await addChildren(child, item);
+                items.close();
+                places.emplace_back();
+            } else {
+                items.addWord(child);
+                areKnown = child.children.count == 0;
+            }
+        }
+    }
+
+    /// Moves the box of `item` and what is behind it on the line into a new line, in clones of the
+    /// elements that it is in.
+    ZRLWPtr<Box> cutAt(std::uint32_t item) const {
+        ZRLWPtr<Box> rest;
+        for (;;) {
+            auto const& [parent, index, parentItem] = places[item];
+            unsigned const firstMoved = rest ? index + 1 : index;
+            rest = splitOff(*parent, firstMoved, std::move(rest));
+            if (parent == &line) return rest;
+            item = parentItem;
+        }
+    }
+
+    Box& line;
+    Items items;
+    bool areKnown = false;
+    /// Of each item.
+    std::vector<Place> places;
+    /// The first item of each line but the first.
+    std::vector<std::uint32_t> breaks;
+};
+
 /// The layout of a block: the children go in one after the other.
 class BlockFlow {
 public:
     /// Offers the children `columns`: what they read from the block until the end.
     BlockFlow(BlockBox& laidOut, std::int32_t columns) : block(laidOut), stack(laidOut.dimensions) {
         block.dimensions.content.width = columns;
-        block.isSettled = true;
-        block.mayShrink = false;
+        beginLayout(block);
     }
 
-    Dimensions const& containing() const { return block.dimensions; }
-    void place(Box& child) const { stack.place(child.dimensions); }
+    Walk layOutInPlace(Box& child, LayoutPass pass) {
+        stack.place(child.dimensions);
+        return layOut(child, block.dimensions, pass);
+    }
     bool isTooWide(Box const& child) const {
         return child.dimensions.marginBox().width > block.dimensions.content.width;
     }
 
-    /// Takes the next child in, which has been placed and laid out.
+    /// Takes the next child in, which has been laid out.
     void take(ZRLWPtr<Box> const& child) {
         stack.add(child->dimensions);
-        block.isSettled = block.isSettled && child->isSettled;
-        block.mayShrink = block.mayShrink || mayTakeOff(*child);
+        addLayout(block, *child);
         placed.add(child);
+    }
+
+    /// The same with one that is too wide: in parts where it can be broken.
+    Walk takeInParts(ZRLWPtr<Box> child) {
+        // Those that come next, the first one last.
+        std::vector<ZRLWPtr<Box>> rests;
+        BrokenLine broken(*child);
+        if (broken.isKnown()) {
+            co_await broken.breakInto(block.dimensions.content.width);
+            rests = broken.cut();
+            co_await layOutInPlace(*child, LayoutPass::Again);
+        }
+        for (;;) {
+            ZRLWPtr<Box> rest;
+            if (!broken.isKnown() && isTooWide(*child)) {
+                rest = child->split(block.dimensions.content.width);
+            }
+            if (rest) {
+                // The same box again, now with less content.
+                rests.push_back(std::move(rest));
+            } else {
+                take(child);
+                if (rests.empty()) co_return;
+                child = std::move(rests.back());
+                rests.pop_back();
+            }
+            co_await layOutInPlace(*child, LayoutPass::Again);
+        }
     }
 
     /// Gives the block its width, and its children where lines were broken.
@@ -49,41 +163,6 @@ private:
     ZRVector<ZRLWPtr<Box>> placed;
 };
 
-/// Takes a box in that is too wide: as it stands, unless it can be split.
-Walk takeInParts(BlockFlow& flow, ZRLWPtr<Box> next) {
-    std::vector<ZRLWPtr<Box>> rests;
-    for (;;) {
-        ZRLWPtr<Box> rest;
-        if (flow.isTooWide(*next)) rest = next->split(flow.containing().content.width);
-        if (rest) {
-            // The same box again, now with less content.
-            rests.push_back(std::move(rest));
-        } else {
-            flow.take(next);
-            if (rests.empty()) co_return;
-            next = std::move(rests.back());
-            rests.pop_back();
-        }
-        flow.place(*next);
-        co_await layOut(*next, flow.containing(), LayoutPass::Again);
-    }
-}
-
-/// Takes a line in that is too wide, broken into lines.
-Walk takeInLines(BlockFlow& flow, ZRLWPtr<Box> line) {
-    BrokenLine broken(line);
-    if (!broken.isKnown()) {
-        co_await takeInParts(flow, std::move(line));
-        co_return;
-    }
-    co_await broken.breakInto(flow.containing().content.width);
-    for (ZRLWPtr<Box> const& part : broken.cut()) {
-        flow.place(*part);
-        co_await layOut(*part, flow.containing(), LayoutPass::Again);
-        flow.take(part);
-    }
-}
-
 }  // namespace
 
 Walk layOutBlock(BlockBox& block, Dimensions const& containing, LayoutPass pass) {
@@ -98,10 +177,9 @@ Walk layOutBlock(BlockBox& block, Dimensions const& containing, LayoutPass pass)
     BlockFlow flow(block, available);
     for (unsigned i = 0; i < block.children.count; ++i) {
         ZRLWPtr<Box> const& child = block.children[i];
-        flow.place(*child);
-        co_await layOut(*child, flow.containing(), pass);
+        co_await flow.layOutInPlace(*child, pass);
         if (flow.isTooWide(*child)) {
-            co_await takeInLines(flow, child);
+            co_await flow.takeInParts(child);
         } else {
             flow.take(child);
         }

@@ -3,9 +3,9 @@
 #include <iterator>
 
 #include "base/Walk.h"
-#include "xml/dom/DomElement.h"
-#include "xml/layout/TableBox.h"
-#include "xml/layout/makeChild.h"
+#include "xml/dom/nodes.h"
+#include "xml/layout/boxes.h"
+#include "xml/layout/children.h"
 
 namespace CLI::XML {
 
@@ -32,9 +32,6 @@ constexpr ChildRules s_childRules[] = {
     {make<BlockBox>, make<InlineBox>, nullptr, nullptr, nullptr},
 };
 
-/// What stands for a text in a message.
-constexpr char const* s_text = "text";
-
 /// The type of the box for an element, by its display kind.
 constexpr Box::Type s_types[DomNode::None] = {Box::Block, Box::Inline, Box::Table, Box::Row,
                                               Box::Cell};
@@ -48,7 +45,7 @@ MakeBox ruleFor(Box::Type parent, DomNode::Display childDisplay) {
 
 XCode refuse(DomElement const* child, DomElement const& parent) {
     return testExpression(false).setStringF("Cannot layout '%s' within '%s'",
-                                            child != nullptr ? child->name.c_str() : s_text,
+                                            child != nullptr ? child->name.c_str() : "text",
                                             parent.name.c_str());
 }
 
@@ -58,12 +55,10 @@ Walk createBoxes(Box& box, XCode& result) {
     if (element == nullptr) co_return;
     for (ZRLWPtr<DomNode> const& child : element->children) {
         if (child->display == DomNode::None) continue;
-        ZRLWPtr<Box> const made = makeChild(box, *child, result);
-        if (!made) co_return;
-        if (child->display == DomNode::Inline) {
-            box.getOrCreateLineBox()->children.add(made);
-        } else {
-            box.children.add(made);
+        Box* const made = addBox(box, *child);
+        if (made == nullptr) {
+            result = refuse(asElement(child.object), *element);
+            co_return;
         }
         if (child->kind == DomNode::Element) co_await createBoxes(*made, result);
         if (!result) co_return;
@@ -78,11 +73,13 @@ XCode createAllBoxes(Box& box) {
 
 }  // namespace
 
-ZRLWPtr<Box> makeChild(Box const& parent, DomNode& child, XCode& result) {
+Box* addBox(Box& parent, DomNode& child) {
     MakeBox const make = ruleFor(parent.type, child.display);
-    if (make != nullptr) return make(&child);
-    result = refuse(asElement(&child), *asElement(parent.node));
-    return {};
+    if (make == nullptr) return nullptr;
+    ZRLWPtr<Box> const made = make(&child);
+    bool const isInline = child.display == DomNode::Inline;
+    (isInline ? *parent.getOrCreateLineBox() : parent).children.add(made);
+    return made.object;
 }
 
 XCode checkChild(DomElement const& parent, DomElement const* child) {

@@ -2,16 +2,11 @@
 
 #include <algorithm>
 
+#include "base/ZRVector.h"
 #include "base/saturate.h"
 #include "xml/layout/Dimensions.h"
 
 namespace CLI::XML {
-
-/// Whether a width is far from the limits, where sums end.
-inline bool isModerate(std::int64_t width) {
-    constexpr std::int64_t s_moderate = 1 << 30;
-    return width > -s_moderate && width < s_moderate;
-}
 
 /// The gap before a child: as much of its margin as the margin before it does not cover.
 struct UncoveredMargin {
@@ -66,12 +61,9 @@ private:
 /// them. The running width grows by the whole margin box, whatever the gap.
 class RightwardRow {
 public:
+    RightwardRow() = default;
     /// Begins with a content of no width and no height, which is passed to every operation.
-    static RightwardRow begin(Rect& content) {
-        content.width = 0;
-        content.height = 0;
-        return {};
-    }
+    explicit RightwardRow(Rect& content) { content.width = content.height = 0; }
 
     /// Sets the position at which the child is to be laid out. `gapBetween` is one of the two
     /// above, of the margin before the child and the child's own.
@@ -81,17 +73,7 @@ public:
         placeAt(child, saturate(content.width + gap + child.border.left + child.padding.left));
     }
 
-    /// Places and takes in a word, which has no edges. Its content has its size.
-    template <class Gap>
-    void addWord(Rect& content, Rect& word, Gap const& gapBetween) {
-        word.x = saturate(content.width + gapBetween(previousMargin, 0));
-        word.y = 0;
-        content.width = saturate(std::int64_t{content.width} + word.width);
-        content.height = std::max(content.height, word.height);
-        previousMargin = 0;
-    }
-
-    /// The same as `place` at a column of the content box.
+    /// The same at a column of the content box.
     static void placeAt(Dimensions& child, std::int32_t x) {
         child.content.x = x;
         child.content.y = child.edges().top;
@@ -108,5 +90,10 @@ public:
     /// The right margin of the last child.
     std::int32_t previousMargin = 0;
 };
+
+/// Raises the record of a table's column, which is added where it is missing, to what a cell in it
+/// takes where nothing constrains it: each of its horizontal sizes, and its position, which is not
+/// before the column on the left ends. Rows are taken in order. Returns whether anything changed.
+bool raiseColumn(ZRVector<Dimensions>& columns, unsigned index, Dimensions const& cell);
 
 }  // namespace CLI::XML

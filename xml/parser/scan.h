@@ -30,6 +30,14 @@ private:
 /// The bytes of markup that end an element type or an attribute name.
 inline constexpr ByteSet s_endOfName("<>/=\" \t\n\r");
 
+/// White space and the ends of tokens in style sheets, where a vertical tab is white space, too.
+namespace SheetBytes {
+inline constexpr ByteSet s_whitespace(" \t\v\r\n");
+inline constexpr ByteSet s_endOfSelector(" \t\v\r\n{");
+inline constexpr ByteSet s_endOfProperty(" \t\v\r\n:}");
+inline constexpr ByteSet s_endOfValue(" \t\v\r\n;");
+}  // namespace SheetBytes
+
 /// Advances `position` over the bytes that belong to `set`.
 void skipCharacters(String const& text, int& position, int& line, ByteSet const& set);
 inline void skipCharacters(String const& text, int& position, int& line, char const* set) {

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <limits>
 #include <new>
+#include <string>
 
-#include "base/saturate.h"
+#include "base/append.h"
+#include "xml/render/keywords.h"
 
 namespace CLI::XML {
 
@@ -12,6 +14,11 @@ namespace {
 
 using Byte = Canvas::Byte;
 using Row = ZRVector<Byte>;
+
+// SGR sequences as of ECMA-48, 8.3.117.
+constexpr char const* s_reset = "\x1b[0m";
+/// By the bits of the flags.
+constexpr std::string_view s_flagParameters = "1234578";
 
 int columnOf(Canvas const& canvas, unsigned x) {
     return static_cast<int>(x == Canvas::AppendPosition ? canvas.getWidth() : x);
@@ -33,23 +40,28 @@ void lengthen(Row& row, std::uint64_t width) {
     std::fill(row.data + formerEnd, row.data + end, Byte::make(' ', 0));
 }
 
-/// Passes a row on as text in pieces.
-template <class Sink>
-void writeRow(Canvas const& canvas, Row const& row, Sink const& sink) {
-    unsigned current = 0;
-    for (Byte const& cell : row) {
-        if (cell.attributeIndex != current) {
-            Canvas::Attributes const& previous = canvas.attributeTable[current];
-            current = cell.attributeIndex;
-            sink(canvas.attributeTable[current].generateFormattingFrom(previous).view());
-        }
-        auto const shown = static_cast<char>(cell.character);
-        if (shown != '\0') sink(std::string_view(&shown, 1));
+}  // namespace
+
+std::uint8_t Canvas::Attributes::color(String const& name) {
+    for (ColorName const& candidate : s_colorNames) {
+        if (name.view() == candidate.name) return candidate.number;
     }
-    if (current != 0) sink(std::string_view("\x1b[0m"));
+    return NoColor;
 }
 
-}  // namespace
+String Canvas::Attributes::generateFormattingFrom(Attributes const& previous) const {
+    if (*this == previous) return {};
+    std::string escapes = s_reset;
+    for (unsigned bit = 0; bit < s_flagParameters.length(); ++bit) {
+        if ((flags >> bit & 1) != 0) escapes.append("\x1b[") += {s_flagParameters[bit], 'm'};
+    }
+    auto const addColor = [&escapes](char const* prefix, std::uint8_t color) {
+        if (color != NoColor) escapes.append(prefix).append(std::to_string(color)).append("m");
+    };
+    addColor("\x1b[3", foreground);
+    addColor("\x1b[4", background);
+    return String(escapes.data(), 0, static_cast<int>(escapes.length()));
+}
 
 unsigned Canvas::getWidth() const {
     unsigned width = 0;
@@ -115,21 +127,20 @@ bool Canvas::drawClipped(Canvas const& source, int x, int y) {
 }
 
 String Canvas::dump(String const& lineSeparator) const {
-    // Measured first, so that the text is written into one buffer.
-    std::int64_t length = 0;
-    for (Row const& row : rows) {
-        length += lineSeparator.length();
-        writeRow(*this, row, [&length](std::string_view piece) {
-            length += static_cast<std::int64_t>(piece.length());
-        });
-    }
     String result;
-    if (!result.reserve(saturate(length))) return result;
     for (Row const& row : rows) {
-        writeRow(*this, row, [&result](std::string_view piece) {
-            result.concat(piece.data(), static_cast<int>(piece.length()));
-        });
-        result += lineSeparator;
+        unsigned current = 0;
+        for (Byte const& cell : row) {
+            if (cell.attributeIndex != current) {
+                Attributes const& previous = attributeTable[current];
+                current = cell.attributeIndex;
+                append(result, attributeTable[current].generateFormattingFrom(previous).view());
+            }
+            auto const shown = static_cast<char>(cell.character);
+            if (shown != '\0') append(result, std::string_view(&shown, 1));
+        }
+        if (current != 0) append(result, s_reset);
+        append(result, lineSeparator.view());
     }
     return result;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <string_view>
 
@@ -39,7 +40,10 @@ public:
         std::uint8_t background = NoColor;  ///< A colour's number.
         std::uint8_t unused = 0;            ///< Stays 0.
 
-        bool operator==(Attributes const& other) const = default;
+        /// At once: cells are compared one after the other.
+        bool operator==(Attributes const& other) const {
+            return std::bit_cast<std::uint32_t>(*this) == std::bit_cast<std::uint32_t>(other);
+        }
 
         /// The number, 0 to 7, of a terminal colour's name; `NoColor` for any other text.
         static std::uint8_t color(String const& name);

@@ -23,21 +23,17 @@ public:
     /// A budget of that many cells.
     explicit CellBudget(unsigned cells) : limit(cells), left(cells) {}
 
-    /// Whether that many cells are left. Where they are not, nothing suffices from now on.
-    bool suffices(std::uint64_t cells) {
-        if (cells > left) isSpent = true;
+    /// Takes that many cells if they are left. If they are not, none is any more.
+    bool pay(std::int64_t cells) {
+        isSpent = isSpent || cells > left;
+        if (!isSpent) left -= cells;
         return !isSpent;
     }
-    /// Whether there were that many cells at first; where there were not, nothing suffices either.
+    /// Whether there were that many cells at first; if there were not, none is left either.
     bool mayHold(std::int64_t cells) {
         isSpent = isSpent || cells > limit;
         return !isSpent;
     }
-    /// Takes cells for which it suffices.
-    void take(std::uint64_t cells) { left -= cells; }
-
-    /// Cells that may still be taken; 0 once one was asked for too many.
-    std::uint64_t remaining() const { return isSpent ? 0 : left; }
     /// Whether there ever was a demand for which it did not suffice.
     bool isExceeded() const { return isSpent; }
 
@@ -45,7 +41,7 @@ public:
     unsigned const limit;
 
 private:
-    std::uint64_t left;
+    std::int64_t left;
     bool isSpent = false;
 };
 

@@ -46,23 +46,15 @@ void Grid::leaveAndCover() {
     Frame const& inner = frames.back();
     cover.left = inner.left;
     cover.top = inner.top;
-    for (std::int64_t y = inner.top; y < inner.end && pay(1); ++y) {
+    for (std::int64_t y = inner.top; y < inner.end && budget.pay(1); ++y) {
         cover.ends.push_back(extent(inner.extents, y));
     }
     leave();
 }
 
-bool Grid::pay(std::int64_t cells) {
-    if (!budget.suffices(static_cast<std::uint64_t>(cells))) return false;
-    budget.take(static_cast<std::uint64_t>(cells));
-    return true;
-}
-
 std::int64_t Grid::extent(std::size_t extents, std::int64_t y) const {
-    if (extents == 0) return y < endOfRows() ? row(y).length : 0;
-    Extents const& own = ownExtents[extents - 1];
-    auto const index = static_cast<std::size_t>(y - own.top);
-    return index < own.ends.size() ? own.ends[index] : own.left;
+    if (extents > 0) return ownExtents[extents - 1].end(y);
+    return y < endOfRows() ? row(y).length : 0;
 }
 
 void Grid::raise(std::size_t extents, std::int64_t y, std::int64_t end) {
@@ -70,7 +62,7 @@ void Grid::raise(std::size_t extents, std::int64_t y, std::int64_t end) {
     Extents& own = ownExtents[extents - 1];
     auto const index = static_cast<std::size_t>(y - own.top);
     if (index >= own.ends.size()) {
-        if (!pay(static_cast<std::int64_t>(index + 1 - own.ends.size()))) return;
+        if (!budget.pay(static_cast<std::int64_t>(index + 1 - own.ends.size()))) return;
         own.ends.resize(index + 1, own.left);
     }
     own.ends[index] = std::max(own.ends[index], end);
@@ -99,7 +91,7 @@ void Grid::fillRows(std::size_t frame, std::int64_t begin, std::int64_t end) {
     }
     for (std::int64_t y = begin; y < end; ++y) {
         for (std::size_t i = inward.size(); i-- > 0;) {
-            if (i > 0 && !pay(1)) return;
+            if (i > 0 && !budget.pay(1)) return;
             fill(frames[inward[i] - 1].extents, y, frames[inward[i]].left);
         }
     }
@@ -107,7 +99,7 @@ void Grid::fillRows(std::size_t frame, std::int64_t begin, std::int64_t end) {
 
 void Grid::fill(std::size_t extents, std::int64_t y, std::int64_t end) {
     std::int64_t const begin = extent(extents, y);
-    if (begin >= end || !pay(end - begin)) return;
+    if (begin >= end || !budget.pay(end - begin)) return;
     set(" ", begin, {begin, end}, y, Attributes());
     raise(extents, y, end);
 }
@@ -128,24 +120,10 @@ void Grid::draw(std::string_view text, std::int64_t times, int x, int y, std::in
     Span const span = {frame.x + x, frame.x + x + length};
     std::int64_t const first = std::max(frame.y + y, frame.top);
     std::int64_t const end = frame.y + y + height;
-    if (first >= end || !mayDraw(span.end - std::max(span.begin, frame.left), first, end)) return;
     for (std::int64_t row = first; row < end && !budget.isExceeded(); ++row) {
         touch(row);
         if (!pattern.empty()) drawInRow(pattern, span, row, attributes);
     }
-}
-
-/// Whether the budget has what a text of so many columns costs at least in the rows from `first` up
-/// to `end`: where nothing is covered each cell, and something in every row.
-bool Grid::mayDraw(std::int64_t columns, std::int64_t first, std::int64_t end) {
-    std::int64_t const coverEnd = cover.top + static_cast<std::int64_t>(cover.ends.size());
-    std::int64_t const covered =
-        std::max<std::int64_t>(0, std::min(end, coverEnd) - std::max(first, cover.top));
-    // Each fits in 32 bits, or is more than there ever is.
-    auto const bare = static_cast<std::uint64_t>(end - first - covered);
-    std::int64_t const most = std::int64_t{budget.limit} + 1;
-    auto const cells = static_cast<std::uint64_t>(std::clamp<std::int64_t>(columns, 1, most));
-    return budget.suffices(bare * cells + static_cast<std::uint64_t>(covered));
 }
 
 void Grid::drawInRow(std::string_view pattern, Span where, std::int64_t y,
@@ -153,14 +131,10 @@ void Grid::drawInRow(std::string_view pattern, Span where, std::int64_t y,
     Frame& frame = frames.back();
     Span const shown = {std::max(where.begin, frame.left), where.end};
     if (shown.begin >= shown.end || budget.isExceeded()) return;
-    Span covered = {shown.end, shown.end};
-    auto const index = static_cast<std::size_t>(y - cover.top);
-    if (y >= cover.top && index < cover.ends.size()) {
-        covered.begin = std::clamp(cover.left, shown.begin, shown.end);
-        covered.end = std::clamp(cover.ends[index], covered.begin, shown.end);
-    }
+    Span const covered = {std::clamp(cover.left, shown.begin, shown.end),
+                          std::clamp(cover.end(y), shown.begin, shown.end)};
     std::int64_t const drawn = shown.end - shown.begin - (covered.end - covered.begin);
-    if (!pay(std::max<std::int64_t>(drawn, 1))) return;
+    if (!budget.pay(std::max<std::int64_t>(drawn, 1))) return;
     fill(frame.extents, y, shown.begin);
     if (budget.isExceeded()) return;
     set(pattern, where.begin, {shown.begin, covered.begin}, y, attributes);

@@ -39,7 +39,10 @@ public:
     /// Ends the innermost frame. What is drawn from then on lies beneath it, until `uncover`.
     void leaveAndCover();
     /// The frame that was left is as any other part of the one around.
-    void uncover() { cover.ends.clear(); }
+    void uncover() {
+        cover.left = 0;
+        cover.ends.clear();
+    }
     /// Ends the innermost frame, which has nothing beneath it.
     void leave();
 
@@ -52,11 +55,11 @@ public:
     /// The page's row that is row 0 of the innermost frame.
     std::int64_t originRow() const { return frames.back().y; }
     /// Appends all rows to `text`, with escape sequences between cells that look different, and
-    /// forgets them. False where there is no memory for the text.
-    bool moveRowsTo(String& text);
+    /// forgets them. Throws where there is no memory for the text.
+    void moveRowsTo(String& text);
     /// The same for the rows above row `end` of the page, where nothing will be drawn any more, if
     /// there are some. Rows that are not in use in the innermost frame stay.
-    bool moveRowsTo(String& text, std::int64_t end);
+    void moveRowsTo(String& text, std::int64_t end);
 
 private:
     /// A row, as long as it has been drawn. Small, since there may be millions.
@@ -91,17 +94,15 @@ private:
 
     /// How far rows have been drawn in frames that share this.
     struct Extents {
-        std::int64_t left;
-        std::int64_t top;
-        std::vector<std::int64_t> ends;
-    };
-
-    /// What the frame that was left last covers.
-    struct Cover {
         std::int64_t left = 0;
         std::int64_t top = 0;
         /// For each row behind the last column.
         std::vector<std::int64_t> ends;
+
+        std::int64_t end(std::int64_t y) const {
+            auto const index = static_cast<std::size_t>(y - top);
+            return index < ends.size() ? ends[index] : left;
+        }
     };
 
     /// Part of a row.
@@ -113,7 +114,6 @@ private:
     std::int64_t endOfRows() const { return firstRow + rows.count - movedAway; }
     Row& row(std::int64_t y) const { return rows.data[movedAway + (y - firstRow)]; }
     void bringIntoUse(std::int64_t y);
-    bool pay(std::int64_t cells);
     std::int64_t extent(std::size_t extents, std::int64_t y) const;
     void raise(std::size_t extents, std::int64_t y, std::int64_t end);
     void touch(std::int64_t y) {
@@ -122,15 +122,13 @@ private:
     void touchNewRow(std::int64_t y);
     void fillRows(std::size_t frame, std::int64_t begin, std::int64_t end);
     void fill(std::size_t extents, std::int64_t y, std::int64_t end);
-    bool mayDraw(std::int64_t columns, std::int64_t first, std::int64_t end);
     void drawInRow(std::string_view pattern, Span where, std::int64_t y,
                    Attributes const& attributes);
     void set(std::string_view pattern, std::int64_t start, Span where, std::int64_t y,
              Attributes const& attributes);
-    static void setLooks(Row& target, std::size_t begin, std::size_t end,
-                         Attributes const& attributes);
-    bool moveRows(String& text, std::int64_t end);
-    bool writeRow(Row const& shown, String& text);
+    static void setLooks(Row& target, std::size_t begin, std::size_t end, Attributes attributes);
+    void moveRows(String& text, std::int64_t end);
+    void writeRow(Row const& shown, String& text);
 
     CellBudget& budget;
     /// Those of the page from `movedAway` on; those before it and behind the last one are to be
@@ -145,7 +143,8 @@ private:
     std::vector<Extents> ownExtents;
     /// Frames before this one have used all rows above the next frame's top.
     std::size_t settled = 0;
-    Cover cover;
+    /// What the frame that was left last covers.
+    Extents cover;
     /// What `fillRows` works on, kept for its memory.
     std::vector<std::size_t> inward;
 };

@@ -1,12 +1,10 @@
 #include "xml/render/Look.h"
 
-#include <algorithm>
-#include <iterator>
 #include <string_view>
 
 #include "xml/css/getNodeStyle.h"
-#include "xml/dom/DomElement.h"
-#include "xml/render/fontStyles.h"
+#include "xml/dom/nodes.h"
+#include "xml/render/keywords.h"
 
 namespace CLI::XML {
 
@@ -24,16 +22,6 @@ constexpr ElementFlag s_elementFlags[] = {
     {"b", Attributes::Bold},   {"strong", Attributes::Inverse}, {"i", Attributes::Faint},
     {"em", Attributes::Faint}, {"mark", Attributes::Blink},
 };
-
-/// What any other value does.
-constexpr FontStyle s_unknownFontStyle = {"", false, 0};
-
-FontStyle const& fontStyleOf(String const& value) {
-    auto const* const found = std::find_if(
-        std::begin(s_fontStyles), std::end(s_fontStyles),
-        [&value](FontStyle const& candidate) { return value.view() == candidate.value; });
-    return found != std::end(s_fontStyles) ? *found : s_unknownFontStyle;
-}
 
 /// The value of a property; null where it is missing or empty.
 String const* find(DomNode const* node, StyleProperty const& property) {
@@ -55,9 +43,13 @@ Look::Look(DomNode const* node)
       border(findColor(node, Property::s_borderColor)) {
     String const* const fontStyle = find(node, Property::s_fontStyle);
     if (fontStyle == nullptr) return;
-    FontStyle const& style = fontStyleOf(*fontStyle);
-    keptFlags = style.keepsFlags ? 0xFF : 0;
-    addedFlags = style.added;
+    // What is no font style takes all flags away.
+    keptFlags = 0;
+    for (FontStyle const& style : s_fontStyles) {
+        if (fontStyle->view() != style.value) continue;
+        keptFlags = style.keepsFlags ? 0xFF : 0;
+        addedFlags = style.added;
+    }
 }
 
 Attributes Look::ofBackground(Attributes attributes) const {

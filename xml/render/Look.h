@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "xml/dom/DomNode.h"
+#include "xml/dom/nodes.h"
 #include "xml/render/Canvas.h"
 
 namespace CLI::XML {

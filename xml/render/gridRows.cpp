@@ -1,6 +1,7 @@
 // The rows of a page: their cells, and their text.
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "base/hugePages.h"
@@ -44,7 +45,7 @@ void Grid::Row::clear() {
 /// Sees to it that row `y` of the page exists, with all rows above it.
 void Grid::bringIntoUse(std::int64_t y) {
     std::int64_t const added = y + 1 - endOfRows();
-    if (added <= 0 || !budget.mayHold((y + 1) * s_cellsForRow) || !pay(added)) return;
+    if (added <= 0 || !budget.mayHold((y + 1) * s_cellsForRow) || !budget.pay(added)) return;
     if (movedAway > rows.count / 2 && rows.count + added > rows.capacity) {
         std::rotate(rows.data, rows.data + movedAway, rows.data + rows.count);
         rows.count -= std::exchange(movedAway, 0);
@@ -75,69 +76,60 @@ void Grid::set(std::string_view pattern, std::int64_t start, Span where, std::in
     setLooks(target, begin, end, attributes);
 }
 
-void Grid::setLooks(Row& target, std::size_t begin, std::size_t end, Attributes const& attributes) {
+void Grid::setLooks(Row& target, std::size_t begin, std::size_t end, Attributes attributes) {
     if (attributes == Attributes() && target.lookCount() <= begin) return;
     if (!target.looks) target.looks = std::make_unique<std::vector<Attributes>>();
     std::vector<Attributes>& looks = *target.looks;
     if (end > looks.capacity()) looks.reserve(end + end / 8);
-    if (looks.size() < begin) looks.resize(begin);
-    std::size_t const known = std::min(looks.size(), end);
-    if (known > begin) std::fill(&looks[begin], &looks[known - 1] + 1, attributes);
-    looks.insert(looks.end(), end - known, attributes);
+    if (end > looks.size()) looks.resize(end);
+    std::fill(looks.data() + begin, looks.data() + end, attributes);
 }
 
-bool Grid::moveRowsTo(String& text) {
+void Grid::moveRowsTo(String& text) {
     // Where they are many, the text is not copied again and again while they are added to it.
     std::int64_t length = text.length();
     for (std::int64_t y = firstRow; y < endOfRows(); ++y) length += row(y).length + 1;
     text.reserve(saturate(length));
-    return moveRows(text, endOfRows());
+    moveRows(text, endOfRows());
 }
 
-bool Grid::moveRowsTo(String& text, std::int64_t end) {
+void Grid::moveRowsTo(String& text, std::int64_t end) {
     // Rows that are not in use in a frame get fillers there once something is drawn below.
     if (frames.size() > 1) end = std::min(end, frames.back().end);
     end = std::min(end, endOfRows());
-    return end - firstRow < s_rowsAtOnce || moveRows(text, end);
+    if (end - firstRow >= s_rowsAtOnce) moveRows(text, end);
 }
 
-bool Grid::moveRows(String& text, std::int64_t end) {
-    bool isComplete = true;
+void Grid::moveRows(String& text, std::int64_t end) {
     for (; firstRow < end; ++firstRow, ++movedAway) {
         Row& shown = rows.data[movedAway];
-        isComplete = writeRow(shown, text) && isComplete;
+        writeRow(shown, text);
         shown.clear();
     }
-    return isComplete;
 }
 
-bool Grid::writeRow(Row const& shown, String& text) {
-    bool isComplete = true;
-    auto const writeEscapes = [&](std::string_view sequences) {
-        if (pay(static_cast<std::int64_t>(sequences.length()))) {
-            isComplete = text.appendGrowing(sequences) && isComplete;
-        }
+void Grid::writeRow(Row const& shown, String& text) {
+    auto const write = [&text](std::string_view piece) {
+        if (!text.appendGrowing(piece)) throw std::bad_alloc();
     };
     std::string_view const bytes(shown.bytes.get(), shown.length);
     std::size_t const lookCount = std::min(shown.lookCount(), bytes.length());
+    Attributes const* const looks = lookCount > 0 ? shown.looks->data() : nullptr;
     Attributes current;
     std::size_t begin = 0;
-    for (std::size_t i = 0; i < lookCount; ++i) {
-        Attributes const& look = (*shown.looks)[i];
-        if (look == current) continue;
-        isComplete = text.appendGrowing(bytes.substr(begin, i - begin)) && isComplete;
-        begin = i;
-        writeEscapes(look.generateFormattingFrom(current).view());
+    for (std::size_t end = 0;;) {
+        while (end < lookCount && looks[end] == current) ++end;
+        // Behind the looks is one by default.
+        Attributes const look = end < lookCount ? looks[end] : Attributes();
+        if (look == current) break;
+        write(bytes.substr(begin, end - begin));
+        begin = end;
+        String const escapes = look.generateFormattingFrom(current);
+        if (budget.pay(escapes.length())) write(escapes.view());
         current = look;
     }
-    Attributes const last;
-    if (!(current == last)) {
-        isComplete = text.appendGrowing(bytes.substr(begin, lookCount - begin)) && isComplete;
-        begin = lookCount;
-        writeEscapes("\x1b[0m");
-    }
-    isComplete = text.appendGrowing(bytes.substr(begin)) && isComplete;
-    return text.appendGrowing("\n") && isComplete;
+    write(bytes.substr(begin));
+    write("\n");
 }
 
 }  // namespace CLI::XML

@@ -1,16 +1,32 @@
-// The box tree as indented text, with the geometry that layout left.
+// The trees as indented text: that of the document, and that of the boxes with the geometry that
+// layout left.
 
 #include <cstdio>
 #include <iterator>
 #include <string>
 
 #include "base/append.h"
-#include "xml/dom/DomNode.h"
+#include "xml/dom/nodes.h"
 #include "xml/layout/layOut.h"
 
 namespace CLI::XML {
 
 namespace {
+
+Walk dumpTree(DomNode const& node, unsigned indent, String& out) {
+    DomElement const* const element = asElement(&node);
+    std::string const margin(indent, ' ');
+    if (element == nullptr) {
+        // A NUL byte ends a text, as in all that is formatted.
+        char const* const text = static_cast<DomText const&>(node).text.c_str();
+        append(out, margin, "'", text, "'\n");
+        co_return;
+    }
+    append(out, margin, element->name.c_str(), ":\n");
+    for (ZRLWPtr<DomNode> const& child : element->children) {
+        co_await dumpTree(*child, indent + 2, out);
+    }
+}
 
 /// By `Box::Type`.
 constexpr char const* s_labels[] = {
@@ -41,12 +57,19 @@ Walk dumpTree(Box const& box, unsigned indent, String& out) {
     }
 }
 
-}  // namespace
-
-String Box::dump(unsigned indent) const {
+template <class Node>
+String dumpFrom(Node const& node, unsigned indent) {
     String result;
-    Walk::run(dumpTree(*this, indent, result));
+    Walk::run(dumpTree(node, indent, result));
     return result;
 }
+
+}  // namespace
+
+String DomText::toString() const { return String(String::formatted, "'%s'", text.c_str()); }
+
+String DomText::dump(unsigned indent) const { return dumpFrom<DomNode>(*this, indent); }
+String DomElement::dump(unsigned indent) const { return dumpFrom<DomNode>(*this, indent); }
+String Box::dump(unsigned indent) const { return dumpFrom(*this, indent); }
 
 }  // namespace CLI::XML
