@@ -24,12 +24,12 @@ void TablePainter::paint(int width, std::vector<int> const& columns, int contain
     auto const end = static_cast<int>(grid.rows().size());
     paintEdge(true, down(table.padding.top, container));
     for (int next = 0; next < end;) {
-        paintGap(next, frame.rowGap(next), 0);
+        paintRows(next, frame.rowGap(next), 0, true);
         band.layOut(next, wrapping);
         paintBand();
         next = band.endRow();
     }
-    paintGap(end, frame.rowGap(end), 0);
+    paintRows(end, frame.rowGap(end), 0, true);
     paintEdge(false, down(table.padding.bottom, container));
 }
 
@@ -59,7 +59,7 @@ void TablePainter::paintBand() {
         std::erase_if(active, [at](LaidCell const* cell) { return cell->endRow <= at; });
         if (at > band.firstRow()) {
             int const gap = frame.rowGap(at);
-            paintGap(at, gap, band.top(at) - gap);
+            paintRows(at, gap, band.top(at) - gap, true);
         }
         bool const isAlone = active.empty();
         for (; next != band.cells().end() && next->firstRow == at; ++next) active.push_back(&*next);
@@ -69,28 +69,19 @@ void TablePainter::paintBand() {
                                  return a->cell->column < b->cell->column;
                              });
         }
-        paintRow(at);
+        paintRows(at, band.height(at), band.top(at), false);
         if (frame.collapses()) frame.borders()->next();
     }
     active.clear();
 }
 
-void TablePainter::paintRow(int gridRow) {
+/// Paints a row of the grid, or the line above it, that is so high, `top` rows below the band's.
+void TablePainter::paintRows(int gridRow, int height, int top, bool isGap) {
     currentRow = gridRow;
-    for (int i = 0; i < band.height(gridRow); ++i) {
-        if (gridRow == 0 && i == band.baseline()) rows.takeBaseline();
-        beginRow();
-        paintCells(band.top(gridRow) + i, false);
-        endRow();
-    }
-}
-
-/// Paints a line of the grid that is so high, through which the active cells go.
-void TablePainter::paintGap(int line, int height, int top) {
-    currentRow = line;
     for (int i = 0; i < height; ++i) {
+        if (gridRow == 0 && !isGap && i == band.baseline()) rows.takeBaseline();
         beginRow();
-        paintCells(top + i, true);
+        paintCells(top + i, isGap);
         endRow();
     }
 }
@@ -190,10 +181,10 @@ void TablePainter::paintCell(LaidCell const& cell, int y) {
     }
     Row piece;
     paintPiece(piece, cell, 0, y);
+    Colour const behind = grid.background();
+    bool const isWide = table.cells.isAmbiguousWide;
     row.draw(cell.left, piece.view(),
-             {.ground = grid.background(),
-              .beyond = grid.background(),
-              .isAmbiguousWide = table.cells.isAmbiguousWide});
+             {.ground = behind, .beyond = behind, .isAmbiguousWide = isWide});
 }
 
 /// Adds what a cell has in a row of text, from column `left` on.

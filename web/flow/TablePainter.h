@@ -34,8 +34,7 @@ private:
     void paintEdge(bool isTop, int padding);
     void paintBlanks(int count);
     void paintBand();
-    void paintRow(int gridRow);
-    void paintGap(int line, int height, int top);
+    void paintRows(int gridRow, int height, int top, bool isGap);
     void beginRow();
     void endRow();
     void paintCells(int y, bool isGap);
