@@ -173,7 +173,6 @@ std::vector<ColumnNeed> fixedNeeds(TableGrid const& grid, TableFrame const& fram
             setFixed(columnsOf(needs, cell), need);
         }
     }
-    limitPercentages(needs);
     return needs;
 }
 

@@ -150,9 +150,7 @@ void widen(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
         columns[i].most = std::max(columns[i].most, columns[i].least);
     }
     // Fixed widths stand for all that it would like.
-    bool const areFixed = std::all_of(columns.begin(), columns.end(),
-                                      [](ColumnNeed const& column) { return column.isFixed; });
-    if (areFixed) return;
+    if (std::all_of(columns.begin(), columns.end(), isFixed)) return;
     std::vector<std::int64_t> const most = shareWidth(columns, cell.most);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         columns[i].most = std::max(columns[i].most, most[i]);

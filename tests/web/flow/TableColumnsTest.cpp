@@ -105,6 +105,20 @@ TEST(TableColumns, ShareTheWidth) {
  eee fff ggg
 )"},
 
+        // More than a hundred per cent are scaled down in fixed layout, and cut off elsewhere.
+        {"<table style='table-layout: fixed; width: 24ch'><tr><td style='padding: 0; width: 25%'>a"
+         "</td><td style='padding: 0; width: 50%'>b</td><td style='padding: 0; width: 50%'>c</td>"
+         "<td style='width: 2ch'>d</td></tr></table>",
+         30, R"(
+a   b       c        d
+)"},
+        {"<table><colgroup span='2' style='width: 3ch'/><tr><td colspan='2'>one two three</td></tr>"
+         "<tr><td style='width: 6ch'>a</td><td style='width: 50%'>b</td></tr></table>",
+         30, R"(
+ one two three
+ a       b
+)"},
+
         // Only what grows is shared alike.
         {"<table style='table-layout: fixed; width: 22ch'><tr><td colspan='2' style='width: 5ch'/>"
          "<td>c</td></tr><tr><td>a</td><td>b</td></tr></table>",
