@@ -151,7 +151,8 @@ void widen(std::span<ColumnNeed> columns, ColumnNeed const& cell) {
     }
     // Fixed widths stand for all that it would like.
     if (std::all_of(columns.begin(), columns.end(), isFixed)) return;
-    std::vector<std::int64_t> const most = shareWidth(columns, cell.most);
+    LastToGrow const last = cell.isFixed ? LastToGrow::percentages : LastToGrow::fixed;
+    std::vector<std::int64_t> const most = shareWidth(columns, cell.most, last);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         columns[i].most = std::max(columns[i].most, most[i]);
     }
@@ -192,7 +193,8 @@ std::int64_t widthOfPercentages(std::span<ColumnNeed const> columns) {
     return std::min(widest, s_widest);
 }
 
-std::vector<std::int64_t> shareWidth(std::span<ColumnNeed const> columns, std::int64_t width) {
+std::vector<std::int64_t> shareWidth(std::span<ColumnNeed const> columns, std::int64_t width,
+                                     LastToGrow last) {
     auto const most = [](ColumnNeed const& column) { return column.most; };
     auto const percent = [](ColumnNeed const& column) { return std::int64_t{column.percent}; };
     auto const share = [=](ColumnNeed const& column) {
@@ -203,8 +205,9 @@ std::vector<std::int64_t> shareWidth(std::span<ColumnNeed const> columns, std::i
     shares.grow(isFixed, most);
     shares.grow(isAutomatic, most);
     shares.spend(isAutomatic, most);
-    shares.spend(isFixed, most);
+    if (last == LastToGrow::percentages) shares.spend(isFixed, most);
     shares.spend(isPercent, percent);
+    shares.spend(isFixed, most);
     return shares.take();
 }
 

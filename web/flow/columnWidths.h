@@ -48,7 +48,10 @@ std::int64_t widthOfPercentages(std::span<ColumnNeed const> columns);
 /// Shares a width among columns. Each has its least first, where that is more in sum, too. Then
 /// percentages, fixed widths and the wishes of the others are met, in this order, as far as there
 /// is room: each by the same part. The rest goes to columns that are not fixed, in proportion to
-/// their wishes. What cannot be shared goes to the leftmost columns.
-std::vector<std::int64_t> shareWidth(std::span<ColumnNeed const> columns, std::int64_t width);
+/// their wishes, or else to those of the kind that `last` does not name. What cannot be shared goes
+/// to the leftmost columns.
+enum class LastToGrow { percentages, fixed };
+std::vector<std::int64_t> shareWidth(std::span<ColumnNeed const> columns, std::int64_t width,
+                                     LastToGrow last = LastToGrow::percentages);
 
 }  // namespace galley::web

@@ -112,6 +112,13 @@ TEST(TableColumns, ShareTheWidth) {
          30, R"(
 a   b       c        d
 )"},
+        // What a cell would like a percentage has, beside a fixed width.
+        {"<table><tr><td colspan='2'>one two three</td></tr><tr><td style='width: 3ch'>a</td>"
+         "<td style='width: 50%'>b</td></tr></table>",
+         40, R"(
+ one two three
+ a         b
+)"},
         {"<table><colgroup span='2' style='width: 3ch'/><tr><td colspan='2'>one two three</td></tr>"
          "<tr><td style='width: 6ch'>a</td><td style='width: 50%'>b</td></tr></table>",
          30, R"(
