@@ -45,12 +45,14 @@ ColumnSums sumOf(std::span<ColumnNeed const> columns);
 /// How wide columns must be in sum for percentages to come true.
 std::int64_t widthOfPercentages(std::span<ColumnNeed const> columns);
 
+/// Of columns that have all that they would like, those that grow where there are no others.
+enum class LastToGrow { percentages, fixed };
+
 /// Shares a width among columns. Each has its least first, where that is more in sum, too. Then
 /// percentages, fixed widths and the wishes of the others are met, in this order, as far as there
-/// is room: each by the same part. The rest goes to columns that are not fixed, in proportion to
-/// their wishes, or else to those of the kind that `last` does not name. What cannot be shared goes
-/// to the leftmost columns.
-enum class LastToGrow { percentages, fixed };
+/// is room: each by the same part. The rest goes to columns that are neither, in proportion to
+/// their wishes; without any to one of the other kinds. What cannot be shared goes to the leftmost
+/// columns.
 std::vector<std::int64_t> shareWidth(std::span<ColumnNeed const> columns, std::int64_t width,
                                      LastToGrow last = LastToGrow::percentages);
 
