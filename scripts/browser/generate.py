@@ -46,6 +46,9 @@ def avoid(source, width):
     head, body = source.split("<body>")
     body = re.sub(r"(<t[dh] [^>]*)display: block", r"\1visibility: hidden", body)
     source = f"{head.replace('display: block', 'visibility: hidden')}<body>{body}"
+    # Lines break where there is no room for a part of a cell, which no letter shows.
+    if "display: inline" in source:
+        source = re.sub(r"((?:padding|margin)[a-z-]*: )[\d.]+%", r"\g<1>1ch", source)
     # No marker is seen behind the right edge of the page.
     if width < 24:
         source = source.replace("list-style-position: inside", "list-style-position: outside")

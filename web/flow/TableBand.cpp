@@ -65,9 +65,7 @@ void TableBand::layOutCell(TableCell& cell, int row, Wrapping wrapping) {
     placed.contentLeft = placed.left + (frame.hasBorder(style.border.left) ? 1 : 0) +
                          across(style.padding.left, places.width);
     placed.contentWidth = placed.right - placed.left - edges;
-    placed.isBare = !isDrawn(cell.content.background()) && !frame.hasBorder(style.border.left) &&
-                    !frame.hasBorder(style.border.right) && !frame.hasBorder(style.border.top) &&
-                    !frame.hasBorder(style.border.bottom);
+    placed.isBare = !isDrawn(cell.content.background()) && !frame.hasBorders(style);
     placed.isOnBaseline = style.verticalAlign == VerticalAlign::baseline && !cell.content.isEmpty();
     std::optional<PlainText> const text = cell.content.plainText();
     if (text && isVisible(*text->block)) {

@@ -27,6 +27,11 @@ public:
     CollapsedBorders* borders() { return collapsed ? &*collapsed : nullptr; }
     bool collapses() const { return collapsed.has_value(); }
     bool hasBorder(Border const& side) const { return !collapsed && side.isThere(); }
+    bool hasBorders(Style const& cell) const {
+        Edges<Border> const& border = cell.border;
+        return hasBorder(border.left) || hasBorder(border.right) || hasBorder(border.top) ||
+               hasBorder(border.bottom);
+    }
 
     int columnGap(int line) const {
         if (collapsed) return collapsed->hasVertical(line) ? 1 : 0;

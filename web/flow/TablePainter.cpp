@@ -81,7 +81,8 @@ void TablePainter::paintRows(int gridRow, int height, int top, bool isGap) {
     for (int i = 0; i < height; ++i) {
         if (gridRow == 0 && !isGap && i == band.baseline()) rows.takeBaseline();
         beginRow();
-        paintCells(top + i, isGap);
+        textRow = top + i;
+        paintCells(textRow, isGap);
         endRow();
     }
 }
@@ -188,7 +189,7 @@ void TablePainter::paintCell(LaidCell const& cell, int y) {
 }
 
 /// Adds what a cell has in a row of text, from column `left` on.
-void TablePainter::paintPiece(Row& piece, LaidCell const& cell, int left, int y) {
+void TablePainter::paintPiece(Row& piece, LaidCell const& cell, int left, int y, Parts parts) {
     Style const& style = cell.cell->style();
     Edges<Border> const& border = style.border;
     Colour const background = cell.cell->content.background();
@@ -205,7 +206,7 @@ void TablePainter::paintPiece(Row& piece, LaidCell const& cell, int left, int y)
     }
     if (isShown && (isDrawn(background) || frame.hasBorder(border.left))) begin();
     if (isShown && frame.hasBorder(border.left)) addVertical(piece, border.left, background);
-    paintContent(piece, cell, left, line - cell.above);
+    if (parts == Parts::all) paintContent(piece, cell, left, line - cell.above);
     bool const hasRight = frame.hasBorder(border.right);
     if (!isShown || (!hasRight && !isDrawn(background))) return;
     piece.fill(right - (hasRight ? 1 : 0), blankOn(background));
@@ -223,21 +224,11 @@ void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int 
     int const column = cell.contentLeft + indent;
     bool const sticksOut = cell.isOutdented || indent + content.width > cell.contentWidth;
     if (!overlays.empty() || sticksOut || left != cell.left) {
-        overlays.push_back({column, content});
+        overlays.push_back({column, content, &cell});
         return;
     }
     piece.fill(column, blankOn(background));
     piece.add(content, Colour::transparent(), background);
-}
-
-void TablePainter::paintOverlays() {
-    for (Overlay const& overlay : overlays) {
-        row.draw(overlay.column, overlay.content,
-                 {.ground = Colour::transparent(),
-                  .beyond = ground,
-                  .keepsBorders = frame.collapses(),
-                  .isAmbiguousWide = table.cells.isAmbiguousWide});
-    }
 }
 
 }  // namespace galley::web

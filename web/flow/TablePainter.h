@@ -12,8 +12,8 @@ namespace galley::web {
 
 /// Makes the rows of a table's border box, from the left edge of that, each from left to right.
 ///
-/// What sticks out of a cell lies over the edges of those to its right, and below their text: such
-/// rows are first made without content.
+/// What sticks out of a cell lies below the text of those to its right, and but for its own text
+/// below their borders and backgrounds: such rows are first made without content.
 class TablePainter {
 public:
     /// Takes the content of cells from the grid. `around` is what the table stands on.
@@ -29,7 +29,11 @@ private:
     struct Overlay {
         int column = 0;
         RowView content;
+        LaidCell const* cell = nullptr;
+
+        int end() const { return column + content.width; }
     };
+    enum class Parts { all, edges };
 
     void paintEdge(bool isTop, int padding);
     void paintBlanks(int count);
@@ -39,11 +43,13 @@ private:
     void endRow();
     void paintCells(int y, bool isGap);
     void paintCell(LaidCell const& cell, int y);
-    void paintPiece(Row& piece, LaidCell const& cell, int left, int y);
+    void paintPiece(Row& piece, LaidCell const& cell, int left, int y, Parts parts = Parts::all);
     void paintContent(Row& piece, LaidCell const& cell, int left, int line);
     void paintLines(int end, bool isGap, Colour const* alike);
     void paintVertical(int line, bool isGap, Colour background);
     void paintOverlays();
+    void paintEdgesOver(Overlay const& overlay);
+    bool hasOwnEdges(LaidCell const& cell) const;
 
     TableGrid& grid;
     TableFrame& frame;
@@ -61,6 +67,8 @@ private:
     /// The first line that has not been painted.
     int nextLine = 0;
     int currentRow = 0;
+    /// Rows of text below the top of the band.
+    int textRow = 0;
 };
 
 }  // namespace galley::web

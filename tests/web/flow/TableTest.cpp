@@ -164,6 +164,16 @@ abcdefg x
 abcdefxy
 )"},
 
+        // Borders and backgrounds of a later cell lie over all of it but its text.
+        {"<table style='table-layout: fixed; width: 12ch'><tr><td style='padding: 0'><table style="
+         "'width: 11ch'><tr><td style='border: solid'>abcdefg</td></tr></table></td>"
+         "<td style='padding: 0; background: red'>xy</td></tr></table>",
+         20, R"(
+┌─────xy
+│ abcdefg
+└─────
+)"},
+
     });
 }
 
