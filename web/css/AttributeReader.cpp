@@ -11,8 +11,34 @@ namespace galley::web {
 namespace {
 
 constexpr std::string_view s_allowed[] = {
-    "class", "id",   "style", "hidden", "href", "colspan", "rowspan", "span",     "start",
-    "value", "type", "dir",   "title",  "lang", "role",    "xmlns",   "xml:lang",
+    "class",
+    "id",
+    "style",
+    "hidden",
+    "href",
+    "colspan",
+    "rowspan",
+    "span",
+    "start",
+    "value",
+    "type",
+    "dir",
+    "title",
+    "lang",
+    "role",
+    "xmlns",
+    "xml:lang",
+    // A browser shows nothing of these.
+    "abbr",
+    "cite",
+    "datetime",
+    "headers",
+    "hreflang",
+    "name",
+    "rel",
+    "scope",
+    "tabindex",
+    "target",
 };
 
 constexpr std::string_view s_allowedStarts[] = {"aria-", "data-"};

@@ -116,9 +116,25 @@ Look lookOf(Border const& border, Colour background) {
     return look;
 }
 
-/// Adds a text again and again, as far as it is whole, and blanks up to a column.
+/// What of a text has room in so many cells.
+std::string_view startOf(std::string_view text, int cells, bool isAmbiguousWide) {
+    std::size_t end = 0;
+    while (end < text.size()) {
+        Cluster const cluster = clusterAt(text, end, isAmbiguousWide);
+        cells -= static_cast<int>(cluster.width);
+        if (cells < 0) break;
+        end = cluster.end;
+    }
+    return text.substr(0, end);
+}
+
+/// Adds a text again and again, as far as it is whole, and blanks up to a column. Where it has no
+/// room at all it is as much of it as has.
 void repeat(Row& row, Border const& border, std::string_view text, int column, Look const& look) {
-    int const cells = countCells(text, border.cells.isAmbiguousWide);
+    bool const isAmbiguousWide = border.cells.isAmbiguousWide;
+    int const room = column - row.width();
+    if (countCells(text, isAmbiguousWide) > room) text = startOf(text, room, isAmbiguousWide);
+    int const cells = countCells(text, isAmbiguousWide);
     while (cells > 0 && row.width() + cells <= column) row.add(text, cells, look);
     row.fill(column, look);
 }

@@ -127,7 +127,9 @@ TEST(Cascade, TakesAttributesForDeclarations) {
              {"<img id=\"x\" alt=\"a\" src=\"b\"/>", "", ""},
              {"<col id=\"x\" span=\"2\"/>", "", ""},
              {"<p id=\"x\" alt=\"a\"/>", "", "10 unknown attribute 'alt'\n"},
-             {"<p id=\"x\" aria-label=\"a\" data-x=\"b\" xml:lang=\"en\" href=\"c\"/>", "", ""},
+             {"<p id=\"x\" aria-label=\"a\" data-x=\"b\" xml:lang=\"en\" href=\"c\" "
+              "scope=\"row\" rel=\"x\"/>",
+              "", ""},
              {"<ol id=\"x\" type=\"I\" start=\"3\"/>", "marker=9;", ""},
              {"<ul id=\"x\" type=\"i\"/>", "marker=8;", ""},
              {"<ul id=\"x\" type=\"x\"/>", "", ""},

@@ -288,6 +288,13 @@ TEST(Pages, LayTablesOutAsChromiumDoes) {
     });
 }
 
+TEST(Pages, ShowOfTextsAsBordersWhatHasRoom) {
+    expectPages({{"<p style='border-left: \"> \"; border-right: \"ab\"'>x</p>", 6, "|>x   a"},
+                 {"<p style='border-left: \"漢\"; border-top: \"ab\"'>x</p>", 6,
+                  "|aabab"
+                  "| x"}});
+}
+
 TEST(Pages, ShowBordersThroughWhatSticksOut) {
     expectPages({{"<div style='border: solid; width: 3ch; white-space: nowrap'>ab de f</div>", 20,
                   "|┌───┐|│ab de f|└───┘"},
