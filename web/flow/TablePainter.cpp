@@ -153,7 +153,8 @@ void TablePainter::paintLines(int end, bool isGap, Colour const* alike) {
     }
 }
 
-/// Paints a cell of a line of borders: a joint in lines above a row, else a part of it.
+/// Paints a cell of a line of borders: a joint in lines above a row, else a part of it. Outer ones
+/// stand on the table, whatever is beside them.
 void TablePainter::paintVertical(int line, bool isGap, Colour background) {
     CollapsedBorders const& borders = *frame.borders();
     Edges<Border const*> lines = {};
@@ -168,7 +169,8 @@ void TablePainter::paintVertical(int line, bool isGap, Colour background) {
     if (drawn == nullptr) {
         row.fill(row.width() + 1, blankOn(background));
     } else {
-        addJoint(row, lines, *drawn, background);
+        bool const isOuter = line == 0 || line == static_cast<int>(grid.columns().size());
+        addJoint(row, lines, *drawn, isOuter ? grid.background() : background);
     }
 }
 

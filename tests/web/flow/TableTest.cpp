@@ -325,6 +325,10 @@ TEST(TableBackgrounds, OfRowsAndColumnsShowInTheirVisibleCellsOnly) {
         {"<table style='table-layout: fixed; width: 4ch'><tr><td style='background: red; "
          "padding: 0; white-space: nowrap'>abcdef</td></tr></table>",
          "####..\n"},
+        // Outer lines, of three bytes a cell, stand on the table.
+        {"<table style='border-collapse: collapse; border-left: solid'><tr style='background: red'>"
+         "<td rowspan='2'>a</td><td>b</td></tr><tr><td>c</td></tr></table>",
+         "...######\n...###\n"},
         // But it has its own, if of the same colour.
         {"<table style='table-layout: fixed; width: 4ch; background: red'><tr><td style='padding: "
          "0'><table style='width: 8ch; background: red'><tr><td>a</td></tr></table></td></tr>"
