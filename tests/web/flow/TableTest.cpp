@@ -328,7 +328,7 @@ TEST(TableBackgrounds, OfRowsAndColumnsShowInTheirVisibleCellsOnly) {
         // Outer lines, of three bytes a cell, stand on the table.
         {"<table style='border-collapse: collapse; border-left: solid'><tr style='background: red'>"
          "<td rowspan='2'>a</td><td>b</td></tr><tr><td>c</td></tr></table>",
-         "...######\n...###\n"},
+         "...######\n...###..\n"},
         // But it has its own, if of the same colour.
         {"<table style='table-layout: fixed; width: 4ch; background: red'><tr><td style='padding: "
          "0'><table style='width: 8ch; background: red'><tr><td>a</td></tr></table></td></tr>"
