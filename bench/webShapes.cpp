@@ -176,6 +176,15 @@ void places(Writer& to) {
     while (to.next()) to.add("<p>").addWord().add("</p>\n");
 }
 
+/// A row of cells whose content sticks out, each over those behind it.
+void overflowing(Writer& to) {
+    to.corpus.sheet =
+        "table { table-layout: fixed; width: 100%; background: red } td { white-space: nowrap }";
+    to.add("<table><tr>");
+    while (to.next()) to.add("<td>").addWord().add("</td>");
+    to.add("</tr></table>\n");
+}
+
 constexpr Shape s_shapes[] = {
     {"accents", accents},
     {"boxed-paragraphs", boxedParagraphs},
@@ -191,6 +200,7 @@ constexpr Shape s_shapes[] = {
     {"items", items},
     {"justified", justified},
     {"marks", marks},
+    {"overflowing-cells", overflowing},
     {"places", places},
     {"preserved", kept},
     {"soft-hyphens", softHyphens},

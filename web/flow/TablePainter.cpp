@@ -90,6 +90,7 @@ void TablePainter::paintRows(int gridRow, int height, int top, bool isGap) {
 void TablePainter::beginRow() {
     row.clear();
     overlays.clear();
+    overlaysEnd = 0;
     Border const& border = table.border.left;
     if (isVisible && frame.hasBorder(border)) addVertical(row, border, grid.background());
 }
@@ -225,8 +226,9 @@ void TablePainter::paintContent(Row& piece, LaidCell const& cell, int left, int 
     int const indent = band.indentOf(cell, line);
     int const column = cell.contentLeft + indent;
     bool const sticksOut = cell.isOutdented || indent + content.width > cell.contentWidth;
-    if (!overlays.empty() || sticksOut || left != cell.left) {
+    if (sticksOut || left != cell.left || column < overlaysEnd) {
         overlays.push_back({column, content, &cell});
+        overlaysEnd = std::max(overlaysEnd, overlays.back().end());
         return;
     }
     piece.fill(column, blankOn(background));

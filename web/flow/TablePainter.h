@@ -10,6 +10,8 @@
 
 namespace galley::web {
 
+class RowCanvas;
+
 /// Makes the rows of a table's border box, from the left edge of that, each from left to right.
 ///
 /// What sticks out of a cell lies below the text of those to its right, and but for its own text
@@ -48,7 +50,7 @@ private:
     void paintLines(int end, bool isGap, Colour const* alike);
     void paintVertical(int line, bool isGap, Colour background);
     void paintOverlays();
-    void paintEdgesOver(Overlay const& overlay);
+    void paintEdges(LaidCell const& cell, RowCanvas& canvas, Row& piece, Row::Manner manner);
     bool hasOwnEdges(LaidCell const& cell) const;
 
     TableGrid& grid;
@@ -63,6 +65,8 @@ private:
     /// Cells of the row by their columns.
     std::vector<LaidCell const*> active;
     std::vector<Overlay> overlays;
+    /// Where the farthest of them ends.
+    int overlaysEnd = 0;
     Row row;
     /// The first line that has not been painted.
     int nextLine = 0;

@@ -183,7 +183,7 @@ std::int64_t widthOfPercentages(std::span<ColumnNeed const> columns) {
         left -= column.percent;
         if (column.percent > 0) {
             widest = std::max(widest, scale(column.most, s_whole, column.percent));
-        } else if (!isPercent(column)) {
+        } else {
             others += column.most;
         }
     }

@@ -72,6 +72,7 @@ TEST(ColumnWidths, AskForWhatMakesPercentagesTrue) {
         {{percent(4, 4, 25), wish(8, 8), wish(1, 1)}, 16},
         {{percent(4, 4, 80), wish(12, 12)}, 60},
         {{percent(4, 4, 100)}, 4},
+        {{percent(4, 4, 100), percent(1, 1, 0)}, 1'000'000 * s_parts},
         {{{.most = 8, .isPercent = true, .percent = 17'391'304},
           {.most = 13, .isPercent = true, .percent = 28'260'870}},
          46},
