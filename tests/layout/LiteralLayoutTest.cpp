@@ -113,5 +113,16 @@ TEST(LiteralLayout, IsRefusedForAParagraphThatWouldTakeTooLong) {
     EXPECT_TRUE(xmlToText(page, markup.c_str(), StyleList(), 10));
 }
 
+// Where widths end at the limits of geometry it is literal, too, but in that paragraph alone.
+TEST(LiteralLayout, IsNotThatOfAParagraphBehindHugeEdges) {
+    std::string words = "<b margin-left=\"-1\"/>";
+    for (int i = 0; i < 9000; ++i) words += "w ";
+    std::string const huge = "<b padding-right=\"1073741824\"/>";
+    String page;
+    EXPECT_EQ(outcome(xmlToText(page, (huge + words).c_str(), StyleList(), 10)),
+              "Page too large: more than 67108864 cells");
+    EXPECT_EQ(outcome(xmlToText(page, (huge + "<p/>" + words).c_str(), StyleList(), 10)), "ok");
+}
+
 }  // namespace
 }  // namespace CLI::XML

@@ -39,6 +39,16 @@ TEST(LettingGo, LeavesOnlyTheTextOfAPage) {
     }
 }
 
+TEST(LettingGo, LeavesOnlyTheTextOfABlockThatIsOpen) {
+    std::string markup = "<div padding-left=\"1\">";
+    for (int i = 0; i < 50'000; ++i) markup += "<p>one two three</p>";
+    markup += "</div>";
+    String page;
+    long const held = mostHeldBesideText(page, markup.c_str());
+    EXPECT_EQ(page.length(), 50'000 * 15);
+    EXPECT_LT(held, page.length() / 4);
+}
+
 // The cells of a table are kept until it ends, but not its rows on the page.
 TEST(LettingGo, LeavesNoRowOfATable) {
     std::string markup = "<table>";

@@ -48,6 +48,14 @@ TEST(CellBudget, CountsRowsFillersAndDrawnCells) {
         grid.leave();
         grid.draw("b", 0, 0, {});
     });
+    // What a frame around clips away costs no more than its row.
+    for (int const x : {0, 1}) {
+        expectCost(1 + 1, [x](Grid& grid) {
+            grid.enter(1, 0);
+            grid.enter(-3, 0);
+            grid.draw("ab", x, 0, {});
+        });
+    }
     // What frames around fill counts for each, as do a row of extents, and a look at others.
     expectCost((1 + 6) + (1 + 2) + 1 + 1 + 1, [](Grid& grid) {
         grid.draw("abcdef", 0, 0, {});

@@ -43,7 +43,7 @@ void Items::addText(std::string_view added, bool isWord) {
         auto const begin = static_cast<std::uint32_t>(allText.length());
         add(isWord ? Item::Word : Item::Words).bytes = {begin, length};
     }
-    if (length > 0) append(allText, added);
+    append(allText, added);
 }
 
 void Items::addWord(Box const& box) {

@@ -6,7 +6,7 @@ namespace CLI::XML {
 
 namespace {
 
-/// Index of the first byte of [start, end) that belongs to `set`, or `end`.
+/// Index of the first byte from `start` on that belongs to `set`: at the latest the NUL at `end`.
 int findMember(char const* bytes, int start, int end, ByteSet const& set) {
     auto const find = [&](char c, int limit) {
         void const* const found =
@@ -16,7 +16,7 @@ int findMember(char const* bytes, int start, int end, ByteSet const& set) {
     // Long runs of text are read up to one character, and the NUL.
     if (set.onlyMember() != '\0') return find('\0', find(set.onlyMember(), end));
     int i = start;
-    while (i < end && !set.contains(bytes[i])) ++i;
+    while (!set.contains(bytes[i])) ++i;
     return i;
 }
 

@@ -130,7 +130,7 @@ void Grid::drawInRow(std::string_view pattern, Span where, std::int64_t y,
                      Attributes const& attributes) {
     Frame& frame = frames.back();
     Span const shown = {std::max(where.begin, frame.left), where.end};
-    if (shown.begin >= shown.end || budget.isExceeded()) return;
+    if (shown.begin >= shown.end) return;
     Span const covered = {std::clamp(cover.left, shown.begin, shown.end),
                           std::clamp(cover.end(y), shown.begin, shown.end)};
     std::int64_t const drawn = shown.end - shown.begin - (covered.end - covered.begin);

@@ -113,7 +113,7 @@ void Grid::writeRow(Row const& shown, String& text) {
         if (!text.appendGrowing(piece)) throw std::bad_alloc();
     };
     std::string_view const bytes(shown.bytes.get(), shown.length);
-    std::size_t const lookCount = std::min(shown.lookCount(), bytes.length());
+    std::size_t const lookCount = shown.lookCount();
     Attributes const* const looks = lookCount > 0 ? shown.looks->data() : nullptr;
     Attributes current;
     std::size_t begin = 0;
