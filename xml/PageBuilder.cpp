@@ -174,9 +174,8 @@ void PageBuilder::addBoxes() {
     Box& around = boxes.begin(createRootElement());
     boxes.add(items);
     boxes.end();
-    // For each line of such a paragraph all of its rest may be laid out.
-    bool const isLiteral = !items.areTable() && !items.breaksByWidths();
-    if (isLiteral && !budget.mayHold(boxes.words() * boxes.words())) return;
+    // For each line of a paragraph that widths do not break, all of its rest may be laid out.
+    if (!items.areTable() && !budget.mayHold(boxes.words() * boxes.words())) return;
     around.layout(block.box);
     for (ZRLWPtr<Box> const& box : around.children) {
         block.stack.place(box->dimensions);

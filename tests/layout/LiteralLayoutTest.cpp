@@ -113,6 +113,15 @@ TEST(LiteralLayout, IsRefusedForAParagraphThatWouldTakeTooLong) {
     EXPECT_TRUE(xmlToText(page, markup.c_str(), StyleList(), 10));
 }
 
+// No line is broken in a cell.
+TEST(LiteralLayout, IsRefusedForNoTable) {
+    std::string markup = "<table><tr><td><p margin-left=\"-1\">a</p>";
+    for (int i = 0; i < 9000; ++i) markup += "w ";
+    String page;
+    EXPECT_EQ(outcome(xmlToText(page, (markup + "</td></tr></table>").c_str(), StyleList(), 10)),
+              "ok");
+}
+
 // Where widths end at the limits of geometry it is literal, too, but in that paragraph alone.
 TEST(LiteralLayout, IsNotThatOfAParagraphBehindHugeEdges) {
     std::string words = "<b margin-left=\"-1\"/>";
