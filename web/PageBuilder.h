@@ -86,7 +86,6 @@ private:
     Role openLink(std::string_view address, Style const& style);
     void openBlock(Element const& element, Style const& style);
     Role openTablePart(Element const& element, Style const& style);
-    Role openCaption(Style const& style);
     Role openCell(Element const& element, Style const& style);
     void openAnonymousCell();
     int spanOf(Element const& element, std::string_view attribute, Limits limits);

@@ -34,7 +34,8 @@ PageBuilder::Role PageBuilder::openTablePart(Element const& element, Style const
     Table& table = *tables.back();
     switch (style.display) {
         case Display::caption:
-            return openCaption(style);
+            push(table.addCaption(style), style, backgroundOf(style, frame().background));
+            return Role::cell;
         case Display::columnGroup:
             table.beginColumnGroup(style, spanOf(element, "span", s_columnSpans));
             return Role::columnGroup;
@@ -55,12 +56,6 @@ PageBuilder::Role PageBuilder::openTablePart(Element const& element, Style const
 int PageBuilder::spanOf(Element const& element, std::string_view attributeName, Limits limits) {
     if (element.attributes.empty()) return 1;
     return integerAttribute(element, attributeName, limits, problems).value_or(1);
-}
-
-PageBuilder::Role PageBuilder::openCaption(Style const& style) {
-    Colour const background = backgroundOf(style, frame().background);
-    push(tables.back()->addCaption(style, background), style, background);
-    return Role::cell;
 }
 
 PageBuilder::Role PageBuilder::openCell(Element const& element, Style const& style) {

@@ -44,7 +44,7 @@ struct OpenWidths {
 /// What is in a table's cell or caption, kept until the table is complete, and measured meanwhile.
 class Content {
 public:
-    /// Of a cell or a caption with that background, which outlives it.
+    /// Of a cell or a caption of that style, which outlives it, and with that background.
     Content(Style const& cell, Colour shown);
     Content(Content&& other) noexcept;
     Content(Content const&) = delete;

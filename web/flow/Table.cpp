@@ -17,8 +17,9 @@ Table::Table(Style const& tableStyle, Colour around, Sizing sized)
       grid(tableStyle.visibility == Visibility::visible ? backgroundOf(tableStyle, around)
                                                         : around) {}
 
-BlockSink& Table::addCaption(Style const& caption, Colour background) {
-    contents.begin(captions.emplace_back(caption, background));
+BlockSink& Table::addCaption(Style const& caption) {
+    // Laid out as a block, it has its background from that.
+    contents.begin(captions.emplace_back(caption, Colour::transparent()));
     return contents;
 }
 

@@ -30,7 +30,7 @@ public:
     /// of its kind, and all parts within that. The sink is for the content of the last cell or
     /// caption.
     ///@{
-    BlockSink& addCaption(Style const& caption, Colour background);
+    BlockSink& addCaption(Style const& caption);
     /// Of so many columns, if none are added to it.
     void beginColumnGroup(Style const& group, int span);
     void addColumn(Style const& column, int span);
