@@ -69,18 +69,19 @@ public:
     /// Cells of columns that have so many parts of cells, without lines around them: parts that
     /// come to whole cells go to the leftmost ones.
     std::vector<int> toCells(std::vector<std::int64_t> const& parts) const {
+        auto const ownOf = [&](std::size_t i) {
+            auto const column = static_cast<int>(i);
+            std::int64_t const lines = s_parts / 2 * linesAround(column, column + 1);
+            return std::max<std::int64_t>(0, parts[i] - lines);
+        };
         std::vector<int> cells;
         std::int64_t spare = s_missing;
-        for (std::int64_t const part : parts) {
-            auto const column = static_cast<int>(cells.size());
-            std::int64_t const own = part - s_parts / 2 * linesAround(column, column + 1);
-            cells.push_back(static_cast<int>(std::max<std::int64_t>(0, own + s_missing) / s_parts));
-            spare += std::max<std::int64_t>(0, own) - s_parts * cells.back();
+        for (std::size_t i = 0; i < parts.size(); ++i) {
+            cells.push_back(static_cast<int>((ownOf(i) + s_missing) / s_parts));
+            spare += ownOf(i) - s_parts * cells.back();
         }
         for (std::size_t i = 0; i < parts.size() && spare >= s_parts; ++i) {
-            auto const column = static_cast<int>(i);
-            std::int64_t const own = parts[i] - s_parts / 2 * linesAround(column, column + 1);
-            if (own < s_parts * cells[i] + s_missing) continue;
+            if (ownOf(i) < s_parts * cells[i] + s_missing) continue;
             ++cells[i];
             spare -= s_parts;
         }
