@@ -11,34 +11,13 @@ namespace galley::web {
 namespace {
 
 constexpr std::string_view s_allowed[] = {
-    "class",
-    "id",
-    "style",
-    "hidden",
-    "href",
-    "colspan",
-    "rowspan",
-    "span",
-    "start",
-    "value",
-    "type",
-    "dir",
-    "title",
-    "lang",
-    "role",
-    "xmlns",
-    "xml:lang",
-    // A browser shows nothing of these.
-    "abbr",
-    "cite",
-    "datetime",
-    "headers",
-    "hreflang",
-    "name",
-    "rel",
-    "scope",
-    "tabindex",
-    "target",
+    "class", "id",   "style", "hidden", "href", "colspan", "rowspan", "span",     "start",
+    "value", "type", "dir",   "title",  "lang", "role",    "xmlns",   "xml:lang",
+};
+
+/// A browser shows nothing of these.
+constexpr std::string_view s_unseen[] = {
+    "abbr", "cite", "datetime", "headers", "hreflang", "name", "rel", "scope", "tabindex", "target",
 };
 
 constexpr std::string_view s_allowedStarts[] = {"aria-", "data-"};
@@ -64,7 +43,7 @@ bool contains(Table const& table, std::string_view word) {
 
 bool isAllowed(Element const& element, std::string_view name) {
     if (element.name == "img" && (name == "alt" || name == "src")) return true;
-    return contains(s_allowed, name) ||
+    return contains(s_allowed, name) || contains(s_unseen, name) ||
            std::any_of(std::begin(s_allowedStarts), std::end(s_allowedStarts),
                        [name](std::string_view start) { return name.starts_with(start); });
 }

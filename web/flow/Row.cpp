@@ -1,8 +1,5 @@
 #include "web/flow/Row.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "web/flow/PageBudget.h"
 #include "web/flow/RowCanvas.h"
 #include "web/text/Cluster.h"
