@@ -21,7 +21,7 @@ unsigned LinkList::numberOf(std::string_view address) {
     return entry->second;
 }
 
-void LinkList::moveTo(BlockSink& sink, Style const& around, Colour background) {
+void LinkList::moveTo(BlockSink& sink, Style const& around) {
     for (std::size_t const first = written; written < addresses.size(); ++written) {
         std::string marker = markerOf(written + 1);
         Style& style = styles.emplace_back(computeStyle(around, {}));
@@ -32,7 +32,7 @@ void LinkList::moveTo(BlockSink& sink, Style const& around, Colour background) {
         int const columns = static_cast<int>(marker.size());
         sink.open(style, {std::move(marker), columns});
         Paragraph paragraph;
-        paragraph.begin(style, background);
+        paragraph.begin(style);
         paragraph.addGenerated(addresses[written]);
         sink.add(paragraph);
         sink.close();

@@ -17,8 +17,8 @@ public:
     unsigned numberOf(std::string_view address);
 
     /// Adds a row for each address that has been numbered since the last time, with its number
-    /// before it, to what has the given style and background. The list outlives the sink's content.
-    void moveTo(BlockSink& sink, Style const& around, Colour background);
+    /// before it, to what has the given style. The list outlives the sink's content.
+    void moveTo(BlockSink& sink, Style const& around);
 
 private:
     std::unordered_map<std::string, unsigned> numbers;

@@ -62,7 +62,7 @@ bool PageBuilder::asksForLastChild() {
 /// A fragment, which begins with another element or with text, stands in `html` and `body`.
 void PageBuilder::openRoot(std::string_view name) {
     if (open.size() > 1) return;
-    if (depth == 0) push(page, initial, {});
+    if (depth == 0) push(page, initial);
     if (open.empty()) {
         if (name == "html") return;
         openImplied(html, "html");
@@ -147,7 +147,7 @@ void PageBuilder::closeElement() {
     open.pop_back();
     if (closed.isBody && closed.role == Role::block) {
         endParagraph();
-        linkList.moveTo(*frame().sink, *frame().style, frame().background);
+        linkList.moveTo(*frame().sink, *frame().style);
     }
     endRole(closed.role);
 }
@@ -206,7 +206,7 @@ void PageBuilder::finish() {
     if (depth > 0) {
         endParagraph();
         // Of a document without a body, and behind it.
-        linkList.moveTo(page, *frame().style, frame().background);
+        linkList.moveTo(page, *frame().style);
     }
     page.finish();
 }

@@ -68,7 +68,6 @@ private:
     /// A block, a cell or a caption whose content is being read.
     struct Frame {
         BlockSink* sink = nullptr;
-        Colour background;
         Style const* style = nullptr;
         /// What has been read since the last block in it: a text that came alone, while it is
         /// plain, or a paragraph, if it has begun.
@@ -101,7 +100,7 @@ private:
     int firstNumberOf(Element const& list);
     int numberOf(Element const& element);
     OutsideMarker const& outsideMarker(std::string text, bool isAmbiguousWide);
-    void push(BlockSink& sink, Style const& style, Colour background);
+    void push(BlockSink& sink, Style const& style);
     void pop();
     void endParagraph();
     void letGo();

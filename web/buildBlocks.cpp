@@ -35,7 +35,7 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
     }
     BlockSink& sink = *frame().sink;
     sink.open(style, *marker);
-    push(sink, style, backgroundOf(style, frame().background));
+    push(sink, style);
     if (!inside.empty()) paragraph().addGenerated(inside);
 }
 
@@ -68,12 +68,11 @@ int PageBuilder::numberOf(Element const& element) {
     return number;
 }
 
-void PageBuilder::push(BlockSink& sink, Style const& style, Colour background) {
+void PageBuilder::push(BlockSink& sink, Style const& style) {
     if (depth == frames.size()) frames.emplace_back();
     Frame& opened = frames[depth++];
     opened.sink = &sink;
     opened.style = &style;
-    opened.background = background;
     opened.hasParagraph = false;
 }
 
@@ -83,7 +82,7 @@ void PageBuilder::pop() { --depth; }
 Paragraph& PageBuilder::paragraph() {
     Frame& current = frame();
     if (!std::exchange(current.hasParagraph, true)) {
-        current.paragraph.begin(*current.style, current.background);
+        current.paragraph.begin(*current.style);
         current.paragraph.addText(current.plain);
         current.plain.clear();
     }

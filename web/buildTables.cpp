@@ -34,7 +34,7 @@ PageBuilder::Role PageBuilder::openTablePart(Element const& element, Style const
     Table& table = *tables.back();
     switch (style.display) {
         case Display::caption:
-            push(table.addCaption(style), style, backgroundOf(style, frame().background));
+            push(table.addCaption(style), style);
             return Role::cell;
         case Display::columnGroup:
             table.beginColumnGroup(style, spanOf(element, "span", s_columnSpans));
@@ -62,7 +62,7 @@ PageBuilder::Role PageBuilder::openCell(Element const& element, Style const& sty
     Table& table = *tables.back();
     int const columns = spanOf(element, "colspan", s_columnSpans);
     BlockSink& content = table.addCell(style, columns, spanOf(element, "rowspan", s_rowSpans));
-    push(content, style, Colour::transparent());
+    push(content, style);
     return Role::cell;
 }
 
@@ -71,7 +71,7 @@ void PageBuilder::openAnonymousCell() {
     Table& table = *tables.back();
     Style const& style = anonymousStyles.emplace_back(computeStyle(*open.back().style, {}));
     BlockSink& content = table.addCell(style, 1, 1);
-    push(content, style, Colour::transparent());
+    push(content, style);
     hasAnonymousCell.back() = true;
 }
 
@@ -84,7 +84,7 @@ void PageBuilder::closeAnonymousCell() {
 
 void PageBuilder::openTable(Style const& style, Table::Sizing sizing) {
     endParagraph();
-    tables.push_back(std::make_unique<Table>(style, frame().background, sizing));
+    tables.push_back(std::make_unique<Table>(style, sizing));
     hasAnonymousCell.push_back(false);
 }
 

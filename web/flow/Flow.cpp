@@ -43,8 +43,7 @@ void Flow::open(Style const& style, OutsideMarker const& marker) {
     int const left = contentLeft() + place.marginLeft;
     int const edge = (style.border.left.isThere() ? 1 : 0) + across(style.padding.left, container);
     pending = std::max(pending, down(style.margin.top, container));
-    Colour const around = background();
-    Block& block = blocks.emplace_back();
+    Block block;
     block.style = &style;
     if (!marker.text.empty()) {
         block.marker = marker;
@@ -54,10 +53,8 @@ void Flow::open(Style const& style, OutsideMarker const& marker) {
     block.right = left + place.borderWidth;
     block.contentLeft = left + edge;
     block.contentWidth = place.width;
-    block.around = around;
-    block.background = backgroundOf(style, around);
-    block.hasShownEdges = style.border.left.isThere() || style.border.right.isThere() ||
-                          isDrawn(around) || isDrawn(block.background);
+    findGround(block);
+    blocks.push_back(std::move(block));
     int const padding = down(style.padding.top, container);
     if (!style.border.top.isThere() && padding == 0) return;
     start();
@@ -86,18 +83,29 @@ void Flow::add(PlainText const& text) {
     using Purpose = LineBreaker::Purpose;
     bool const partsWords = LineBreaker::mayPart(style, Purpose::layingOut, wrapping);
     Look const look = lookOf(style, background());
-    int const firstIndent = beginParagraph(style);
-    auto const addLine = [&](std::string_view line, int indent) {
-        auto const length = static_cast<int>(line.size());
-        beginLine(style, indent, length);
+    auto const paint = [&style](Row& painted, std::string_view words, Look const& as) {
+        auto const length = static_cast<int>(words.size());
         if (isVisible(style)) {
-            row.add(line, length, look);
+            painted.add(words, length, as);
         } else {
-            row.fill(row.width() + length, look);
+            painted.fill(painted.width() + length, as);
         }
-        endLine(style);
     };
-    breakLines(text, columns(), partsWords, firstIndent, addLine);
+    auto const addLine = [&](std::string_view words, int indent) {
+        auto const length = static_cast<int>(words.size());
+        int const column = contentLeft() + columnOfLine(style, columns(), indent, length);
+        beginRow();
+        if (column >= row.width() && column + length <= innerRight()) {
+            row.fill(column, blankOn(background()));
+            paint(row, words, look);
+            addRightEdges(blocks.size());
+            return handOn(row);
+        }
+        line.clear();
+        paint(line, words, lookOf(style, Colour::transparent()));
+        endRow(blocks.size(), line.view(), column);
+    };
+    breakLines(text, columns(), partsWords, beginParagraph(style), addLine);
 }
 
 void Flow::add(Paragraph const& paragraph) {
@@ -106,13 +114,15 @@ void Flow::add(Paragraph const& paragraph) {
     Style const& style = paragraph.block();
     int indent = beginParagraph(style);
     for (Place at; !breaker.isAtEnd(at); indent = 0) {
-        TextLine const line = breaker.next(at, container, indent);
-        bool const isSpread = style.textAlign == TextAlign::justify && !line.isLast;
-        int const spare = isSpread ? std::max(0, container - indent - line.width) : 0;
-        int const start = beginLine(style, indent, line.width) - indent;
-        paintLine(row, paragraph, line, container, start, spare);
-        endLine(style);
-        at = line.end;
+        TextLine const part = breaker.next(at, container, indent);
+        bool const isSpread = style.textAlign == TextAlign::justify && !part.isLast;
+        int const spare = isSpread ? std::max(0, container - indent - part.width) : 0;
+        line.clear();
+        paintLine(line, paragraph, part, container, -indent, spare);
+        beginRow();
+        int const column = contentLeft() + columnOfLine(style, container, indent, part.width);
+        endRow(blocks.size(), line.view(), column);
+        at = part.end;
     }
 }
 
@@ -123,32 +133,6 @@ int Flow::beginParagraph(Style const& style) {
     start();
     takeBaseline();
     return isFirst ? acrossRoundedUp(style.textIndent, columns()) : 0;
-}
-
-/// Begins the row of a line that is so wide. Returns the column where it stands.
-int Flow::beginLine(Style const& style, int indent, int lineWidth) {
-    int const column = contentLeft() + columnOfLine(style, columns(), indent, lineWidth);
-    beginRow();
-    if (column < std::min(contentLeft(), row.width())) {
-        std::swap(row, edges);
-        row.clear();
-    }
-    row.fill(column, blankOn(background()));
-    return column;
-}
-
-/// A line that is indented by less than 0 lies over the left edges of its blocks.
-void Flow::endLine(Style const& style) {
-    if (edges.width() > 0) {
-        budget.take(s_costOfCell * static_cast<std::size_t>(row.width()));
-        edges.draw(0, row.view(),
-                   {.ground = background(),
-                    .beyond = background(),
-                    .isAmbiguousWide = style.cells.isAmbiguousWide});
-        std::swap(row, edges);
-        edges.clear();
-    }
-    endRow();
 }
 
 void Flow::add(std::unique_ptr<Table> table) {
@@ -165,14 +149,8 @@ void Flow::add(std::unique_ptr<Table> table) {
 }
 
 void Flow::addTableRow(Row const& tableRow, int left) {
-    int const column = contentLeft() + left;
-    bool const hasEdges = std::any_of(blocks.begin(), blocks.end(),
-                                      [](Block const& block) { return block.hasShownEdges; });
-    if (column <= 0 && waitingMarkers == 0 && !hasEdges) return handOn(tableRow);
     beginRow();
-    row.fill(column, blankOn(background()));
-    row.add(tableRow.view());
-    endRow();
+    endRow(blocks.size(), tableRow.view(), contentLeft() + left);
 }
 
 void Flow::finish() {
@@ -204,7 +182,7 @@ void Flow::addBlanks(int rows) {
     for (; rows > 0; --rows) {
         row.clear();
         addLeftEdges(blocks.size(), false);
-        endRow();
+        endRow(blocks.size(), {}, row.width());
     }
 }
 

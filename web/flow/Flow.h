@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -57,10 +58,21 @@ private:
         /// Of the content box.
         int contentLeft = 0;
         int contentWidth = 0;
+        /// What is in it and ends there or before stands within all edges that are seen of it and
+        /// of what is around it. Nothing does where it sticks out itself.
+        int innerRight = 0;
+        /// What it and its content stand on: transparent, if it has none of its own, where it
+        /// sticks out and that differs from cell to cell.
+        ///@{
         Colour around;
         Colour background;
-        /// Whether cells on its left or its right are more than the terminal's own blanks.
+        ///@}
+        /// Whether cells on its left or its right are more than the terminal's own blanks, and
+        /// whether they are of it or a block around it.
+        ///@{
         bool hasShownEdges = false;
+        bool isInShownEdges = false;
+        ///@}
         /// There once it has started.
         std::optional<int> firstRow;
         /// Only text that comes first is indented.
@@ -69,24 +81,29 @@ private:
 
     /// Where a row is made anew, cell by cell.
     static constexpr std::size_t s_costOfCell = 8;
+    static constexpr int s_unlimited = std::numeric_limits<int>::max();
+    static constexpr int s_nowhere = std::numeric_limits<int>::min();
 
     int columns() const { return blocks.empty() ? width : blocks.back().contentWidth; }
     int contentLeft() const { return blocks.empty() ? ownLeft : blocks.back().contentLeft; }
     Colour background() const { return blocks.empty() ? ground : blocks.back().background; }
+    void findGround(Block& block) const;
     int beginParagraph(Style const& style);
-    int beginLine(Style const& style, int indent, int lineWidth);
-    void endLine(Style const& style);
     void start();
     void addBlanks(int rows);
+    int innerRight() const { return blocks.empty() ? s_unlimited : blocks.back().innerRight; }
+    void endRow(std::size_t count, RowView const& content, int column);
+    void drawOver(std::size_t count, RowView const& content, int column);
     void beginRow();
-    void endRow();
     void handOn(Row const& made);
+    bool hasShownEdges(std::size_t count) const {
+        return count > 0 && blocks[count - 1].isInShownEdges;
+    }
     void addLeftEdges(std::size_t count, bool isContent);
     void addMarker(Block& block);
     void addLateMarker();
     void handOnHeld();
     void addRightEdges(std::size_t count);
-    void addRightEdgeBelow(Block const& block, int column);
     void addBorder(bool isTop);
 
     RowSink& sink;
@@ -107,8 +124,8 @@ private:
     int waitingMarkers = 0;
     std::vector<Row> held;
     Row row;
-    /// Of the row, while it has a line that lies over them.
-    Row edges;
+    /// A line or a border that is not in its row yet.
+    Row line;
 };
 
 }  // namespace galley::web

@@ -26,10 +26,11 @@ int Inline::rightEdge(int columns) const {
            across(style->padding.right, columns);
 }
 
-void Paragraph::begin(Style const& block, Colour background) {
+void Paragraph::begin(Style const& block) {
     text.clear();
     all.clear();
-    elements.assign(1, {.style = &block, .look = lookOf(block, background), .around = background});
+    constexpr Colour s_ground = Colour::transparent();
+    elements.assign(1, {.style = &block, .look = lookOf(block, s_ground), .around = s_ground});
     current = 0;
     isBehindBlank = true;
     lastCharacter = ' ';
@@ -72,7 +73,7 @@ void Paragraph::partInto(Paragraph& done) {
     for (std::uint32_t const opened : parted) elements[opened].ends = false;
     done = *this;
     std::vector<Inline> const kept = std::move(elements);
-    begin(*kept.front().style, kept.front().look.background);
+    begin(*kept.front().style);
     for (std::uint32_t const opened : parted) {
         open(*kept[opened].style, kept[opened].look.link);
         elements.back().begins = false;

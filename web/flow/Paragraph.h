@@ -14,8 +14,9 @@ namespace galley::web {
 /// An inline element in a paragraph, or as the first one the block that the paragraph is in.
 struct Inline {
     Style const* style = nullptr;
+    /// On a background that is transparent where neither it nor an element around it has one.
     Look look;
-    /// What its margins stand on.
+    /// The background that its margins stand on, likewise.
     Colour around;
     std::uint32_t parent = 0;
     /// It begins here, and ends here: a block in it parts it, and its edges are at its ends.
@@ -85,7 +86,7 @@ struct Place {
 class Paragraph {
 public:
     /// Begins the paragraph of a block, with no element in it.
-    void begin(Style const& block, Colour background);
+    void begin(Style const& block);
     void open(Style const& style, Link const* link);
     void close();
     /// Adds text of the innermost element.

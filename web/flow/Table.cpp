@@ -10,12 +10,8 @@
 
 namespace galley::web {
 
-Table::Table(Style const& tableStyle, Colour around, Sizing sized)
-    : ownStyle(tableStyle),
-      ground(around),
-      sizing(sized),
-      grid(tableStyle.visibility == Visibility::visible ? backgroundOf(tableStyle, around)
-                                                        : around) {}
+Table::Table(Style const& tableStyle, Sizing sized)
+    : ownStyle(tableStyle), sizing(sized), grid(backgroundOf(tableStyle, Colour::transparent())) {}
 
 BlockSink& Table::addCaption(Style const& caption) {
     // Laid out as a block, it has its background from that.
@@ -143,8 +139,7 @@ void Table::layOut(int columns, Wrapping around, TableSink& rows, PageBudget& bu
     std::vector<int> const shared =
         frame->toCells(shareWidth(needs(wrapping), frame->partsFor(width, columns)));
     layOutCaptions(CaptionSide::top, width, around, rows, budget);
-    TablePainter(grid, *frame, ownStyle, ground, rows, budget)
-        .paint(width, shared, columns, wrapping);
+    TablePainter(grid, *frame, ownStyle, rows, budget).paint(width, shared, columns, wrapping);
     layOutCaptions(CaptionSide::bottom, width, around, rows, budget);
 }
 
@@ -152,7 +147,7 @@ void Table::layOutCaptions(CaptionSide side, int width, Wrapping wrapping, RowSi
                            PageBudget& budget) {
     for (Content& caption : captions) {
         if (caption.style().captionSide != side) continue;
-        Flow flow(rows, budget, width, ground, Flow::OuterMargins::shown, wrapping);
+        Flow flow(rows, budget, width, Colour::transparent(), Flow::OuterMargins::shown, wrapping);
         flow.open(caption.style(), {});
         Paragraph scratch;
         caption.moveTo(flow, scratch);

@@ -20,8 +20,7 @@ public:
     /// What the widths are of that its style sets: of a `table`, and of what is only displayed so.
     enum class Sizing { borderBox, contentBox };
 
-    /// On the background of what is around it.
-    Table(Style const& tableStyle, Colour around, Sizing sized);
+    Table(Style const& tableStyle, Sizing sized);
 
     Style const& style() const { return ownStyle; }
 
@@ -46,7 +45,8 @@ public:
 
     /// With its margins. To be called when all parts have been added.
     Widths outerWidths(Wrapping wrapping);
-    /// Makes its rows in a container of so many columns. Once only.
+    /// Makes its rows in a container of so many columns, transparent where nothing of it has a
+    /// background. Once only.
     void layOut(int columns, Wrapping around, TableSink& rows, PageBudget& budget);
 
 private:
@@ -67,7 +67,6 @@ private:
                         PageBudget& budget);
 
     Style const& ownStyle;
-    Colour ground;
     Sizing sizing;
     TableGrid grid;
     std::deque<Content> captions;

@@ -8,11 +8,10 @@
 namespace galley::web {
 
 TablePainter::TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
-                           Colour around, TableSink& output, PageBudget& cells)
+                           TableSink& output, PageBudget& cells)
     : grid(painted),
       frame(tableFrame),
       table(tableStyle),
-      ground(around),
       rows(output),
       budget(cells),
       isVisible(table.visibility == Visibility::visible),

@@ -18,8 +18,8 @@ class RowCanvas;
 /// below their borders and backgrounds: such rows are first made without content.
 class TablePainter {
 public:
-    /// Takes the content of cells from the grid. `around` is what the table stands on.
-    TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle, Colour around,
+    /// Takes the content of cells from the grid.
+    TablePainter(TableGrid& painted, TableFrame& tableFrame, Style const& tableStyle,
                  TableSink& output, PageBudget& cells);
 
     /// The table is that wide, with columns of those widths; per cent count of `container`. Once
@@ -56,7 +56,6 @@ private:
     TableGrid& grid;
     TableFrame& frame;
     Style const& table;
-    Colour ground;
     TableSink& rows;
     PageBudget& budget;
     bool isVisible;

@@ -1,11 +1,34 @@
 // What stands beside the content of blocks in their rows: edges, markers of list items.
 
+#include <algorithm>
+#include <deque>
+#include <span>
 #include <utility>
 
 #include "web/flow/Border.h"
 #include "web/flow/Flow.h"
+#include "web/flow/RowCanvas.h"
 
 namespace galley::web {
+
+/// Finds what a new block of the innermost one stands on.
+void Flow::findGround(Block& block) const {
+    Style const& style = *block.style;
+    Border const& border = style.border.right;
+    bool const hasEdges = border.isThere() || style.border.left.isThere() ||
+                          backgroundOf(style, Colour::transparent()) != Colour::transparent();
+    if (block.right > innerRight()) {
+        block.innerRight = s_nowhere;
+    } else if (hasEdges) {
+        block.innerRight = std::min(innerRight(), block.right - (border.isThere() ? 1 : 0));
+    } else {
+        block.innerRight = innerRight();
+    }
+    block.around = block.innerRight == s_nowhere ? Colour::transparent() : background();
+    block.background = backgroundOf(style, block.around);
+    block.hasShownEdges = hasEdges || isDrawn(block.around);
+    block.isInShownEdges = block.hasShownEdges || hasShownEdges(blocks.size());
+}
 
 /// Begins a row of content.
 void Flow::beginRow() {
@@ -16,6 +39,7 @@ void Flow::beginRow() {
 /// Adds what is left of the content of the outermost blocks, so many, as far as they have started;
 /// in a row of content the markers that have not been shown.
 void Flow::addLeftEdges(std::size_t count, bool isContent) {
+    if (waitingMarkers == 0 && !hasShownEdges(count)) return;
     for (std::size_t i = 0; i < count; ++i) {
         Block& block = blocks[i];
         if (!block.firstRow) break;
@@ -58,7 +82,7 @@ void Flow::addLateMarker() {
         start();
         takeBaseline();
         beginRow();
-        return endRow();
+        return endRow(blocks.size(), {}, row.width());
     }
     if (!block.firstRow || *block.firstRow == rowCount) {
         // As in Chromium, a margin above an item without height stands behind its marker, too.
@@ -74,7 +98,8 @@ void Flow::addLateMarker() {
     row.addPart(beside.view(), 0, block.left - block.marker.columns, isAmbiguousWide);
     addMarker(block);
     row.addPart(beside.view(), block.left, beside.width(), isAmbiguousWide);
-    std::swap(beside, row);
+    beside.clear();
+    beside.add(row.view(), Colour::transparent(), ground);
 }
 
 void Flow::handOnHeld() {
@@ -82,9 +107,48 @@ void Flow::handOnHeld() {
     held.clear();
 }
 
-void Flow::endRow() {
-    addRightEdges(blocks.size());
+/// Ends a row that has the left edges of the outermost blocks, so many, with what stands from a
+/// column on, on what these have behind it.
+void Flow::endRow(std::size_t count, RowView const& content, int column) {
+    int const inner = count == 0 ? ownLeft : blocks[count - 1].contentLeft;
+    // A marker may need more room than there is.
+    int const begin = column < inner ? column : std::max(column, row.width());
+    int const limit = count == 0 ? s_unlimited : blocks[count - 1].innerRight;
+    if (begin < row.width() || begin + content.width > limit) {
+        drawOver(count, content, std::max(begin, 0));
+        return handOn(row);
+    }
+    Colour const behind = count == 0 ? ground : blocks[count - 1].background;
+    row.fill(begin, blankOn(behind));
+    row.add(content, Colour::transparent(), behind);
+    addRightEdges(count);
     handOn(row);
+}
+
+/// Draws what sticks out over all that the blocks have in the row.
+void Flow::drawOver(std::size_t count, RowView const& content, int column) {
+    bool const isAmbiguousWide = blocks.back().style->cells.isAmbiguousWide;
+    Row::Manner const manner = {
+        .ground = Colour::transparent(), .beyond = ground, .isAmbiguousWide = isAmbiguousWide};
+    RowCanvas canvas({}, isAmbiguousWide);
+    std::deque<Row> pieces;
+    auto const draw = [&](int from, RowView const& piece) {
+        budget.take(s_costOfCell * static_cast<std::size_t>(piece.width));
+        canvas.draw(from, piece, manner);
+    };
+    for (Block const& block : std::span(blocks).first(count)) {
+        Colour const own = backgroundOf(*block.style, Colour::transparent());
+        Border const& border = block.style->border.right;
+        bool const hasRight = border.isThere();
+        if (!block.firstRow || (!hasRight && own == Colour::transparent())) continue;
+        Row& piece = pieces.emplace_back();
+        piece.fill(block.right - block.left - (hasRight ? 1 : 0), blankOn(own));
+        addVertical(piece, border, own, isVisible(*block.style));
+        draw(block.left, piece.view());
+    }
+    draw(0, row.view());
+    draw(column, content);
+    row = canvas.row();
 }
 
 void Flow::handOn(Row const& made) {
@@ -101,46 +165,28 @@ void Flow::handOn(Row const& made) {
 
 /// Adds what is right of the content of the outermost blocks, so many.
 void Flow::addRightEdges(std::size_t count) {
+    if (!hasShownEdges(count)) return;
     for (std::size_t i = count; i-- > 0;) {
         Block const& block = blocks[i];
         if (!block.firstRow || !block.hasShownEdges) continue;
         Border const& border = block.style->border.right;
         int const column = block.right - (border.isThere() ? 1 : 0);
         if (!border.isThere() && block.background == block.around) continue;
-        if (row.width() > column) {
-            addRightEdgeBelow(block, column);
-        } else {
-            row.fill(column, blankOn(block.background));
-            addVertical(row, border, block.background, isVisible(*block.style));
-        }
+        row.fill(column, blankOn(block.background));
+        addVertical(row, border, block.background, isVisible(*block.style));
     }
-}
-
-/// Where content sticks out of its block, the block's right edge is below it, and behind that what
-/// is around the block.
-void Flow::addRightEdgeBelow(Block const& block, int column) {
-    // For each such block.
-    budget.take(s_costOfCell * static_cast<std::size_t>(row.width()));
-    Row below;
-    bool const isAmbiguousWide = block.style->cells.isAmbiguousWide;
-    below.addPart(row.view(), 0, column, isAmbiguousWide);
-    addVertical(below, block.style->border.right, block.background, isVisible(*block.style));
-    below.fill(row.width(), blankOn(block.around));
-    below.draw(
-        0, row.view(),
-        {.ground = block.background, .beyond = block.around, .isAmbiguousWide = isAmbiguousWide});
-    std::swap(row, below);
 }
 
 /// Adds the border at the top or the bottom of the innermost block.
 void Flow::addBorder(bool isTop) {
     Block const& block = blocks.back();
+    Style const& style = *block.style;
+    line.clear();
+    addHorizontal(line, style, isTop, block.right - block.left,
+                  backgroundOf(style, Colour::transparent()));
     row.clear();
     addLeftEdges(blocks.size() - 1, false);
-    row.fill(block.left, blankOn(block.around));
-    addHorizontal(row, *block.style, isTop, block.right - block.left, block.background);
-    addRightEdges(blocks.size() - 1);
-    handOn(row);
+    endRow(blocks.size() - 1, line.view(), block.left);
 }
 
 }  // namespace galley::web

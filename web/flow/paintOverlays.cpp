@@ -11,7 +11,7 @@ namespace galley::web {
 
 void TablePainter::paintOverlays() {
     Row::Manner const manner = {.ground = Colour::transparent(),
-                                .beyond = ground,
+                                .beyond = Colour::transparent(),
                                 .keepsBorders = frame.collapses(),
                                 .isAmbiguousWide = table.cells.isAmbiguousWide};
     auto next = overlays.begin();

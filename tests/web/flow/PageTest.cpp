@@ -332,7 +332,7 @@ TEST(Pages, OfAnyBytesAreWellFormed) {
 
 TEST(Pages, AreRefusedWhereTheyWouldBeTooLarge) {
     std::string frames;
-    for (int i = 0; i < 500; ++i) frames += "<div style='border: solid'>";
+    for (int i = 0; i < 500; ++i) frames += "<div style='border: solid; width: 300ch'>";
     frames += "a";
     for (int i = 0; i < 500; ++i) frames += "</div>";
     for (std::string const& markup :

@@ -54,7 +54,7 @@ TEST(PlainText, HasTheLinesOfAllOtherText) {
         style.overflowWrap = static_cast<OverflowWrap>(random() % 3);
         style.textIndent.value = static_cast<int>(random() % 9) - 4;
         Paragraph paragraph;
-        paragraph.begin(style, {});
+        paragraph.begin(style);
         std::string const text = randomText(random);
         paragraph.addText(text);
         paragraph.finish();

@@ -177,19 +177,6 @@ abcdefxy
     });
 }
 
-/// Rows of ASCII with `#` for each cell that has a background and `.` for others.
-class BackgroundsOfRows final : public RowSink {
-public:
-    std::string text;
-
-    void take(Row const& row) override {
-        for (RowSpan const& span : row.view().spans) {
-            text.append(row.view().textOf(span).size(), isDrawn(span.look.background) ? '#' : '.');
-        }
-        text += '\n';
-    }
-};
-
 // As in Chromium: without cells there is no spacing, and only a `table` has its edges in its width.
 TEST(Tables, AreAsWideAsTheySay) {
     expectPictures({
@@ -296,53 +283,6 @@ TEST(TableRows, AlignNoEmptyCells) {
    a
 )"},
     });
-}
-
-// As in Chromium.
-TEST(TableBackgrounds, OfRowsAndColumnsShowInTheirVisibleCellsOnly) {
-    struct Case {
-        char const* markup;
-        char const* page;
-    };
-    constexpr Case cases[] = {
-        {"<table><tr style='background: red'><td>a</td><td style='visibility: hidden'>b</td>"
-         "<td>c</td></tr></table>",
-         "###...###\n"},
-        {"<table><col style='background: red'/><tr><td style='visibility: hidden'>a</td>"
-         "<td style='background: red'>b</td></tr></table>",
-         "...###\n"},
-        {"<table><tr style='background: red; visibility: hidden'><td>a</td>"
-         "<td style='visibility: visible'>b</td></tr></table>",
-         "...###\n"},
-        {"<table><tr style='background: red'><td>a</td><td>b</td></tr>"
-         "<tr style='background: red'><td>c</td></tr></table>",
-         "######\n###\n"},
-        // Beside a hidden cell no line has it, and what sticks out of the table stands on what is
-        // around that.
-        {"<table style='visibility: hidden; border-collapse: collapse'>"
-         "<tr style='background: red'><td style='border: solid'>a</td></tr></table>",
-         "\n...\n\n"},
-        {"<table style='table-layout: fixed; width: 4ch'><tr><td style='background: red; "
-         "padding: 0; white-space: nowrap'>abcdef</td></tr></table>",
-         "####..\n"},
-        // Outer lines, of three bytes a cell, stand on the table.
-        {"<table style='border-collapse: collapse; border-left: solid'><tr style='background: red'>"
-         "<td rowspan='2'>a</td><td>b</td></tr><tr><td>c</td></tr></table>",
-         "...######\n...###..\n"},
-        // But it has its own, if of the same colour.
-        {"<table style='table-layout: fixed; width: 4ch; background: red'><tr><td style='padding: "
-         "0'><table style='width: 8ch; background: red'><tr><td>a</td></tr></table></td></tr>"
-         "</table>",
-         "########\n"},
-    };
-    for (Case const& each : cases) {
-        BackgroundsOfRows rows;
-        std::vector<Problem> problems;
-        Media media;
-        media.width = 20;
-        EXPECT_TRUE(renderPage(each.markup, {}, media, rows, problems));
-        EXPECT_EQ(rows.text, each.page) << each.markup;
-    }
 }
 
 }  // namespace
