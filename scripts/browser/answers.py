@@ -42,16 +42,18 @@ class Browser:
     def _read(self, laid, source, width):
         rows = self._glyphs.read(laid["picture"])
         between, fits = laid["between"] or laid["exact"] % 16 != 0, True
-        for cluster, left, top in laid["clusters"]:
+        for cluster, left, top, across in laid["clusters"]:
             between = between or left % 8 != 0 or top % 16 != 0
             # What sticks out, or would if it were at a whole cell, is not in the picture, or not
             # wholly.
             if math.ceil(left / 8) + picture.cells_of(cluster) > width:
+                # A gap of a justified line may be on either side of its letter.
+                between = between or across > 8 * picture.cells_of(cluster)
                 put(rows, int(top // 16), int(left // 8), cluster)
                 fits = False
         covers = overlap(laid["clusters"])
         if between or covers or any(picture.UNKNOWN in cells for cells in rows):
-            letters = "".join(cluster for cluster, _, _ in laid["clusters"])
+            letters = "".join(cluster for cluster, *_ in laid["clusters"])
             # Which ones are covered depends on how cells are rounded.
             shown = "" if laid["sticksOut"] or covers else letters
             # Generated text is not among the clusters.
@@ -63,7 +65,7 @@ class Browser:
 
 def overlap(clusters):
     """Whether letters stand on one another. Galley shows one of them then."""
-    boxes = sorted((top, left, left + 8 * picture.cells_of(cluster)) for cluster, left, top in clusters)
+    boxes = sorted((top, left, left + 8 * picture.cells_of(cluster)) for cluster, left, top, _ in clusters)
     for place, (top, left, right) in enumerate(boxes):
         for other_top, other_left, other_right in boxes[place + 1:]:
             if other_top >= top + 16:

@@ -12,6 +12,8 @@ from picture import BORDER, WHITE
 SEQUENCE = re.compile(r"\x1b\[([\d;]*)m|\x1b\]8;[^\x1b\x07]*(?:\x1b\\|\x07)")
 # The terminal's own yellow, which the default sheet asks for.
 YELLOW = {"43": "#ffff00", "103": "#ffff00"}
+# A picture does not tell an omicron.
+ALIKE = {"ο": "o"}
 
 
 class GalleyFailed(Exception):
@@ -54,7 +56,7 @@ def cells(row):
         elif "\u2500" <= character <= "\u257f":
             found.append(BORDER)
         else:
-            found.append(character)
+            found.append(ALIKE.get(character, character))
             if unicodedata.east_asian_width(character) in "WF":
                 found.append("")
     return found

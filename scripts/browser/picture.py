@@ -10,6 +10,7 @@ GREEK = "αβγδεζηθικλμνξ"
 CLUSTERS = [*ASCII, "\u201c", "\u201d", "\u2018", "\u2019", "\u2013", "\u2014", "\u2026", *SYMBOLS.values(),
             *MARKED, *(cluster.upper() for cluster in MARKED), "\u00f1", "\u00d1", *GREEK, *WIDE, *EMOJI]
 WHITE = "#ffffff"
+MAGENTA = (255, 0, 255)
 
 
 def cells_of(cluster):
@@ -90,13 +91,13 @@ def backgrounds(picture):
 
 
 def has_background(strip):
-    return any(min(colour[:2]) >= 128 and min(colour) < 255
+    return any(colour == MAGENTA or (min(colour[:2]) >= 128 and min(colour) < 255)
                for _, colour in strip.getcolors(strip.width * 16))
 
 
 def background(cell):
     """BORDER if one is there, under a letter or not: what it stands on cannot be seen."""
-    if any(colour == (255, 0, 255) for _, colour in cell.getcolors(128)):
+    if any(colour == MAGENTA for _, colour in cell.getcolors(128)):
         return BORDER
     light = [(count, colour) for count, colour in cell.getcolors(128) if min(colour[:2]) >= 128]
     return "#%02x%02x%02x" % max(light)[1] if light else WHITE

@@ -77,7 +77,7 @@ void LineBreaker::takeClose(Item const& item) {
         bool const isPreserved = outer.whiteSpace == WhiteSpace::preWrap;
         part.mayEndLine = texts.isBeforeBlank(at) && !isBeforeOpen() &&
                           (!isPreserved || texts.isBehindBlank(part.begin));
-    } else if (wraps(outer) && !texts.isBehindBlank(part.begin)) {
+    } else if (wraps(outer) && texts.isBehindText(part.begin)) {
         part.mayEndLine = (isParting && mayPart(outer)) || texts.isOpportunity(at);
     }
 }

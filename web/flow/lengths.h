@@ -78,9 +78,10 @@ inline int columnOfLine(Style const& style, int columns, int indent, int width) 
 
 /// A block that is as wide as its container where its style does not say otherwise.
 inline HorizontalPlace placeBlock(Style const& style, int columns) {
+    std::int64_t const all = columns * s_parts;
     // What content has to fit into is rounded down as a whole.
-    auto const without = [columns](std::int64_t edges) {
-        return static_cast<int>(std::max<std::int64_t>(0, columns * s_parts - edges) / s_parts);
+    auto const without = [all](std::int64_t edges) {
+        return static_cast<int>(std::max<std::int64_t>(0, all - edges) / s_parts);
     };
     std::int64_t const margins =
         exactlyAcross(style.margin.left, columns) + exactlyAcross(style.margin.right, columns);
@@ -91,7 +92,7 @@ inline HorizontalPlace placeBlock(Style const& style, int columns) {
     int const filling = without(margins + edges);
     int const wanted = isAutomatic(style.width) ? filling : across(style.width, columns);
     int const width = limitWidth(wanted, style, columns);
-    bool const isFilling = isAutomatic(style.width) && width == filling && filling > 0;
+    bool const isFilling = isAutomatic(style.width) && width == filling && margins + edges < all;
     int const borderWidth = isFilling ? without(margins) : width + innerEdges(style, columns);
     return {leftMargin(style, columns, std::max(0, filling - width)), width, borderWidth};
 }

@@ -89,6 +89,8 @@ TEST(Backgrounds, StickOutWithWhatHasThemWhateverIsBelow) {
         {"<ol style='background: red; width: 3ch; margin: 0; padding-left: 0'>"
          "<li style='margin-left: 5ch'>a</li></ol>",
          "###...\n"},
+        {"<div style='width: 1ch'><p style='background: red; padding-right: 50%'>a</p></div>",
+         "#\n"},
     });
 }
 
