@@ -78,7 +78,8 @@ void LineBreaker::takeClose(Item const& item) {
         part.mayEndLine = texts.isBeforeBlank(at) && !isBeforeOpen() &&
                           (!isPreserved || texts.isBehindBlank(part.begin));
     } else if (wraps(outer) && texts.isBehindText(part.begin)) {
-        part.mayEndLine = (isParting && mayPart(outer)) || texts.isOpportunity(at);
+        part.mayPart = mayPart(outer);
+        part.mayEndLine = (isParting && part.mayPart) || texts.isOpportunity(at);
     }
 }
 

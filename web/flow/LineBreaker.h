@@ -69,7 +69,7 @@ private:
         /// There may be an opportunity in it.
         bool isBreakable = false;
         bool hyphenates = false;
-        /// Words of its style may be parted anywhere if they have no room.
+        /// Words of its style, or those that it ends, may be parted anywhere if they have no room.
         bool mayPart = false;
     };
 

@@ -102,6 +102,7 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         {"川字a<b>”</b>水", 6, "|川字|a”水"},
         {"<b style='white-space: nowrap'>ab </b> cd", 4, "|ab|cd"},
         {"<div style='width: 0'><b style='white-space: nowrap'></b>a</div>", 4, "|a"},
+        {"<b style='white-space: nowrap'>ab</b><q style='white-space: pre'/>", 3, "|ab|“”"},
         // A blank that counts begins the next line.
         {"<pre>x<i style='white-space: normal'>abc d</i> e</pre>", 6, "|xabc d| e"},
     });
