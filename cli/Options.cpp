@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 #include <string_view>
 
 #include "cli/DirectOutput.h"
@@ -12,6 +13,7 @@
 #include "cli/helpPage.h"
 #include "cli/outputNames.h"
 #include "cli/report.h"
+#include "web/suggest.h"
 
 namespace {
 
@@ -78,6 +80,20 @@ void reportUsage(std::string message) {
     std::fwrite(text.data(), 1, text.length(), stderr);
 }
 
+/// Which option an argument was probably meant to be that is none, to be appended to a message.
+std::string optionMeant(CLI::App const& app) {
+    std::vector<std::string> names;
+    for (CLI::Option const* const option : app.get_options()) {
+        for (std::string const& name : option->get_lnames()) names.push_back("--" + name);
+    }
+    for (std::string const& argument : app.remaining()) {
+        std::string const name = argument.substr(0, argument.find('='));
+        std::string_view const meant = galley::web::suggest(name, names, std::identity());
+        if (!meant.empty()) return galley::web::didYouMean(meant, "");
+    }
+    return {};
+}
+
 ExitStatus print(std::string_view text) {
     std::vector<std::string> const noFiles;
     return DirectOutput(noFiles).write(0, text);
@@ -94,8 +110,8 @@ ExitStatus printHelp() {
 }  // namespace
 
 std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& options) {
+    CLI::App app;
     try {
-        CLI::App app;
         defineOptions(app, options);
         refuseEmptyValues(app, argc, argv);
         app.parse(argc, argv);
@@ -105,7 +121,7 @@ std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& optio
     } catch (CLI::CallForVersion const& version) {
         return print(std::string(version.what()) + '\n');
     } catch (CLI::ParseError const& error) {
-        reportUsage(error.what());
+        reportUsage(error.what() + optionMeant(app));
         return ExitStatus::Usage;
     }
     return std::nullopt;

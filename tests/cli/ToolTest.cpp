@@ -184,6 +184,10 @@ TEST_F(CoreTool, RefusesWhatItDoesNotKnow) {
     EXPECT_EQ(run("-o= page.xml").err, "galley: error: -o: no value is given" + more);
     EXPECT_EQ(run("\"$(printf -- '--a\\nb')\"").err,
               "galley: error: The following argument was not expected: --a<U+000A>b" + more);
+    EXPECT_EQ(run("-css x.css").err,
+              "galley: error: The following argument was not expected: -css; did you mean "
+              "'--css'?" +
+                  more);
     EXPECT_EQ(read("page.xml"), "page");
 }
 

@@ -116,8 +116,13 @@ void DeclarationParser::declare(Declarations& declarations, Property const& prop
     problems.erase(std::unique(first, problems.end()), problems.end());
 }
 
-/// What a value was probably meant to be that is one word, to be appended to a warning.
+/// Why a value is none, or what it was probably meant to be, to be appended to a warning.
 std::string DeclarationParser::valueMeant(Property const& property, Tokens value) {
+    auto const function = std::find_if(value.begin(), value.end(), [](Token const& token) {
+        return token.kind == Kind::function && !isSameWord(token.text, "rgb") &&
+               !isSameWord(token.text, "rgba");
+    });
+    if (function != value.end()) return "; " + quoted(function->text + "()") + " is not supported";
     bool const isWord = value.size() == 1 && value.front().kind == Kind::identifier;
     if (!isWord || !suggestion.isAsked()) return {};
     return suggestion.worded(suggestValue(property, value.front().text));
@@ -125,13 +130,14 @@ std::string DeclarationParser::valueMeant(Property const& property, Tokens value
 
 void DeclarationParser::warnAboutUnknown(Token const& name) {
     IgnoredProperty const* const ignored = findIgnoredProperty(name.text);
-    if (ignored == nullptr) {
+    bool const isVariable = name.text.starts_with("--");
+    if (ignored == nullptr && !isVariable) {
         warn(problems, name.offset,
              "unknown property " + quoted(name.source) +
                  suggestion(name.text, allProperties(), &Property::name));
         return;
     }
-    if (ignored->isAboutFonts) {
+    if (ignored != nullptr && ignored->isAboutFonts) {
         if (aboutFonts) return;
         aboutFonts = problems.size();
     }

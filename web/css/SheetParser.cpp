@@ -1,6 +1,7 @@
 #include "web/css/SheetParser.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "web/css/Tokenizer.h"
@@ -15,6 +16,13 @@ using Kind = Token::Kind;
 
 /// Rules in rules in rules, with one in each, would otherwise take the whole stack.
 constexpr unsigned s_deepest = 32;
+
+/// At-rules of CSS that are none here.
+constexpr std::string_view s_otherRules[] = {
+    "container", "counter-style", "font-face", "font-feature-values",
+    "import",    "keyframes",     "layer",     "namespace",
+    "page",      "property",      "supports",
+};
 
 /// Tokens of an at-rule before its block or its semicolon.
 std::size_t lengthOfPrelude(std::span<Token const> tokens) {
@@ -79,7 +87,12 @@ SheetParser::Tokens SheetParser::parseAtRule(Tokens tokens, std::size_t conditio
             warn(problems, name.offset, "missing '{' behind " + quoted(name.source));
         }
     } else if (!isSameWord(name.text, "charset")) {
-        warn(problems, name.offset, "unknown at-rule " + quoted(name.source));
+        bool const isKnown =
+            std::any_of(std::begin(s_otherRules), std::end(s_otherRules),
+                        [&name](std::string_view known) { return isSameWord(name.text, known); });
+        warn(problems, name.offset,
+             isKnown ? quoted(name.source) + " is not supported"
+                     : "unknown at-rule " + quoted(name.source));
     }
     std::size_t const length = hasBlock ? end + tokens[end].extent : end + 1;
     return tokens.subspan(std::min(length, tokens.size()));
