@@ -12,6 +12,7 @@
 #include "web/markup/readSheets.h"
 #include "web/markup/vocabulary.h"
 #include "web/suggest.h"
+#include "web/text/whiteSpace.h"
 #include "web/wording.h"
 
 namespace galley::web {
@@ -148,7 +149,9 @@ private:
     bool endDocument() {
         handOverText();
         if (open.size() == 0) return true;
-        return failUnclosed(source.size(), "Missing end tag at the end");
+        std::size_t end = source.size();
+        while (isWhiteSpace(source[end - 1])) --end;
+        return failUnclosed(end, "Missing end tag at the end");
     }
 
     /// The innermost element has no end. If it is one that never has content, its start tag is the

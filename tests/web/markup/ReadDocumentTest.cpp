@@ -135,6 +135,7 @@ TEST(ReadDocument, SaysWhatIsWrongAndWhere) {
               "14 error: End tag </div> does not match start tag <p>\n"
               "6 note: Start tag <p> is here\n"},
              {"<p><q>a", "7 error: Missing end tag at the end\n3 note: Start tag <q> is here\n"},
+             {"<p>a \n", "4 error: Missing end tag at the end\n0 note: Start tag <p> is here\n"},
              {"<p>a<br>b<br>c<b>d</b></p>", "4 error: Missing end of <br>; write <br/>\n"},
              {"<p>a<br>", "4 error: Missing end of <br>; write <br/>\n"},
              {"<head><meta a=''></head>", "6 error: Missing end of <meta>; write <meta/>\n"},
