@@ -5,6 +5,7 @@
 
 #include "galley/terminal/columns.h"
 #include "galley/terminal/sgr.h"
+#include "web/text/utf8.h"
 
 namespace galley {
 
@@ -43,23 +44,39 @@ unsigned codeOf(std::string_view sequence) {
     return code;
 }
 
-/// Bytes up to a sequence or the end of the row. An escape byte that begins no sequence is text.
-std::size_t textLength(std::string_view page) {
-    std::size_t end = 0;
-    while (end < page.length() && page[end] != '\n') {
-        if (page[end] == '\x1b' && sequenceLength(page.substr(end)) > 0) break;
-        ++end;
+/// Bytes up to a sequence or the end of the line. An escape byte that begins no sequence is text.
+std::size_t textLength(std::string_view line) {
+    std::size_t end = line.find('\x1b');
+    while (end != std::string_view::npos && sequenceLength(line.substr(end)) == 0) {
+        end = line.find('\x1b', end + 1);
     }
-    return end;
+    return std::min(end, line.length());
 }
 
 int countCharacters(std::string_view text) {
-    int count = 0;
-    for (std::size_t i = 0; i < text.length(); ++count) {
-        bool const isAscii = static_cast<unsigned char>(text[i]) < 0x80;
-        i += isAscii ? 1 : lengthAt(text, i);
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < text.length();) {
+        std::size_t const end = web::skipAscii(text, i);
+        count += end - i;
+        i = end;
+        for (; i < text.length() && !web::isAscii(text[i]); ++count) i += lengthAt(text, i);
     }
-    return count;
+    return static_cast<int>(count);
+}
+
+/// Adds a part of a row, which changes the look of what is behind it.
+void addTo(Row& row, std::string_view line, Look& look) {
+    while (!line.empty()) {
+        std::size_t length = sequenceLength(line);
+        if (length > 0) {
+            apply(codeOf(line.substr(0, length)), look);
+        } else {
+            length = textLength(line);
+            std::string_view const text = line.substr(0, length);
+            row.add(text, countCharacters(text), look);
+        }
+        line.remove_prefix(length);
+    }
 }
 
 }  // namespace
@@ -67,20 +84,11 @@ int countCharacters(std::string_view text) {
 void readRows(std::string_view page, web::RowSink& rows) {
     Row row;
     Look look;
-    while (!page.empty()) {
-        std::size_t length = sequenceLength(page);
-        if (length > 0) {
-            apply(codeOf(page.substr(0, length)), look);
-        } else if (page.front() == '\n') {
-            rows.take(row);
-            row.clear();
-            length = 1;
-        } else {
-            length = textLength(page);
-            std::string_view const text = page.substr(0, length);
-            row.add(text, countCharacters(text), look);
-        }
-        page.remove_prefix(length);
+    for (std::size_t end = page.find('\n'); end != std::string_view::npos; end = page.find('\n')) {
+        addTo(row, page.substr(0, end), look);
+        rows.take(row);
+        row.clear();
+        page.remove_prefix(end + 1);
     }
 }
 

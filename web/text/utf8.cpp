@@ -43,22 +43,6 @@ unsigned char byteAt(std::string_view text, std::size_t i) {
     return static_cast<unsigned char>(text[i]);
 }
 
-/// The first byte at `from` or behind it that is none of ASCII; the text's size without one.
-std::size_t skipAscii(std::string_view text, std::size_t from) {
-    constexpr std::uint64_t s_highBits = 0x8080808080808080;
-    std::uint64_t bytes = 0;
-    for (; text.size() - from >= sizeof(bytes); from += sizeof(bytes)) {
-        std::memcpy(&bytes, text.data() + from, sizeof(bytes));
-        if ((bytes & s_highBits) != 0) break;
-    }
-    if (text.size() >= sizeof(bytes) && text.size() - from < sizeof(bytes)) {
-        std::memcpy(&bytes, text.data() + text.size() - sizeof(bytes), sizeof(bytes));
-        if ((bytes & s_highBits) == 0) return text.size();
-    }
-    while (from < text.size() && isAscii(text[from])) ++from;
-    return from;
-}
-
 }  // namespace
 
 CodePoint decodeAnyAt(std::string_view text, std::size_t at) {
@@ -85,6 +69,21 @@ std::size_t startBefore(std::string_view text, std::size_t at) {
         if (found.isWellFormed && found.length == length) return at - length;
     }
     return at - 1;
+}
+
+std::size_t skipAscii(std::string_view text, std::size_t from) {
+    constexpr std::uint64_t s_highBits = 0x8080808080808080;
+    std::uint64_t bytes = 0;
+    for (; text.size() - from >= sizeof(bytes); from += sizeof(bytes)) {
+        std::memcpy(&bytes, text.data() + from, sizeof(bytes));
+        if ((bytes & s_highBits) != 0) break;
+    }
+    if (text.size() >= sizeof(bytes) && text.size() - from < sizeof(bytes)) {
+        std::memcpy(&bytes, text.data() + text.size() - sizeof(bytes), sizeof(bytes));
+        if ((bytes & s_highBits) == 0) return text.size();
+    }
+    while (from < text.size() && isAscii(text[from])) ++from;
+    return from;
 }
 
 std::size_t findIllFormed(std::string_view text, std::size_t from) {

@@ -51,6 +51,9 @@ std::size_t startBefore(std::string_view text, std::size_t at);
 /// a code point begins. The next part is behind `decodeAt` of this one.
 std::size_t findIllFormed(std::string_view text, std::size_t from = 0);
 
+/// The first byte, at `from` or behind it, that is none of ASCII; the text's size without one.
+std::size_t skipAscii(std::string_view text, std::size_t from);
+
 inline bool isAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
 
 }  // namespace galley::web
