@@ -105,6 +105,7 @@ void Paragraph::dropBlank() {
         std::size_t const begin = words.rfind(' ') + 1;
         Item word = last;
         word.kind = Item::Kind::word;
+        word.beginsText = last.beginsText && begin == 0;
         word.begin += static_cast<std::uint32_t>(begin);
         --word.end;
         word.width = word.end - word.begin;

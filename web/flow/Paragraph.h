@@ -48,6 +48,8 @@ struct Item {
     };
 
     Kind kind = Kind::blank;
+    /// It is the first of a text that was added at once: lines are filled text by text.
+    bool beginsText = false;
     /// Of a word: it is printed as it is, a cell a byte.
     bool isPlain = true;
     /// Likewise, but its cells are to be counted.
@@ -127,6 +129,7 @@ public:
 private:
     friend class PackedParagraph;
 
+    void addItems(std::string_view decoded);
     void joinTo(std::string_view decoded);
     void partBefore(std::size_t index, std::size_t bytes);
     void addWord(std::string_view bytes, Segment const& segment);

@@ -25,7 +25,8 @@ bool TextBreaker::goesOn(Place begin, Place place) const {
     if (place.item >= paragraph.end()) return false;
     Item const& first = paragraph.items()[begin.item];
     Item const& item = paragraph.items()[place.item];
-    return isText(first) && isText(item) && item.element == first.element;
+    bool const isNextText = item.beginsText && place.item > begin.item && place.offset == 0;
+    return isText(first) && isText(item) && item.element == first.element && !isNextText;
 }
 
 bool TextBreaker::mayBreakBehindRest(Place begin, Place end) {

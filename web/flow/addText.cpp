@@ -40,6 +40,12 @@ void Paragraph::addText(std::string_view decoded) {
 
 void Paragraph::addGenerated(std::string_view decoded) {
     joinTo(decoded);
+    std::size_t const first = all.size();
+    addItems(decoded);
+    if (first < all.size()) all[first].beginsText = true;
+}
+
+void Paragraph::addItems(std::string_view decoded) {
     TextOptions options = textOptions(style());
     options.before = lastCharacter;
     bool const isWrapped = style().whiteSpace == WhiteSpace::normal;
@@ -114,6 +120,7 @@ void Paragraph::partBefore(std::size_t index, std::size_t bytes) {
     Item& word = all[index];
     if (word.end - word.begin > bytes) {
         Item rest = word;
+        rest.beginsText = false;
         rest.begin = word.end - static_cast<std::uint32_t>(bytes);
         Cluster const cluster = clusterAt(textOf(rest), 0, isAmbiguousWide());
         rest.width = static_cast<std::uint32_t>(cluster.width);

@@ -101,6 +101,7 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         {"川字<b>”</b>水", 6, "|川字”|水"},
         {"川字a<b>”</b>水", 6, "|川字|a”水"},
         {"<b style='white-space: nowrap'>ab </b> cd", 4, "|ab|cd"},
+        {"<q>a&#173;</q>", 2, "|“a|”"},
         {"<div style='width: 0'><b style='white-space: nowrap'></b>a</div>", 4, "|a"},
         {"<b style='white-space: nowrap'>ab</b><q style='white-space: pre'/>", 3, "|ab|“”"},
         // A blank that counts begins the next line.
