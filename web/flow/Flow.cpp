@@ -95,7 +95,8 @@ void Flow::add(PlainText const& text) {
         auto const length = static_cast<int>(words.size());
         int const column = contentLeft() + columnOfLine(style, columns(), indent, length);
         beginRow();
-        if (column >= row.width() && column + length <= innerRight()) {
+        bool const isWithin = column >= row.width() && column + length <= innerRight();
+        if (isWithin && !hasMovedMarker) {
             row.fill(column, blankOn(background()));
             paint(row, words, look);
             addRightEdges(blocks.size());

@@ -93,6 +93,7 @@ private:
     void addBlanks(int rows);
     int innerRight() const { return blocks.empty() ? s_unlimited : blocks.back().innerRight; }
     void endRow(std::size_t count, RowView const& content, int column);
+    Row::Manner mannerOf(Style const& style) const;
     void drawOver(std::size_t count, RowView const& content, int column);
     void beginRow();
     void handOn(Row const& made);
@@ -101,6 +102,7 @@ private:
     }
     void addLeftEdges(std::size_t count, bool isContent);
     void addMarker(Block& block);
+    void paintMarker(Row& painted, Block& block, Colour behind);
     void addLateMarker();
     void handOnHeld();
     void addRightEdges(std::size_t count);
@@ -122,6 +124,8 @@ private:
     std::vector<Block> blocks;
     /// How many of them have a marker that has not been shown.
     int waitingMarkers = 0;
+    /// One in the row had no room before its block, and moved what comes behind it.
+    bool hasMovedMarker = false;
     std::vector<Row> held;
     Row row;
     /// A line or a border that is not in its row yet.

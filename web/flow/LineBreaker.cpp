@@ -79,7 +79,8 @@ void LineBreaker::takeClose(Item const& item) {
                           (!isPreserved || texts.isBehindBlank(part.begin));
     } else if (wraps(outer) && texts.isBehindText(part.begin)) {
         part.mayPart = mayPart(outer);
-        part.mayEndLine = (isParting && part.mayPart) || texts.isOpportunity(at);
+        bool const isParted = isParting || state == State::overflowing;
+        part.mayEndLine = (isParted && part.mayPart) || texts.isOpportunity(at);
     }
 }
 

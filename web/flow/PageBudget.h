@@ -5,6 +5,9 @@
 
 namespace galley::web {
 
+/// In cells.
+inline constexpr int s_widestRow = 1'000'000;
+
 /// Thrown where a page becomes too large.
 struct PageTooLarge {};
 

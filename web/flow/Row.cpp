@@ -2,16 +2,8 @@
 
 #include "web/flow/PageBudget.h"
 #include "web/flow/RowCanvas.h"
-#include "web/text/Cluster.h"
 
 namespace galley::web {
-
-namespace {
-
-/// In cells.
-constexpr int s_widest = 1'000'000;
-
-}  // namespace
 
 void Row::add(std::string_view printed, int columns, Look const& look) {
     bytes.append(printed);
@@ -21,7 +13,7 @@ void Row::add(std::string_view printed, int columns, Look const& look) {
 
 void Row::fill(int column, Look const& look) {
     if (column <= cells) return;
-    if (column > s_widest) throw PageTooLarge();
+    if (column > s_widestRow) throw PageTooLarge();
     bytes.append(static_cast<std::size_t>(column - cells), ' ');
     cells = column;
     close(look, bytes.size());
@@ -47,24 +39,6 @@ void Row::draw(int column, RowView const& other, Manner const& manner) {
     RowCanvas canvas(view(), manner.isAmbiguousWide);
     canvas.draw(column, other, manner);
     *this = canvas.row();
-}
-
-void Row::addPart(RowView const& other, int begin, int end, bool isAmbiguousWide) {
-    int column = 0;
-    for (Span const& span : other.spans) {
-        std::string_view const text = other.textOf(span);
-        for (std::size_t i = 0; i < text.size() && column < end;) {
-            Cluster const cluster = clusterAt(text, i, isAmbiguousWide);
-            int const next = column + static_cast<int>(cluster.width);
-            if (column >= begin && next <= end) {
-                add(text.substr(i, cluster.end - i), next - column, span.look);
-            } else if (next > begin) {
-                fill(cells + 1, span.look);
-            }
-            column = next;
-            i = cluster.end;
-        }
-    }
 }
 
 void Row::clear() {

@@ -70,8 +70,6 @@ public:
     /// Puts another row over what is there, from a column on: backgrounds, text, and borders, but
     /// these not over text. A wide character of which half is covered becomes a blank.
     void draw(int column, RowView const& other, Manner const& manner);
-    /// Adds what stands from a column of another row to one. Halves of wide characters are blanks.
-    void addPart(RowView const& other, int begin, int end, bool isAmbiguousWide = false);
     void clear();
 
 private:

@@ -110,6 +110,12 @@ bool TextBreaker::isBehindBlank(Place place) {
     return kind != Kind::word && kind != Kind::ideographs && kind != Kind::breakable;
 }
 
+bool TextBreaker::isBehindText(Place place) {
+    std::size_t const last = textBefore(place);
+    return last > 0 && !isBehindBlank(place) &&
+           !paragraph.textOf(paragraph.items()[last - 1]).ends_with(' ');
+}
+
 bool TextBreaker::isOpportunity(Place place) {
     if (textAt(place) >= paragraph.end()) return true;
     std::size_t const last = textBefore(place);

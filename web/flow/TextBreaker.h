@@ -57,7 +57,8 @@ public:
     ///@{
     bool isBeforeBlank(Place place);
     bool isBehindBlank(Place place);
-    bool isBehindText(Place place) { return textBefore(place) > 0 && !isBehindBlank(place); }
+    /// Text that does not end with a blank, whether that may hang or not.
+    bool isBehindText(Place place);
     bool isOpportunity(Place place);
     /// Whether the line may begin within a word where a part of a text does and end with that word,
     /// if it may end there at all.

@@ -62,13 +62,20 @@ void Flow::addLeftEdges(std::size_t count, bool isContent) {
 /// Adds a marker to the left of its block, or where that begins further left than there is room,
 /// before it.
 void Flow::addMarker(Block& block) {
-    row.fill(block.left - block.marker.columns, blankOn(block.around));
-    Look look = lookOf(*block.style, block.around);
+    int const column = block.left - block.marker.columns;
+    bool const isMoved = column < row.width();
+    row.fill(column, blankOn(block.around));
+    paintMarker(row, block, isMoved ? Colour::transparent() : block.around);
+    hasMovedMarker = hasMovedMarker || isMoved;
+}
+
+void Flow::paintMarker(Row& painted, Block& block, Colour behind) {
+    Look look = lookOf(*block.style, behind);
     look.isUnderlined = look.isStruckThrough = false;
     if (isVisible(*block.style)) {
-        row.add(block.marker.text, block.marker.columns, look);
+        painted.add(block.marker.text, block.marker.columns, look);
     } else {
-        row.fill(row.width() + block.marker.columns, look);
+        painted.fill(painted.width() + block.marker.columns, look);
     }
     block.marker.text.clear();
     --waitingMarkers;
@@ -93,13 +100,14 @@ void Flow::addLateMarker() {
     }
     auto const rowsBehind = static_cast<std::size_t>(rowCount - *block.firstRow);
     Row& beside = held[held.size() - rowsBehind];
-    bool const isAmbiguousWide = block.style->cells.isAmbiguousWide;
+    int const column = block.left - block.marker.columns;
+    line.clear();
+    paintMarker(line, block, Colour::transparent());
     row.clear();
-    row.addPart(beside.view(), 0, block.left - block.marker.columns, isAmbiguousWide);
-    addMarker(block);
-    row.addPart(beside.view(), block.left, beside.width(), isAmbiguousWide);
-    beside.clear();
-    beside.add(row.view(), Colour::transparent(), ground);
+    row.fill(-column, blankOn(ground));
+    row.add(beside.view());
+    row.draw(std::max(column, 0), line.view(), mannerOf(*block.style));
+    std::swap(beside, row);
 }
 
 void Flow::handOnHeld() {
@@ -112,10 +120,11 @@ void Flow::handOnHeld() {
 void Flow::endRow(std::size_t count, RowView const& content, int column) {
     int const inner = count == 0 ? ownLeft : blocks[count - 1].contentLeft;
     // A marker may need more room than there is.
-    int const begin = column < inner ? column : std::max(column, row.width());
+    int const begin = std::max(0, column < inner ? column : std::max(column, row.width()));
     int const limit = count == 0 ? s_unlimited : blocks[count - 1].innerRight;
-    if (begin < row.width() || begin + content.width > limit) {
-        drawOver(count, content, std::max(begin, 0));
+    bool const isMoved = std::exchange(hasMovedMarker, false);
+    if (isMoved || begin < row.width() || begin + content.width > limit) {
+        drawOver(count, content, begin);
         return handOn(row);
     }
     Colour const behind = count == 0 ? ground : blocks[count - 1].background;
@@ -125,15 +134,21 @@ void Flow::endRow(std::size_t count, RowView const& content, int column) {
     handOn(row);
 }
 
+/// How what has transparent backgrounds is drawn.
+Row::Manner Flow::mannerOf(Style const& style) const {
+    return {.ground = Colour::transparent(),
+            .beyond = ground,
+            .isAmbiguousWide = style.cells.isAmbiguousWide};
+}
+
 /// Draws what sticks out over all that the blocks have in the row.
 void Flow::drawOver(std::size_t count, RowView const& content, int column) {
-    bool const isAmbiguousWide = blocks.back().style->cells.isAmbiguousWide;
-    Row::Manner const manner = {
-        .ground = Colour::transparent(), .beyond = ground, .isAmbiguousWide = isAmbiguousWide};
-    RowCanvas canvas({}, isAmbiguousWide);
+    Row::Manner const manner = mannerOf(*blocks.back().style);
+    RowCanvas canvas({}, manner.isAmbiguousWide);
     std::deque<Row> pieces;
     auto const draw = [&](int from, RowView const& piece) {
-        budget.take(s_costOfCell * static_cast<std::size_t>(piece.width));
+        if (from + piece.width > s_widestRow) throw PageTooLarge();
+        budget.take(s_costOfCell * static_cast<std::size_t>(from + piece.width));
         canvas.draw(from, piece, manner);
     };
     for (Block const& block : std::span(blocks).first(count)) {

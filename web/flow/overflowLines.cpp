@@ -36,7 +36,7 @@ void LineBreaker::overflow() {
 /// Ends the line within a part, if there is an opportunity for which that many cells suffice.
 bool LineBreaker::shorten(std::size_t index, int room) {
     Part& part = parts[index];
-    if (part.width <= 1) return false;
+    if (part.width == 0) return false;
     TextPart const shorter = breakText(part.begin, std::min(room, part.width - 1), room);
     if (!shorter.fits || !shorter.mayEndLine || shorter.end >= part.end) return false;
     used += shorter.width - part.width;

@@ -89,6 +89,10 @@ TEST(Backgrounds, StickOutWithWhatHasThemWhateverIsBelow) {
         {"<ol style='background: red; width: 3ch; margin: 0; padding-left: 0'>"
          "<li style='margin-left: 5ch'>a</li></ol>",
          "###...\n"},
+        // The marker of an item without a line.
+        {"<ol style='background: red; width: 3ch; padding-left: 0'><li style='margin-left: 5ch; "
+         "width: 9ch'><p/></li></ol>",
+         "###..\n"},
         {"<div style='width: 1ch'><p style='background: red; padding-right: 50%'>a</p></div>",
          "#\n"},
     });

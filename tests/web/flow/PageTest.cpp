@@ -102,6 +102,9 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         {"川字a<b>”</b>水", 6, "|川字|a”水"},
         {"<b style='white-space: nowrap'>ab </b> cd", 4, "|ab|cd"},
         {"<q>a&#173;</q>", 2, "|“a|”"},
+        {"<q>&#173;o</q>", 1, "|“|-|o|”"},
+        {"<b style='white-space: pre'>a </b><b style='white-space: pre'>bc</b>", 3, "|a bc"},
+        {"<b style='white-space: nowrap; padding-left: 2ch'>a</b>bc", 1, "|  a|b|c"},
         {"<div style='width: 0'><b style='white-space: nowrap'></b>a</div>", 4, "|a"},
         {"<b style='white-space: nowrap'>ab</b><q style='white-space: pre'/>", 3, "|ab|“”"},
         // A blank that counts begins the next line.
@@ -165,6 +168,9 @@ TEST(Pages, NumberListsAndPutMarkersBeside) {
         {"<ol style='list-style-type: decimal-leading-zero'><li value='-5'>a</li><li "
          "value='5'>b</li></ol>",
          40, "|-5. a|05. b"},
+        // What it has no room before shows through it.
+        {"<ol style='border: solid; padding: 0; width: 2ch'><li>a</li></ol>", 9,
+         "|┌──┐|│1.│a|└──┘"},
         // Without a line, it stands beside the first row.
         {"<ol><li><p/></li><li>a</li></ol>", 9, "| 1.|| 2. a"},
         {"<ol><li><hr/></li><li><hr/>a</li></ol>", 9, "| 1. ─────|    ─────| 2. a"},
@@ -256,6 +262,7 @@ TEST(Pages, LetIndentsReachOverEdges) {
         {"<table><tr><td style='padding-left: 3ch; text-indent: -3ch'>key <b>b</b> c</td><td>d"
          "</td></tr></table>",
          9, "|key b  d|   c"},
+        {"<table><tr><td style='text-indent: -3ch'><b>a</b> b</td></tr></table>", 9, "|a b"},
         {"<table><tr><td style='padding-left: 3ch'><div style='text-indent: -3ch'>a bb <b>c</b>"
          "</div></td></tr></table>",
          8, "|a bb c"},
