@@ -67,12 +67,18 @@ constexpr Keyword<bool> s_backgroundWords[] = {
     {"content-box", true},
 };
 
+/// Whether an image begins: by any function but that for variables.
+bool isImage(Token const& token) {
+    return token.kind == Kind::url ||
+           (token.kind == Kind::function && !isSameWord(token.text, "var"));
+}
+
 /// What says where an image is and how it is repeated, or the image.
 bool skipImage(ValueReader& reader) {
     bool isPart = false;
     if (readKeyword<s_backgroundWords>(reader, isPart)) return true;
     Token const& token = reader.peek();
-    if (token.kind == Kind::url || token.kind == Kind::function) {
+    if (isImage(token)) {
         reader.ignore();
         return true;
     }
@@ -195,9 +201,9 @@ bool readListStyle(ValueReader& reader, Style& style) {
                      style.markerPosition)) {
             continue;
         }
-        bool const isImage = reader.isNext(Kind::url) || reader.isNext(Kind::function);
-        if (hasImage || (!isImage && !reader.takeWord("none"))) return false;
-        if (isImage) reader.ignore();
+        bool const hasUrl = !reader.atEnd() && isImage(reader.peek());
+        if (hasImage || (!hasUrl && !reader.takeWord("none"))) return false;
+        if (hasUrl) reader.ignore();
         hasImage = true;
     }
     return true;

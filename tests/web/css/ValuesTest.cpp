@@ -153,6 +153,8 @@ TEST(CssValues, ColoursAreNamesOrExact) {
         {"color:rgb(1,2,3) x", "", "8 'rgb(1,2,3) x' is no value of 'color'\n"},
         {"color:rad", "", "8 'rad' is no value of 'color'; did you mean 'red'?\n"},
         {"background:blue", "background=palette 4;", ""},
+        {"background:var(--a)", "",
+         "13 'var(--a)' is no value of 'background'; 'var()' is not supported\n"},
         {"background:url(a;b.png) #fff no-repeat 0 50%", "background=#ffffff;",
          "13 'url(a;b.png)' has no effect as a value of 'background'\n"},
         {"background:red;background:none", "", ""},
