@@ -83,14 +83,6 @@ void Flow::add(PlainText const& text) {
     using Purpose = LineBreaker::Purpose;
     bool const partsWords = LineBreaker::mayPart(style, Purpose::layingOut, wrapping);
     Look const look = lookOf(style, background());
-    auto const paint = [&style](Row& painted, std::string_view words, Look const& as) {
-        auto const length = static_cast<int>(words.size());
-        if (isVisible(style)) {
-            painted.add(words, length, as);
-        } else {
-            painted.fill(painted.width() + length, as);
-        }
-    };
     auto const addLine = [&](std::string_view words, int indent) {
         auto const length = static_cast<int>(words.size());
         int const column = contentLeft() + columnOfLine(style, columns(), indent, length);
@@ -98,12 +90,12 @@ void Flow::add(PlainText const& text) {
         bool const isWithin = column >= row.width() && column + length <= innerRight();
         if (isWithin && !hasMovedMarker) {
             row.fill(column, blankOn(background()));
-            paint(row, words, look);
+            addText(row, words, length, style, look);
             addRightEdges(blocks.size());
             return handOn(row);
         }
         line.clear();
-        paint(line, words, lookOf(style, Colour::transparent()));
+        addText(line, words, length, style, lookOf(style, Colour::transparent()));
         endRow(blocks.size(), line.view(), column);
     };
     breakLines(text, columns(), partsWords, beginParagraph(style), addLine);
@@ -124,6 +116,16 @@ void Flow::add(Paragraph const& paragraph) {
         int const column = contentLeft() + columnOfLine(style, container, indent, part.width);
         endRow(blocks.size(), line.view(), column);
         at = part.end;
+    }
+}
+
+/// Adds text of an element, or if that is hidden as many blanks.
+void Flow::addText(Row& painted, std::string_view text, int columns, Style const& style,
+                   Look const& look) {
+    if (isVisible(style)) {
+        painted.add(text, columns, look);
+    } else {
+        painted.fill(painted.width() + columns, look);
     }
 }
 

@@ -88,6 +88,8 @@ private:
     int contentLeft() const { return blocks.empty() ? ownLeft : blocks.back().contentLeft; }
     Colour background() const { return blocks.empty() ? ground : blocks.back().background; }
     void findGround(Block& block) const;
+    static void addText(Row& painted, std::string_view text, int columns, Style const& style,
+                        Look const& look);
     int beginParagraph(Style const& style);
     void start();
     void addBlanks(int rows);

@@ -72,11 +72,7 @@ void Flow::addMarker(Block& block) {
 void Flow::paintMarker(Row& painted, Block& block, Colour behind) {
     Look look = lookOf(*block.style, behind);
     look.isUnderlined = look.isStruckThrough = false;
-    if (isVisible(*block.style)) {
-        painted.add(block.marker.text, block.marker.columns, look);
-    } else {
-        painted.fill(painted.width() + block.marker.columns, look);
-    }
+    addText(painted, block.marker.text, block.marker.columns, *block.style, look);
     block.marker.text.clear();
     --waitingMarkers;
 }
