@@ -129,13 +129,14 @@ void Flow::addText(Row& painted, std::string_view text, int columns, Style const
     }
 }
 
-/// Returns the columns that its first line is indented.
+/// Returns the columns that its first line is indented, at most up to the left edge of the
+/// container where that is less than 0.
 int Flow::beginParagraph(Style const& style) {
     bool& hasContent = blocks.empty() ? hasOwnContent : blocks.back().hasContent;
     bool const isFirst = !std::exchange(hasContent, true);
     start();
     takeBaseline();
-    return isFirst ? acrossRoundedUp(style.textIndent, columns()) : 0;
+    return isFirst ? std::max(acrossRoundedUp(style.textIndent, columns()), -contentLeft()) : 0;
 }
 
 void Flow::add(std::unique_ptr<Table> table) {

@@ -225,13 +225,15 @@ void LineBreaker::leaveOpenTags() {
 int LineBreaker::trailingBlanks() const {
     int cells = 0;
     bool counts = false;
+    bool isBeforeEdge = false;
     for (std::size_t i = parts.size(); i-- > 0;) {
         Part const& part = parts[i];
         Item const& item = itemOf(part);
+        isBeforeEdge = isBeforeEdge || (isTag(item) && part.width > 0);
         bool const isEmpty = item.kind == Kind::breakable && item.mayBreakBehind;
         if (isTag(item) || isEmpty || item.kind == Kind::lineFeed) continue;
         Style const& style = styleOf(item);
-        if (style.whiteSpace == WhiteSpace::pre) break;
+        if (style.whiteSpace == WhiteSpace::pre || (isBeforeEdge && preserves(style))) break;
         bool const isTab = item.kind == Kind::tab;
         int const blanks = isTab ? part.width : texts.blanksAtEnd(part.begin, part.end);
         cells += blanks;

@@ -90,13 +90,13 @@ void TableBand::layOutText(LaidCell& placed, PlainText const& text, Wrapping wra
     placed.isOutdented = placed.cell->content.outdent() > 0;
     int const leftmost = placed.left - placed.contentLeft;
     placed.firstLine = lines.size();
-    breakLines(text, columns, partsWords, acrossRoundedUp(style.textIndent, columns),
-               [&](std::string_view line, int indent) {
-                   auto const width = static_cast<int>(line.size());
-                   int const column = columnOfLine(style, columns, indent, width);
-                   lines.push_back({line, {0, line.size(), look}, std::max(leftmost, column)});
-                   budget.take(line.size() + 1);
-               });
+    int const firstIndent = std::max(acrossRoundedUp(style.textIndent, columns), leftmost);
+    breakLines(text, columns, partsWords, firstIndent, [&](std::string_view line, int indent) {
+        auto const width = static_cast<int>(line.size());
+        int const column = columnOfLine(style, columns, indent, width);
+        lines.push_back({line, {0, line.size(), look}, column});
+        budget.take(line.size() + 1);
+    });
     placed.endLine = lines.size();
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "web/flow/Paragraph.h"
 #include "web/flow/textOptions.h"
@@ -89,7 +90,8 @@ void Paragraph::joinTo(std::string_view decoded) {
     constexpr std::size_t s_context = 16;
     auto last = all.rbegin();
     while (last != all.rend() && isTag(*last)) ++last;
-    if (last == all.rend() || last->kind != Item::Kind::word || last->mayBreakBehind) return;
+    bool const isWord = last != all.rend() && last->kind == Item::Kind::word;
+    if (!isWord || (last->mayBreakBehind && !last->hyphenates)) return;
     std::uint32_t begin = last->begin;
     for (auto before = last; before != all.rend() && isTextOrTag(*before); ++before) {
         begin = before->begin;
@@ -105,8 +107,15 @@ void Paragraph::joinTo(std::string_view decoded) {
     std::size_t const ofLast = place - startBefore(joint, place);
     SegmentReader reader(joint, textOptions(*elements[last->element].style));
     bool isBeforeLast = false;
+    // A soft hyphen is an opportunity only where what is behind it lets a line break.
+    bool const endsWithHyphen = std::exchange(last->hyphenates, false);
+    if (endsWithHyphen) last->mayBreakBehind = false;
     Segment segment;
     while (reader.next(segment) && segment.next <= place) {
+        if (endsWithHyphen && segment.next == place) {
+            last->hyphenates = segment.behind == Segment::Behind::softHyphen;
+            last->mayBreakBehind = last->hyphenates;
+        }
         if (segment.behind != Segment::Behind::opportunity) continue;
         if (segment.next == place) last->mayBreakBehind = true;
         isBeforeLast = isBeforeLast || segment.next + ofLast == place;

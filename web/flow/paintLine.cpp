@@ -44,6 +44,14 @@ private:
         while (last > line.begin.item && !isText(paragraph.items()[last - 1])) --last;
         hasText = last > line.begin.item;
         if (hasText) --last;
+        lastEdge = endItem();
+        while (lastEdge > line.begin.item && !isEdge(paragraph.items()[lastEdge - 1])) --lastEdge;
+    }
+
+    bool isEdge(Item const& item) const {
+        Inline const& element = paragraph.element(item);
+        return (item.kind == Item::Kind::open && element.leftEdge(container) > 0) ||
+               (item.kind == Item::Kind::close && element.rightEdge(container) > 0);
     }
 
     std::string_view textOf(Item const& item) const {
@@ -89,9 +97,10 @@ private:
         }
     }
 
-    /// White space behind all text hangs where a line may break.
+    /// White space behind all text and edges hangs where a line may break.
     bool isHanging(Inline const& element) const {
-        return (index > last || !hasText) && wraps(*element.style);
+        bool const isLast = (index > last || !hasText) && index >= lastEdge;
+        return isLast && wraps(*element.style);
     }
 
     void paintText(Item const& item, Inline const& element) {
@@ -148,6 +157,8 @@ private:
     std::uint32_t last = 0;
     std::uint32_t index = 0;
     bool hasText = false;
+    /// One past the last one that is an edge of an element, or the line's first.
+    std::uint32_t lastEdge = 0;
     bool isBegun = false;
 };
 

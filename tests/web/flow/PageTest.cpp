@@ -103,6 +103,11 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         {"<b style='white-space: nowrap'>ab </b> cd", 4, "|ab|cd"},
         {"<q>a&#173;</q>", 2, "|“a|”"},
         {"<q>&#173;o</q>", 1, "|“|-|o|”"},
+        // A text that begins with a soft hyphen, and one that ends with it before a sign.
+        {"<b>Donau</b>&#173;dampf", 5, "|Donau|dampf"},
+        {"ab<q>&#173;c</q>", 3, "|ab“|c”"},
+        {"<q>ab&#173;</q>cd", 4, "|“ab”|cd"},
+        {"ab&#173;<b>c</b>d", 3, "|ab-|cd"},
         {"<b style='white-space: pre'>a </b><b style='white-space: pre'>bc</b>", 3, "|a bc"},
         {"<b style='white-space: nowrap; padding-left: 2ch'>a</b>bc", 1, "|  a|b|c"},
         {"<div style='width: 0'><b style='white-space: nowrap'></b>a</div>", 4, "|a"},
@@ -122,6 +127,7 @@ TEST(Pages, LetWhiteSpaceThatCountsHang) {
              {"abcde <!-- --> f</pre>", "|abcde|    f"},
              {"ab\t</pre>", "|ab"},
              {"ab \t</pre>", "|ab"},
+             {"<b style='border-right: solid'>b </b></pre>", "|  b │"},
              {"\tx</pre>", "||    x"}}) {
         EXPECT_EQ(textOf(markup + text, 5, "|", ""), page) << text;
     }
@@ -262,7 +268,9 @@ TEST(Pages, LetIndentsReachOverEdges) {
         {"<table><tr><td style='padding-left: 3ch; text-indent: -3ch'>key <b>b</b> c</td><td>d"
          "</td></tr></table>",
          9, "|key b  d|   c"},
-        {"<table><tr><td style='text-indent: -3ch'><b>a</b> b</td></tr></table>", 9, "|a b"},
+        // No further than up to the edge of the page or the cell.
+        {"<p style='text-indent: -5ch'>ab cd efg hij klm</p>", 9, "|ab cd efg|hij klm"},
+        {"<table><tr><td style='text-indent: -3ch'><b>a</b> b</td></tr></table>", 9, "|a| b"},
         {"<table><tr><td style='padding-left: 3ch'><div style='text-indent: -3ch'>a bb <b>c</b>"
          "</div></td></tr></table>",
          8, "|a bb c"},
