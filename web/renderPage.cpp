@@ -31,10 +31,10 @@ bool read(std::string_view markup, std::span<Sheet const* const> sheets, Media c
         if (!readDocument(markup, handler, problems)) return false;
         builder.finish();
         return true;
-    } catch (PageTooLarge const&) {
-        problems.push_back(
-            {Problem::Kind::error, Problem::s_nowhere,
-             "Page too large: more than " + std::to_string(budget.cells()) + " cells"});
+    } catch (PageTooLarge const& fault) {
+        problems.push_back({Problem::Kind::error, Problem::s_nowhere,
+                            std::string("Page too large: ") + (fault.isRow ? "a row of " : "") +
+                                "more than " + std::to_string(fault.cells) + " cells"});
         return false;
     }
 }

@@ -353,18 +353,22 @@ TEST(Pages, AreRefusedWhereTheyWouldBeTooLarge) {
     for (int i = 0; i < 500; ++i) frames += "<div style='border: solid; width: 300ch'>";
     frames += "a";
     for (int i = 0; i < 500; ++i) frames += "</div>";
-    for (std::string const& markup :
-         {frames,
-          std::string(
-              "<div style='padding-top: 900000lh; padding-left: 99ch; background: red'>a</div>"),
-          std::string("<div style='border: solid; width: 2000000ch'>a</div>"),
-          std::string("<table style='width: 90ch; border: solid'><tr><td style='padding-top: "
-                      "900000lh'/></tr></table>")}) {
+    std::string const cells = "Page too large: more than 67108864 cells";
+    std::string const row = "Page too large: a row of more than 1000000 cells";
+    for (auto const& [markup, message] : std::vector<std::pair<std::string, std::string>>{
+             {frames, cells},
+             {"<div style='padding-top: 900000lh; padding-left: 99ch; background: red'>a</div>",
+              cells},
+             {"<div style='border: solid; width: 2000000ch'>a</div>", row},
+             {"<div style='border: solid'><p style='padding-left: 1000000ch'>a</p></div>", row},
+             {"<table style='width: 90ch; border: solid'><tr><td style='padding-top: "
+              "900000lh'/></tr></table>",
+              cells}}) {
         TextOfRows rows("", "");
         std::vector<Problem> problems;
         EXPECT_FALSE(renderPage(markup, {}, Media(), rows, problems)) << markup;
         ASSERT_EQ(problems.size(), 1U);
-        EXPECT_EQ(problems[0].message, "Page too large: more than 67108864 cells");
+        EXPECT_EQ(problems[0].message, message);
     }
 }
 
