@@ -25,7 +25,7 @@ void LineBreaker::overflow() {
         if (excess < 0 && parts[i].isBreakable && shorten(i, -excess)) return;
     }
     // Where a text begins with a soft hyphen that alone has no room, the line ends before it.
-    if (hadHyphen && parts.back().width == 0 && used <= available) {
+    if (hadHyphen && parts.back().width == 0 && used > 0 && used <= available) {
         return endBehind(parts.size() - 1);
     }
     if (!isParting && arePartable) {

@@ -106,6 +106,7 @@ TEST(Pages, BreakLinesAtTheLastOpportunityThatFits) {
         // A text that begins with a soft hyphen, and one that ends with it before a sign.
         {"<b>Donau</b>&#173;dampf", 5, "|Donau|dampf"},
         {"ab<q>&#173;c</q>", 3, "|ab“|c”"},
+        {"<div style='width: 0'><b>&#173;</b>a</div>", 3, "|-|a"},
         {"<q>ab&#173;</q>cd", 4, "|“ab”|cd"},
         {"ab&#173;<b>c</b>d", 3, "|ab-|cd"},
         {"<b style='white-space: pre'>a </b><b style='white-space: pre'>bc</b>", 3, "|a bc"},
