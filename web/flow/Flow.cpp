@@ -43,7 +43,10 @@ void Flow::open(Style const& style, OutsideMarker const& marker) {
     int const left = contentLeft() + place.marginLeft;
     int const edge = (style.border.left.isThere() ? 1 : 0) + across(style.padding.left, container);
     pending = std::max(pending, down(style.margin.top, container));
-    Block block;
+    int const limit = innerRight();
+    Colour const behind = background();
+    bool const isInShownEdges = hasShownEdges(blocks.size());
+    Block& block = blocks.emplace_back();
     block.style = &style;
     if (!marker.text.empty()) {
         block.marker = marker;
@@ -53,8 +56,8 @@ void Flow::open(Style const& style, OutsideMarker const& marker) {
     block.right = left + place.borderWidth;
     block.contentLeft = left + edge;
     block.contentWidth = place.width;
-    findGround(block);
-    blocks.push_back(std::move(block));
+    findGround(block, limit, behind);
+    block.isInShownEdges = block.hasShownEdges || isInShownEdges;
     int const padding = down(style.padding.top, container);
     if (!style.border.top.isThere() && padding == 0) return;
     start();

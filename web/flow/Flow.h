@@ -87,7 +87,7 @@ private:
     int columns() const { return blocks.empty() ? width : blocks.back().contentWidth; }
     int contentLeft() const { return blocks.empty() ? ownLeft : blocks.back().contentLeft; }
     Colour background() const { return blocks.empty() ? ground : blocks.back().background; }
-    void findGround(Block& block) const;
+    static void findGround(Block& block, int limit, Colour behind);
     static void addText(Row& painted, std::string_view text, int columns, Style const& style,
                         Look const& look);
     int beginParagraph(Style const& style);

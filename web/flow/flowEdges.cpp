@@ -11,23 +11,18 @@
 
 namespace galley::web {
 
-/// Finds what a new block of the innermost one stands on.
-void Flow::findGround(Block& block) const {
+/// Finds what a block stands on, in one that is on `behind` and has up to column `limit` for it.
+void Flow::findGround(Block& block, int limit, Colour behind) {
     Style const& style = *block.style;
     Border const& border = style.border.right;
     bool const hasEdges = border.isThere() || style.border.left.isThere() ||
                           backgroundOf(style, Colour::transparent()) != Colour::transparent();
-    if (block.right > innerRight()) {
-        block.innerRight = s_nowhere;
-    } else if (hasEdges) {
-        block.innerRight = std::min(innerRight(), block.right - (border.isThere() ? 1 : 0));
-    } else {
-        block.innerRight = innerRight();
-    }
-    block.around = block.innerRight == s_nowhere ? Colour::transparent() : background();
+    block.innerRight = limit;
+    if (hasEdges) block.innerRight = std::min(limit, block.right - (border.isThere() ? 1 : 0));
+    if (block.right > limit) block.innerRight = s_nowhere;
+    block.around = block.innerRight == s_nowhere ? Colour::transparent() : behind;
     block.background = backgroundOf(style, block.around);
     block.hasShownEdges = hasEdges || isDrawn(block.around);
-    block.isInShownEdges = block.hasShownEdges || hasShownEdges(blocks.size());
 }
 
 /// Begins a row of content.
