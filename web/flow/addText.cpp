@@ -99,8 +99,10 @@ void Paragraph::joinTo(std::string_view decoded) {
     }
     std::string_view const known = std::string_view(text).substr(begin, last->end - begin);
     std::size_t from = known.size() - std::min(known.size(), s_context);
-    while (from < known.size() && (static_cast<unsigned char>(known[from]) & 0xC0U) == 0x80U)
+    // Not within a character; all bytes may be ill-formed.
+    while (from + 1 < known.size() && (static_cast<unsigned char>(known[from]) & 0xC0U) == 0x80U) {
         ++from;
+    }
     std::string joint(known.substr(from));
     joint += decoded.substr(0, s_context);
     std::size_t const place = known.size() - from;
