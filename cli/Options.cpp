@@ -120,8 +120,11 @@ std::optional<ExitStatus> parseCommandLine(int argc, char** argv, Options& optio
         return printHelp();
     } catch (CLI::CallForVersion const& version) {
         return print(std::string(version.what()) + '\n');
-    } catch (CLI::ParseError const& error) {
+    } catch (CLI::ExtrasError const& error) {
         reportUsage(error.what() + optionMeant(app));
+        return ExitStatus::Usage;
+    } catch (CLI::ParseError const& error) {
+        reportUsage(error.what());
         return ExitStatus::Usage;
     }
     return std::nullopt;

@@ -179,6 +179,7 @@ TEST_F(CoreTool, RefusesWhatItDoesNotKnow) {
     EXPECT_EQ(run("--width=").err, "galley: error: --width: no value is given" + more);
     EXPECT_EQ(run("--width 1 --width 2").err,
               "galley: error: --width: given more than once" + more);
+    EXPECT_EQ(run("--widht=1 -w0").err, "galley: error: --width: '0' is not positive" + more);
     EXPECT_EQ(run("-w0").err, "galley: error: --width: '0' is not positive" + more);
     EXPECT_EQ(run("-s").err, "galley: error: --css: no value is given" + more);
     EXPECT_EQ(run("-o= page.xml").err, "galley: error: -o: no value is given" + more);
