@@ -24,7 +24,7 @@ constexpr std::string_view s_clearRow = "\x1b[0m\x1b[2K";
 constexpr std::string_view s_clearBelow = "\x1b[0m\x1b[J";
 constexpr std::string_view s_inverse = "\x1b[7m";
 
-constexpr std::string_view s_keys = " (arrows scroll, q quits)";
+constexpr std::string_view s_help = " (arrows scroll, q quits)";
 
 /// What `leave` goes back to.
 termios s_before = {};
@@ -133,7 +133,7 @@ void Screen::measure() {
 std::string Screen::position(std::size_t end) const {
     std::string text = "rows " + std::to_string(top + 1) + " to " + std::to_string(end) + " of " +
                        std::to_string(rows.size());
-    if (keyboard.descriptor() >= 0 && text.length() + s_keys.length() <= columns) text += s_keys;
+    if (keyboard.descriptor() >= 0 && text.length() + s_help.length() <= columns) text += s_help;
     return std::string(s_inverse) + text;
 }
 

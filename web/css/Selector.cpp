@@ -9,7 +9,7 @@ namespace galley::web {
 
 namespace {
 
-using Kind = SimpleSelector::Kind;
+using PartKind = SimpleSelector::Kind;
 
 /// Takes the first word of those that white space parts; empty where there is none.
 std::string_view takeWord(std::string_view& words) {
@@ -34,14 +34,14 @@ unsigned specificityOf(std::vector<CompoundSelector> const& compounds) {
     unsigned types = 0;
     for (CompoundSelector const& compound : compounds) {
         for (SimpleSelector const& part : compound.parts) {
-            ++(part.kind == Kind::id ? ids : part.kind == Kind::type ? types : classes);
+            ++(part.kind == PartKind::id ? ids : part.kind == PartKind::type ? types : classes);
         }
     }
     auto const digit = [](unsigned count) { return std::min(count, 1023U); };
     return digit(ids) << 20 | digit(classes) << 10 | digit(types);
 }
 
-bool hasPart(std::vector<CompoundSelector> const& compounds, Kind kind) {
+bool hasPart(std::vector<CompoundSelector> const& compounds, PartKind kind) {
     return std::any_of(
         compounds.begin(), compounds.end(), [kind](CompoundSelector const& compound) {
             return std::any_of(compound.parts.begin(), compound.parts.end(),
@@ -59,15 +59,15 @@ bool Nth::has(unsigned index) const {
 
 bool SimpleSelector::matches(Element const& element) const {
     switch (kind) {
-        case Kind::type:
+        case PartKind::type:
             return element.name == name;
-        case Kind::className:
+        case PartKind::className:
             return hasClass(element, name);
-        case Kind::id:
+        case PartKind::id:
             return valueOf(element, "id") == name;
-        case Kind::nthChild:
+        case PartKind::nthChild:
             return nth.has(element.index);
-        case Kind::lastChild:
+        case PartKind::lastChild:
             return element.isLast;
     }
     return false;
@@ -81,7 +81,7 @@ bool CompoundSelector::matches(Element const& element) const {
 Selector::Selector(std::vector<CompoundSelector> parts)
     : compounds(std::move(parts)),
       weight(specificityOf(compounds)),
-      isPlaced(hasPart(compounds, Kind::nthChild) || hasPart(compounds, Kind::lastChild)) {}
+      isPlaced(hasPart(compounds, PartKind::nthChild) || hasPart(compounds, PartKind::lastChild)) {}
 
 bool Selector::matches(Element const& element) const {
     // Compounds between two descendant combinators are a chain from child to parent. That each is
@@ -106,7 +106,7 @@ bool Selector::matches(Element const& element) const {
     return true;
 }
 
-bool Selector::asksForLastChild() const { return hasPart(compounds, Kind::lastChild); }
+bool Selector::asksForLastChild() const { return hasPart(compounds, PartKind::lastChild); }
 
 std::string_view valueOf(Element const& element, std::string_view name) {
     auto const found =
