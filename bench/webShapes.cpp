@@ -88,6 +88,12 @@ void repeat(Writer& to, std::string_view text) {
     to.add("</p>\n");
 }
 
+/// Elements without text, in one line, with white space of which nothing shows.
+void emptyInlines(Writer& to) {
+    to.add("<style>i { white-space: nowrap; } u { white-space: pre-line; }</style>");
+    repeat(to, "<b/> <b> </b><i> </i><u> </u>");
+}
+
 void marks(Writer& to) { repeat(to, "\u0301"); }
 void softHyphens(Writer& to) { repeat(to, "b&shy;"); }
 void entities(Writer& to) { repeat(to, "&eacute;&#x2014;&#38;"); }
@@ -194,6 +200,7 @@ constexpr Shape s_shapes[] = {
     {"collapsed-borders", collapsed},
     {"descendants", descendants},
     {"empty-elements", emptyElements},
+    {"empty-inlines", emptyInlines},
     {"entities", entities},
     {"half-chinese", halfChinese},
     {"huge-attribute", hugeAttribute},

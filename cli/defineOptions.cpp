@@ -94,8 +94,9 @@ void defineForm(CLI::App& app, Options& options) {
          {"256", galley::Color::colors256},
          {"24bit", galley::Color::colors24bit}},
         "Whether the format ansi has its escape sequences; auto, the default, keeps them where "
-        "standard output is a terminal, no file is named and NO_COLOR is unset or empty. A number "
-        "of colours is that of the terminal that they go to; otherwise the environment's COLORTERM "
+        "standard output is a terminal, no file is named, NO_COLOR is unset or empty and TERM is "
+        "not dumb. A number of colours is that of the terminal that they go to; otherwise the "
+        "environment's COLORTERM "
         "and TERM tell");
     addChoice<galley::Links>(
         app, "--links", options.links,

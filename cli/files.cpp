@@ -29,7 +29,11 @@ bool readAll(std::FILE* file, String& content) {
     reserveSize(file, content);
     char piece[65536];
     while (std::size_t const n = std::fread(piece, 1, sizeof piece, file)) {
-        if (content.appendGrowing({piece, n})) continue;
+        // At the end of what a person types, another attempt would wait for more.
+        if (content.appendGrowing({piece, n})) {
+            if (std::feof(file) != 0) break;
+            continue;
+        }
         if (n <= static_cast<std::size_t>(INT_MAX - content.length())) throw std::bad_alloc();
         errno = EFBIG;
         return false;

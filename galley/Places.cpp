@@ -18,16 +18,15 @@ constexpr std::string_view s_cut = "...";
 /// Digits that a line number has room for.
 constexpr std::size_t s_numberWidth = 5;
 
-/// How a character is shown that would not be seen, or drive a terminal; empty for another one.
+/// How a character is shown that would not be seen, drive a terminal or is none; empty for another.
 /// Tabs are shown as tabs, and other white space of ASCII as a blank.
 std::string replacementAt(std::string_view line, std::size_t i) {
     if (line[i] == '\t') return "";
     if (line[i] == '\v' || line[i] == '\f' || line[i] == '\r') return " ";
     web::CodePoint const c = web::decodeAt(line, i);
-    if (c.isWellFormed) return web::isHidden(c.value) ? web::notation(c.value) : "";
-    // A terminal may take it for a control of one byte.
-    bool const isControl = (static_cast<unsigned char>(line[i]) & 0xE0U) == 0x80;
-    return isControl ? "?" : "";
+    // What is no UTF-8 may be a control to a terminal, and stops who reads messages strictly.
+    if (!c.isWellFormed) return "?";
+    return web::isHidden(c.value) ? web::notation(c.value) : "";
 }
 
 /// Columns that the character at `i` is shown in.

@@ -79,7 +79,8 @@ struct Options {
     unsigned ambiguousWidth = 1;
     /// Whether frames of the dialect `web` are drawn with "+", "-", "|" and "=".
     bool asciiFrames = false;
-    /// Whether `html` is a whole document, with `name`, without folders, as its title.
+    /// Whether `html` is a whole document. Its title is that of the document, or without one
+    /// `name`, without folders.
     bool standalone = false;
     /// Whether control characters of the document and the sheets reach the terminal, in the format
     /// `ansi` and the dialect `core`. Otherwise all but white space become question marks.
@@ -246,8 +247,8 @@ Result<void> print(std::string_view markup, Sheet const& sheet = {}, Options con
 /// `text` as the content of an element, where it stands for itself.
 [[nodiscard]] std::string escape(std::string_view text);
 
-/// `text` as the value of an attribute, between its quotation marks. The two differ since content
-/// has no reference for a quotation mark, and a value cannot do without.
+/// `text` as the value of an attribute, between its quotation marks. The two differ since
+/// content of the core has no reference for a quotation mark, and a value cannot do without.
 [[nodiscard]] std::string escapeAttribute(std::string_view text);
 
 }  // namespace galley

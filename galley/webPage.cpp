@@ -96,7 +96,8 @@ web::Media mediaFor(Options const& options) {
     media.width = options.width;
     media.hasColour = options.color != Color::never && options.format != Format::plain;
     if (options.theme == Theme::light) media.scheme = web::Media::Scheme::light;
-    if (options.theme == Theme::dark) media.scheme = web::Media::Scheme::dark;
+    bool const isDark = options.format == Format::svg && options.theme == Theme::automatic;
+    if (isDark || options.theme == Theme::dark) media.scheme = web::Media::Scheme::dark;
     media.links = linksFor(options);
     media.cells.isAmbiguousWide = options.ambiguousWidth > 1;
     media.cells.hasAsciiFrames = options.asciiFrames || media.cells.isAmbiguousWide;
@@ -121,7 +122,10 @@ std::vector<Diagnostic> render(String& page, std::string_view markup, Sheet cons
                                Options const& options) {
     return convert(markup, sheet, options, [&](auto const text, auto const& sheets, auto& found) {
         auto const writer = makePageWriter(page, options, depthFor(options.color));
-        if (web::renderPage(text, sheets, mediaFor(options), *writer, found)) writer->finish();
+        web::DocumentInfo document;
+        if (!web::renderPage(text, sheets, mediaFor(options), *writer, found, &document)) return;
+        writer->describe(document);
+        writer->finish();
     });
 }
 

@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "web/css/Tokenizer.h"
 #include "web/text/whiteSpace.h"
 #include "web/wording.h"
 
@@ -31,34 +30,6 @@ PageBuilder::PageBuilder(Sheet const& defaults, std::span<Sheet const* const> au
     initial.cells = media.cells;
 }
 
-void PageBuilder::styleSheet(EmbeddedSheet const& sheet) {
-    embeddedBytes += sheet.text().size();
-    if (embeddedBytes > Tokenizer::s_longest) {
-        return warn(problems, sheet.offsetOf(0),
-                    "sheets of a document are read up to 4 MiB; this one has no effect");
-    }
-    std::string text(sheet.text());
-    std::size_t before = 0;
-    if (!sheet.media().empty()) {
-        std::string const condition = "@media " + std::string(sheet.media()) + "{";
-        before = condition.size();
-        text.insert(0, condition).append("}");
-    }
-    std::vector<Problem> found;
-    embedded.push_back(Sheet::parse(text, found));
-    sheets.push_back(&embedded.back());
-    for (Problem& problem : found) {
-        problem.offset = sheet.offsetOf(std::max(problem.offset, before) - before);
-        tell(problems, std::move(problem));
-    }
-}
-
-bool PageBuilder::asksForLastChild() {
-    cascade.emplace(defaultSheet, sheets, media, problems);
-    return std::any_of(sheets.begin(), sheets.end(),
-                       [](Sheet const* sheet) { return sheet->asksForLastChild(); });
-}
-
 /// A fragment, which begins with another element or with text, stands in `html` and `body`.
 void PageBuilder::openRoot(std::string_view name) {
     if (open.size() > 1) return;
@@ -73,11 +44,19 @@ void PageBuilder::openRoot(std::string_view name) {
     openImplied(body, "body");
 }
 
+/// A background of `body` is that of the page (CSS Backgrounds 3, 2.11.2), where `html` has none.
+void PageBuilder::spreadBackground(Style const& bodyStyle) {
+    OpenElement const& root = open.back();
+    bool const isInRoot = open.size() == 1 && root.role == Role::block;
+    if (!isInRoot || isDrawn(root.style->background)) return;
+    canvas = *root.style;
+    canvas.background = bodyStyle.background;
+    page.restyle(canvas);
+}
+
 void PageBuilder::openImplied(Element& element, std::string_view name) {
     element.name = name;
-    element.style = cascade->styleOf(element);
-    open.push_back({openElement(element, *element.style), element.style});
-    open.back().isBody = name == "body";
+    enter(element);
 }
 
 void PageBuilder::startElement(Element& element) {
@@ -85,8 +64,14 @@ void PageBuilder::startElement(Element& element) {
     if (element.parent == nullptr && element.name != "html") {
         element.parent = element.name == "body" ? &html : &body;
     }
+    enter(element);
+}
+
+void PageBuilder::enter(Element& element) {
     Style const* const style = cascade->styleOf(element);
     element.style = style;
+    if (open.empty()) readLanguage(element);
+    if (element.name == "body") spreadBackground(*style);
     bool const isHidden = !open.empty() && open.back().role == Role::hidden;
     Role role = Role::hidden;
     if (!isHidden && style->display != Display::none) {
@@ -100,7 +85,9 @@ void PageBuilder::startElement(Element& element) {
 }
 
 PageBuilder::Role PageBuilder::openElement(Element const& element, Style const& style) {
-    switch (style.display) {
+    // The outermost element is in no line and part of no table (CSS Display 3, 2.8).
+    bool const isRoot = open.empty() && style.display != Display::table;
+    switch (isRoot ? Display::block : style.display) {
         case Display::inlined:
             return openInline(element, style);
         case Display::table:
@@ -137,12 +124,12 @@ void PageBuilder::text(std::string_view decoded) {
 
 void PageBuilder::endElement(Element& element) {
     static_cast<void>(element);
-    closeAnonymousCell();
-    closeImpliedTable();
     closeElement();
 }
 
 void PageBuilder::closeElement() {
+    closeAnonymousCell();
+    closeImpliedTable();
     OpenElement const closed = open.back();
     open.pop_back();
     if (closed.isBody && closed.role == Role::block) {

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "web/DocumentInfo.h"
 #include "web/LinkList.h"
 #include "web/css/Cascade.h"
 #include "web/css/MediaList.h"
@@ -29,9 +30,12 @@ public:
     bool asksForLastChild() override;
     void startElement(Element& element) override;
     void text(std::string_view decoded) override;
+    void title(std::string_view decoded) override;
     void endElement(Element& element) override;
     /// The innermost element around a fragment, null without: it is in no tag of the document.
     Element const* implied() const;
+    /// What has been said so far.
+    DocumentInfo const& info() const { return document; }
     /// To be called at the end of the document.
     void finish();
 
@@ -79,7 +83,10 @@ private:
     };
 
     void openRoot(std::string_view name);
+    void readLanguage(Element const& root);
+    void spreadBackground(Style const& bodyStyle);
     void openImplied(Element& element, std::string_view name);
+    void enter(Element& element);
     Role openElement(Element const& element, Style const& style);
     Role openInline(Element const& element, Style const& style);
     Role openLink(std::string_view address, Style const& style);
@@ -123,6 +130,9 @@ private:
     Element html;
     Element body;
     ///@}
+    DocumentInfo document;
+    /// Of the outermost element with the background of `body`.
+    Style canvas;
     std::vector<OpenElement> open;
     /// Those in use come first; the others are kept for their memory.
     std::deque<Frame> frames;

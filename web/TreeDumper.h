@@ -18,6 +18,7 @@ public:
     bool asksForLastChild() override { return builder.asksForLastChild(); }
     void startElement(Element& element) override;
     void text(std::string_view decoded) override;
+    void title(std::string_view decoded) override { builder.title(decoded); }
     void endElement(Element& element) override;
 
 private:

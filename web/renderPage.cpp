@@ -23,13 +23,15 @@ Sheet const& defaultSheet() {
 /// Reads a document into a builder for `rows`, by way of the handler that `wrap` makes of it.
 template <class Wrap>
 bool read(std::string_view markup, std::span<Sheet const* const> sheets, Media const& media,
-          RowSink& rows, std::vector<Problem>& problems, Wrap const& wrap) {
+          RowSink& rows, std::vector<Problem>& problems, Wrap const& wrap,
+          DocumentInfo* info = nullptr) {
     PageBudget budget(markup.size());
     PageBuilder builder(defaultSheet(), sheets, media, rows, budget, problems);
     auto&& handler = wrap(builder);
     try {
         if (!readDocument(markup, handler, problems)) return false;
         builder.finish();
+        if (info != nullptr) *info = builder.info();
         return true;
     } catch (PageTooLarge const& fault) {
         problems.push_back({Problem::Kind::error, Problem::s_nowhere,
@@ -47,9 +49,9 @@ public:
 }  // namespace
 
 bool renderPage(std::string_view markup, std::span<Sheet const* const> sheets, Media const& media,
-                RowSink& rows, std::vector<Problem>& problems) {
+                RowSink& rows, std::vector<Problem>& problems, DocumentInfo* info) {
     auto const itself = [](PageBuilder& builder) -> PageBuilder& { return builder; };
-    return read(markup, sheets, media, rows, problems, itself);
+    return read(markup, sheets, media, rows, problems, itself, info);
 }
 
 bool dumpTree(std::string_view markup, std::span<Sheet const* const> sheets, Media const& media,

@@ -65,6 +65,11 @@ void HtmlWriter::writeWide(std::string_view text) {
     }
 }
 
+void HtmlWriter::describe(web::DocumentInfo const& document) {
+    if (!document.title.empty()) title = document.title;
+    language = document.language;
+}
+
 void HtmlWriter::finish() {
     if (isDocument) writeHead();
     // The line feed at once behind the start tag belongs to the tag.
@@ -79,8 +84,14 @@ void HtmlWriter::finish() {
 }
 
 void HtmlWriter::writeHead() {
+    append(out, "<!DOCTYPE html>\n<html");
+    if (!language.empty()) {
+        append(out, " lang=\"");
+        appendEscaped(out, language);
+        append(out, "\"");
+    }
     append(out,
-           "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\"/>\n"
+           ">\n<head>\n<meta charset=\"utf-8\"/>\n"
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"/>\n<title>");
     appendEscaped(out, title);
     append(out, "</title>\n<style>\n");

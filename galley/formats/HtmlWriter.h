@@ -16,6 +16,7 @@ public:
     HtmlWriter(String& page, Options const& options, CellRule cellRule);
 
     void take(web::Row const& row) override;
+    void describe(web::DocumentInfo const& document) override;
     void finish() override;
 
 private:
@@ -27,8 +28,11 @@ private:
     String& out;
     CellRule const rule;
     bool const isDocument;
-    /// Of the document; any bytes.
-    std::string const title;
+    /// Of the document; any bytes. The language may be unknown.
+    ///@{
+    std::string title;
+    std::string language;
+    ///@}
     HtmlStyle style;
     /// The rows; the rules that they need come before them.
     String rows;

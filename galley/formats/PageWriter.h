@@ -5,6 +5,7 @@
 #include "base/String.h"
 #include "galley/galley.h"
 #include "galley/terminal/ColourDepth.h"
+#include "web/DocumentInfo.h"
 #include "web/flow/Row.h"
 
 namespace galley {
@@ -13,6 +14,8 @@ namespace galley {
 /// memory for that.
 class PageWriter : public web::RowSink {
 public:
+    /// To be called before `finish`, where more is known of the document than its name.
+    virtual void describe(web::DocumentInfo const& /*document*/) {}
     /// Adds what comes behind the last row. Until then what is written is no page.
     virtual void finish() = 0;
 };

@@ -33,7 +33,9 @@ unsigned terminalWidth(std::FILE* out) {
 
 bool isTerminal(std::FILE* out) { return isatty(fileno(out)) == 1; }
 
-bool isColorWelcome(std::FILE* out) { return isTerminal(out) && variable("NO_COLOR").empty(); }
+bool isColorWelcome(std::FILE* out) {
+    return isTerminal(out) && variable("NO_COLOR").empty() && variable("TERM") != "dumb";
+}
 
 ColourDepth colourDepthOfTerminal() {
     return std::max(colourDepth(variable("COLORTERM"), variable("TERM"), {}), ColourDepth::sixteen);

@@ -43,6 +43,8 @@ TEST_F(Output, IsColoredWhereAskedForOrWelcome) {
         {"export NO_COLOR=1; ", "", false, false},
         {"export NO_COLOR=; ", "", true, false},
         {"export NO_COLOR=1; ", "--color always", true, true},
+        {"export TERM=dumb; ", "", false, false},
+        {"export TERM=dumb; ", "--color always", true, true},
         {"", "--format plain --color always", false, false},
     };
     for (Case const& c : cases) {

@@ -78,6 +78,11 @@ TEST(Library, RendersAsTheOptionsSay) {
     std::string const document = *galley::render("x", {}, options);
     EXPECT_THAT(document, StartsWith("<!DOCTYPE html>"));
     EXPECT_THAT(document, HasSubstr("<title>page.xml</title>"));
+    options.dialect = galley::Dialect::web;
+    std::string const titled = *galley::render(
+        "<html xml:lang='de'><head><title>\n A &amp;\n B</title></head></html>", {}, options);
+    EXPECT_THAT(titled, HasSubstr("<html lang=\"de\">"));
+    EXPECT_THAT(titled, HasSubstr("<title>A &amp; B</title>"));
 }
 
 TEST(Library, PrintsWhatSuitsTheFile) {

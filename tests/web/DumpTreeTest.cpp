@@ -101,8 +101,8 @@ TEST(DumpTree, SaysStylesInWordsThatASheetCouldHave) {
 }
 
 TEST(DumpTree, ShowsWhatIsSeenNowhere) {
-    EXPECT_EQ(lastOf("<b class='&#27;['/>"), "b.<U+001B>[ { font-weight: bold; }\n");
-    EXPECT_EQ(lastOf("<b/>&#27;[1m \u202E"), "\"<U+001B>[1m <U+202E>\"\n");
+    EXPECT_EQ(lastOf("<b class='\x1B['/>"), "b.<U+001B>[ { font-weight: bold; }\n");
+    EXPECT_EQ(lastOf("<b/>\x1B[1m \u202E"), "\"<U+001B>[1m <U+202E>\"\n");
     EXPECT_EQ(lastOf("<i style='list-style-type: \"\u2067\"; font-style: normal'/>"),
               "i { list-style-type: \"<U+2067>\"; }\n");
 }

@@ -20,6 +20,18 @@ constexpr std::string_view s_unseen[] = {
     "abbr", "cite", "datetime", "headers", "hreflang", "name", "rel", "scope", "tabindex", "target",
 };
 
+/// Attributes of old HTML, and the properties that came in their place.
+struct Replaced {
+    std::string_view attribute;
+    std::string_view property;
+};
+
+constexpr Replaced s_replaced[] = {
+    {"align", "text-align"},    {"bgcolor", "background-color"},
+    {"cellpadding", "padding"}, {"cellspacing", "border-spacing"},
+    {"nowrap", "white-space"},  {"valign", "vertical-align"},
+};
+
 constexpr std::string_view s_allowedStarts[] = {"aria-", "data-"};
 
 /// Elements of lists, of which `type` says how items are marked.
@@ -95,6 +107,8 @@ void AttributeReader::read(Element const& element, Found& found) {
 
 std::string AttributeReader::nameMeant(std::string_view name) {
     if (!suggester.isAsked()) return {};
+    auto const* const old = std::ranges::find(s_replaced, name, &Replaced::attribute);
+    if (old != std::end(s_replaced)) return suggester.worded(old->property);
     std::string_view const allowed = suggest(name, s_allowed, std::identity());
     return suggester.worded(allowed.empty() ? suggest(name, allProperties(), &Property::name)
                                             : allowed);

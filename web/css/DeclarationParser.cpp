@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "web/css/characters.h"
+#include "web/css/lengths.h"
 #include "web/css/suggestValue.h"
 
 namespace galley::web {
@@ -123,9 +124,17 @@ std::string DeclarationParser::valueMeant(Property const& property, Tokens value
                !isSameWord(token.text, "rgba");
     });
     if (function != value.end()) return "; " + quoted(function->text + "()") + " is not supported";
-    bool const isWord = value.size() == 1 && value.front().kind == Kind::identifier;
-    if (!isWord || !suggestion.isAsked()) return {};
-    return suggestion.worded(suggestValue(property, value.front().text));
+    for (Token const& token : value) {
+        if (token.kind == Kind::dimension && !isUnit(token.text)) {
+            return "; unit " + quoted(token.text) + " is not supported";
+        }
+        if (token.kind != Kind::identifier || !suggestion.isAsked()) continue;
+        std::string_view const word = suggestValue(property, token.text);
+        bool const isValue = isSameWord(word, token.text);
+        std::string meant = suggestion.worded(isValue ? std::string_view() : word);
+        if (!meant.empty()) return meant;
+    }
+    return {};
 }
 
 void DeclarationParser::warnAboutUnknown(Token const& name) {
@@ -141,7 +150,10 @@ void DeclarationParser::warnAboutUnknown(Token const& name) {
         if (aboutFonts) return;
         aboutFonts = problems.size();
     }
-    warn(problems, name.offset, quoted(name.source) + " has no effect");
+    bool const isAboutFonts = aboutFonts == problems.size();
+    warn(problems, name.offset,
+         quoted(name.source) + " has no effect" +
+             (isAboutFonts ? ", nor has anything else about fonts and line heights" : ""));
 }
 
 }  // namespace galley::web

@@ -76,6 +76,8 @@ std::optional<double> readPositivePixels(ValueReader& reader, Axis axis) {
 
 }  // namespace
 
+bool isUnit(std::string_view name) { return findWord(s_units, name) != nullptr; }
+
 std::optional<double> toPixels(Token const& token, Axis axis) {
     if (token.kind == Kind::number) return token.number * cellSize(axis);
     if (token.kind != Kind::dimension) return std::nullopt;

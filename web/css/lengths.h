@@ -11,6 +11,8 @@ enum class Axis { across, down };
 
 /// A number or a dimension in CSS pixels; a bare number is cells of the axis.
 std::optional<double> toPixels(Token const& token, Axis axis);
+/// Whether lengths may have this unit.
+bool isUnit(std::string_view name);
 
 /// The nearest number of cells, of two the greater.
 std::int32_t nearestCells(double pixels, Axis axis);

@@ -65,6 +65,13 @@ void Flow::open(Style const& style, OutsideMarker const& marker) {
     addBlanks(padding);
 }
 
+void Flow::restyle(Style const& style) {
+    Block& block = blocks.front();
+    block.style = &style;
+    findGround(block, s_unlimited, ground);
+    block.isInShownEdges = block.hasShownEdges;
+}
+
 void Flow::close() {
     Style const& style = *blocks.back().style;
     int const container = blocks.size() > 1 ? blocks[blocks.size() - 2].contentWidth : width;

@@ -30,6 +30,8 @@ public:
 
     void open(Style const& style, OutsideMarker const& marker) override;
     void close() override;
+    /// Gives the outermost block, the only one that is open, another background for what comes.
+    void restyle(Style const& style);
     void add(PlainText const& text) override;
     void add(Paragraph const& paragraph) override;
     void add(std::unique_ptr<Table> table) override;

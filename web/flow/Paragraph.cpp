@@ -34,12 +34,15 @@ void Paragraph::begin(Style const& block) {
     current = 0;
     isBehindBlank = true;
     lastCharacter = ' ';
-    contentEnd = 0;
+    contentEnd = tagsBegin = textBegins = 0;
 }
 
 Item& Paragraph::add(Item::Kind kind) {
     auto const at = static_cast<std::uint32_t>(text.size());
-    return all.emplace_back(Item{.kind = kind, .element = current, .begin = at, .end = at});
+    Item& added = all.emplace_back(Item{.kind = kind, .element = current, .begin = at, .end = at});
+    if (!isTag(added)) tagsBegin = all.size();
+    if (!isTag(added) && !isUnbrokenText(added)) textBegins = all.size();
+    return added;
 }
 
 void Paragraph::open(Style const& style, Link const* link) {
@@ -91,10 +94,10 @@ void Paragraph::finish() {
     while (contentEnd < all.size() && isTag(all[contentEnd])) ++contentEnd;
 }
 
-/// White space at the end of a line is none, whatever elements end behind it.
+/// White space at the end of a line is none, whatever elements end behind it. What comes next, if
+/// anything does, is a line feed, so that nothing asks for the content before it.
 void Paragraph::dropBlank() {
-    std::size_t end = all.size();
-    while (end > 0 && isTag(all[end - 1])) --end;
+    std::size_t const end = tagsBegin;
     if (end == 0) return;
     Item& last = all[end - 1];
     if (last.kind == Item::Kind::blank) {
@@ -139,8 +142,8 @@ void Paragraph::addBlank() {
 /// break.
 void Paragraph::keepOpportunity() {
     if (!wraps(style())) return;
-    auto const last = std::find_if_not(all.rbegin(), all.rend(), isTag);
-    bool const isUnbroken = last != all.rend() && last->kind == Item::Kind::blank &&
+    Item const* const last = lastContent();
+    bool const isUnbroken = last != nullptr && last->kind == Item::Kind::blank &&
                             !wraps(*elements[last->element].style);
     if (isUnbroken) addBreakable();
 }

@@ -74,6 +74,11 @@ inline bool isTag(Item const& item) {
     return item.kind == Item::Kind::open || item.kind == Item::Kind::close;
 }
 
+/// Whether it is text in which white space is at most part of a word.
+inline bool isUnbrokenText(Item const& item) {
+    return item.kind == Item::Kind::word || item.kind == Item::Kind::ideographs;
+}
+
 /// A place in a paragraph: before an item, or so many bytes within its text.
 struct Place {
     std::uint32_t item = 0;
@@ -141,6 +146,7 @@ private:
     void dropBlank();
     void keepOpportunity();
     Item& add(Item::Kind kind);
+    Item* lastContent() { return tagsBegin > 0 ? &all[tagsBegin - 1] : nullptr; }
     Style const& style() const { return *elements[current].style; }
 
     std::string text;
@@ -152,6 +158,12 @@ private:
     /// a line.
     bool isBehindBlank = true;
     std::size_t contentEnd = 0;
+    /// Behind the last item that is no tag, and behind the last one that is no text either: however
+    /// many tags follow, they are found at once.
+    ///@{
+    std::size_t tagsBegin = 0;
+    std::size_t textBegins = 0;
+    ///@}
     /// Of the text that was added last, a blank if there is none.
     char32_t lastCharacter = ' ';
 };

@@ -13,15 +13,6 @@
 
 namespace galley::web {
 
-namespace {
-
-/// Whether nothing is between what stands before it and behind.
-bool isTextOrTag(Item const& item) {
-    return isTag(item) || item.kind == Item::Kind::word || item.kind == Item::Kind::ideographs;
-}
-
-}  // namespace
-
 void Paragraph::addText(std::string_view decoded) {
     if (decoded.empty()) return;
     bool const isCollapsed = style().whiteSpace == WhiteSpace::normal;
@@ -88,15 +79,10 @@ void Paragraph::addItems(std::string_view decoded) {
 /// style of that word, as in Chromium. What stands before the word has a say, too.
 void Paragraph::joinTo(std::string_view decoded) {
     constexpr std::size_t s_context = 16;
-    auto last = all.rbegin();
-    while (last != all.rend() && isTag(*last)) ++last;
-    bool const isWord = last != all.rend() && last->kind == Item::Kind::word;
+    Item* const last = lastContent();
+    bool const isWord = last != nullptr && last->kind == Item::Kind::word;
     if (!isWord || (last->mayBreakBehind && !last->hyphenates)) return;
-    std::uint32_t begin = last->begin;
-    for (auto before = last; before != all.rend() && isTextOrTag(*before); ++before) {
-        begin = before->begin;
-        if (last->end - begin >= s_context) break;
-    }
+    std::size_t const begin = textBegins > 0 ? all[textBegins - 1].end : 0;
     std::string_view const known = std::string_view(text).substr(begin, last->end - begin);
     std::size_t from = known.size() - std::min(known.size(), s_context);
     // Not within a character; all bytes may be ill-formed.
@@ -123,7 +109,7 @@ void Paragraph::joinTo(std::string_view decoded) {
         isBeforeLast = isBeforeLast || segment.next + ofLast == place;
     }
     // An opening quotation mark has waited for what is behind it.
-    if (isBeforeLast) partBefore(static_cast<std::size_t>(all.rend() - last) - 1, ofLast);
+    if (isBeforeLast) partBefore(tagsBegin - 1, ofLast);
 }
 
 /// Lets a line break before the last bytes of a word.
@@ -140,6 +126,7 @@ void Paragraph::partBefore(std::size_t index, std::size_t bytes) {
         word.mayBreakBehind = true;
         all.insert(all.begin() + static_cast<std::ptrdiff_t>(index) + 1, rest);
         ++contentEnd;
+        ++tagsBegin;
         return;
     }
     while (index > 0 && isTag(all[index - 1])) --index;

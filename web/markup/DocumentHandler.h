@@ -8,7 +8,8 @@
 namespace galley::web {
 
 /// Is told what is in a document: first its sheets, then elements and text in their order. What is
-/// in `head`, `script` and `template` is left out; of `style` elements there are only their sheets.
+/// in `head`, `script` and `template` is left out, but for its title; of `style` elements there are
+/// only their sheets.
 class DocumentHandler {
 public:
     virtual ~DocumentHandler() = default;
@@ -27,6 +28,8 @@ public:
     /// comments are in it; never empty. Of an `img` its `alt`. Valid during the call, as UTF-8 not
     /// necessarily.
     virtual void text(std::string_view decoded) = 0;
+    /// Text of the `title` in the head, likewise, in parts.
+    virtual void title(std::string_view decoded) = 0;
     /// Of the innermost element that is open.
     virtual void endElement(Element& element) = 0;
 };

@@ -33,6 +33,12 @@ bool isCharacter(std::uint32_t number) {
     return number > 0 && number <= s_lastCodePoint && !isSurrogate;
 }
 
+/// But white space.
+bool isControl(std::uint32_t number) {
+    bool const isSpace = number == '\t' || number == '\n' || number == '\r';
+    return !isSpace && (number < 0x20 || (number >= 0x7F && number < 0xA0));
+}
+
 std::optional<std::uint32_t> findEntity(std::string_view name) {
     auto const* const found = std::ranges::lower_bound(s_entities, name, {}, &Entity::name);
     if (found == std::end(s_entities) || found->name != name) return std::nullopt;
@@ -81,6 +87,11 @@ bool References::readReference() {
     auto const codePoint = isNumber ? parseNumber(name.substr(1)) : findEntity(name);
     bool const isName = !isNumber && !name.empty() && name.find('#') == std::string_view::npos;
     bool const isEnded = last != source.end() && *last == ';';
+    if (!isEnded && codePoint) {
+        std::string_view const begun = source.substr(at, name.size() + 1);
+        warn(problems, sourceOffset + at, "missing ';' behind " + quoted(begun));
+        return false;
+    }
     if (!isEnded || !(codePoint || isName)) {
         warn(problems, sourceOffset + at, "'&' begins no reference; write '&amp;'");
         return false;
@@ -92,6 +103,9 @@ bool References::readReference() {
     }
     if (!isCharacter(*codePoint)) {
         warn(problems, sourceOffset + at, quoted(reference) + " is no character");
+    } else if (isControl(*codePoint)) {
+        warn(problems, sourceOffset + at,
+             quoted(reference) + " is a control character, shown as U+FFFD");
     }
     decoded.clear();
     appendUtf8(decoded, *codePoint);

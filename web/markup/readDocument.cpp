@@ -47,16 +47,26 @@ private:
             case Piece::Kind::endTag:
                 return endElement(piece);
             default:
-                if (!isHidden()) run.add(piece);
+                if (!isHidden() || isTitle()) run.add(piece);
                 return true;
         }
     }
 
     bool isHidden() { return open.size() > 0 && open.innermost().isHidden; }
 
+    bool isTitle() {
+        return open.size() > 1 && open.innermost().element.name == "title" &&
+               open[open.size() - 2].element.name == "head";
+    }
+
     void handOverText() {
         std::string_view const text = run.take();
-        if (!text.empty()) handler.text(text);
+        if (text.empty()) return;
+        if (isHidden()) {
+            handler.title(text);
+        } else {
+            handler.text(text);
+        }
     }
 
     bool startElement(Piece& tag) {

@@ -2,8 +2,10 @@
 
 #include <optional>
 
+#include "web/css/characters.h"
 #include "web/markup/Scanner.h"
 #include "web/markup/Utf8Check.h"
+#include "web/wording.h"
 
 namespace galley::web {
 
@@ -48,9 +50,20 @@ private:
         if (tag.isClosed) return;
         ++depth;
         if (hiddenDepth == 0 && hidesSheets(tag.name)) hiddenDepth = depth;
-        if (hiddenDepth > 0 || sheet || tag.name != "style") return;
+        if (hiddenDepth > 0 || sheet || tag.name != "style" || !isCss(tag)) return;
         sheet.emplace(tag, problems);
         sheetDepth = depth;
+    }
+
+    /// Another language is passed over, as in a browser.
+    bool isCss(Piece const& tag) {
+        for (Attribute const& attribute : tag.attributes) {
+            bool const isType = attribute.name == "type" && !attribute.value.empty();
+            if (!isType || isSameWord(attribute.value, "text/css")) continue;
+            warn(problems, attribute.valueOffset, "a sheet that is not CSS has no effect");
+            return false;
+        }
+        return true;
     }
 
     void end() {

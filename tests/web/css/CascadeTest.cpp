@@ -121,7 +121,8 @@ TEST(Cascade, TakesAttributesForDeclarations) {
              {"<p id=\"x\" style=\" colour:red;color:red\"/>", "colour=palette 1;",
               "18 unknown property 'colour'; did you mean 'color'?\n"},
              {"<p id=\"x\" style=\"font:x\"><b style=\"color:a;font-size:1em\"/></p>", "",
-              "17 'font' has no effect\n41 'a' is no value of 'color'\n"},
+              "17 'font' has no effect, nor has anything else about fonts and line heights\n41 'a' "
+              "is no value of 'color'\n"},
              {"<p id=\"x\" style=\"color:a\"><b style=\"color:a\"/></p>", "",
               "23 'a' is no value of 'color'\n42 'a' is no value of 'color'\n"},
              {"<img id=\"x\" alt=\"a\" src=\"b\"/>", "", ""},

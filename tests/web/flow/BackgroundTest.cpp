@@ -98,5 +98,17 @@ TEST(Backgrounds, StickOutWithWhatHasThemWhateverIsBelow) {
     });
 }
 
+TEST(Backgrounds, OfTheBodyAreThoseOfThePageWhereItHasNone) {
+    expectBackgrounds({
+        {"<style>body{background:red;max-width:3ch}</style><p>a</p><p>b</p>",
+         "####################\n####################\n####################\n"},
+        {"<html><body style='background:red;max-width:3ch'>a</body></html>",
+         "####################\n"},
+        {"<html style='background:red'><body style='background:blue;max-width:3ch'>a</body></html>",
+         "+++#################\n"},
+        {"<div><body style='background:red;max-width:3ch'>b</body></div>", "###\n"},
+    });
+}
+
 }  // namespace
 }  // namespace galley::web

@@ -373,5 +373,39 @@ TEST(Pages, AreRefusedWhereTheyWouldBeTooLarge) {
     }
 }
 
+// A fragment is what it would be in the elements around it, whatever these are displayed as.
+TEST(Page, OfAFragmentIsThatOfItsContentInABody) {
+    constexpr char const* s_displays[] = {"none",
+                                          "block",
+                                          "inline",
+                                          "list-item",
+                                          "table",
+                                          "table-row-group",
+                                          "table-header-group",
+                                          "table-row",
+                                          "table-cell",
+                                          "table-caption",
+                                          "table-column",
+                                          "table-column-group"};
+    for (std::string const content :
+         {"a", "<b>a</b>b", "<p>a</p><p>b</p>", "<td>a</td>", "<ol><li>a</li></ol>b"}) {
+        for (std::string const html : s_displays) {
+            for (std::string const body : s_displays) {
+                std::string const sheet = "<style>html{display:" + html + "}body{display:" + body +
+                                          ";padding:0 1ch}</style>";
+                std::string const whole =
+                    "<html><head>" + sheet + "</head><body>" + content + "</body></html>";
+                EXPECT_EQ(textOf(sheet + content, 20), textOf(whole, 20)) << whole;
+            }
+        }
+    }
+    expectPictures({
+        {"<style>body{display:none}</style>a", 9, "\n"},
+        {"<html style='display:none'>a</html>", 9, "\n"},
+        {"<html style='display:table-row'>a</html>", 9, "\na\n"},
+        {"<style>body{display:table;margin:auto}</style>a<i>b</i>", 9, "\n   ab\n"},
+    });
+}
+
 }  // namespace
 }  // namespace galley::web

@@ -47,10 +47,12 @@ TEST(ReadDocument, HandsOverElementsAndTextAsTheyStand) {
     }
 }
 
-TEST(ReadDocument, LeavesOutHeadScriptsAndTemplates) {
+TEST(ReadDocument, LeavesOutHeadsButTheirTitleAndScriptsAndTemplates) {
     for (Case const& c : std::initializer_list<Case>{
-             {"<html><head><title>&x;</title><meta a='&'/></head><body>a</body></html>",
-              "<html><body>[a]</body></html>"},
+             {"<html><head><meta a='&'/><title>a &lt;<b>b</b><!-- c --> d</title><i>e</i></head>"
+              "<body>a</body></html>",
+              "<html>title[a <]title[ d]<body>[a]</body></html>"},
+             {"<script><title>a</title></script><head><i><title>b</title></i></head>", ""},
              {"a<script>b<p>c</p></script>d", "[a][d]"},
              {"<template><p><q/>a</p></template><p>b</p><script/>", "<p>[b]</p>"},
          }) {
@@ -70,6 +72,9 @@ TEST(ReadDocument, HandsOverSheetsFirst) {
               "{c}"},
              {"<template><script>a</script><style>b</style></template>", ""},
              {"<style/><p>a<style></style></p>", "{}<p>[a]</p>"},
+             {"<style type='TEXT/css'>a</style><style type=''>b</style><style type='text/x'>c"
+              "</style>",
+              "{a}{b}"},
              {"<p><![CDATA[<style>]]><styles/></p>", "<p>[<style>]<styles></styles></p>"},
          }) {
         EXPECT_EQ(Reading(c.markup).events, c.expected) << c.markup;
@@ -87,6 +92,7 @@ TEST(ReadDocument, KnowsWhereInTheDocumentASheetIs) {
         bool asksForLastChild() override { return false; }
         void startElement(Element&) override {}
         void text(std::string_view) override {}
+        void title(std::string_view) override {}
         void endElement(Element&) override {}
     } handler;
     std::vector<Problem> problems;

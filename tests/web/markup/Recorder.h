@@ -38,6 +38,10 @@ public:
         events.append("[").append(decoded).append("]");
     }
 
+    void title(std::string_view decoded) override {
+        events.append("title[").append(decoded) += "]";
+    }
+
     void endElement(Element& element) override {
         ASSERT_FALSE(open.empty());
         EXPECT_EQ(&element, open.back());

@@ -51,9 +51,12 @@ TEST(References, WhatIsNoneIsSaid) {
     } const cases[] = {
         {"&amp;amp;", "&amp;", ""},
         {"a & b", "a & b", "102 '&' begins no reference; write '&amp;'\n"},
-        {"&&lt;&amp", "&<&amp",
+        {"&&lt;&am", "&<&am",
          "100 '&' begins no reference; write '&amp;'\n105 '&' begins no reference; write "
          "'&amp;'\n"},
+        {"&amp &nbsp, &#65 &#x41", "&amp &nbsp, &#65 &#x41",
+         "100 missing ';' behind '&amp'\n105 missing ';' behind '&nbsp'\n"
+         "112 missing ';' behind '&#65'\n117 missing ';' behind '&#x41'\n"},
         {"a&b=c;d", "a&b=c;d", "101 '&' begins no reference; write '&amp;'\n"},
         {"&;&#;&#x;&#x1g;&#1a;&a#b;&#-1;", "&;&#;&#x;&#x1g;&#1a;&a#b;&#-1;",
          "100 '&' begins no reference; write '&amp;'\n102 '&' begins no reference; write '&amp;'\n"
@@ -65,6 +68,10 @@ TEST(References, WhatIsNoneIsSaid) {
         {"&#0;&#xD800;&#xDFFF;&#x110000;", "\uFFFD\uFFFD\uFFFD\uFFFD",
          "100 '&#0;' is no character\n104 '&#xD800;' is no character\n"
          "112 '&#xDFFF;' is no character\n120 '&#x110000;' is no character\n"},
+        {"&#9;&#10;&#13;&#27;&#x7f;&#150;&#160;", "\t\n\r\x1B\x7F\u0096\u00A0",
+         "114 '&#27;' is a control character, shown as U+FFFD\n"
+         "119 '&#x7f;' is a control character, shown as U+FFFD\n"
+         "125 '&#150;' is a control character, shown as U+FFFD\n"},
         {"&#4294967361;", "\uFFFD", "100 '&#4294967361;' is no character\n"},
     };
     for (auto const& [source, text, problems] : cases) {
