@@ -157,7 +157,8 @@ class Blocks:
         return spanning_table(self._chosen, self._words)
 
     def _empty(self, _):
-        inner = self._chosen.pick(["", " ", "<p></p>", '<div style="margin: 2lh 0"></div>'])
+        inner = self._chosen.pick(["", " ", "<p></p>", '<div style="margin: 2lh 0"></div>',
+                                   '<b style="padding-left: 2ch"></b>'])
         return self._chosen.use("empty block", f"<div{self._attributes(share=0.6)}>{inner}</div>")
 
     def _line(self, _):
@@ -183,7 +184,7 @@ class Blocks:
                         for _ in range(self._chosen.number(1, 2)))
         return self._chosen.use("dl", f"<dl>{pairs}</dl>")
 
-    def _list(self, depth):
+    def _list(self, depth, is_nested=False):
         chosen, style, start = self._chosen, [], ""
         tag, kind = chosen.pick(["ul", "ol", "ol"]), chosen.pick(MARKERS)
         if chosen.chance(0.8):
@@ -192,8 +193,10 @@ class Blocks:
             style.append(chosen.use("list-style-position: inside", "list-style-position: inside"))
         if tag == "ol" and chosen.chance(0.3):
             start = chosen.use("list start", f' start="{chosen.pick([0, 1, 3, 8, 9])}"')
-        # Room for "viii." and the blank behind it.
-        style.append("padding-left: 7ch !important")
+        # Room for "viii." and the blank behind it; in a list of that room what is usual will do.
+        is_short = kind in ("disc", "circle", "square")
+        if not (is_nested and is_short):
+            style.append("padding-left: 7ch !important")
         items = "".join(self._item(depth) for _ in range(chosen.number(1, 4)))
         chosen.use(f"list depth {min(depth, 2)}")
         return f"<{tag}{start}{self._attributes(style, 0.1)}>{items}</{tag}>"
@@ -210,5 +213,5 @@ class Blocks:
         if chosen.chance(0.1):
             inner += self._terms(depth)
         if chosen.chance(0.2) and depth < 2:
-            inner += self._list(depth + 1)
+            inner += self._list(depth + 1, is_nested=True)
         return f"<li{value}{self._attributes(share=0.1)}>{inner}</li>"

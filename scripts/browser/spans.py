@@ -1,6 +1,7 @@
-"""Small tables that cells spanning columns or rows decide, with columns of whole cells."""
+"""Small tables that cells spanning columns or rows decide, or how high cells beside them are, with
+columns and rows of whole cells."""
 
-KINDS = "content content narrow fixed share rest lasting".split()
+KINDS = "content content narrow fixed share rest lasting high".split()
 
 
 def spanning_table(chosen, words):
@@ -32,5 +33,10 @@ def rows(kind, chosen, words):
         return f'<tr><td colspan="2" style="width: 50%">a</td>{cell}</tr><tr>{cell * 3}</tr>'
     if kind == "rest":
         return '<tr><td style="width: 75%">a</td><td style="width: 50%">b</td></tr>'
-    lasting = f'<td rowspan="0" style="vertical-align: top">{wide[0]}</td>'
-    return f"<tr>{lasting}{cell}</tr>" + f"<tr>{cell}</tr>" * chosen.number(1, 2)
+    if kind == "high":
+        row, own = chosen.pick([("middle", "inherit"), ("top", "middle"), ("bottom", "inherit")])
+        text = f'<td style="vertical-align: {own}">{wide[0]}</td>'
+        return f'<tr style="vertical-align: {row}">{text}<td>a<br/>b<br/>c</td></tr>'
+    lasting = f'<td rowspan="{chosen.pick([0, 4])}" style="vertical-align: top">{wide[0]}</td>'
+    group = f"<tr>{lasting}{cell}</tr>" + f"<tr>{cell}</tr>" * chosen.number(1, 2)
+    return f"<tbody>{group}</tbody><tbody><tr>{cell}</tr></tbody>"

@@ -47,7 +47,7 @@ class Tables:
             style += self._edges()
         if cell.startswith(bordered):
             chosen.use(bordered)
-        spans = cell in (bordered, "") and chosen.chance(0.7)
+        spans = cell in (bordered, "") and chosen.chance(0.5 if collapses else 0.7)
         share = 0.5 if "fixed" in "".join(style) else 0.15
         cells = Cells(depth, cell, cell_widths, share, chosen.chance(0.1))
         body = self._rows(cells, columns, rows, spans, collapses)
@@ -81,19 +81,20 @@ class Tables:
         chosen = self._choices
         if not chosen.chance(0.3):
             return ""
-        def styled(kind):
+        def styled(kind, sides=("left", "right")):
             choices = [chosen.background(), ""]
             if not collapses:
                 choices += [f"width: {chosen.number(2, 12)}ch"] * 2
             if collapses and not spans:
-                choices += [f"border-{chosen.pick(['left', 'right'])}: solid"] * 2
+                choices += [f"border-{chosen.pick(sides)}: solid"] * 4
             chosen.use(kind)
             return f' style="{chosen.pick(choices)}"'
         count = columns if spans else chosen.number(1, columns)
+        sides = ("top", "bottom") if count == columns else ("left", "right")
         if chosen.chance(0.3):
-            return f'<colgroup span="{count}"{styled("colgroup")}/>'
+            return f'<colgroup span="{count}"{styled("colgroup", sides)}/>'
         if chosen.chance(0.3):
-            return f'<col span="{count}"{styled("col")}/>'
+            return f'<col span="{count}"{styled("col", sides)}/>'
         cols = "".join(f"<col{styled('col')}/>" for _ in range(count))
         return f"<colgroup{styled('colgroup')}>{cols}</colgroup>" if chosen.chance(0.4) else cols
 
@@ -150,7 +151,10 @@ class Tables:
         chosen, style = self._choices, []
         if chosen.chance(0.1):
             style.append(chosen.use("row background", chosen.background()))
-        if has_lines and chosen.chance(0.2):
+        if chosen.chance(0.1):
+            side = chosen.pick(["middle", "bottom"])
+            style.append(chosen.use("row vertical-align", f"vertical-align: {side}"))
+        if has_lines and chosen.chance(0.3):
             line = chosen.pick(["solid", "solid", "hidden"])
             side = chosen.pick(["top", "bottom"])
             style.append(chosen.use("row border", f"border-{side}: {line}"))
@@ -191,6 +195,8 @@ class Tables:
             style.append(chosen.use("vertical-align", f"vertical-align: {side}"))
         if chosen.chance(0.05):
             style.append(chosen.use("cell background", chosen.background()))
+        if "solid" in kind.style and chosen.chance(0.05):
+            style.append(chosen.use("hidden cell", "visibility: hidden"))
         if chosen.chance(0.1):
             style.append(chosen.text_declaration())
         attribute = f' style="{"; ".join(style)}"' if style else ""
