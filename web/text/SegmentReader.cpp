@@ -7,6 +7,7 @@
 
 #include "web/text/asciiBreaks.h"
 #include "web/text/ideographs.h"
+#include "web/text/letters.h"
 #include "web/text/scanWord.h"
 #include "web/text/utf8.h"
 #include "web/text/whiteSpace.h"
@@ -54,7 +55,8 @@ bool SegmentReader::next(Segment& segment) {
     if (isAtEnd()) return false;
     segment = {.begin = at};
     bool const isByClusters = options.wordBreak == WordBreak::breakAll || !isAscii(text[at]);
-    if (isByClusters || !readAscii(segment)) readClusters(segment);
+    bool const isRead = !isByClusters && readAscii(segment);
+    if (!isRead && !readLetters(segment)) readClusters(segment);
     at = segment.next;
     return true;
 }
@@ -118,12 +120,42 @@ bool SegmentReader::readAscii(Segment& segment) const {
     if (i < text.size() && !isWhiteSpace(text[i])) return false;
     segment.end = i;
     segment.width = i - at;
-    if (i < text.size() && text[i] == ' ' && isWord(i + 1)) {
-        segment.next = i + 1;
-        segment.behind = Behind::space;
-    } else {
-        readBehind(segment);
+    readBehind(segment);
+    return true;
+}
+
+/// Reads a whole word of letters, not all of them ASCII, with what commonly stands around them, in
+/// which no line breaks. Fails at all else.
+bool SegmentReader::readLetters(Segment& segment) const {
+    bool const isWhole = at == 0 || isWhiteSpace(text[at - 1]);
+    if (!isWhole || options.wordBreak == WordBreak::breakAll || options.isAmbiguousWide)
+        return false;
+    std::size_t i = at;
+    std::size_t letters = 0;
+    bool isBehindLetter = false;
+    while (i < text.size() && !isWhiteSpace(text[i])) {
+        bool const isFirst = i == at;
+        if (isLetterAt(text, i)) {
+            if (!isFirst && !joinsLetterBehind(text[i - 1])) return false;
+            std::size_t const first = i;
+            do i += s_letterBytes;
+            while (isLetterAt(text, i));
+            letters += (i - first) / s_letterBytes;
+            isBehindLetter = true;
+            continue;
+        }
+        if (!isPrintableAscii(text[i])) return false;
+        bool const isJoined =
+            isFirst || (isBehindLetter ? joinsLetterBefore(text[i])
+                                       : !breaksInAscii(text, i, false, options.before));
+        if (!isJoined) return false;
+        isBehindLetter = false;
+        ++i;
     }
+    segment.isPlain = false;
+    segment.end = i;
+    segment.width = i - at - letters;
+    readBehind(segment);
     return true;
 }
 
@@ -199,6 +231,12 @@ Properties SegmentReader::tailored(Properties properties) const {
 void SegmentReader::readBehind(Segment& segment) const {
     segment.next = segment.end;
     if (segment.end == text.size()) return;
+    bool const isLast = segment.end + 1 == text.size();
+    if (text[segment.end] == ' ' && !isLast && !isWhiteSpace(text[segment.end + 1])) {
+        segment.behind = Behind::space;
+        ++segment.next;
+        return;
+    }
     if (options.whiteSpace == WhiteSpace::preserved) return readPreserved(segment);
     segment.behind = Behind::space;
     std::size_t const blanks = behindRun(text, " \t", segment.end);

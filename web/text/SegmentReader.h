@@ -90,6 +90,7 @@ public:
 
 private:
     bool readAscii(Segment& segment) const;
+    bool readLetters(Segment& segment) const;
     void readClusters(Segment& segment);
     Cluster startWord();
     bool mayBreakBetween(Cluster const& before, Cluster const& behind) const;

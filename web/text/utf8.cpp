@@ -88,6 +88,7 @@ std::size_t skipAscii(std::string_view text, std::size_t from) {
 
 std::size_t findIllFormed(std::string_view text, std::size_t from) {
     for (from = skipAscii(text, from); from < text.size();) {
+        while (isPairAt(text, from)) from += 2;
         while (isCommonAt(text, from)) from += 3;
         if (from == text.size()) break;
         CodePoint const found = decodeAnyAt(text, from);

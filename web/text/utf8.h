@@ -19,6 +19,14 @@ struct CodePoint {
 /// What `decodeAt` reads, whatever it is.
 CodePoint decodeAnyAt(std::string_view text, std::size_t at);
 
+/// Whether a well-formed character of two bytes begins at a byte of the text, or at its end.
+inline bool isPairAt(std::string_view text, std::size_t at) {
+    if (text.size() - at < 2) return false;
+    auto const first = static_cast<unsigned char>(text[at]);
+    auto const second = static_cast<unsigned char>(text[at + 1]);
+    return first >= 0xC2 && first <= 0xDF && (second & 0xC0U) == 0x80;
+}
+
 /// Whether a well-formed character of three bytes begins at a byte of the text, or at its end: but
 /// for those with the two first bytes behind which not all is well-formed.
 inline bool isCommonAt(std::string_view text, std::size_t at) {

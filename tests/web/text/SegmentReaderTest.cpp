@@ -5,8 +5,10 @@
 #include <random>
 #include <vector>
 
+#include "web/css/characters.h"
 #include "web/text/asciiBreaks.h"
 #include "web/text/asciiPairs.h"
+#include "web/text/letters.h"
 #include "web/text/utf8.h"
 
 namespace galley::web {
@@ -271,6 +273,46 @@ TEST(Segments, WordsAreWhatSegmentsWouldBe) {
             EXPECT_EQ(found.next, expected.next) << text;
             EXPECT_EQ(found.behind, expected.behind) << text;
         }
+    }
+}
+
+// Where ambiguous characters are wide all of them are read cluster by cluster.
+TEST(Segments, OfLettersAreThoseOfTheirClusters) {
+    std::mt19937 random(1);
+    std::vector<std::string> const pieces = {"\u00E9", "\u00DF", "\u03BB", "\u0416", "\u0301",
+                                             "\u00D7", "\u00AD", "\u0483", "e",      "0",
+                                             " ",      "-",      "\n"};
+    for (int round = 0; round < 30000; ++round) {
+        std::string text;
+        for (std::size_t i = 1 + random() % 9; i > 0; --i) {
+            std::size_t const kind = random() % 8;
+            text += kind == 0   ? std::string(1, static_cast<char>(' ' + random() % 95))
+                    : kind == 1 ? pieces[random() % pieces.size()]
+                                : pieces[random() % 4];
+        }
+        TextOptions options = {.whiteSpace = static_cast<WhiteSpace>(random() % 3),
+                               .wordBreak = static_cast<WordBreak>(random() % 2)};
+        SegmentReader reader(text, options);
+        options.isAmbiguousWide = true;
+        SegmentReader byClusters(text, options);
+        Segment expected;
+        Segment found;
+        while (byClusters.next(expected)) {
+            ASSERT_TRUE(reader.next(found)) << text;
+            ASSERT_EQ(found.end, expected.end) << text;
+            ASSERT_EQ(found.next, expected.next) << text;
+            ASSERT_EQ(found.behind, expected.behind) << text;
+            check(text, found, {});
+        }
+    }
+    for (char32_t c = 0x80; c < 0x800; ++c) {
+        std::string text;
+        appendUtf8(text, c);
+        EXPECT_EQ(isLetterAt(text, 0), isCommonLetter(c));
+        if (!isCommonLetter(c)) continue;
+        Cluster const cluster = clusterAt(text + "a", 0, false);
+        EXPECT_TRUE(cluster.width == 1 && cluster.end == 2 && cluster.isPrintedAsIs);
+        EXPECT_EQ(cluster.properties.lineClass, LineClass::AL) << static_cast<unsigned>(c);
     }
 }
 
