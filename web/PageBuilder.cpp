@@ -115,10 +115,10 @@ void PageBuilder::text(std::string_view decoded) {
         openAnonymousCell();
     }
     Frame& current = frame();
-    bool const isFirst = current.plain.empty() && !current.hasParagraph;
+    bool const isFirst = current.plain.text.empty() && !current.hasParagraph;
     if (isFirst && isOfBlanks && current.style->whiteSpace == WhiteSpace::normal) return;
     if (isFirst && readPlainText(current.plain, decoded, *current.style)) return;
-    if (isFirst) current.plain.clear();
+    if (isFirst) current.plain.text.clear();
     paragraph().addText(decoded);
 }
 

@@ -76,7 +76,7 @@ private:
         /// What has been read since the last block in it: a text that came alone, while it is
         /// plain, or a paragraph, if it has begun.
         ///@{
-        std::string plain;
+        KeptText plain;
         Paragraph paragraph;
         bool hasParagraph = false;
         ///@}

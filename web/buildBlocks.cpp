@@ -83,8 +83,8 @@ Paragraph& PageBuilder::paragraph() {
     Frame& current = frame();
     if (!std::exchange(current.hasParagraph, true)) {
         current.paragraph.begin(*current.style);
-        current.paragraph.addText(current.plain);
-        current.plain.clear();
+        current.paragraph.addText(current.plain.text);
+        current.plain.text.clear();
     }
     return current.paragraph;
 }
@@ -92,10 +92,11 @@ Paragraph& PageBuilder::paragraph() {
 /// Hands on what has been read since the last block. Inline elements that are open go on behind it.
 void PageBuilder::endParagraph() {
     Frame& current = frame();
-    if (!current.plain.empty()) {
-        if (current.plain.back() == ' ') current.plain.pop_back();
-        current.sink->add(PlainText{current.style, current.plain});
-        return current.plain.clear();
+    std::string& text = current.plain.text;
+    if (!text.empty()) {
+        if (text.back() == ' ') text.pop_back();
+        current.sink->add(current.plain.view());
+        return text.clear();
     }
     if (!current.hasParagraph) return;
     if (current.paragraph.hasOpen()) {

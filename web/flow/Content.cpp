@@ -26,11 +26,12 @@ bool isOfSingleCells(Paragraph const& paragraph) {
 }
 
 /// Cells of the longest word.
-int longestWord(std::string_view text) {
+int longestWord(PlainText const& plain) {
     std::size_t longest = 0;
+    std::string_view text = plain.text;
     while (text.size() > longest) {
         std::size_t const length = std::min(text.find(' '), text.size());
-        longest = std::max(longest, length);
+        if (length > longest) longest = std::max(longest, plain.cellsOf(text.substr(0, length)));
         text.remove_prefix(std::min(length + 1, text.size()));
     }
     return static_cast<int>(longest);
@@ -38,11 +39,12 @@ int longestWord(std::string_view text) {
 
 /// In the widest line of a text where all lines break that may.
 int widestLine(PlainText const& text, bool partsWords, int indentation) {
-    if (indentation == 0) return partsWords ? 1 : longestWord(text.text);
+    if (indentation == 0) return partsWords ? 1 : longestWord(text);
     int widest = 0;
-    breakLines(text, 0, partsWords, indentation, [&widest](std::string_view line, int indent) {
-        widest = std::max(widest, indent + static_cast<int>(line.size()));
-    });
+    breakLines(text, 0, partsWords, indentation,
+               [&widest](std::string_view, int cells, int indent) {
+                   widest = std::max(widest, indent + cells);
+               });
     return widest;
 }
 
@@ -76,13 +78,14 @@ void ContentSink::add(PlainText const& text) {
     takeIndent(*text.block);
     take(measure(text, Wrapping::asStyled));
     if (!filled->isEmpty()) {
-        entries().emplace_back(Content::KeptText{text.block, std::string(text.text)});
+        entries().emplace_back(KeptText{text.block, std::string(text.text), text.isAscii});
         return;
     }
     auto* const copy = static_cast<char*>(texts.allocate(text.text.size(), 1));
     text.text.copy(copy, text.text.size());
     filled->text = copy;
     filled->textSize = static_cast<std::uint32_t>(text.text.size());
+    filled->isAscii = text.isAscii;
 }
 
 void ContentSink::add(Paragraph const& paragraph) {
@@ -167,7 +170,7 @@ Widths measure(PlainText const& text, Wrapping wrapping) {
     bool const partsWords =
         LineBreaker::mayPart(*text.block, LineBreaker::Purpose::measuring, wrapping);
     int const indent = across(text.block->textIndent, 0);
-    int const most = std::max(0, static_cast<int>(text.text.size()) + indent);
+    int const most = std::max(0, static_cast<int>(text.cellsOf(text.text)) + indent);
     return {widestLine(text, partsWords, indent), most};
 }
 

@@ -79,15 +79,9 @@ private:
         std::unique_ptr<OutsideMarker> marker;
     };
     struct Close {};
-    struct KeptText {
-        Style const* block = nullptr;
-        std::string text;
-
-        PlainText view() const { return {block, text}; }
-    };
     using Entry = std::variant<Open, Close, KeptText, PackedParagraph, std::unique_ptr<Table>>;
 
-    PlainText first() const { return {ownStyle, {text, textSize}}; }
+    PlainText first() const { return {ownStyle, {text, textSize}, isAscii}; }
 
     Style const* ownStyle;
     /// A text that comes first, of the cell's own. In most cells there is nothing else.
@@ -98,6 +92,7 @@ private:
     int mostOutdent = 0;
     Widths measured;
     Colour ground;
+    bool isAscii = false;
 };
 
 /// Takes the content of one cell or caption after the other, and has the texts that come first.

@@ -93,8 +93,7 @@ void Flow::add(PlainText const& text) {
     using Purpose = LineBreaker::Purpose;
     bool const partsWords = LineBreaker::mayPart(style, Purpose::layingOut, wrapping);
     Look const look = lookOf(style, background());
-    auto const addLine = [&](std::string_view words, int indent) {
-        auto const length = static_cast<int>(words.size());
+    auto const addLine = [&](std::string_view words, int length, int indent) {
         int const column = contentLeft() + columnOfLine(style, columns(), indent, length);
         beginRow();
         bool const isWithin = column >= row.width() && column + length <= innerRight();

@@ -6,8 +6,10 @@
 
 namespace galley::web {
 
-bool readPlainText(std::string& plain, std::string_view decoded, Style const& block) {
-    plain.clear();
+bool readPlainText(KeptText& plain, std::string_view decoded, Style const& block) {
+    plain.block = &block;
+    plain.text.clear();
+    plain.isAscii = true;
     // Those are broken by other rules, and these are spread.
     if (block.whiteSpace != WhiteSpace::normal || block.textAlign == TextAlign::justify)
         return false;
@@ -15,26 +17,29 @@ bool readPlainText(std::string& plain, std::string_view decoded, Style const& bl
     SegmentReader reader(decoded, textOptions(block));
     Segment segment;
     for (;;) {
-        plain += reader.takeWords();
+        plain.text += reader.takeWords();
         if (!reader.next(segment)) return true;
         using Behind = Segment::Behind;
         bool const isBeforeBlank = segment.behind == Behind::space;
-        if (!segment.isPlain || (!isBeforeBlank && segment.behind != Behind::end)) return false;
-        plain += decoded.substr(segment.begin, segment.end - segment.begin);
-        if (isBeforeBlank && !plain.empty() && plain.back() != ' ') plain += ' ';
+        if (!segment.isOfLetters || (!isBeforeBlank && segment.behind != Behind::end)) return false;
+        plain.isAscii = plain.isAscii && segment.isPlain;
+        plain.text += decoded.substr(segment.begin, segment.end - segment.begin);
+        if (isBeforeBlank && !plain.text.empty() && plain.text.back() != ' ') plain.text += ' ';
     }
 }
 
-PlainLine plainLine(std::string_view text, int columns, bool partsWords) {
+PlainLine plainLine(PlainText const& plain, int columns, bool partsWords) {
     auto const room = static_cast<std::size_t>(std::max(columns, 0));
-    if (text.size() <= room) return {text.size(), text.size()};
-    std::size_t end = text.rfind(' ', room);
+    std::string_view const text = plain.text;
+    std::size_t const reached = plain.bytesOf(room);
+    std::size_t end = reached == text.size() ? reached : text.rfind(' ', reached);
     if (end == std::string_view::npos) {
-        end = partsWords ? std::max<std::size_t>(room, 1) : text.find(' ', room);
+        end = partsWords ? plain.bytesOf(std::max<std::size_t>(room, 1)) : text.find(' ', reached);
         end = std::min(end, text.size());
     }
+    std::string_view const line = text.substr(0, end);
     bool const isBeforeBlank = end < text.size() && text[end] == ' ';
-    return {end, end + (isBeforeBlank ? 1 : 0)};
+    return {line, static_cast<int>(plain.cellsOf(line)), end + (isBeforeBlank ? 1 : 0)};
 }
 
 }  // namespace galley::web

@@ -91,12 +91,12 @@ void TableBand::layOutText(LaidCell& placed, PlainText const& text, Wrapping wra
     int const leftmost = placed.left - placed.contentLeft;
     placed.firstLine = lines.size();
     int const firstIndent = std::max(acrossRoundedUp(style.textIndent, columns), leftmost);
-    breakLines(text, columns, partsWords, firstIndent, [&](std::string_view line, int indent) {
-        auto const width = static_cast<int>(line.size());
-        int const column = columnOfLine(style, columns, indent, width);
-        lines.push_back({line, {0, line.size(), look}, column});
+    auto const take = [&](std::string_view line, int cells, int indent) {
+        int const column = columnOfLine(style, columns, indent, cells);
+        lines.push_back({line, {0, line.size(), look}, cells, column});
         budget.take(line.size() + 1);
-    });
+    };
+    breakLines(text, columns, partsWords, firstIndent, take);
     placed.endLine = lines.size();
 }
 

@@ -98,9 +98,10 @@ private:
     struct Line {
         std::string_view text;
         RowSpan looks;
+        int cells;
         int indent;
 
-        RowView view() const { return {text, std::span(&looks, 1), static_cast<int>(text.size())}; }
+        RowView view() const { return {text, std::span(&looks, 1), cells}; }
     };
 
     std::size_t index(int row) const { return static_cast<std::size_t>(row - first); }

@@ -160,7 +160,7 @@ bool SegmentReader::readLetters(Segment& segment) const {
 }
 
 void SegmentReader::readClusters(Segment& segment) {
-    segment.isPlain = false;
+    segment.isPlain = segment.isOfLetters = false;
     bool const goesOn = following.begin == at && following.end > at;
     Cluster cluster = goesOn ? following : startWord();
     while (cluster.begin < wordEnd) {

@@ -49,6 +49,8 @@ struct Segment {
     /// Printable ASCII: a cell a byte, printed as it is. Else `clusterAt`, given the text up to
     /// `end`, goes through it, and `appendPrinted` prints it.
     bool isPlain = true;
+    /// Besides, there may be common letters beyond ASCII; each character has a cell.
+    bool isOfLetters = true;
     /// `appendPrinted` appends just the bytes, as of all that is plain.
     bool isPrintedAsIs = true;
 };

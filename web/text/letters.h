@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -42,6 +43,30 @@ inline bool isLetterAt(std::string_view text, std::size_t at) {
     if (first < s_firstLead || first > s_lastLead) return false;
     return (s_letters[first - s_firstLead] >> (static_cast<unsigned char>(text[at + 1]) & 0x3FU) &
             1U) != 0;
+}
+
+/// Cells of a text of printable ASCII and such letters.
+inline std::size_t cellsOfLetters(std::string_view text) {
+    std::size_t const ascii = skipAscii(text, 0);
+    auto const goesOn = [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
+    };
+    auto const others = std::ranges::count_if(text.substr(ascii), goesOn);
+    return text.size() - static_cast<std::size_t>(others);
+}
+
+/// The bytes of so many cells at the start of such a text, all of it where it has no more.
+inline std::size_t bytesOfCells(std::string_view text, std::size_t cells) {
+    std::size_t bytes = std::min(cells, text.size());
+    std::size_t known = cellsOfLetters(text.substr(0, bytes));
+    while (known < cells && bytes < text.size()) {
+        std::string_view const more = text.substr(bytes, cells - known);
+        known += cellsOfLetters(more);
+        bytes += more.size();
+    }
+    // Not within a letter.
+    bool const isWithin = bytes > 0 && isPairAt(text, bytes - 1);
+    return bytes + (isWithin ? 1 : 0);
 }
 
 /// Whether no line breaks between a character of ASCII and such a letter behind it, or before it: a

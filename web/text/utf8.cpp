@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstring>
+
+#include "web/text/bytes.h"
 
 namespace galley::web {
 
@@ -72,15 +73,14 @@ std::size_t startBefore(std::string_view text, std::size_t at) {
 }
 
 std::size_t skipAscii(std::string_view text, std::size_t from) {
-    constexpr std::uint64_t s_highBits = 0x8080808080808080;
-    std::uint64_t bytes = 0;
-    for (; text.size() - from >= sizeof(bytes); from += sizeof(bytes)) {
-        std::memcpy(&bytes, text.data() + from, sizeof(bytes));
-        if ((bytes & s_highBits) != 0) break;
+    constexpr unsigned char s_highest = 0x7F;
+    for (; text.size() - from >= sizeof(Bytes); from += sizeof(Bytes)) {
+        Mask const areOthers = bytesAt(text.data() + from) > s_highest;
+        if (isAny(areOthers)) return from + firstOf(areOthers);
     }
-    if (text.size() >= sizeof(bytes) && text.size() - from < sizeof(bytes)) {
-        std::memcpy(&bytes, text.data() + text.size() - sizeof(bytes), sizeof(bytes));
-        if ((bytes & s_highBits) == 0) return text.size();
+    if (text.size() >= sizeof(Bytes)) {
+        Bytes const last = bytesAt(text.data() + text.size() - sizeof(Bytes));
+        if (!isAny(last > s_highest)) return text.size();
     }
     while (from < text.size() && isAscii(text[from])) ++from;
     return from;
