@@ -27,6 +27,15 @@ inline unsigned firstOf(Mask mask) {
     return (halves[0] != 0 ? 0U : 8U) + static_cast<unsigned>(zeros) / 8;
 }
 
+/// For how many it holds.
+inline unsigned countOf(Mask mask) {
+    constexpr std::uint64_t s_ones = 0x0101010101010101;
+    std::uint64_t halves[2];
+    std::memcpy(halves, &mask, sizeof(halves));
+    std::uint64_t const sums = (halves[0] & s_ones) + (halves[1] & s_ones);
+    return static_cast<unsigned>(sums * s_ones >> 56U);
+}
+
 /// Whether it holds for any.
 inline bool isAny(Mask mask) {
     std::uint64_t halves[2];

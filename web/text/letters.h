@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "web/text/asciiBreaks.h"
+#include "web/text/bytes.h"
 #include "web/text/utf8.h"
 
 namespace galley::web {
@@ -47,12 +48,17 @@ inline bool isLetterAt(std::string_view text, std::size_t at) {
 
 /// Cells of a text of printable ASCII and such letters.
 inline std::size_t cellsOfLetters(std::string_view text) {
-    std::size_t const ascii = skipAscii(text, 0);
-    auto const goesOn = [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
-    };
-    auto const others = std::ranges::count_if(text.substr(ascii), goesOn);
-    return text.size() - static_cast<std::size_t>(others);
+    constexpr unsigned char s_ofFirsts = 0xC0;
+    constexpr unsigned char s_second = 0x80;
+    std::size_t cells = text.size();
+    std::size_t i = 0;
+    for (; text.size() - i >= sizeof(Bytes); i += sizeof(Bytes)) {
+        cells -= countOf((bytesAt(text.data() + i) & s_ofFirsts) == s_second);
+    }
+    for (; i < text.size(); ++i) {
+        if ((static_cast<unsigned char>(text[i]) & s_ofFirsts) == s_second) --cells;
+    }
+    return cells;
 }
 
 /// The bytes of so many cells at the start of such a text, all of it where it has no more.
