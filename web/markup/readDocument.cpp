@@ -8,6 +8,7 @@
 #include "web/markup/Scanner.h"
 #include "web/markup/TextRun.h"
 #include "web/markup/Utf8Check.h"
+#include "web/markup/encoding.h"
 #include "web/markup/findLastChildren.h"
 #include "web/markup/readSheets.h"
 #include "web/markup/vocabulary.h"
@@ -200,6 +201,7 @@ private:
 
 bool readDocument(std::string_view markup, DocumentHandler& handler,
                   std::vector<Problem>& problems) {
+    if (!checkEncoding(markup, problems)) return false;
     readSheets(markup, handler, problems);
     return DocumentReader(markup, handler, problems).read();
 }

@@ -100,6 +100,18 @@ TEST(ReadDocument, KnowsWhereInTheDocumentASheetIs) {
     EXPECT_EQ(handler.places, "11 12 13 17 27 28 39 ");
 }
 
+TEST(ReadDocument, WarnsOfAnotherEncoding) {
+    for (Case const& c : std::initializer_list<Case>{
+             {"\xEF\xBB\xBF<?xml encoding='x-y' ?>a",
+              "19 warning: documents are UTF-8; encoding 'x-y' has no effect\n"},
+             {"<?xml version='1.0' encoding=\"UTF-8\"?><?xml encoding='x'?>", ""},
+             {"<?xml encoding='?>", ""},
+             {"a<?xml encoding='x'?>", ""},
+         }) {
+        EXPECT_EQ(Reading(c.markup).problems, c.expected) << c.markup;
+    }
+}
+
 TEST(ReadDocument, NumbersElementsAndKnowsTheLast) {
     EXPECT_EQ(Reading("a<p><i/><script/><b><u/></b>c</p><q/><style/>", true).events,
               "[a]<p 1><i 1></i><b 3!><u 1!></u></b>[c]</p><q 2></q>");
@@ -111,6 +123,9 @@ TEST(ReadDocument, NumbersElementsAndKnowsTheLast) {
 TEST(ReadDocument, SaysWhatIsWrongAndWhere) {
     std::string const character = "; write '&lt;' for the character itself\n";
     for (Case const& c : std::initializer_list<Case>{
+             {"\xFF\xFE<\0p\0"s,
+              "0 error: Documents are UTF-8, which this one, as UTF-16, is not\n"},
+             {"<\0p\0"s, "0 error: Documents are UTF-8, which this one, as UTF-16, is not\n"},
              {"<p>\n a < b</p>", "7 error: Expecting element name behind '<'" + character},
              {"a<", "1 error: Expecting element name behind '<'" + character},
              {"<p></ p>", "3 error: Expecting element name behind '</'\n"},
