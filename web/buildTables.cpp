@@ -54,7 +54,6 @@ PageBuilder::Role PageBuilder::openTablePart(Element const& element, Style const
 }
 
 int PageBuilder::spanOf(Element const& element, std::string_view attributeName, Limits limits) {
-    if (element.attributes.empty()) return 1;
     return integerAttribute(element, attributeName, limits, problems).value_or(1);
 }
 

@@ -37,8 +37,8 @@ std::optional<Integer> parseInteger(std::string_view text) {
 
 }  // namespace
 
-std::optional<int> integerAttribute(Element const& element, std::string_view name, Limits limits,
-                                    std::vector<Problem>& problems) {
+std::optional<int> readInteger(Element const& element, std::string_view name, Limits limits,
+                               std::vector<Problem>& problems) {
     auto const found = std::ranges::find(element.attributes, name, &Attribute::name);
     if (found == element.attributes.end()) return std::nullopt;
     auto const say = [&](std::string const& what) {

@@ -52,9 +52,10 @@ inline std::size_t scanPrintable(std::string_view text, std::size_t from) {
     return from;
 }
 
-/// The first byte at `from` or behind it that is neither plain nor a blank, or that is a blank and
+/// The first byte at `start` or behind it that is neither plain nor a blank, or that is a blank and
 /// has another one behind it. The text's size without one.
-inline std::size_t scanWords(std::string_view text, std::size_t from) {
+inline std::size_t scanWords(std::string_view text, std::size_t const start) {
+    std::size_t from = start;
     for (; text.size() - from > 16; from += 16) {
         Bytes const bytes = bytesAt(text.data() + from);
         Mask const areBlanks = bytes == static_cast<unsigned char>(' ');
@@ -63,6 +64,18 @@ inline std::size_t scanWords(std::string_view text, std::size_t from) {
         Mask const areOthers = areNotPlain(bytes) & ~areBlanks;
         unsigned const count = firstOf(areOthers | (areBlanks & areBeforeBlanks));
         if (count < 16) return from + count;
+    }
+    if (text.size() > start + 16) {
+        // The last bytes, some of which have been looked at, and those before each.
+        std::size_t const last = text.size() - 16;
+        Bytes const bytes = bytesAt(text.data() + last);
+        Mask const areBlanks = bytes == static_cast<unsigned char>(' ');
+        Mask const areBehindBlanks =
+            bytesAt(text.data() + last - 1) == static_cast<unsigned char>(' ');
+        Mask const areSeconds = areBlanks & areBehindBlanks;
+        unsigned const count = firstOf((areNotPlain(bytes) & ~areBlanks) | areSeconds);
+        bool const isSecond = count < 16 && text[last + count] == ' ';
+        return last + count - (isSecond ? 1 : 0);
     }
     for (; from < text.size(); ++from) {
         bool const isBlank = text[from] == ' ';
