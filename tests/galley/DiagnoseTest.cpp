@@ -138,8 +138,7 @@ TEST(Diagnose, ShowsLinesAsTheyCanBeShown) {
     Case const cases[] = {
         {"a\r\n<q/>\r\n", 2, invalid, "<q/>", "^"},
         {"a\v\rb<q/>", 1, invalid, "a  b<q/>", "    ^"},
-        {"\xe9\xa9\xc3" + smiley + "\t<q/>", 1, invalid, "???" + smiley + "\t<q/>",
-         "     \t^", 6},
+        {"\xe9\xa9\xc3" + smiley + "\t<q/>", 1, invalid, "???" + smiley + "\t<q/>", "     \t^", 6},
         // An accent on the letter before, a wide letter, and a joiner without width.
         {"e\u0301\u4E2D\u200D<q/>", 1, invalid, "e\u0301\u4E2D\u200D<q/>", "   ^", 5},
         // What would be shown from right to left, or not at all.
