@@ -61,6 +61,8 @@ TEST(Suggest, SaysWhatWasMeantInADocument) {
     constexpr Case cases[] = {
         {"<tabel/>", "unknown element 'tabel'; did you mean 'table'?"},
         {"<nonsense/>", "unknown element 'nonsense'"},
+        {"<label/>", "element 'label' is not supported"},
+        {"<p align='left'/>", "unknown attribute 'align'; did you mean 'text-align'?"},
         {"<p clas='a'/>", "unknown attribute 'clas'; did you mean 'class'?"},
         {"<p colour='red'/>", "unknown attribute 'colour'; did you mean 'color'?"},
         {"<p sytle='a'/>", "unknown attribute 'sytle'; did you mean 'style'?"},

@@ -106,9 +106,10 @@ private:
     void warnAboutUnknown(OpenElement const& opened) {
         if (!unknownNames.insert(opened.element.name).second) return;
         std::string_view const name = opened.element.name;
-        warn(
-            problems, opened.offset,
-            "unknown element " + quoted(name) + suggestion(name, vocabulary(), &ElementType::name));
+        warn(problems, opened.offset,
+             isOfHtmlOnly(name) ? "element " + quoted(name) + " is not supported"
+                                : "unknown element " + quoted(name) +
+                                      suggestion(name, vocabulary(), &ElementType::name));
     }
 
     void warnAboutSheet(OpenElement const& opened) {

@@ -21,6 +21,9 @@ std::span<ElementType const> vocabulary();
 /// another name.
 ElementType const* findElementType(std::string_view name);
 
+/// Whether it is an element of HTML that pages may not have.
+bool isOfHtmlOnly(std::string_view name);
+
 /// Whether elements of this name never have content, so that their ends are easily forgotten.
 bool isVoid(std::string_view name);
 

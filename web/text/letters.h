@@ -27,7 +27,7 @@ inline constexpr std::size_t s_letterBytes = 2;
 ///@{
 inline constexpr unsigned char s_firstLead = 0xC3;
 inline constexpr unsigned char s_lastLead = 0xD4;
-inline constexpr auto s_letters = [] {
+inline constexpr auto s_commonLetters = [] {
     std::array<std::uint64_t, s_lastLead - s_firstLead + 1> letters = {};
     for (char32_t c = s_firstLead % 0x20 * 0x40; c < (s_lastLead % 0x20 + 1) * 0x40; ++c) {
         std::uint64_t const bit = isCommonLetter(c) ? 1 : 0;
@@ -42,7 +42,8 @@ inline bool isLetterAt(std::string_view text, std::size_t at) {
     if (!isPairAt(text, at)) return false;
     auto const first = static_cast<unsigned char>(text[at]);
     if (first < s_firstLead || first > s_lastLead) return false;
-    return (s_letters[first - s_firstLead] >> (static_cast<unsigned char>(text[at + 1]) & 0x3FU) &
+    return (s_commonLetters[first - s_firstLead] >>
+                (static_cast<unsigned char>(text[at + 1]) & 0x3FU) &
             1U) != 0;
 }
 
