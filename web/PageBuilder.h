@@ -106,7 +106,7 @@ private:
     void closeAnonymousCell();
     int firstNumberOf(Element const& list);
     int numberOf(Element const& element);
-    OutsideMarker const& outsideMarker(std::string text, bool isAmbiguousWide);
+    OutsideMarker const& outsideMarker(Style const& style, int number);
     void push(BlockSink& sink, Style const& style);
     void pop();
     void endParagraph();
@@ -151,7 +151,8 @@ private:
     Paragraph done;
     /// What an item's marker was made of, and became, last.
     ///@{
-    std::string markerSource;
+    std::optional<Marker> markerSource;
+    int lastNumber = 0;
     OutsideMarker lastMarker;
     ///@}
 };

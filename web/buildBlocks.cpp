@@ -26,11 +26,11 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
     OutsideMarker const* marker = &s_none;
     std::string inside;
     if (style.display == Display::listItem) {
-        std::string text = markerText(style.marker, numberOf(element));
+        int const number = numberOf(element);
         if (style.markerPosition == MarkerPosition::inside) {
-            inside = std::move(text);
+            inside = markerText(style.marker, number);
         } else {
-            marker = &outsideMarker(std::move(text), style.cells.isAmbiguousWide);
+            marker = &outsideMarker(style, number);
         }
     }
     BlockSink& sink = *frame().sink;
@@ -40,13 +40,15 @@ void PageBuilder::openBlock(Element const& element, Style const& style) {
 }
 
 /// Those of a list without numbers are all alike.
-OutsideMarker const& PageBuilder::outsideMarker(std::string text, bool isAmbiguousWide) {
-    if (text != markerSource) {
-        lastMarker.text.clear();
-        appendPrinted(lastMarker.text, text);
-        lastMarker.columns = countCells(text, isAmbiguousWide);
-        markerSource = std::move(text);
-    }
+OutsideMarker const& PageBuilder::outsideMarker(Style const& style, int number) {
+    if (!isNumbered(style.marker)) number = 0;
+    if (markerSource == style.marker && lastNumber == number) return lastMarker;
+    markerSource = style.marker;
+    lastNumber = number;
+    std::string const text = markerText(style.marker, number);
+    lastMarker.text.clear();
+    appendPrinted(lastMarker.text, text);
+    lastMarker.columns = countCells(text, style.cells.isAmbiguousWide);
     return lastMarker;
 }
 

@@ -101,6 +101,9 @@ void AttributeReader::read(Element const& element, Found& found) {
         } else if (!isAllowed(element, attribute.name)) {
             warn(problems, attribute.nameOffset,
                  "unknown attribute " + quoted(attribute.name) + nameMeant(attribute.name));
+        } else if (attribute.name == "type" && contains(s_lists, element.name)) {
+            warn(problems, attribute.valueOffset,
+                 quoted(attribute.value) + " is no value of 'type'");
         }
     }
 }

@@ -1,5 +1,6 @@
 #include "web/markup/readDocument.h"
 
+#include <algorithm>
 #include <string>
 #include <unordered_set>
 
@@ -97,9 +98,15 @@ private:
         }
         decodeAttributes(opened);
         handler.startElement(opened.element);
-        if (opened.element.name != "img") return;
-        for (Attribute const& attribute : opened.attributes) {
-            if (attribute.name == "alt" && !attribute.value.empty()) handler.text(attribute.value);
+        if (opened.element.name == "img") showInstead(opened);
+    }
+
+    void showInstead(OpenElement const& image) {
+        auto const alt = std::ranges::find(image.attributes, "alt", &Attribute::name);
+        if (alt == image.attributes.end()) {
+            warn(problems, image.offset, "nothing is shown of 'img' without 'alt'");
+        } else if (!alt->value.empty()) {
+            handler.text(alt->value);
         }
     }
 

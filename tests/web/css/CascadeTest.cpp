@@ -133,7 +133,7 @@ TEST(Cascade, TakesAttributesForDeclarations) {
               "", ""},
              {"<ol id=\"x\" type=\"I\" start=\"3\"/>", "marker=9;", ""},
              {"<ul id=\"x\" type=\"i\"/>", "marker=8;", ""},
-             {"<ul id=\"x\" type=\"x\"/>", "", ""},
+             {"<ul id=\"x\" type=\"x\"/>", "", "17 'x' is no value of 'type'\n"},
              {"<a id=\"x\" href=\"b\"/>", "drawn=underlined;", ""},
              {"<p id=\"x\" type=\"a\"/>", "", ""},
          }) {
