@@ -96,8 +96,7 @@ void defineForm(CLI::App& app, Options& options) {
         "Whether the format ansi has its escape sequences; auto, the default, keeps them where "
         "standard output is a terminal, no file is named, NO_COLOR is unset or empty and TERM is "
         "not dumb. A number of colours is that of the terminal that they go to; otherwise the "
-        "environment's COLORTERM "
-        "and TERM tell");
+        "environment's COLORTERM and TERM tell");
     addChoice<galley::Links>(
         app, "--links", options.links,
         {{"auto", galley::Links::automatic},

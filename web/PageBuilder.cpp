@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "web/text/whiteSpace.h"
-#include "web/wording.h"
 
 namespace galley::web {
 

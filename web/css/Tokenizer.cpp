@@ -6,6 +6,7 @@
 
 #include "web/css/characters.h"
 #include "web/css/pairBlocks.h"
+#include "web/text/utf8.h"
 #include "web/wording.h"
 
 namespace galley::web {
@@ -13,8 +14,6 @@ namespace galley::web {
 namespace {
 
 using Kind = Token::Kind;
-
-constexpr std::string_view s_byteOrderMark = "\xEF\xBB\xBF";
 
 struct Punctuation {
     char character;

@@ -10,8 +10,6 @@ constexpr std::string_view s_replacement = "\xEF\xBF\xBD";
 
 char byte(std::uint32_t bits) { return static_cast<char>(bits); }
 
-bool isControl(char32_t c) { return c < ' ' || (c >= 0x7F && c < 0xA0); }
-
 }  // namespace
 
 void appendUtf8(std::string& text, std::uint32_t codePoint) {

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "web/css/characters.h"
+#include "web/text/utf8.h"
 #include "web/wording.h"
 
 namespace galley::web {
@@ -26,17 +27,11 @@ constexpr std::uint32_t s_lastCodePoint = 0x10FFFF;
 
 constexpr bool continuesReference(char c) { return isLetter(c) || isDigit(c) || c == '#'; }
 
-constexpr bool isValueSpace(char c) { return c == '\t' || c == '\n' || c == '\r'; }
+constexpr bool isValueSpace(char32_t c) { return c == '\t' || c == '\n' || c == '\r'; }
 
 bool isCharacter(std::uint32_t number) {
     bool const isSurrogate = number >= 0xD800 && number <= 0xDFFF;
     return number > 0 && number <= s_lastCodePoint && !isSurrogate;
-}
-
-/// But white space.
-bool isControl(std::uint32_t number) {
-    bool const isSpace = number == '\t' || number == '\n' || number == '\r';
-    return !isSpace && (number < 0x20 || (number >= 0x7F && number < 0xA0));
 }
 
 std::optional<std::uint32_t> findEntity(std::string_view name) {
@@ -103,7 +98,7 @@ bool References::readReference() {
     }
     if (!isCharacter(*codePoint)) {
         warn(problems, sourceOffset + at, quoted(reference) + " is no character");
-    } else if (isControl(*codePoint)) {
+    } else if (isControl(*codePoint) && !isValueSpace(*codePoint)) {
         warn(problems, sourceOffset + at,
              quoted(reference) + " is a control character, shown as U+FFFD");
     }
@@ -120,7 +115,7 @@ void decodeReferences(std::string_view text, std::size_t offset, std::string& de
 }
 
 bool isEncodedValue(std::string_view value) {
-    return std::ranges::any_of(value, [](char c) { return c == '&' || isValueSpace(c); });
+    return std::ranges::any_of(value, [](unsigned char c) { return c == '&' || isValueSpace(c); });
 }
 
 void decodeValue(std::string_view value, std::size_t offset, std::string& decoded,

@@ -2,13 +2,13 @@
 
 #include <utility>
 
+#include "web/text/utf8.h"
 #include "web/wording.h"
 
 namespace galley::web {
 
 namespace {
 
-constexpr std::string_view s_byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view s_commentStart = "<!--";
 constexpr std::string_view s_commentEnd = "-->";
 constexpr std::string_view s_sectionStart = "<![CDATA[";

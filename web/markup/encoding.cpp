@@ -1,6 +1,7 @@
 #include "web/markup/encoding.h"
 
 #include "web/css/characters.h"
+#include "web/text/utf8.h"
 #include "web/wording.h"
 
 namespace galley::web {
@@ -19,8 +20,7 @@ bool isUtf16(std::string_view markup) {
 
 /// What the XML declaration at the beginning says; empty without.
 std::string_view declaredEncoding(std::string_view markup) {
-    constexpr std::string_view s_mark = "\xEF\xBB\xBF";
-    if (markup.starts_with(s_mark)) markup.remove_prefix(s_mark.size());
+    if (markup.starts_with(s_byteOrderMark)) markup.remove_prefix(s_byteOrderMark.size());
     if (!markup.starts_with("<?xml")) return {};
     std::string_view const declaration = markup.substr(0, markup.find("?>"));
     std::size_t const name = declaration.find("encoding");

@@ -18,8 +18,6 @@ utf8proc_property_t const& unicode(char32_t codePoint) {
     return *utf8proc_get_property(static_cast<std::int32_t>(codePoint));
 }
 
-bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
-
 /// Is printed as a blank: a separator of lines, or a space that lets none break.
 bool isBlank(char32_t c) {
     return c == 0x2028 || c == 0x2029 || c == 0xA0 || c == 0x2007 || c == 0x202F;

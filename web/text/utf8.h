@@ -6,6 +6,11 @@
 namespace galley::web {
 
 inline constexpr char32_t s_replacementCharacter = 0xFFFD;
+/// May stand before a text, and is no part of it.
+inline constexpr std::string_view s_byteOrderMark = "\xEF\xBB\xBF";
+
+/// Whether terminals may take it for more than a character; white space is among these.
+constexpr bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
 
 /// What begins at a byte of UTF-8.
 struct CodePoint {
