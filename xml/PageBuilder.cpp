@@ -123,7 +123,9 @@ void PageBuilder::releaseRows(std::int32_t height) {
 void PageBuilder::endItems() {
     if (items.count() == 0) return;
     bool const areTable = items.areTable();
-    if (areTable ? items.holdsBlock() : !items.breaksByWidths()) {
+    if (items.areWords()) {
+        addWords();
+    } else if (areTable ? items.holdsBlock() : !items.breaksByWidths()) {
         addBoxes();
     } else if (areTable) {
         addTable();
@@ -133,6 +135,22 @@ void PageBuilder::endItems() {
     items.clear();
     boxes.clear();
     styles.clear();
+}
+
+/// A paragraph of words alone: as any other one, but each line is a search for a space.
+void PageBuilder::addWords() {
+    OpenBlock& block = blocks.back();
+    for (std::string_view rest = items.text(items[0]); !rest.empty();) {
+        std::size_t const fitting = lengthOfFitting(rest, block.box.content.width);
+        std::string_view const shown = fitting > 0 ? rest.substr(0, fitting) : firstWord(rest);
+        Dimensions line;
+        line.content.width = static_cast<std::int32_t>(shown.length());
+        line.content.height = 1;
+        block.stack.place(line);
+        grid.draw(shown, line.content.x, line.content.y, block.content);
+        take(line);
+        rest.remove_prefix(shown.length());
+    }
 }
 
 void PageBuilder::addParagraph() {

@@ -22,7 +22,7 @@ public:
     PageBuilder(ZRLWPtr<DomElement> const& root, unsigned width, int expectedLength, bool keepsRows,
                 CellBudget& cells);
 
-    bool mayShareElements() const override { return true; }
+    bool keepsNothing() const override { return true; }
     void startElement(ZRLWPtr<DomElement> const& element) override;
     void endElement() override;
     void addText(std::string_view read, bool isWord) override;
@@ -50,6 +50,7 @@ private:
     void openBlock(ZRLWPtr<DomElement> const& element);
     void closeBlock();
     void endItems();
+    void addWords();
     void addParagraph();
     void addTable();
     void addBoxes();

@@ -16,7 +16,6 @@ void visitChildren(Items const& items, std::uint32_t around, Visit const& visit)
 
 TablePainter::TablePainter(Items const& table, Dimensions& box, Grid& page)
     : items(table), grid(page), painter(table, LinePainter::Inline, page), stack(box) {
-    WidthSums const sums(items);
     visitChildren(items, 0, [&](std::uint32_t row) {
         Rect content;
         RightwardRow cells;
@@ -24,7 +23,9 @@ TablePainter::TablePainter(Items const& table, Dimensions& box, Grid& page)
         visitChildren(items, row, [&](std::uint32_t opened) {
             Dimensions cell = items.style(opened).box();
             cells.place(content, cell, UncoveredMargin());
-            cell.content.width = saturate(sums.between({opened + 1, 0}, {items[opened].other, 0}));
+            std::int64_t width = 0;
+            for (std::uint32_t i = opened; ++i < items[opened].other;) width += items.width(i);
+            cell.content.width = saturate(width);
             cells.add(content, cell);
             raiseColumn(columns, index++, cell);
         });
@@ -64,6 +65,14 @@ void TablePainter::paintCells(std::uint32_t row, Dimensions& box,
 void TablePainter::paintCell(std::uint32_t opened, Dimensions& box, Canvas::Attributes attributes) {
     ElementStyle const& style = items.style(opened);
     attributes = style.flagged(attributes);
+    Item const& first = items[opened + 1];
+    bool const isWords = items[opened].other == opened + 2 && first.kind == Item::Words;
+    if (isWords && !style.hasBeneath) {
+        // A frame would show the same, since no column begins left of the table.
+        box.content.height = 1;
+        Canvas::Attributes const ofContent = style.look.handDown(attributes);
+        return grid.draw(items.text(first), box.content.x, box.content.y, ofContent);
+    }
     grid.enter(box.content.x, box.content.y);
     Rect const size =
         painter.paint({opened + 1, 0}, {items[opened].other, 0}, style.look.handDown(attributes));

@@ -14,7 +14,7 @@ class TreeBuilder final : public DocumentHandler {
 public:
     explicit TreeBuilder(DomElement& root) : outermost(root) {}
 
-    bool mayShareElements() const override { return false; }
+    bool keepsNothing() const override { return false; }
 
     void startElement(ZRLWPtr<DomElement> const& element) override { open.push_back(element); }
 

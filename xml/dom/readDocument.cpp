@@ -1,101 +1,53 @@
 #include "xml/dom/readDocument.h"
 
-#include <algorithm>
-#include <array>
-#include <cctype>
 #include <cstddef>
-#include <cstdint>
-#include <cstring>
 #include <map>
 #include <string_view>
 #include <vector>
 
+#include "xml/dom/TextBytes.h"
 #include "xml/dom/vocabulary.h"
+#include "xml/parser/scan.h"
 
 namespace CLI::XML {
 
 namespace {
 
-/// What a byte is to running text. A NUL byte ends it.
-class TextBytes {
-public:
-    /// `isspace` is asked once for every byte.
-    TextBytes() {
-        for (unsigned byte = 1; byte < kinds.size(); ++byte) {
-            kinds[byte] = std::isspace(static_cast<int>(byte)) != 0 ? Space : Plain;
-            hasHighSpace = hasHighSpace || (byte > ' ' && kinds[byte] == Space);
-        }
-        kinds[static_cast<unsigned char>('&')] = Ampersand;
-    }
-    bool isSpace(char c) const { return kindOf(c) == Space; }
-    bool isPlain(char c) const { return kindOf(c) == Plain; }
-    bool isOfWord(char c) const { return kindOf(c) >= Plain; }
-
-    /// Passes over words without references between which there is one space, many bytes at a time.
-    /// May end anywhere in a word.
-    char* skipPlainWords(char* next, char const* end) const {
-        if (hasHighSpace) return next;
-        while (end - next > s_blockSize && isPlainBlock(next)) next += s_blockSize;
-        return next;
-    }
-
-private:
-    enum Kind : std::uint8_t { Nul, Space, Plain, Ampersand };
-
-    Kind kindOf(char c) const { return kinds[static_cast<unsigned char>(c)]; }
-
-    static constexpr std::ptrdiff_t s_blockSize = 16;
-    /// Numbers that one instruction compares.
-    using Block [[gnu::vector_size(s_blockSize)]] = unsigned char;
-
-    /// Whether nothing in a block, and the byte behind it, has to be looked at.
-    static bool isPlainBlock(char const* bytes) {
-        Block shown;
-        Block behind;
-        std::memcpy(&shown, bytes, sizeof shown);
-        std::memcpy(&behind, bytes + 1, sizeof behind);
-        auto const found = (shown < ' ') | (shown == '&') | ((shown == ' ') & (behind <= ' '));
-        std::array<std::uint64_t, 2> halves{};
-        std::memcpy(halves.data(), &found, sizeof found);
-        return (halves[0] | halves[1]) == 0;
-    }
-
-    std::array<Kind, 256> kinds{};
-    /// White space is not only among the bytes up to ' '.
-    bool hasHighSpace = false;
-};
-
 /// The open elements of one reading, innermost last.
 class Reader {
 public:
     Reader(DocumentHandler& taker, PullParser& source, StyleList const& rules)
-        : handler(taker), parser(source) {
+        : handler(taker), parser(source), keepsNothing(handler.keepsNothing()) {
         for (ZRLWPtr<StyleNode> const& rule : rules) lastRules[rule->selector.view()] = &rule;
     }
 
     bool hasOpenElements() const { return !open.empty(); }
 
     XCode startElement() {
+        for (ZRLWPtr<DomElement> const& element : plainElements) {
+            if (takeTag("<", *element)) return beginElement(element);
+        }
         XCode result = syntax(parser.readStartTag());
         if (!result) return result;
-        bool const isPlain = parser.attributes.count == 0 && handler.mayShareElements();
+        bool const isPlain = parser.attributes.count == 0 && keepsNothing;
         ZRLWPtr<DomElement> const element = isPlain ? plainElement() : makeElement();
         if (!element) {
             return testExpression(false).setStringF("Invalid tag: <%s>", parser.name.c_str());
         }
-        open.push_back(element);
-        handler.startElement(element);
-        return XCode();
+        return beginElement(element);
     }
 
     /// Closes the innermost open element.
     XCode endElement() {
-        XCode result = syntax(parser.readEndTag());
-        if (!result) return result;
         String const& name = open.back()->name;
-        if (!(parser.name == name)) {
-            return testExpression(false).setStringF("End tag </%s> does not match start tag <%s>",
-                                                    parser.name.c_str(), name.c_str());
+        if (!takeTag("</", *open.back())) {
+            XCode result = syntax(parser.readEndTag());
+            if (!result) return result;
+            if (!(parser.name == name)) {
+                return testExpression(false).setStringF(
+                    "End tag </%s> does not match start tag <%s>", parser.name.c_str(),
+                    name.c_str());
+            }
         }
         open.pop_back();
         handler.endElement();
@@ -103,8 +55,16 @@ public:
     }
 
     XCode addContent() {
+        if (keepsNothing && parser.text[parser.position] != '<') {
+            std::string_view const content =
+                takeUntil(parser.text, parser.position, parser.line, s_endOfText);
+            if (!content.empty()) {
+                addWords(content);
+                return XCode();
+            }
+        }
         XCode result = syntax(parser.readContent());
-        if (result) addWords(parser.content);
+        if (result) addWords(parser.content.view());
         return result;
     }
 
@@ -115,6 +75,27 @@ public:
     }
 
 private:
+    /// Passes over the next tag, whose beginning is known, if it is as most are: with the name of
+    /// an element and nothing else.
+    bool takeTag(std::string_view beginning, DomElement const& element) const {
+        std::string_view const name = element.name.view();
+        std::size_t const length = beginning.length() + name.length();
+        std::string_view const rest =
+            parser.text.view().substr(static_cast<std::size_t>(parser.position));
+        if (!keepsNothing || parser.selfClosing || rest.length() <= length || rest[length] != '>' ||
+            rest.substr(beginning.length(), name.length()) != name) {
+            return false;
+        }
+        parser.position += static_cast<int>(length) + 1;
+        return true;
+    }
+
+    XCode beginElement(ZRLWPtr<DomElement> const& element) {
+        open.push_back(element);
+        handler.startElement(element);
+        return XCode();
+    }
+
     /// An element for the start tag that was read; null where there is none of its name.
     ZRLWPtr<DomElement> makeElement() const {
         ZRLWPtr<DomElement> element = createDomElement(parser.name);
@@ -127,11 +108,9 @@ private:
 
     /// The same, one for all start tags of a name.
     ZRLWPtr<DomElement> plainElement() {
-        auto const isNamed = [this](ZRLWPtr<DomElement> const& element) {
-            return element->name == parser.name;
-        };
-        auto const found = std::find_if(plainElements.begin(), plainElements.end(), isNamed);
-        if (found != plainElements.end()) return *found;
+        for (ZRLWPtr<DomElement> const& element : plainElements) {
+            if (element->name == parser.name) return element;
+        }
         ZRLWPtr<DomElement> element = makeElement();
         if (element) plainElements.push_back(element);
         return element;
@@ -146,34 +125,29 @@ private:
     }
 
     /// Cuts running text, up to its first NUL byte, into words. A word that white space follows
-    /// keeps one space of it, which takes its place. References are decoded after cutting, so that
-    /// a decoded space never splits a word. Words that stand as they are passed on together.
-    void addWords(String& content) {
-        char const* const end = content.c_str() + content.length();
-        char* first = skipSpace(content.data());
-        char* next = first;
-        while (*next != '\0') {
+    /// keeps one space of it, which takes its place. Words that stand as they are passed on
+    /// together.
+    void addWords(std::string_view content) {
+        char const* const end = content.data() + content.length();
+        char const* first = skipSpace(content.data(), end);
+        char const* next = first;
+        while (next < end) {
             next = bytes.skipPlainWords(next, end);
-            while (bytes.isPlain(*next)) ++next;
-            if (bytes.isSpace(*next)) {
-                *next++ = ' ';
-                if (*next == '\0' || !bytes.isSpace(*next)) continue;
-                passOn(first, next);
-            } else if (*next == '&') {
-                char* word = next;
-                while (word > first && word[-1] != ' ') --word;
-                passOn(first, word);
-                next = addDecoded(word);
-            } else {
-                break;
+            while (next < end && bytes.isPlain(*next)) ++next;
+            if (next == end || *next == '\0') break;
+            if (*next == ' ' && (next + 1 == end || !bytes.isSpace(next[1]))) {
+                ++next;
+                continue;
             }
-            first = next = skipSpace(next);
+            while (next > first && next[-1] != ' ') --next;
+            passOn(first, next);
+            first = next = addChanged(next, end);
         }
         passOn(first, next);
     }
 
-    char* skipSpace(char* next) const {
-        while (bytes.isSpace(*next)) ++next;
+    char const* skipSpace(char const* next, char const* end) const {
+        while (next < end && bytes.isSpace(*next)) ++next;
         return next;
     }
 
@@ -181,23 +155,31 @@ private:
         if (first != end) handler.addText({first, static_cast<std::size_t>(end - first)}, false);
     }
 
-    /// Passes on the word at `start`, which holds an ampersand. Returns where it ends.
-    char* addDecoded(char* start) {
-        char* end = start;
-        while (bytes.isOfWord(*end)) ++end;
-        String word(start, 0, static_cast<int>(end - start));
-        if (*end != '\0') word += " ";
-        handler.addText(replaceEntities(word).view(), true);
-        return end;
+    /// Passes on the word at `start`, in which a reference is to be decoded, or of which the white
+    /// space is not one space. Returns where the next one begins. References are decoded after
+    /// cutting, so that a decoded space never splits a word.
+    char const* addChanged(char const* start, char const* end) {
+        char const* next = start;
+        while (next < end && bytes.isOfWord(*next)) ++next;
+        changed.assign({start, static_cast<std::size_t>(next - start)});
+        bool const hasReference = changed.indexOf('&') >= 0;
+        char const* const behind = skipSpace(next, end);
+        if (behind > next) changed += " ";
+        handler.addText(hasReference ? replaceEntities(changed).view() : changed.view(),
+                        hasReference);
+        return behind;
     }
 
     DocumentHandler& handler;
     PullParser& parser;
+    bool keepsNothing;
     /// By selector.
     std::map<std::string_view, ZRLWPtr<StyleNode> const*> lastRules;
     /// At most one for each name that the language knows.
     std::vector<ZRLWPtr<DomElement>> plainElements;
     TextBytes bytes;
+    /// A word, kept for its memory.
+    String changed;
     std::vector<ZRLWPtr<DomElement>> open;
 };
 

@@ -14,9 +14,10 @@ namespace CLI::XML {
 class DocumentHandler {
 public:
     virtual ~DocumentHandler() = default;
-    /// Whether elements that look alike, without attributes, may be one and the same: nothing is
-    /// added to them then.
-    virtual bool mayShareElements() const = 0;
+    /// Whether nothing is kept of a document but what the handler makes of it: then elements that
+    /// look alike, without attributes, are one and the same, and the parser's fields may not tell
+    /// what was read.
+    virtual bool keepsNothing() const = 0;
     /// An element begins: its attributes, display kind and style rule are set, children follow.
     virtual void startElement(ZRLWPtr<DomElement> const& element) = 0;
     /// The innermost open element ends.

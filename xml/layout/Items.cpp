@@ -77,22 +77,22 @@ bool Items::breaksByWidths() const {
     return !hasNegativeSide || reach + std::int64_t{allText.length()} < s_moderate;
 }
 
-WidthSums::WidthSums(Items const& summed) : items(summed), rests(summed.count() + 1) {
-    update(0, items.count());
-}
-
-void WidthSums::update(std::uint32_t begin, std::uint32_t end) {
-    for (std::uint32_t i = end; i-- > begin;) rests[i] = rests[i + 1] + width(i);
-}
-
-std::int64_t WidthSums::width(std::uint32_t i) const {
-    Item const& item = items[i];
+std::int64_t Items::width(std::uint32_t i) const {
+    Item const& item = list.data[i];
     if (item.kind == Item::Block) return item.block->dimensions.marginBox().width;
     if (item.kind == Item::Close) return 0;
     if (item.kind != Item::Open) return item.bytes.length;
     Dimensions edges = *item.edges;
     edges.content.width = 0;
     return edges.marginBox().width;
+}
+
+WidthSums::WidthSums(Items const& summed) : items(summed), rests(summed.count() + 1) {
+    update(0, items.count());
+}
+
+void WidthSums::update(std::uint32_t begin, std::uint32_t end) {
+    for (std::uint32_t i = end; i-- > begin;) rests[i] = rests[i + 1] + items.width(i);
 }
 
 }  // namespace CLI::XML

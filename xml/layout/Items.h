@@ -53,6 +53,8 @@ struct Position {
 /// has the styles of elements, what there are boxes for has edges and lengths alone.
 class Items {
 public:
+    Items() { list.growBy = 256; }
+
     /// An element, whose style outlives the items.
     void open(Dimensions const& edges);
     void close();
@@ -84,12 +86,16 @@ public:
     bool areTable() const {
         return list.data[0].kind == Item::Open && style(0).display() == DomNode::Table;
     }
+    /// Whether they are words and nothing else, in one piece.
+    bool areWords() const { return list.count == 1 && list.data[0].kind == Item::Words; }
     bool holdsBlock() const { return hasBlock; }
     /// Whether an edge takes something off the width.
     bool mayShrink() const { return hasNegativeSide; }
     /// Whether widths are sums, which tell where the lines of a paragraph end. Otherwise each
     /// layout of a block in it depends on those before, or sums end at the limits of geometry.
     bool breaksByWidths() const;
+    /// The width of an item, in columns; where an element opens, of its edges.
+    std::int64_t width(std::uint32_t i) const;
 
 private:
     Item& add(Item::Kind kind);
@@ -114,8 +120,6 @@ public:
     /// Blocks from item `begin` up to item `end` have been laid out anew.
     void update(std::uint32_t begin, std::uint32_t end);
     std::int64_t between(Position begin, Position end) const { return from(begin) - from(end); }
-    /// Of an item; where an element opens, of its edges.
-    std::int64_t width(std::uint32_t i) const;
 
 private:
     std::int64_t from(Position position) const { return rests[position.item] - position.offset; }

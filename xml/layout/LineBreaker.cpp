@@ -7,6 +7,11 @@
 
 namespace CLI::XML {
 
+std::size_t lengthOfFitting(std::string_view words, std::int64_t columns) {
+    if (static_cast<std::int64_t>(words.length()) <= columns) return words.length();
+    return columns > 0 ? words.rfind(' ', static_cast<std::size_t>(columns) - 1) + 1 : 0;
+}
+
 LineBreaker::LineBreaker(Items const& paragraph, std::int32_t columns)
     : items(paragraph), available(columns), sums(paragraph), limits{{paragraph.count(), 0}} {}
 
@@ -27,12 +32,12 @@ Walk LineBreaker::layOutBlocks(Position from) {
             widest = std::max(widest, width);
             seen += width;
         } else if (item.kind != Item::Close) {
-            seen += sums.width(i);
+            seen += items.width(i);
             if (item.kind == Item::Open) begins.push_back(seen);
         } else if (!begins.empty()) {
             begins.pop_back();
         } else {
-            seen += sums.width(item.other);
+            seen += items.width(item.other);
         }
     }
     sums.update(from.item, i);
@@ -112,17 +117,17 @@ Position LineBreaker::skipGoingOn(Position from, Position limit) {
     room = available;
     levels.assign(1, {});
     edgesGoingOn = 0;
-    for (std::uint32_t const opened : goingOn) edgesGoingOn += sums.width(opened);
+    for (std::uint32_t const opened : goingOn) edgesGoingOn += items.width(opened);
     if (sums.between(from, limit) + edgesGoingOn <= available) return limit;
     for (std::uint32_t const opened : goingOn) {
         std::uint32_t const closed = items[opened].other;
         Position const end = std::min(limit, Position{closed, 0});
-        std::int64_t const content = sums.between(from, end) + edgesGoingOn - sums.width(opened);
+        std::int64_t const content = sums.between(from, end) + edgesGoingOn - items.width(opened);
         if (content <= available) {
             take(content);
             return end < limit ? Position{closed + 1, 0} : limit;
         }
-        edgesGoingOn -= sums.width(opened);
+        edgesGoingOn -= items.width(opened);
         levels.push_back({});
     }
     return from;
@@ -152,10 +157,7 @@ Position LineBreaker::takeElement(std::uint32_t opened, Position limit) {
 /// Takes the words from `at` on that fit, of `words` up to the limit. Returns where they end.
 Position LineBreaker::takeFittingWords(Position at, std::string_view words) {
     words.remove_prefix(at.offset);
-    std::size_t fitting = words.length();
-    if (static_cast<std::int64_t>(fitting) > room) {
-        fitting = room > 0 ? words.rfind(' ', static_cast<std::size_t>(room) - 1) + 1 : 0;
-    }
+    std::size_t const fitting = lengthOfFitting(words, room);
     if (fitting > 0) take(static_cast<std::int64_t>(fitting));
     return {at.item, at.offset + static_cast<std::uint32_t>(fitting)};
 }

@@ -2,12 +2,16 @@
 
 #include <cstdint>
 #include <limits>
+#include <string_view>
 #include <vector>
 
 #include "base/Walk.h"
 #include "xml/layout/Items.h"
 
 namespace CLI::XML {
+
+/// The bytes of as many words, each with the space behind it, as fit into that many columns.
+std::size_t lengthOfFitting(std::string_view words, std::int64_t columns);
 
 /// Breaks a paragraph into lines, as splitting its boxes one after the other does, without a box:
 /// a line is a range of items. Widths must tell where lines end: `Items::breaksByWidths`.

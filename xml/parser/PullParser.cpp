@@ -12,7 +12,6 @@ namespace {
 
 constexpr ByteSet s_whitespace(" \t\n\r");
 constexpr ByteSet s_quotation("\"");
-constexpr ByteSet s_tagStart("<");
 constexpr char const* s_cdataStart = "<![CDATA[";
 constexpr char const* s_cdataEnd = "]]>";
 constexpr char const* s_commentStart = "<!--";
@@ -96,7 +95,7 @@ XCode PullParser::readContent() {
     if (selfClosing) return testExpression(false);
     content.clear();
     if (!parseString(text, position, s_cdataStart)) {
-        content.assign(takeUntil(text, position, line, s_tagStart));
+        content.assign(takeUntil(text, position, line, s_endOfText));
         if (content.length() == 0) return fail(s_expectingContent);
         return XCode();
     }

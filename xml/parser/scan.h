@@ -29,6 +29,8 @@ private:
 
 /// The bytes of markup that end an element type or an attribute name.
 inline constexpr ByteSet s_endOfName("<>/=\" \t\n\r");
+/// The one that ends running text.
+inline constexpr ByteSet s_endOfText("<");
 
 /// White space and the ends of tokens in style sheets, where a vertical tab is white space, too.
 namespace SheetBytes {
