@@ -170,12 +170,6 @@ bool String::growFor(std::size_t n) {
            reserve(static_cast<int>(std::min(std::max(needed, former * 2), longest)));
 }
 
-bool String::appendGrowing(std::string_view s) {
-    if (!growFor(s.length())) return false;
-    concat(s.data(), static_cast<int>(s.length()));
-    return true;
-}
-
 void String::shrinkToFit() {
     if (store.capacity == 0) return;
     if (length() <= s_inlineLength) {

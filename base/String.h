@@ -128,9 +128,6 @@ public:
     /// must grow it at least doubles, so that the pieces together cost linear time. False, with
     /// nothing changed, when there is no memory for it.
     bool growFor(std::size_t n);
-    /// Appends `s`, which is not in this string, to such a text. False, with nothing changed, when
-    /// there is no memory for it.
-    bool appendGrowing(std::string_view s);
     /// Gives back what the buffer holds beyond that of a fresh copy of the text.
     void shrinkToFit();
 

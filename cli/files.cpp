@@ -30,7 +30,8 @@ bool readAll(std::FILE* file, String& content) {
     char piece[65536];
     while (std::size_t const n = std::fread(piece, 1, sizeof piece, file)) {
         // At the end of what a person types, another attempt would wait for more.
-        if (content.appendGrowing({piece, n})) {
+        if (content.growFor(n)) {
+            content.concat(piece, static_cast<int>(n));
             if (std::feof(file) != 0) break;
             continue;
         }

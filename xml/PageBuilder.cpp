@@ -12,11 +12,14 @@
 
 namespace CLI::XML {
 
-PageBuilder::OpenBlock::OpenBlock(ElementStyle const& style, Dimensions const& containing,
-                                  Canvas::Attributes const& attributes)
-    : box(style), handedDown(attributes), content(style.look.handDown(attributes)), stack(box) {
-    EdgeSizes const edges = box.edges();
-    box.content.width = saturate(std::int64_t{containing.content.width} - edges.left - edges.right);
+PageBuilder::OpenBlock::OpenBlock(ElementStyle const& styleOfBlock, Rect const& place,
+                                  std::int32_t offered, Canvas::Attributes const& attributes)
+    : style(&styleOfBlock),
+      content(place),
+      handedDown(attributes),
+      ofContent(style->look.handDown(attributes)) {
+    EdgeSizes const edges = style->edges();
+    content.width = saturate(std::int64_t{offered} - edges.left - edges.right);
 }
 
 PageBuilder::PageBuilder(ZRLWPtr<DomElement> const& root, unsigned width, int expectedLength,
@@ -26,14 +29,23 @@ PageBuilder::PageBuilder(ZRLWPtr<DomElement> const& root, unsigned width, int ex
     if (!text.reserve(saturate(std::int64_t{expectedLength} + expectedLength / 16))) {
         text.reserve(expectedLength);
     }
-    blocks.emplace_back(ElementStyle(root), pageOfWidth(width), Canvas::Attributes());
+    blocks.emplace_back(blockStyles.of(root), Rect(), saturate(width), Canvas::Attributes());
     blocks.back().isBare = true;
 }
 
 /// The element that what is read stands in.
 DomElement const& PageBuilder::parent() const {
     if (boxes.isOpen()) return boxes.innermost();
-    return items.depth() > 0 ? *items.innermost().element : *blocks.back().box.element;
+    return items.depth() > 0 ? *items.innermost().element : *blocks.back().style->element;
+}
+
+/// Whether an element, or null for text, may stand there. Of those that may not the first is kept.
+bool PageBuilder::mayAdd(DomElement const* child) {
+    DomElement const& around = parent();
+    bool const isHeld =
+        mayHold(around.display, child != nullptr ? child->display : DomNode::Inline);
+    if (!isHeld) refusal = refuse(around, child);
+    return isHeld;
 }
 
 void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
@@ -42,8 +54,7 @@ void PageBuilder::startElement(ZRLWPtr<DomElement> const& element) {
         ++hidden;
         return;
     }
-    refusal = checkChild(parent(), element.object);
-    if (!refusal) return;
+    if (!mayAdd(element.object)) return;
     bool const isWithin = items.depth() > 0;
     bool const isBlock = element->display == DomNode::Block;
     if (boxes.isOpen()) {
@@ -74,8 +85,7 @@ void PageBuilder::endElement() {
 
 void PageBuilder::addText(std::string_view read, bool isWord) {
     if (!refusal || hidden > 0) return;
-    refusal = checkChild(parent(), nullptr);
-    if (!refusal) return;
+    if (!mayAdd(nullptr)) return;
     boxes.isOpen() ? boxes.addText(read, isWord) : items.addText(read, isWord);
 }
 
@@ -90,19 +100,23 @@ XCode PageBuilder::finish(String& out) {
 void PageBuilder::openBlock(ZRLWPtr<DomElement> const& element) {
     endItems();
     OpenBlock const& around = blocks.back();
-    ElementStyle const& style = styles.of(element);
-    OpenBlock& opened = blocks.emplace_back(style, around.box, around.content);
-    around.stack.place(opened.box);
+    ElementStyle const& style = blockStyles.of(element);
+    Dimensions box = style.box();
+    around.stack.place(around.content, box);
+    grid.enter(box.content.x, box.content.y);
+    OpenBlock& opened =
+        blocks.emplace_back(style, box.content, around.content.width, around.ofContent);
     opened.isBare = around.isBare && !style.hasBeneath;
-    grid.enter(opened.box.content.x, opened.box.content.y);
 }
 
 void PageBuilder::closeBlock() {
     endItems();
     OpenBlock const& closed = blocks.back();
-    closed.stack.finish();
-    leaveBox(grid, closed.box, closed.box, closed.handedDown);
-    Dimensions const box = closed.box.box();
+    Dimensions box = closed.style->box();
+    box.content = closed.content;
+    closed.stack.finish(box.content);
+    leaveBox(grid, *closed.style, box, closed.handedDown);
+    blockStyles.drop(*closed.style);
     blocks.pop_back();
     take(box);
 }
@@ -110,8 +124,8 @@ void PageBuilder::closeBlock() {
 /// Takes a child in whose frame has been left.
 void PageBuilder::take(Dimensions const& box) {
     OpenBlock& block = blocks.back();
-    block.stack.add(box);
-    if (block.isBare) releaseRows(block.box.content.height);
+    block.stack.add(block.content, box);
+    if (block.isBare) releaseRows(block.content.height);
 }
 
 /// Nothing more is painted above row `height` of the innermost frame.
@@ -141,13 +155,13 @@ void PageBuilder::endItems() {
 void PageBuilder::addWords() {
     OpenBlock& block = blocks.back();
     for (std::string_view rest = items.text(items[0]); !rest.empty();) {
-        std::size_t const fitting = lengthOfFitting(rest, block.box.content.width);
+        std::size_t const fitting = lengthOfFitting(rest, block.content.width);
         std::string_view const shown = fitting > 0 ? rest.substr(0, fitting) : firstWord(rest);
         Dimensions line;
         line.content.width = static_cast<std::int32_t>(shown.length());
         line.content.height = 1;
-        block.stack.place(line);
-        grid.draw(shown, line.content.x, line.content.y, block.content);
+        block.stack.place(block.content, line);
+        grid.draw(shown, line.content.x, line.content.y, block.ofContent);
         take(line);
         rest.remove_prefix(shown.length());
     }
@@ -156,14 +170,14 @@ void PageBuilder::addWords() {
 void PageBuilder::addParagraph() {
     OpenBlock& block = blocks.back();
     Position const end = {items.count(), 0};
-    LineBreaker breaker(items, block.box.content.width);
+    LineBreaker breaker(items, block.content.width);
     for (Position from; from < end;) {
         if (items.holdsBlock()) Walk::run(breaker.layOutBlocks(from));
         Position const lineEnd = breaker.next(from);
         Dimensions line;
-        block.stack.place(line);
+        block.stack.place(block.content, line);
         grid.enter(line.content.x, line.content.y);
-        Rect const size = linePainter.paint(from, lineEnd, block.content);
+        Rect const size = linePainter.paint(from, lineEnd, block.ofContent);
         grid.leave();
         line.content.width = size.width;
         line.content.height = size.height;
@@ -176,14 +190,14 @@ void PageBuilder::addTable() {
     OpenBlock& block = blocks.back();
     ElementStyle const& style = items.style(0);
     Dimensions box = style.box();
-    block.stack.place(box);
+    block.stack.place(block.content, box);
     TablePainter painter(items, box, grid);
     grid.enter(box.content.x, box.content.y);
     // Of a long table each row is let go while it is at hand.
-    while (painter.paintRow(style.look.handDown(block.content))) {
+    while (painter.paintRow(style.look.handDown(block.ofContent))) {
         if (block.isBare && !style.hasBeneath) releaseRows(box.content.height);
     }
-    leaveBox(grid, style, box, block.content);
+    leaveBox(grid, style, box, block.ofContent);
     take(box);
 }
 
@@ -194,10 +208,12 @@ void PageBuilder::addBoxes() {
     boxes.end();
     // For each line of a paragraph that widths do not break, all of its rest may be laid out.
     if (!items.areTable() && !budget.mayHold(boxes.words() * boxes.words())) return;
-    around.layout(block.box);
+    Dimensions containing;
+    containing.content = block.content;
+    around.layout(containing);
     for (ZRLWPtr<Box> const& box : around.children) {
-        block.stack.place(box->dimensions);
-        paintBox(grid, *box, block.content);
+        block.stack.place(block.content, box->dimensions);
+        paintBox(grid, *box, block.ofContent);
         take(box->dimensions);
     }
 }

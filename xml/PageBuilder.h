@@ -34,19 +34,22 @@ public:
 private:
     /// A block that is being read, all of whose ancestors are.
     struct OpenBlock {
-        OpenBlock(ElementStyle const& style, Dimensions const& containing,
+        /// Whose content box begins there, of `offered` columns less its edges.
+        OpenBlock(ElementStyle const& styleOfBlock, Rect const& place, std::int32_t offered,
                   Canvas::Attributes const& attributes);
 
-        /// The content is as wide as what its children are offered until the end.
-        ElementStyle box;
+        ElementStyle const* style;
+        /// As wide as what its children are offered until the end.
+        Rect content;
         Canvas::Attributes handedDown;
-        Canvas::Attributes content;
+        Canvas::Attributes ofContent;
         DownwardStack stack;
         /// Nothing will be drawn beneath what is drawn in it, or around.
         bool isBare = false;
     };
 
     DomElement const& parent() const;
+    bool mayAdd(DomElement const* child);
     void openBlock(ZRLWPtr<DomElement> const& element);
     void closeBlock();
     void endItems();
@@ -64,6 +67,9 @@ private:
     bool mayRelease;
     /// Innermost last.
     std::deque<OpenBlock> blocks;
+    /// Of those.
+    ElementStyles blockStyles;
+    /// Of the elements among the items.
     ElementStyles styles;
     /// What has been read since the last block.
     Items items;

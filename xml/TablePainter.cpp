@@ -14,8 +14,8 @@ void visitChildren(Items const& items, std::uint32_t around, Visit const& visit)
 
 }  // namespace
 
-TablePainter::TablePainter(Items const& table, Dimensions& box, Grid& page)
-    : items(table), grid(page), painter(table, LinePainter::Inline, page), stack(box) {
+TablePainter::TablePainter(Items const& parts, Dimensions& box, Grid& page)
+    : items(parts), table(box), grid(page), painter(parts, LinePainter::Inline, page) {
     visitChildren(items, 0, [&](std::uint32_t row) {
         Rect content;
         RightwardRow cells;
@@ -34,16 +34,16 @@ TablePainter::TablePainter(Items const& table, Dimensions& box, Grid& page)
 
 bool TablePainter::paintRow(Canvas::Attributes const& attributes) {
     if (next == items[0].other) {
-        stack.finish();
+        stack.finish(table.content);
         return false;
     }
     ElementStyle const& style = items.style(next);
     Dimensions box = style.box();
-    stack.place(box);
+    stack.place(table.content, box);
     grid.enter(box.content.x, box.content.y);
     paintCells(next, box, style.look.handDown(attributes));
     leaveBox(grid, style, box, attributes);
-    stack.add(box);
+    stack.add(table.content, box);
     next = items[next].other + 1;
     return true;
 }

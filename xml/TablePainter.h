@@ -14,7 +14,7 @@ namespace CLI::XML {
 class TablePainter {
 public:
     /// The items are the table. All outlive it, and `box` has its edges.
-    TablePainter(Items const& table, Dimensions& box, Grid& page);
+    TablePainter(Items const& parts, Dimensions& box, Grid& page);
 
     /// Paints the next row in the innermost frame, with the attributes of the table's content.
     /// False where there is none; then `box` has its size.
@@ -25,6 +25,7 @@ private:
     void paintCell(std::uint32_t opened, Dimensions& box, Canvas::Attributes attributes);
 
     Items const& items;
+    Dimensions& table;
     Grid& grid;
     LinePainter painter;
     ZRVector<Dimensions> columns;

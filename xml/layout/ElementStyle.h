@@ -43,6 +43,10 @@ public:
     /// as this is.
     ElementStyle const& of(ZRLWPtr<DomElement> const& element);
     void clear() { single.clear(); }
+    /// Ends the style that was asked for last of those that are left.
+    void drop(ElementStyle const& style) {
+        if (!single.empty() && &single.back() == &style) single.pop_back();
+    }
 
 private:
     std::deque<ElementStyle> shared;

@@ -16,6 +16,7 @@ Item& Items::add(Item::Kind kind) {
 
 void Items::open(Dimensions const& edges) {
     if (edges.hasEdges()) {
+        hasEdges = true;
         hasNegativeSide = hasNegativeSide || edges.hasNegativeSide();
         for (EdgeSizes const& sizes : {edges.padding, edges.border, edges.margin}) {
             reach += std::abs(std::int64_t{sizes.left}) + std::abs(std::int64_t{sizes.right});
@@ -67,7 +68,7 @@ void Items::clear() {
     list.count = 0;
     allText.clear();
     reach = 0;
-    hasBlock = hasNegativeSide = hasTable = false;
+    hasBlock = hasEdges = hasNegativeSide = hasTable = false;
 }
 
 bool Items::breaksByWidths() const {

@@ -89,6 +89,8 @@ public:
     /// Whether they are words and nothing else, in one piece.
     bool areWords() const { return list.count == 1 && list.data[0].kind == Item::Words; }
     bool holdsBlock() const { return hasBlock; }
+    /// Whether an element has edges at its sides.
+    bool haveEdges() const { return hasEdges; }
     /// Whether an edge takes something off the width.
     bool mayShrink() const { return hasNegativeSide; }
     /// Whether widths are sums, which tell where the lines of a paragraph end. Otherwise each
@@ -106,6 +108,7 @@ private:
     /// Of all edges, whatever their signs, and of boxes that are words, in columns.
     std::int64_t reach = 0;
     bool hasBlock = false;
+    bool hasEdges = false;
     bool hasNegativeSide = false;
     /// In a block, where there is one.
     bool hasTable = false;

@@ -60,6 +60,7 @@ Position LineBreaker::next(Position from) {
 }
 
 void LineBreaker::accept(Position from, Position end) {
+    if (!items.haveEdges()) return;
     for (std::uint32_t i = from.item; i < end.item; ++i) {
         Item const& item = items[i];
         if (item.kind < Item::Open || !hasLevel(item)) continue;

@@ -63,13 +63,15 @@ Walk layOutTable(TableBox& table, LayoutPass pass) {
     visitCells(table, [&](CellBox& cell, unsigned column) {
         cell.columnDimensions = table.columns[column];
     });
-    DownwardStack stack(table.dimensions);
+    Rect& content = table.dimensions.content;
+    content.height = 0;
+    DownwardStack stack;
     for (ZRLWPtr<Box> const& row : table.children) {
-        stack.place(row->dimensions);
+        stack.place(content, row->dimensions);
         co_await layOut(*row, table.dimensions, LayoutPass::Again);
-        stack.add(row->dimensions);
+        stack.add(content, row->dimensions);
     }
-    stack.finish();
+    stack.finish(content);
 }
 
 }  // namespace CLI::XML

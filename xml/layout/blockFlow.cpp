@@ -101,22 +101,23 @@ private:
 class BlockFlow {
 public:
     /// Offers the children `columns`: what they read from the block until the end.
-    BlockFlow(BlockBox& laidOut, std::int32_t columns) : block(laidOut), stack(laidOut.dimensions) {
-        block.dimensions.content.width = columns;
+    BlockFlow(BlockBox& laidOut, std::int32_t columns) : block(laidOut), content(laidOut.dimensions.content) {
+        content.width = columns;
+        content.height = 0;
         beginLayout(block);
     }
 
     Walk layOutInPlace(Box& child, LayoutPass pass) {
-        stack.place(child.dimensions);
+        stack.place(content, child.dimensions);
         return layOut(child, block.dimensions, pass);
     }
     bool isTooWide(Box const& child) const {
-        return child.dimensions.marginBox().width > block.dimensions.content.width;
+        return child.dimensions.marginBox().width > content.width;
     }
 
     /// Takes the next child in, which has been laid out.
     void take(ZRLWPtr<Box> const& child) {
-        stack.add(child->dimensions);
+        stack.add(content, child->dimensions);
         addLayout(block, *child);
         placed.add(child);
     }
@@ -127,14 +128,14 @@ public:
         std::vector<ZRLWPtr<Box>> rests;
         BrokenLine broken(*child);
         if (broken.isKnown()) {
-            co_await broken.breakInto(block.dimensions.content.width);
+            co_await broken.breakInto(content.width);
             rests = broken.cut();
             co_await layOutInPlace(*child, LayoutPass::Again);
         }
         for (;;) {
             ZRLWPtr<Box> rest;
             if (!broken.isKnown() && isTooWide(*child)) {
-                rest = child->split(block.dimensions.content.width);
+                rest = child->split(content.width);
             }
             if (rest) {
                 // The same box again, now with less content.
@@ -151,7 +152,7 @@ public:
 
     /// Gives the block its width, and its children where lines were broken.
     void finish() {
-        stack.finish();
+        stack.finish(content);
         if (placed.count == block.children.count) return;
         if (placed.capacity < block.children.capacity) placed.enlarge(block.children.capacity - 1);
         block.children = std::move(placed);
@@ -159,6 +160,7 @@ public:
 
 private:
     BlockBox& block;
+    Rect& content;
     DownwardStack stack;
     ZRVector<ZRLWPtr<Box>> placed;
 };

@@ -5,9 +5,9 @@
 
 namespace CLI::XML {
 
-/// Success where `parent` can hold `child`, an element that is displayed or null for running text,
-/// otherwise "Cannot layout '%s' within '%s'".
-XCode checkChild(DomElement const& parent, DomElement const* child);
+/// Says that `parent` cannot hold `child`, an element or null for running text: "Cannot layout '%s'
+/// within '%s'".
+XCode refuse(DomElement const& parent, DomElement const* child);
 
 /// Whether an element that is displayed as `parent` can hold a child that is displayed as `child`,
 /// which running text is as `DomNode::Inline`. The parent is not `DomNode::None`.

@@ -43,12 +43,6 @@ MakeBox ruleFor(Box::Type parent, DomNode::Display childDisplay) {
     return isKnown ? s_childRules[type][display] : nullptr;
 }
 
-XCode refuse(DomElement const* child, DomElement const& parent) {
-    return testExpression(false).setStringF("Cannot layout '%s' within '%s'",
-                                            child != nullptr ? child->name.c_str() : "text",
-                                            parent.name.c_str());
-}
-
 Walk createBoxes(Box& box, XCode& result) {
     result = testExpression(box.node);
     DomElement const* const element = asElement(box.node);
@@ -57,7 +51,7 @@ Walk createBoxes(Box& box, XCode& result) {
         if (child->display == DomNode::None) continue;
         Box* const made = addBox(box, *child);
         if (made == nullptr) {
-            result = refuse(asElement(child.object), *element);
+            result = refuse(*element, asElement(child.object));
             co_return;
         }
         if (child->kind == DomNode::Element) co_await createBoxes(*made, result);
@@ -82,9 +76,10 @@ Box* addBox(Box& parent, DomNode& child) {
     return made.object;
 }
 
-XCode checkChild(DomElement const& parent, DomElement const* child) {
-    DomNode::Display const display = child != nullptr ? child->display : DomNode::Inline;
-    return mayHold(parent.display, display) ? XCode() : refuse(child, parent);
+XCode refuse(DomElement const& parent, DomElement const* child) {
+    return testExpression(false).setStringF("Cannot layout '%s' within '%s'",
+                                            child != nullptr ? child->name.c_str() : "text",
+                                            parent.name.c_str());
 }
 
 bool mayHold(DomNode::Display parent, DomNode::Display child) {

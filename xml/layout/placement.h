@@ -22,18 +22,14 @@ struct LargerMargin {
     }
 };
 
-/// Stacks children downwards in a block or a table. The position of a child leaves out the part
-/// of its top margin that the bottom margin before it covers; the height of the stack still grows
-/// by the whole margin box, so that the two do not mirror each other.
+/// Stacks children downwards in a block or a table, whose content grows with them from a height of
+/// 0 on. The position of a child leaves out the part of its top margin that the bottom margin before
+/// it covers; the height of the stack still grows by the whole margin box, so that the two do not
+/// mirror each other.
 class DownwardStack {
 public:
-    /// Begins with a height of 0.
-    explicit DownwardStack(Dimensions& container) : content(container.content) {
-        content.height = 0;
-    }
-
     /// Sets the position at which the child is to be laid out.
-    void place(Dimensions& child) const {
+    void place(Rect const& content, Dimensions& child) const {
         EdgeSizes const edges = child.edges();
         std::int64_t const gap = UncoveredMargin()(previousMargin, child.margin.top);
         child.content.x = edges.left;
@@ -41,7 +37,7 @@ public:
     }
 
     /// Takes the child in after its layout.
-    void add(Dimensions const& child) {
+    void add(Rect& content, Dimensions const& child) {
         Rect const margin = child.marginBox();
         content.height = saturate(std::int64_t{content.height} + margin.height);
         widest = std::max(widest, margin.width);
@@ -49,10 +45,9 @@ public:
     }
 
     /// Makes the container as wide as its widest child.
-    void finish() const { content.width = widest; }
+    void finish(Rect& content) const { content.width = widest; }
 
 private:
-    Rect& content;
     std::int32_t widest = 0;
     std::int32_t previousMargin = 0;
 };

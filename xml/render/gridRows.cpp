@@ -1,9 +1,9 @@
 // The rows of a page: their cells, and their text.
 
 #include <algorithm>
-#include <new>
 #include <utility>
 
+#include "base/append.h"
 #include "base/hugePages.h"
 #include "base/saturate.h"
 #include "xml/render/Grid.h"
@@ -109,9 +109,6 @@ void Grid::moveRows(String& text, std::int64_t end) {
 }
 
 void Grid::writeRow(Row const& shown, String& text) {
-    auto const write = [&text](std::string_view piece) {
-        if (!text.appendGrowing(piece)) throw std::bad_alloc();
-    };
     std::string_view const bytes(shown.bytes.get(), shown.length);
     std::size_t const lookCount = shown.lookCount();
     Attributes const* const looks = lookCount > 0 ? shown.looks->data() : nullptr;
@@ -122,14 +119,13 @@ void Grid::writeRow(Row const& shown, String& text) {
         // Behind the looks is one by default.
         Attributes const look = end < lookCount ? looks[end] : Attributes();
         if (look == current) break;
-        write(bytes.substr(begin, end - begin));
+        append(text, bytes.substr(begin, end - begin));
         begin = end;
         String const escapes = look.generateFormattingFrom(current);
-        if (budget.pay(escapes.length())) write(escapes.view());
+        if (budget.pay(escapes.length())) append(text, escapes.view());
         current = look;
     }
-    write(bytes.substr(begin));
-    write("\n");
+    append(text, bytes.substr(begin), "\n");
 }
 
 }  // namespace CLI::XML
