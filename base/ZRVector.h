@@ -15,7 +15,7 @@
 /// 1. The elements are the first `count` slots of `data`; `count` <= `capacity`.
 /// 2. Slots past `count` hold T's default value (or are unset where T has no constructor).
 /// 3. The storage holds at least `capacity` slots; when it is outgrown it is doubled, or if it is
-///    long grows by a quarter, so that appending costs constant time, while `capacity` follows the
+///    long grows by a half, so that appending costs constant time, while `capacity` follows the
 ///    growth step.
 ///
 /// Where storage cannot be had the allocator's exception passes and the vector is unchanged.
@@ -151,7 +151,7 @@ private:
     /// Sees to it that the storage holds `slots` slots.
     void provide(unsigned slots) {
         if (slots <= allocated) return;
-        unsigned const part = allocated < s_long ? allocated : allocated / 4;
+        unsigned const part = allocated < s_long ? allocated : allocated / 2;
         unsigned const spare = std::min(part, std::numeric_limits<unsigned>::max() - allocated);
         moveTo(std::max(slots, allocated + spare));
     }

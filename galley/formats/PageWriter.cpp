@@ -38,6 +38,7 @@ std::unique_ptr<PageWriter> makePageWriter(String& page, Options const& options,
 
 void rewritePage(String& page, Options const& options) {
     if (options.format == Format::ansi) return;
+    if (options.format == Format::plain) return makePlain(page);
     String written;
     auto const writer = makeWriter(written, options, ColourDepth::none, CellRule::characters);
     readRows(page.view(), *writer);

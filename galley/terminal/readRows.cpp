@@ -92,4 +92,22 @@ void readRows(std::string_view page, web::RowSink& rows) {
     }
 }
 
+void makePlain(String& page) {
+    char* kept = page.data();
+    std::string_view rest = page.view();
+    for (std::size_t end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
+        char const* const row = kept;
+        for (std::string_view line = rest.substr(0, end); !line.empty();) {
+            std::size_t const length = textLength(line);
+            kept = std::copy_n(line.data(), length, kept);
+            line.remove_prefix(length);
+            line.remove_prefix(sequenceLength(line));
+        }
+        while (kept > row && kept[-1] == ' ') --kept;
+        *kept++ = '\n';
+        rest.remove_prefix(end + 1);
+    }
+    page.deleteRegion(static_cast<int>(kept - page.data()), page.length());
+}
+
 }  // namespace galley

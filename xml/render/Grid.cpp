@@ -5,7 +5,10 @@
 
 namespace CLI::XML {
 
-Grid::Grid(CellBudget& cells) : budget(cells) { frames.push_back({0, 0, 0, 0, 0, 0, 0, 0}); }
+Grid::Grid(CellBudget& cells) : budget(cells) {
+    rows.growBy = 256;
+    frames.push_back({0, 0, 0, 0, 0, 0, 0, 0});
+}
 
 void Grid::enter(int x, int y) {
     Frame const& around = frames.back();

@@ -66,7 +66,8 @@ void Grid::set(std::string_view pattern, std::int64_t start, Span where, std::in
         std::fill(cells + begin, cells + end, pattern.front());
         return setLooks(target, begin, end, attributes);
     }
-    std::size_t offset = static_cast<std::size_t>(where.begin - start) % pattern.length();
+    auto const skipped = static_cast<std::size_t>(where.begin - start);
+    std::size_t offset = skipped < pattern.length() ? skipped : skipped % pattern.length();
     for (std::size_t next = begin; next < end;) {
         std::size_t const part = std::min(pattern.length() - offset, end - next);
         std::copy_n(pattern.data() + offset, part, cells + next);
