@@ -55,11 +55,7 @@ void LinePainter::endLine() {
 /// Sets the position of what comes next, which stands in an element also where that has no level.
 void LinePainter::place(Dimensions& box) const {
     Level const& level = levels.back();
-    if (flow == Inline || levels.size() > 1 || !open.empty()) {
-        level.row.place(level.box.content, box, UncoveredMargin());
-    } else {
-        level.row.place(level.box.content, box, LargerMargin());
-    }
+    level.row.place(level.box.content, box, open.empty() ? outermostGap : Gap::Uncovered);
 }
 
 void LinePainter::openElement(std::uint32_t item, Position end) {

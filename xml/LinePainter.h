@@ -14,15 +14,9 @@ namespace CLI::XML {
 /// with it what lies beneath it.
 class LinePainter {
 public:
-    /// How children stand side by side.
-    enum Flow {
-        Line,    ///< The larger of two neighbouring margins is between them.
-        Inline,  ///< A left margin counts as far as it exceeds the right margin before it.
-    };
-
-    /// Both outlive it.
-    LinePainter(Items const& paragraph, Flow outermost, Grid& page)
-        : items(paragraph), flow(outermost), grid(page) {}
+    /// What stands in no element has such gaps. The items and the grid outlive it.
+    LinePainter(Items const& paragraph, Gap outermost, Grid& page)
+        : items(paragraph), outermostGap(outermost), grid(page) {}
 
     /// Paints the line at the origin of the innermost frame, with the attributes handed down to it,
     /// and returns its size. What the line before it has left open goes on on it.
@@ -60,7 +54,7 @@ private:
     }
 
     Items const& items;
-    Flow flow;
+    Gap outermostGap;
     Grid& grid;
     Canvas::Attributes outer = {};
     /// From line to line, outermost first.

@@ -136,10 +136,12 @@ void PageBuilder::releaseRows(std::int32_t height) {
 /// Lays out and paints what has been read since the last block.
 void PageBuilder::endItems() {
     if (items.count() == 0) return;
-    bool const areTable = items.areTable();
     if (items.areWords()) {
         addWords();
-    } else if (areTable ? items.holdsBlock() : !items.breaksByWidths()) {
+        return items.clear();
+    }
+    bool const areTable = items.areTable();
+    if (areTable ? items.holdsBlock() : !items.breaksByWidths()) {
         addBoxes();
     } else if (areTable) {
         addTable();

@@ -76,7 +76,7 @@ private:
     /// Of blocks in it.
     BoxBuilder boxes;
     /// Of paragraphs, kept for its memory.
-    LinePainter linePainter{items, LinePainter::Line, grid};
+    LinePainter linePainter{items, Gap::Larger, grid};
     /// Open elements from the outermost one on that is not displayed.
     unsigned hidden = 0;
     XCode refusal;

@@ -15,14 +15,14 @@ void visitChildren(Items const& items, std::uint32_t around, Visit const& visit)
 }  // namespace
 
 TablePainter::TablePainter(Items const& parts, Dimensions& box, Grid& page)
-    : items(parts), table(box), grid(page), painter(parts, LinePainter::Inline, page) {
+    : items(parts), table(box), grid(page), painter(parts, Gap::Uncovered, page) {
     visitChildren(items, 0, [&](std::uint32_t row) {
         Rect content;
         RightwardRow cells;
         unsigned index = 0;
         visitChildren(items, row, [&](std::uint32_t opened) {
             Dimensions cell = items.style(opened).box();
-            cells.place(content, cell, UncoveredMargin());
+            cells.place(content, cell, Gap::Uncovered);
             std::int64_t width = 0;
             for (std::uint32_t i = opened; ++i < items[opened].other;) width += items.width(i);
             cell.content.width = saturate(width);

@@ -88,12 +88,4 @@ std::int64_t Items::width(std::uint32_t i) const {
     return edges.marginBox().width;
 }
 
-WidthSums::WidthSums(Items const& summed) : items(summed), rests(summed.count() + 1) {
-    update(0, items.count());
-}
-
-void WidthSums::update(std::uint32_t begin, std::uint32_t end) {
-    for (std::uint32_t i = end; i-- > begin;) rests[i] = rests[i + 1] + items.width(i);
-}
-
 }  // namespace CLI::XML

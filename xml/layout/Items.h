@@ -114,22 +114,4 @@ private:
     bool hasTable = false;
 };
 
-/// The width with edges of any part of items, in columns, as if all of it stood on one line, where
-/// widths are sums: an edge counts where its element opens, and a block has been laid out.
-class WidthSums {
-public:
-    explicit WidthSums(Items const& summed);
-
-    /// Blocks from item `begin` up to item `end` have been laid out anew.
-    void update(std::uint32_t begin, std::uint32_t end);
-    std::int64_t between(Position begin, Position end) const { return from(begin) - from(end); }
-
-private:
-    std::int64_t from(Position position) const { return rests[position.item] - position.offset; }
-
-    Items const& items;
-    /// Of each item with all that is behind it, and of nothing.
-    std::vector<std::int64_t> rests;
-};
-
 }  // namespace CLI::XML

@@ -13,7 +13,17 @@ std::size_t lengthOfFitting(std::string_view words, std::int64_t columns) {
 }
 
 LineBreaker::LineBreaker(Items const& paragraph, std::int32_t columns)
-    : items(paragraph), available(columns), sums(paragraph), limits{{paragraph.count(), 0}} {}
+    : items(paragraph),
+      available(columns),
+      rests(paragraph.count() + 1),
+      limits{{paragraph.count(), 0}} {
+    sumUp(0, items.count());
+}
+
+/// Items `begin` to `end` have their widths, anew where blocks among them were laid out again.
+void LineBreaker::sumUp(std::uint32_t begin, std::uint32_t end) {
+    for (std::uint32_t i = end; i-- > begin;) rests[i] = rests[i + 1] + items.width(i);
+}
 
 Walk LineBreaker::layOutBlocks(Position from) {
     Position const limit = limits.back();
@@ -40,7 +50,7 @@ Walk LineBreaker::layOutBlocks(Position from) {
             seen += items.width(item.other);
         }
     }
-    sums.update(from.item, i);
+    sumUp(from.item, i);
     if (from == Position()) widestBlock = widest;
 }
 
@@ -119,11 +129,11 @@ Position LineBreaker::skipGoingOn(Position from, Position limit) {
     levels.assign(1, {});
     edgesGoingOn = 0;
     for (std::uint32_t const opened : goingOn) edgesGoingOn += items.width(opened);
-    if (sums.between(from, limit) + edgesGoingOn <= available) return limit;
+    if (widthOf(from, limit) + edgesGoingOn <= available) return limit;
     for (std::uint32_t const opened : goingOn) {
         std::uint32_t const closed = items[opened].other;
         Position const end = std::min(limit, Position{closed, 0});
-        std::int64_t const content = sums.between(from, end) + edgesGoingOn - items.width(opened);
+        std::int64_t const content = widthOf(from, end) + edgesGoingOn - items.width(opened);
         if (content <= available) {
             take(content);
             return end < limit ? Position{closed + 1, 0} : limit;
@@ -146,7 +156,7 @@ Position LineBreaker::takeElement(std::uint32_t opened, Position limit) {
     Position const begin = {opened + 1, 0};
     std::uint32_t const closed = items[opened].other;
     Position const end = std::min(limit, Position{closed, 0});
-    std::int64_t const content = sums.between(begin, end);
+    std::int64_t const content = widthOf(begin, end);
     if (content > room) {
         levels.push_back({opened, !levels.back().hasChild});
         return begin;
@@ -165,7 +175,7 @@ Position LineBreaker::takeFittingWords(Position at, std::string_view words) {
 
 /// Takes an element without a level that has gone on up to here, unless it does not fit.
 bool LineBreaker::takeGoingOn(std::uint32_t close, Position from) {
-    room = available - sums.between(from, {close, 0}) - edgesGoingOn;
+    room = available - widthOf(from, {close, 0}) - edgesGoingOn;
     levels.back().hasChild = true;
     return room >= 0;
 }

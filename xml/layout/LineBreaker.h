@@ -54,6 +54,12 @@ private:
         Position end;
     };
 
+    void sumUp(std::uint32_t begin, std::uint32_t end);
+    /// The width with edges of a part, in columns, as if all of it stood on one line: an edge
+    /// counts where its element opens, and a block has been laid out.
+    std::int64_t widthOf(Position begin, Position end) const {
+        return rests[begin.item] - begin.offset - (rests[end.item] - end.offset);
+    }
     Position breakIn(Position from, Position limit);
     Position skipGoingOn(Position from, Position limit);
     Position takeElement(std::uint32_t opened, Position limit);
@@ -68,7 +74,8 @@ private:
 
     Items const& items;
     std::int32_t available;
-    WidthSums sums;
+    /// Of each item the width of all from there on, and of nothing.
+    std::vector<std::int64_t> rests;
     /// Of all blocks the largest width with edges, once all have been laid out.
     std::int64_t widestBlock = std::numeric_limits<std::int64_t>::max();
     /// What is left of the line, in columns.

@@ -101,7 +101,8 @@ private:
 class BlockFlow {
 public:
     /// Offers the children `columns`: what they read from the block until the end.
-    BlockFlow(BlockBox& laidOut, std::int32_t columns) : block(laidOut), content(laidOut.dimensions.content) {
+    BlockFlow(BlockBox& laidOut, std::int32_t columns)
+        : block(laidOut), content(laidOut.dimensions.content) {
         content.width = columns;
         content.height = 0;
         beginLayout(block);

@@ -23,40 +23,37 @@ void layOutLeaf(Box& box) {
 }
 
 /// Takes in the words that come next, from child `i` on. Returns which child comes behind them.
-template <class Gap>
-unsigned addWords(Box& box, RightwardRow& row, unsigned i) {
+unsigned addWords(Box& box, RightwardRow& row, unsigned i, Gap gap) {
     for (; i < box.children.count; ++i) {
         Box& child = *box.children.data[i];
         if (asText(child.node) == nullptr || child.children.count > 0 || isForeign(child)) break;
         layOutLeaf(child);
-        row.place(box.dimensions.content, child.dimensions, Gap());
+        row.place(box.dimensions.content, child.dimensions, gap);
         row.add(box.dimensions.content, child.dimensions);
     }
     return i;
 }
 
 /// Goes on from child `i` on, which is not a word.
-template <class Gap>
-Walk addChildren(Box& box, RightwardRow row, unsigned i, LayoutPass pass) {
+Walk addChildren(Box& box, RightwardRow row, unsigned i, Gap gap, LayoutPass pass) {
     while (i < box.children.count) {
         Box& child = *box.children[i];
-        row.place(box.dimensions.content, child.dimensions, Gap());
+        row.place(box.dimensions.content, child.dimensions, gap);
         co_await layOut(child, box.dimensions, pass);
         row.add(box.dimensions.content, child.dimensions);
         addLayout(box, child);
-        i = addWords<Gap>(box, row, i + 1);
+        i = addWords(box, row, i + 1, gap);
     }
 }
 
-template <class Gap>
-Walk layOutRightwards(Box& box, LayoutPass pass) {
+Walk layOutRightwards(Box& box, Gap gap, LayoutPass pass) {
     if (pass == LayoutPass::Again && box.isSettled) return {};
     layOutLeaf(box);
     if (box.children.count == 0) return {};
     RightwardRow row(box.dimensions.content);
-    unsigned const next = addWords<Gap>(box, row, 0);
+    unsigned const next = addWords(box, row, 0, gap);
     if (next == box.children.count) return {};
-    return addChildren<Gap>(box, row, next, pass);
+    return addChildren(box, row, next, gap, pass);
 }
 
 Walk layOutRow(RowBox& box, LayoutPass pass) {
@@ -69,7 +66,7 @@ Walk layOutRow(RowBox& box, LayoutPass pass) {
             // A column's position already is that of the content.
             RightwardRow::placeAt(cell.dimensions, cell.columnDimensions.content.x);
         } else {
-            row.place(content, cell.dimensions, UncoveredMargin());
+            row.place(content, cell.dimensions, Gap::Uncovered);
         }
         std::int32_t& width = cell.dimensions.content.width;
         if (pass == LayoutPass::First || !cell.isSettled) {
@@ -106,9 +103,9 @@ Walk layOut(Box& child, Dimensions const& containing, LayoutPass pass) {
         case Box::Row:
             return layOutRow(static_cast<RowBox&>(child), pass);
         case Box::Line:
-            return layOutRightwards<LargerMargin>(child, pass);
+            return layOutRightwards(child, Gap::Larger, pass);
         default:
-            return layOutRightwards<UncoveredMargin>(child, pass);
+            return layOutRightwards(child, Gap::Uncovered, pass);
     }
 }
 
@@ -118,10 +115,10 @@ void BlockBox::layout(Dimensions const& containing) {
 void TableBox::layout(Dimensions const&) { Walk::run(layOutTable(*this, LayoutPass::First)); }
 void RowBox::layout(Dimensions const&) { Walk::run(layOutRow(*this, LayoutPass::First)); }
 void LineBox::layout(Dimensions const&) {
-    Walk::run(layOutRightwards<LargerMargin>(*this, LayoutPass::First));
+    Walk::run(layOutRightwards(*this, Gap::Larger, LayoutPass::First));
 }
 void InlineBox::layout(Dimensions const&) {
-    Walk::run(layOutRightwards<UncoveredMargin>(*this, LayoutPass::First));
+    Walk::run(layOutRightwards(*this, Gap::Uncovered, LayoutPass::First));
 }
 
 }  // namespace CLI::XML

@@ -8,30 +8,27 @@
 
 namespace CLI::XML {
 
-/// The gap before a child: as much of its margin as the margin before it does not cover.
-struct UncoveredMargin {
-    std::int64_t operator()(std::int32_t before, std::int32_t margin) const {
-        return std::max<std::int64_t>(0, std::int64_t{margin} - before);
-    }
+/// What is left between two neighbouring children.
+enum class Gap : bool {
+    Uncovered,  ///< As much of the second margin as the first one does not cover.
+    Larger,     ///< The larger margin of the two: on a line.
 };
 
-/// The gap between the boxes of a line: the larger of two neighbouring margins.
-struct LargerMargin {
-    std::int64_t operator()(std::int32_t before, std::int32_t margin) const {
-        return std::max(before, margin);
-    }
-};
+inline std::int64_t gapBetween(std::int64_t before, std::int64_t margin, Gap gap) {
+    return gap == Gap::Larger ? std::max(before, margin)
+                              : std::max<std::int64_t>(0, margin - before);
+}
 
 /// Stacks children downwards in a block or a table, whose content grows with them from a height of
-/// 0 on. The position of a child leaves out the part of its top margin that the bottom margin before
-/// it covers; the height of the stack still grows by the whole margin box, so that the two do not
-/// mirror each other.
+/// 0 on. The position of a child leaves out the part of its top margin that the bottom margin
+/// before it covers; the height of the stack still grows by the whole margin box, so that the two
+/// do not mirror each other.
 class DownwardStack {
 public:
     /// Sets the position at which the child is to be laid out.
     void place(Rect const& content, Dimensions& child) const {
         EdgeSizes const edges = child.edges();
-        std::int64_t const gap = UncoveredMargin()(previousMargin, child.margin.top);
+        std::int64_t const gap = gapBetween(previousMargin, child.margin.top, Gap::Uncovered);
         child.content.x = edges.left;
         child.content.y = saturate(content.height + gap + child.border.top + child.padding.top);
     }
@@ -60,12 +57,10 @@ public:
     /// Begins with a content of no width and no height, which is passed to every operation.
     explicit RightwardRow(Rect& content) { content.width = content.height = 0; }
 
-    /// Sets the position at which the child is to be laid out. `gapBetween` is one of the two
-    /// above, of the margin before the child and the child's own.
-    template <class Gap>
-    void place(Rect const& content, Dimensions& child, Gap const& gapBetween) const {
-        std::int64_t const gap = gapBetween(previousMargin, child.margin.left);
-        placeAt(child, saturate(content.width + gap + child.border.left + child.padding.left));
+    /// Sets the position at which the child is to be laid out.
+    void place(Rect const& content, Dimensions& child, Gap gap) const {
+        std::int64_t const before = gapBetween(previousMargin, child.margin.left, gap);
+        placeAt(child, saturate(content.width + before + child.border.left + child.padding.left));
     }
 
     /// The same at a column of the content box.
