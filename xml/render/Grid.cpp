@@ -36,7 +36,7 @@ void Grid::leave() {
     if (inner.extents != around.extents) {
         Extents const own = std::move(ownExtents.back());
         ownExtents.pop_back();
-        for (std::size_t i = 0; i < own.ends.size(); ++i) {
+        for (std::size_t i = 0; around.extents > 0 && i < own.ends.size(); ++i) {
             raise(around.extents, own.top + static_cast<std::int64_t>(i), own.ends[i]);
         }
     }
@@ -61,7 +61,6 @@ std::int64_t Grid::extent(std::size_t extents, std::int64_t y) const {
 }
 
 void Grid::raise(std::size_t extents, std::int64_t y, std::int64_t end) {
-    if (extents == 0) return;
     Extents& own = ownExtents[extents - 1];
     auto const index = static_cast<std::size_t>(y - own.top);
     if (index >= own.ends.size()) {
@@ -71,8 +70,9 @@ void Grid::raise(std::size_t extents, std::int64_t y, std::int64_t end) {
     own.ends[index] = std::max(own.ends[index], end);
 }
 
-void Grid::touchNewRow(std::int64_t y) {
-    bringIntoUse(y);
+/// Brings a row, which will be drawn up to column `end`, into use in all frames.
+void Grid::touchNewRow(std::int64_t y, std::int64_t end) {
+    bringIntoUse(y, end);
     if (budget.isExceeded()) return;
     for (; settled + 1 < frames.size(); ++settled) {
         fillRows(settled, frames[settled].end, frames[settled + 1].top);
@@ -104,7 +104,7 @@ void Grid::fill(std::size_t extents, std::int64_t y, std::int64_t end) {
     std::int64_t const begin = extent(extents, y);
     if (begin >= end || !budget.pay(end - begin)) return;
     set(" ", begin, {begin, end}, y, Attributes());
-    raise(extents, y, end);
+    if (extents > 0) raise(extents, y, end);
 }
 
 void Grid::draw(std::string_view text, int x, int y, Attributes const& attributes) {
@@ -124,7 +124,7 @@ void Grid::draw(std::string_view text, std::int64_t times, int x, int y, std::in
     std::int64_t const first = std::max(frame.y + y, frame.top);
     std::int64_t const end = frame.y + y + height;
     for (std::int64_t row = first; row < end && !budget.isExceeded(); ++row) {
-        touch(row);
+        touch(row, span.end);
         if (!pattern.empty()) drawInRow(pattern, span, row, attributes);
     }
 }
@@ -138,11 +138,15 @@ void Grid::drawInRow(std::string_view pattern, Span where, std::int64_t y,
                           std::clamp(cover.end(y), shown.begin, shown.end)};
     std::int64_t const drawn = shown.end - shown.begin - (covered.end - covered.begin);
     if (!budget.pay(std::max<std::int64_t>(drawn, 1))) return;
-    fill(frame.extents, y, shown.begin);
+    if (extent(frame.extents, y) < shown.begin) fill(frame.extents, y, shown.begin);
     if (budget.isExceeded()) return;
-    set(pattern, where.begin, {shown.begin, covered.begin}, y, attributes);
-    set(pattern, where.begin, {covered.end, shown.end}, y, attributes);
-    raise(frame.extents, y, shown.end);
+    if (shown.begin < covered.begin) {
+        set(pattern, where.begin, {shown.begin, covered.begin}, y, attributes);
+    }
+    if (covered.end < shown.end) {
+        set(pattern, where.begin, {covered.end, shown.end}, y, attributes);
+    }
+    if (frame.extents > 0) raise(frame.extents, y, shown.end);
     frame.widest = std::max(frame.widest, shown.end);
 }
 

@@ -70,8 +70,8 @@ private:
         /// Of the cells from the first one on; those behind them look as by default.
         std::unique_ptr<std::vector<Attributes>> looks;
 
-        /// Lengthens the row. The new cells are for the caller to set.
-        void lengthen(std::size_t cells);
+        /// Makes room for so many cells.
+        void provide(std::size_t cells);
         void clear();
         std::size_t lookCount() const { return looks ? looks->size() : 0; }
     };
@@ -113,13 +113,13 @@ private:
 
     std::int64_t endOfRows() const { return firstRow + rows.count - movedAway; }
     Row& row(std::int64_t y) const { return rows.data[movedAway + (y - firstRow)]; }
-    void bringIntoUse(std::int64_t y);
+    void bringIntoUse(std::int64_t y, std::int64_t end);
     std::int64_t extent(std::size_t extents, std::int64_t y) const;
     void raise(std::size_t extents, std::int64_t y, std::int64_t end);
-    void touch(std::int64_t y) {
-        if (y >= frames.back().end) touchNewRow(y);
+    void touch(std::int64_t y, std::int64_t end) {
+        if (y >= frames.back().end) touchNewRow(y, end);
     }
-    void touchNewRow(std::int64_t y);
+    void touchNewRow(std::int64_t y, std::int64_t end);
     void fillRows(std::size_t frame, std::int64_t begin, std::int64_t end);
     void fill(std::size_t extents, std::int64_t y, std::int64_t end);
     void drawInRow(std::string_view pattern, Span where, std::int64_t y,

@@ -16,24 +16,21 @@ namespace {
 constexpr std::int64_t s_cellsForRow = 16;
 
 /// Rows that are longer are not used again.
-constexpr std::size_t s_longRow = 4096;
+constexpr std::int64_t s_longRow = 4096;
 
 /// Rows are moved to the text when there are that many.
 constexpr std::int64_t s_rowsAtOnce = 32;
 
 }  // namespace
 
-void Grid::Row::lengthen(std::size_t cells) {
-    if (cells <= length) return;
-    if (cells > capacity) {
-        std::size_t const room = std::max(cells + cells / 8, std::size_t{capacity} * 2);
-        auto wider = std::make_unique_for_overwrite<char[]>(room);
-        preferHugePages(wider.get(), room);
-        std::copy_n(bytes.get(), length, wider.get());
-        bytes = std::move(wider);
-        capacity = static_cast<std::uint32_t>(std::min<std::size_t>(room, UINT32_MAX));
-    }
-    length = static_cast<std::uint32_t>(cells);
+void Grid::Row::provide(std::size_t cells) {
+    if (cells <= capacity) return;
+    std::size_t const room = std::max(cells + cells / 8, std::size_t{capacity} * 2);
+    auto wider = std::make_unique_for_overwrite<char[]>(room);
+    preferHugePages(wider.get(), room);
+    std::copy_n(bytes.get(), length, wider.get());
+    bytes = std::move(wider);
+    capacity = static_cast<std::uint32_t>(std::min<std::size_t>(room, UINT32_MAX));
 }
 
 void Grid::Row::clear() {
@@ -42,29 +39,34 @@ void Grid::Row::clear() {
     if (looks) looks->clear();
 }
 
-/// Sees to it that row `y` of the page exists, with all rows above it.
-void Grid::bringIntoUse(std::int64_t y) {
+/// Sees to it that row `y` of the page, which is to be drawn up to column `end`, exists with all
+/// rows above it.
+void Grid::bringIntoUse(std::int64_t y, std::int64_t end) {
     std::int64_t const added = y + 1 - endOfRows();
     if (added <= 0 || !budget.mayHold((y + 1) * s_cellsForRow) || !budget.pay(added)) return;
     if (movedAway > rows.count / 2 && rows.count + added > rows.capacity) {
         std::rotate(rows.data, rows.data + movedAway, rows.data + rows.count);
         rows.count -= std::exchange(movedAway, 0);
     }
-    rows[rows.count + static_cast<unsigned>(added) - 1];
+    Row& last = rows[rows.count + static_cast<unsigned>(added) - 1];
+    if (end > 0 && end <= s_longRow) last.provide(static_cast<std::size_t>(end));
 }
 
 /// Sets cells to a text that is repeated from column `start` on.
 void Grid::set(std::string_view pattern, std::int64_t start, Span where, std::int64_t y,
                Attributes const& attributes) {
-    if (where.begin >= where.end) return;
     Row& target = row(y);
     auto const begin = static_cast<std::size_t>(where.begin);
     auto const end = static_cast<std::size_t>(where.end);
-    target.lengthen(end);
+    target.provide(end);
+    target.length = std::max(target.length, static_cast<std::uint32_t>(end));
+    if (attributes != Attributes() || target.lookCount() > begin) {
+        setLooks(target, begin, end, attributes);
+    }
     char* const cells = target.bytes.get();
     if (pattern.length() == 1) {
         std::fill(cells + begin, cells + end, pattern.front());
-        return setLooks(target, begin, end, attributes);
+        return;
     }
     auto const skipped = static_cast<std::size_t>(where.begin - start);
     std::size_t offset = skipped < pattern.length() ? skipped : skipped % pattern.length();
@@ -74,11 +76,9 @@ void Grid::set(std::string_view pattern, std::int64_t start, Span where, std::in
         next += part;
         offset = 0;
     }
-    setLooks(target, begin, end, attributes);
 }
 
 void Grid::setLooks(Row& target, std::size_t begin, std::size_t end, Attributes attributes) {
-    if (attributes == Attributes() && target.lookCount() <= begin) return;
     if (!target.looks) target.looks = std::make_unique<std::vector<Attributes>>();
     std::vector<Attributes>& looks = *target.looks;
     if (end > looks.capacity()) looks.reserve(end + end / 8);
