@@ -32,16 +32,14 @@ Rect LinePainter::paint(Position from, Position end, Canvas::Attributes const& a
         }
     }
     endLine();
-    return levels.front().box.content;
+    return levels.front().content;
 }
 
 void LinePainter::beginLine() {
     levels.assign(1, {});
     kept = open.size();
     for (std::size_t const index : styledBefore) {
-        Dimensions box = open[index].style->box();
-        place(box);
-        beginLevel(index, box, true);
+        beginLevel(index, true);
     }
 }
 
@@ -52,35 +50,42 @@ void LinePainter::endLine() {
     }
 }
 
-/// Sets the position of what comes next, which stands in an element also where that has no level.
-void LinePainter::place(Dimensions& box) const {
+/// Sets the position of what comes next in so many elements, some of which may have no level.
+void LinePainter::place(Dimensions& box, std::size_t depth) const {
     Level const& level = levels.back();
-    level.row.place(level.box.content, box, open.empty() ? outermostGap : Gap::Uncovered);
+    level.row.place(level.content, box, depth == 0 ? outermostGap : Gap::Uncovered);
+}
+
+/// Takes in what was placed, now that it has a size.
+void LinePainter::add(Dimensions const& box) {
+    Level& level = levels.back();
+    level.row.add(level.content, box);
 }
 
 void LinePainter::openElement(std::uint32_t item, Position end) {
     ElementStyle const& style = items.style(item);
     bool const isEmpty = item + 1 < end.item && items[item + 1].kind == Item::Close;
-    Dimensions box = style.box();
-    place(box);
     Canvas::Attributes const handedDown = style.flagged(attributes());
     open.push_back({&style, handedDown, style.look.handDown(handedDown)});
-    beginLevel(open.size() - 1, box, !isEmpty);
+    beginLevel(open.size() - 1, !isEmpty);
 }
 
 /// Without children an element takes up its edges and paints nothing.
-void LinePainter::beginLevel(std::size_t index, Dimensions const& box, bool isFrame) {
-    levels.push_back({box, {}, index, isFrame});
+void LinePainter::beginLevel(std::size_t index, bool isFrame) {
+    Dimensions box = open[index].style->box();
+    place(box, index);
+    levels.push_back({box.content, {}, index, isFrame});
     if (isFrame) grid.enter(box.content.x, box.content.y);
 }
 
 void LinePainter::endLevel() {
     Level const level = levels.back();
     levels.pop_back();
-    levels.back().row.add(levels.back().box.content, level.box);
-    if (!level.isFrame) return;
     OpenElement const& element = open[level.index];
-    leaveBox(grid, *element.style, level.box, element.handedDown);
+    Dimensions box = element.style->box();
+    box.content = level.content;
+    add(box);
+    if (level.isFrame) leaveBox(grid, *element.style, box, element.handedDown);
 }
 
 void LinePainter::closeElement() {
@@ -98,20 +103,18 @@ void LinePainter::closeElement() {
 }
 
 void LinePainter::addBlock(Box& block) {
-    place(block.dimensions);
+    place(block.dimensions, open.size());
     paintBox(grid, block, attributes());
-    Level& level = levels.back();
-    level.row.add(level.box.content, block.dimensions);
+    add(block.dimensions);
 }
 
 void LinePainter::addWords(std::string_view words) {
     Dimensions box;
     box.content.width = static_cast<std::int32_t>(words.length());
     box.content.height = words.empty() ? 0 : 1;
-    place(box);
+    place(box, open.size());
     grid.draw(words, box.content.x, 0, attributes());
-    Level& level = levels.back();
-    level.row.add(level.box.content, box);
+    add(box);
 }
 
 }  // namespace CLI::XML

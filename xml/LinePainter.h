@@ -32,8 +32,8 @@ private:
     /// The line, or an element that is opened on it, or that goes on on it and is styled: of one
     /// that is not all that is on the line before is the content.
     struct Level {
-        /// The content grows with what stands in it.
-        Dimensions box;
+        /// Grows with what stands in it.
+        Rect content;
         RightwardRow row;
         /// Its number among those that are open.
         std::size_t index = 0;
@@ -44,8 +44,9 @@ private:
     void endLine();
     void openElement(std::uint32_t item, Position end);
     void closeElement();
-    void place(Dimensions& box) const;
-    void beginLevel(std::size_t index, Dimensions const& box, bool isFrame);
+    void place(Dimensions& box, std::size_t depth) const;
+    void add(Dimensions const& box);
+    void beginLevel(std::size_t index, bool isFrame);
     void endLevel();
     void addWords(std::string_view words);
     void addBlock(Box& block);
