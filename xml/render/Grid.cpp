@@ -84,7 +84,7 @@ void Grid::touchNewRow(std::int64_t y, std::int64_t end) {
 
 /// Fills rows of a frame, and of all frames around, up to the left end of each.
 void Grid::fillRows(std::size_t frame, std::int64_t begin, std::int64_t end) {
-    if (frames[frame].left == 0) return;
+    if (frames[frame].left == 0 || begin >= end) return;
     // Of frames in the same extents the innermost one goes furthest.
     inward.clear();
     for (std::size_t inner = frame; inner > 0; inner = frames[inner].otherExtents) {

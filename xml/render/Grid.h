@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <memory_resource>
 #include <string_view>
 #include <vector>
 
@@ -64,15 +65,12 @@ public:
 private:
     /// A row, as long as it has been drawn. Small, since there may be millions.
     struct Row {
-        std::unique_ptr<char[]> bytes;
+        char* bytes = nullptr;
         std::uint32_t length = 0;
         std::uint32_t capacity = 0;
         /// Of the cells from the first one on; those behind them look as by default.
         std::unique_ptr<std::vector<Attributes>> looks;
 
-        /// Makes room for so many cells.
-        void provide(std::size_t cells);
-        void clear();
         std::size_t lookCount() const { return looks ? looks->size() : 0; }
     };
 
@@ -113,6 +111,8 @@ private:
 
     std::int64_t endOfRows() const { return firstRow + rows.count - movedAway; }
     Row& row(std::int64_t y) const { return rows.data[movedAway + (y - firstRow)]; }
+    /// Makes room for so many cells.
+    void provide(Row& row, std::size_t cells);
     void bringIntoUse(std::int64_t y, std::int64_t end);
     std::int64_t extent(std::size_t extents, std::int64_t y) const;
     void raise(std::size_t extents, std::int64_t y, std::int64_t end);
@@ -131,6 +131,8 @@ private:
     void writeRow(Row const& shown, String& text);
 
     CellBudget& budget;
+    /// Of the cells of all rows. What a row outgrows is lost, which is less than it has then.
+    std::pmr::monotonic_buffer_resource memory;
     /// Those of the page from `movedAway` on; those before it and behind the last one are to be
     /// used again.
     ZRVector<Row> rows;

@@ -15,28 +15,21 @@ namespace {
 /// Cells that take as much memory as a row without any: there may not be more rows than that.
 constexpr std::int64_t s_cellsForRow = 16;
 
-/// Rows that are longer are not used again.
-constexpr std::int64_t s_longRow = 4096;
+/// So many cells of a row may be provided before they are paid for.
+constexpr std::int64_t s_mostAhead = 4096;
 
 /// Rows are moved to the text when there are that many.
 constexpr std::int64_t s_rowsAtOnce = 32;
 
 }  // namespace
 
-void Grid::Row::provide(std::size_t cells) {
-    if (cells <= capacity) return;
-    std::size_t const room = std::max(cells + cells / 8, std::size_t{capacity} * 2);
-    auto wider = std::make_unique_for_overwrite<char[]>(room);
-    preferHugePages(wider.get(), room);
-    std::copy_n(bytes.get(), length, wider.get());
-    bytes = std::move(wider);
-    capacity = static_cast<std::uint32_t>(std::min<std::size_t>(room, UINT32_MAX));
-}
-
-void Grid::Row::clear() {
-    if (capacity > s_longRow) *this = Row();
-    length = 0;
-    if (looks) looks->clear();
+void Grid::provide(Row& row, std::size_t cells) {
+    std::size_t const room = std::max(cells + cells / 8, std::size_t{row.capacity} * 2);
+    auto* const wider = static_cast<char*>(memory.allocate(room, 1));
+    preferHugePages(wider, room);
+    std::copy_n(row.bytes, row.length, wider);
+    row.bytes = wider;
+    row.capacity = static_cast<std::uint32_t>(std::min<std::size_t>(room, UINT32_MAX));
 }
 
 /// Sees to it that row `y` of the page, which is to be drawn up to column `end`, exists with all
@@ -49,7 +42,7 @@ void Grid::bringIntoUse(std::int64_t y, std::int64_t end) {
         rows.count -= std::exchange(movedAway, 0);
     }
     Row& last = rows[rows.count + static_cast<unsigned>(added) - 1];
-    if (end > 0 && end <= s_longRow) last.provide(static_cast<std::size_t>(end));
+    if (end > last.capacity && end <= s_mostAhead) provide(last, static_cast<std::size_t>(end));
 }
 
 /// Sets cells to a text that is repeated from column `start` on.
@@ -58,14 +51,16 @@ void Grid::set(std::string_view pattern, std::int64_t start, Span where, std::in
     Row& target = row(y);
     auto const begin = static_cast<std::size_t>(where.begin);
     auto const end = static_cast<std::size_t>(where.end);
-    target.provide(end);
+    if (end > target.capacity) provide(target, end);
     target.length = std::max(target.length, static_cast<std::uint32_t>(end));
     if (attributes != Attributes() || target.lookCount() > begin) {
         setLooks(target, begin, end, attributes);
     }
-    char* const cells = target.bytes.get();
+    char* const cells = target.bytes;
     if (pattern.length() == 1) {
-        std::fill(cells + begin, cells + end, pattern.front());
+        // At once, since the sides of a box are one cell a row.
+        cells[begin] = pattern.front();
+        if (end - begin > 1) std::fill(cells + begin, cells + end, pattern.front());
         return;
     }
     auto const skipped = static_cast<std::size_t>(where.begin - start);
@@ -105,12 +100,13 @@ void Grid::moveRows(String& text, std::int64_t end) {
     for (; firstRow < end; ++firstRow, ++movedAway) {
         Row& shown = rows.data[movedAway];
         writeRow(shown, text);
-        shown.clear();
+        shown.length = 0;
+        if (shown.looks) shown.looks->clear();
     }
 }
 
 void Grid::writeRow(Row const& shown, String& text) {
-    std::string_view const bytes(shown.bytes.get(), shown.length);
+    std::string_view const bytes(shown.bytes, shown.length);
     std::size_t const lookCount = shown.lookCount();
     Attributes const* const looks = lookCount > 0 ? shown.looks->data() : nullptr;
     Attributes current;
