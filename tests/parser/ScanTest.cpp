@@ -39,12 +39,14 @@ TEST(Scanning, SkipsTheMembersOfTheSet) {
 }
 
 TEST(Scanning, MatchesOnlyWhatFitsBeforeTheEnd) {
-    using Case = std::tuple<char const*, int, char const*, int>;
-    for (auto const& [text, start, literal, end] :
-         {Case("a<!--", 1, "<!--", 5), Case("a<!-", 1, "<!--", 1), Case("<!-x", 0, "<!--", 0),
-          Case("<", 1, "<", 1), Case("", 0, "", 0)}) {
+    using Case = std::tuple<char const*, int, char const*, int, bool>;
+    for (auto const& [text, start, literal, end, matches] :
+         {Case("a<!--", 1, "<!--", 5, true), Case("a<!-", 1, "<!--", 1, false),
+          Case("<!-x", 0, "<!--", 0, false), Case("<", 1, "<", 1, false),
+          Case("", 0, "", 0, true)}) {
         int position = start;
-        EXPECT_EQ(peekString(text, start, literal), parseString(text, position, literal)) << text;
+        EXPECT_EQ(peekString(text, start, literal), matches) << text;
+        EXPECT_EQ(parseString(text, position, literal), matches) << text;
         EXPECT_EQ(position, end) << text;
     }
     String const text = bytes("\xE9\0");
