@@ -72,5 +72,16 @@ TEST(LettingGo, LeavesTheTextOfProseWhereItIs) {
     EXPECT_LT(held, page.length() / 4 * 5);
 }
 
+// Rows that have left the page are used again, long ones too.
+TEST(LettingGo, LeavesFewOfManyLongRows) {
+    String const word = String::repeat("x", 10'000);
+    String const paragraphs =
+        String::repeat(("<p>" + std::string(word.view()) + "</p>").c_str(), 500);
+    String page;
+    long const held = mostHeld(Allocations::s_usage, page, paragraphs);
+    EXPECT_EQ(page.length(), 500 * 10'001);
+    EXPECT_LT(held, page.length() / 2 * 3);
+}
+
 }  // namespace
 }  // namespace CLI::XML

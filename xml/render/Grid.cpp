@@ -6,7 +6,7 @@
 namespace CLI::XML {
 
 Grid::Grid(CellBudget& cells) : budget(cells) {
-    rows.growBy = 256;
+    rows.growBy = 64;
     frames.push_back({0, 0, 0, 0, 0, 0, 0, 0});
 }
 
