@@ -29,7 +29,8 @@ PageBuilder::PageBuilder(ZRLWPtr<DomElement> const& root, unsigned width, int ex
     if (!text.reserve(saturate(std::int64_t{expectedLength} + expectedLength / 16))) {
         text.reserve(expectedLength);
     }
-    blocks.emplace_back(blockStyles.of(root), Rect(), saturate(width), Canvas::Attributes());
+    blocks.emplace_back(blockStyles.of(root), Rect(), pageOfWidth(width).content.width,
+                        Canvas::Attributes());
     blocks.back().isBare = true;
 }
 

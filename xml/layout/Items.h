@@ -89,7 +89,7 @@ public:
     /// Whether they are words and nothing else, in one piece.
     bool areWords() const { return list.count == 1 && list.data[0].kind == Item::Words; }
     bool holdsBlock() const { return hasBlock; }
-    /// Whether an element has edges at its sides.
+    /// Whether an element has edges.
     bool haveEdges() const { return hasEdges; }
     /// Whether an edge takes something off the width.
     bool mayShrink() const { return hasNegativeSide; }
